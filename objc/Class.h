@@ -1,0 +1,134 @@
+// Objective-C classes written in C++.
+//
+// A class is a struct that holds its state and member functions:
+//
+//   struct Counter : objc::Implementation<Counter> {
+//     long count;
+//     objc::Strong<NSString> label;
+//     void add(long n) { count += n; }
+//
+//     static Class registerClass() {
+//       return objc::ClassBuilder<Counter>("Counter", "NSObject")
+//           .method<"add:", &Counter::add>()
+//           .property<"count", &Counter::count>()
+//           .finish();
+//     }
+//   };
+//
+// The state lives inside the Objective-C object, in one instance variable. The runtime fills it
+// with zeroes instead of running a constructor, so a state must be valid, and empty, when all its
+// bytes are zero; its destructor runs in dealloc.
+#pragma once
+
+#include <bit>
+#include <type_traits>
+
+#include "objc/Method.h"
+#include "objc/Property.h"
+
+namespace objc {
+
+// What the member functions of a class written in C++ know about their object.
+template <class Self>
+class Implementation {
+ public:
+  // The object that holds this state.
+  id self() const {
+    auto address = reinterpret_cast<std::uintptr_t>(static_cast<const Self*>(this));
+    return reinterpret_cast<id>(address - std::uintptr_t(offset_));
+  }
+
+  // The state inside an object of this class or a subclass; the object must not be nil.
+  static Self& of(id object) {
+    return *reinterpret_cast<Self*>(reinterpret_cast<char*>(object) + offset_);
+  }
+  static Self& of(Object object) { return of(object.get()); }
+
+  // nil until the class is registered.
+  static Class cls() { return class_; }
+
+  // A new object, alloc and init: the caller owns it. Empty when the class is not registered.
+  template <View T = Object>
+  [[nodiscard]] static Strong<T> make() {
+    return adopt(T(objc_alloc_init(class_)));
+  }
+
+ protected:
+  // The inherited behaviour of a method that this class overrides.
+  template <class R, FixedString Name, class... Args>
+  R super(Args... args) const {
+    return sendSuper<R, Name>(self(), class_, args...);
+  }
+
+ private:
+  template <class>
+  friend class ClassBuilder;
+  static inline Class class_;
+  static inline std::ptrdiff_t offset_;  // of the state inside the object, bytes
+};
+
+// Registers one class. When the base does not exist, or the name is taken, nothing is registered
+// and finish() gives nil.
+template <class Self>
+class ClassBuilder {
+ public:
+  ClassBuilder(const char* name, const char* superclass)
+      : ClassBuilder(name, objc_getClass(superclass)) {}
+
+  ClassBuilder(const char* name, Class superclass) {
+    if (superclass != nullptr) class_ = objc_allocateClassPair(superclass, name, 0);
+    if (class_ == nullptr) return;
+    constexpr auto alignment = std::uint8_t(std::countr_zero(alignof(Self)));
+    class_addIvar(class_, stateName, sizeof(Self), alignment, "?");
+    Implementation<Self>::class_ = class_;
+    method<"dealloc", &destroy>();
+  }
+
+  // `function` is a member function, or a function whose first parameter is the receiver
+  // (a view, or id).
+  template <FixedString Name, auto function>
+  ClassBuilder& method() {
+    addMethod<Self, Name, function>(class_, "override");
+    return *this;
+  }
+
+  // `function` takes the message's arguments alone.
+  template <FixedString Name, auto function>
+  ClassBuilder& classMethod() {
+    addClassMethod<Name, function>(class_);
+    return *this;
+  }
+
+  // A member variable as a declared property: `name`, `setName:` and the property itself.
+  // Strong members are retained by the setter.
+  template <FixedString Name, auto member>
+  ClassBuilder& property() {
+    addProperty<Self, Name, member>(class_, false);
+    return *this;
+  }
+
+  template <FixedString Name, auto member>
+  ClassBuilder& readonlyProperty() {
+    addProperty<Self, Name, member>(class_, true);
+    return *this;
+  }
+
+  Class finish() {
+    if (class_ == nullptr) return nullptr;
+    objc_registerClassPair(class_);
+    Implementation<Self>::offset_ = ivar_getOffset(class_getInstanceVariable(class_, stateName));
+    return class_;
+  }
+
+ private:
+  static constexpr const char* stateName = "_state";
+
+  static void destroy(id object) {
+    Implementation<Self>::of(object).~Self();
+    sendSuper<void, "dealloc">(object, Implementation<Self>::class_);
+  }
+
+  Class class_ = nullptr;
+};
+
+}  // namespace objc

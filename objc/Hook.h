@@ -1,0 +1,81 @@
+// Hooks on methods of the host.
+//
+//   void viewDidLoad(objc::Original<void(MRUNowPlayingViewController)> original,
+//                    MRUNowPlayingViewController self) {
+//     original(self);
+//     ...
+//   }
+//   objc::hook<"MRUNowPlayingViewController", "viewDidLoad", viewDidLoad>();
+#pragma once
+
+#include "objc/Method.h"
+
+namespace objc {
+
+template <class Signature>
+class Original;
+
+// The implementation that a hook replaced, with the selector it was called by.
+template <class R, class Self, class... Args>
+class Original<R(Self, Args...)> {
+ public:
+  Original(IMP implementation, SEL selector)
+      : implementation_(implementation), selector_(selector) {}
+
+  SEL selector() const { return selector_; }
+
+  // The hook function goes live an instant before it stores the previous implementation: a call
+  // in between gets a value-initialised result.
+  R operator()(Self self, Args... args) const {
+    if (implementation_ == nullptr) return R();
+    auto call = reinterpret_cast<Wire<R> (*)(id, SEL, Wire<Args>...)>(implementation_);
+    if constexpr (std::is_void_v<R>)
+      call(self.get(), selector_, toWire<Args>(args)...);
+    else
+      return fromWire<R>(call(self.get(), selector_, toWire<Args>(args)...));
+  }
+
+ private:
+  IMP implementation_;
+  SEL selector_;
+};
+
+// The method that takes the place of the host's, and the slot for what it replaced. `Site` makes
+// the slot one of its own even where a function serves two hooks.
+template <class Site, auto function, class Shape = decltype(function)>
+struct Replacement;
+
+template <class Site, auto function, class R, class Self, class... Args>
+struct Replacement<Site, function, R (*)(Original<R(Self, Args...)>, Self, Args...)> {
+  static_assert(std::is_base_of_v<Object, Self>, "the second parameter is the receiver's view");
+  static constexpr std::size_t arguments = sizeof...(Args);
+  static constexpr auto types = methodEncoding<R, Args...>;
+  static inline IMP previous;  // empty when there was nothing to replace
+
+  static Wire<R> call(id object, SEL name, Wire<Args>... args) {
+    Original<R(Self, Args...)> original(previous, name);
+    if constexpr (std::is_void_v<R>)
+      function(original, fromWire<Self>(object), fromWire<Args>(args)...);
+    else
+      return toWire<R>(function(original, fromWire<Self>(object), fromWire<Args>(args)...));
+  }
+};
+
+template <FixedString ClassName, FixedString Name>
+struct HookSite {};
+
+// Replaces the class's implementation of the method. An absent class or method leaves everything
+// as it was: the feature is missing, silently. True when the method was replaced.
+template <FixedString ClassName, FixedString Name, auto function>
+bool hook() {
+  using Method = Replacement<HookSite<ClassName, Name>, function>;
+  static_assert(argumentCount<Name> == Method::arguments,
+                "the selector has another number of colons than the function has arguments");
+  Class cls = objc_getClass(ClassName.c_str());
+  if (cls == nullptr) return false;
+  checkAgainstClass("hook", cls, selector<Name>(), Method::types.c_str());
+  MSHookMessageEx(cls, selector<Name>(), reinterpret_cast<IMP>(&Method::call), &Method::previous);
+  return Method::previous != nullptr;
+}
+
+}  // namespace objc

@@ -1,0 +1,145 @@
+// The one place that sends messages.
+//
+//   send<double, "timeIntervalSinceDate:">(date, other)
+//
+// A nil receiver gives a value-initialised result, structures included: that is decided here
+// because the platforms' entry points leave memory results of nil untouched.
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+#include "objc/Check.h"
+#include "objc/Encoding.h"
+#include "objc/Selector.h"
+
+namespace objc {
+
+// What crosses the call: views travel as the pointer they are.
+template <class T>
+using Wire = std::conditional_t<std::is_base_of_v<Object, T>, id, T>;
+
+template <class T>
+constexpr Wire<T> toWire(T value) {
+  if constexpr (std::is_base_of_v<Object, T>)
+    return value.get();
+  else
+    return value;
+}
+
+template <class T>
+constexpr T fromWire(Wire<T> value) {
+  return static_cast<T>(value);
+}
+
+// nil and literals of class type name no wire type of their own.
+template <class T>
+using Argument = std::conditional_t<std::is_same_v<T, std::nullptr_t>, id, T>;
+
+// x86-64 returns structures of more than 16 bytes through a hidden pointer, and the runtime has
+// entry points of its own for that. arm64 has one entry point for everything.
+#if defined(__x86_64__)
+template <class R>
+constexpr bool isReturnedInMemory() {
+  if constexpr (std::is_class_v<R>)
+    return sizeof(R) > 16;
+  else
+    return false;
+}
+#else
+template <class R>
+constexpr bool isReturnedInMemory() {
+  return false;
+}
+#endif
+
+template <class R>
+inline constexpr bool returnedInMemory = isReturnedInMemory<R>();
+
+template <std::size_t Size>
+struct Bytes {
+  char bytes[Size];
+};
+static_assert(!returnedInMemory<void> && !returnedInMemory<id> && !returnedInMemory<double>);
+static_assert(!returnedInMemory<Bytes<8>> && !returnedInMemory<Bytes<16>>);
+#if defined(__x86_64__)
+static_assert(returnedInMemory<Bytes<17>> && returnedInMemory<Bytes<48>>);
+#else
+static_assert(!returnedInMemory<Bytes<17>> && !returnedInMemory<Bytes<48>>);
+#endif
+
+template <class R, class... Args>
+using Sender = Wire<R> (*)(id, SEL, Wire<Args>...);
+template <class R, class... Args>
+using SuperSender = Wire<R> (*)(objc_super*, SEL, Wire<Args>...);
+
+template <class R, class... Args>
+Sender<R, Args...> messageEntry() {
+  static_assert(!std::is_same_v<R, long double>, "long double results are not bridged");
+#if defined(__x86_64__)
+  if constexpr (returnedInMemory<R>)
+    return reinterpret_cast<Sender<R, Args...>>(&objc_msgSend_stret);
+#endif
+  return reinterpret_cast<Sender<R, Args...>>(&objc_msgSend);
+}
+
+template <class R, class... Args>
+SuperSender<R, Args...> superEntry() {
+#if defined(__x86_64__)
+  if constexpr (returnedInMemory<R>)
+    return reinterpret_cast<SuperSender<R, Args...>>(&objc_msgSendSuper2_stret);
+#endif
+  return reinterpret_cast<SuperSender<R, Args...>>(&objc_msgSendSuper2);
+}
+
+template <class R, FixedString Name, class... Args>
+R send(id receiver, Args... args) {
+  static_assert(argumentCount<Name> == sizeof...(Args),
+                "the selector has another number of colons than the message has arguments");
+  static_assert(!std::is_class_v<R> || std::is_trivially_copyable_v<R>,
+                "owners do not cross the bridge: send<View>() and retain() or adopt() the result");
+  if (receiver == nullptr) return R();
+  const SEL name = selector<Name>();
+  checkSend<R, Name, Argument<Args>...>(receiver, name);
+  auto entry = messageEntry<R, Argument<Args>...>();
+  if constexpr (std::is_void_v<R>)
+    entry(receiver, name, toWire<Argument<Args>>(args)...);
+  else
+    return fromWire<R>(entry(receiver, name, toWire<Argument<Args>>(args)...));
+}
+
+template <class R, FixedString Name, class... Args>
+R send(Object receiver, Args... args) {
+  return send<R, Name>(receiver.get(), args...);
+}
+
+// A class method. A class that does not exist is nil.
+template <class R, FixedString Name, class... Args>
+R send(Class receiver, Args... args) {
+  return send<R, Name>(reinterpret_cast<id>(receiver), args...);
+}
+
+// Sends to the implementation above `implementing`, the class whose method is running.
+template <class R, FixedString Name, class... Args>
+R sendSuper(id receiver, Class implementing, Args... args) {
+  static_assert(argumentCount<Name> == sizeof...(Args),
+                "the selector has another number of colons than the message has arguments");
+  if (receiver == nullptr) return R();
+  const SEL name = selector<Name>();
+  checkSuper<R, Argument<Args>...>(implementing, name);
+  objc_super super{receiver, implementing};
+  auto entry = superEntry<R, Argument<Args>...>();
+  if constexpr (std::is_void_v<R>)
+    entry(&super, name, toWire<Argument<Args>>(args)...);
+  else
+    return fromWire<R>(entry(&super, name, toWire<Argument<Args>>(args)...));
+}
+
+// Whether the object answers a message of that name; NO for nil.
+template <FixedString Name>
+bool respondsTo(Object object) {
+  return object && class_respondsToSelector(object_getClass(object.get()), selector<Name>());
+}
+
+}  // namespace objc

@@ -1,0 +1,45 @@
+// How faithful each stand-in is: recorded where it is registered, printed as docs/fidelity.md.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace sim {
+
+enum class Grade { real, partial, stub };
+
+struct Rating {
+  Grade grade;
+  std::string difference;  // for partial: how it differs from the platform, one line
+};
+
+struct FidelityRecord {
+  std::string framework;
+  std::string cls;
+  char kind;  // '-' instance method, '+' class method, '@' property, 'f' C function
+  std::string name;
+  Rating rating;
+};
+
+// One class's part of the record, which also asks the set-up what is missing.
+class FidelityPage {
+ public:
+  FidelityPage(const char* framework, const char* cls) : framework_(framework), cls_(cls) {}
+
+  bool isPresent() const;
+  // False when the phone's set-up says that the class lacks this method.
+  bool record(char kind, const char* name, const Rating& rating) const;
+
+ private:
+  const char* framework_;
+  const char* cls_;
+};
+
+// C functions and data symbols of the host, which register themselves nowhere.
+void recordFunction(const char* framework, const char* name, const Rating& rating);
+
+const std::vector<FidelityRecord>& fidelityRecords();
+// The whole record as a Markdown page, sorted by framework, class and name.
+std::string fidelityMarkdown();
+
+}  // namespace sim

@@ -1,0 +1,17 @@
+// The list of what a simulated phone is made of. Each framework's folder defines its function.
+#pragma once
+
+namespace sim {
+
+// In order: a framework may use the classes of those before it.
+void registerFoundation();
+void registerUIKit();
+void registerMediaRemote();
+void registerServices();
+void registerCephei();
+void registerSpringBoard();
+
+// Registers all of them for the phone's set-up; once, when it boots.
+void registerFrameworks();
+
+}  // namespace sim

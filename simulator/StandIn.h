@@ -1,0 +1,112 @@
+// Registration of the host classes' stand-ins, with a grade for each method.
+//
+//   StandIn<PCSimpleTimer>("PersistentConnection", "PCSimpleTimer", "NSObject")
+//       .method<"invalidate", &PCSimpleTimer::invalidate>()                       // real
+//       .partial<"scheduleInRunLoop:", &PCSimpleTimer::schedule>("ignores the run loop")
+//       .stub<"setDisableSystemWaking:", void(bool)>()                            // only logs
+//       .finish();
+//
+// A class, or a method, that the phone's set-up names as missing is not registered. Unlike the
+// extension's classes, a stand-in's state is constructed and destroyed like any C++ object.
+#pragma once
+
+#include <new>
+#include <string>
+#include <string_view>
+
+#include "objc/Class.h"
+#include "simulator/Fidelity.h"
+
+namespace sim {
+
+// Journals "stub -[Class selector]".
+void logStub(id receiver, SEL selector);
+
+template <class Signature>
+struct StubThunk;
+template <class R, class... Args>
+struct StubThunk<R(Args...)> {
+  static constexpr std::size_t arguments = sizeof...(Args);
+  static constexpr auto types = objc::methodEncoding<R, Args...>;
+  static objc::Wire<R> call(id receiver, SEL selector, objc::Wire<Args>...) {
+    logStub(receiver, selector);
+    return objc::Wire<R>();
+  }
+};
+
+template <class Self>
+class StandIn {
+ public:
+  StandIn(const char* framework, const char* name, const char* superclass)
+      : page_{framework, name},
+        builder_(name, page_.isPresent() ? objc_getClass(superclass) : nullptr) {
+    if (Class cls = objc::Implementation<Self>::cls())
+      objc::addThunk<objc::Thunk<Self, &construct>>(object_getClass(reinterpret_cast<id>(cls)),
+                                                    objc::selector<"alloc">(), "override");
+  }
+
+  template <objc::FixedString Name, auto function>
+  StandIn& method() {
+    return add<Name, function>({Grade::real, ""});
+  }
+  template <objc::FixedString Name, auto function>
+  StandIn& partial(const char* difference) {
+    return add<Name, function>({Grade::partial, difference});
+  }
+  template <objc::FixedString Name, class Signature>
+  StandIn& stub() {
+    if (page_.record('-', Name.c_str(), {Grade::stub, ""}))
+      objc::addThunk<StubThunk<Signature>>(objc::Implementation<Self>::cls(),
+                                           objc::selector<Name>(), "override");
+    return *this;
+  }
+
+  template <objc::FixedString Name, auto function>
+  StandIn& classMethod() {
+    return addClass<Name, function>({Grade::real, ""});
+  }
+  template <objc::FixedString Name, auto function>
+  StandIn& partialClassMethod(const char* difference) {
+    return addClass<Name, function>({Grade::partial, difference});
+  }
+
+  template <objc::FixedString Name, auto member>
+  StandIn& property() {
+    page_.record('@', Name.c_str(), {Grade::real, ""});
+    builder_.template property<Name, member>();
+    return *this;
+  }
+  template <objc::FixedString Name, auto member>
+  StandIn& readonlyProperty() {
+    page_.record('@', Name.c_str(), {Grade::real, ""});
+    builder_.template readonlyProperty<Name, member>();
+    return *this;
+  }
+
+  Class finish() { return builder_.finish(); }
+
+ private:
+  // +alloc of the superclass makes the object and constructs what belongs to it.
+  static id construct(id cls) {
+    Class metaclass = object_getClass(reinterpret_cast<id>(objc::Implementation<Self>::cls()));
+    id made = objc::sendSuper<id, "alloc">(cls, metaclass);
+    if (made != nullptr) new (&objc::Implementation<Self>::of(made)) Self();
+    return made;
+  }
+
+  template <objc::FixedString Name, auto function>
+  StandIn& add(Rating rating) {
+    if (page_.record('-', Name.c_str(), rating)) builder_.template method<Name, function>();
+    return *this;
+  }
+  template <objc::FixedString Name, auto function>
+  StandIn& addClass(Rating rating) {
+    if (page_.record('+', Name.c_str(), rating)) builder_.template classMethod<Name, function>();
+    return *this;
+  }
+
+  FidelityPage page_;
+  objc::ClassBuilder<Self> builder_;
+};
+
+}  // namespace sim

@@ -1,0 +1,32 @@
+// The phone's one clock, in virtual time.
+#pragma once
+
+#include <cstdint>
+
+namespace sim {
+
+using Nanoseconds = std::int64_t;
+inline constexpr Nanoseconds nanosecondsPerSecond = 1'000'000'000;
+
+// Rounds to the nearest nanosecond.
+Nanoseconds nanoseconds(double seconds);
+double seconds(Nanoseconds duration);
+
+// Two readings of one time: uptime only ever moves forward with the main queue; the wall clock
+// follows it and can be set, as a user or the network may set it.
+class Clock {
+ public:
+  Nanoseconds uptime() const { return uptime_; }
+  // Seconds since 2001-01-01 00:00:00 UTC, the reference date of NSDate.
+  double wall() const { return wallAtZero_ + seconds(uptime_); }
+
+  // Only the main queue calls this; never backwards.
+  void advanceTo(Nanoseconds uptime);
+  void setWall(double secondsSinceReferenceDate);
+
+ private:
+  Nanoseconds uptime_ = 0;
+  double wallAtZero_ = 820533600.0;  // 2027-01-01 22:00:00 UTC: every night starts alike
+};
+
+}  // namespace sim

@@ -1,0 +1,25 @@
+// What kind of phone is simulated: everything that is decided before it boots.
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+
+namespace sim {
+
+struct Setup {
+  std::string systemVersion = "15.4";  // UIDevice systemVersion
+  std::string locale = "en_US";        // identifier
+  std::string processName = "SpringBoard";
+  std::set<std::string, std::less<>> missingClasses;
+  // "SBMediaController pause": the class exists without this method.
+  std::set<std::string, std::less<>> missingMethods;
+
+  bool hasClass(std::string_view name) const { return !missingClasses.contains(name); }
+  bool hasMethod(std::string_view cls, std::string_view selector) const {
+    return !missingMethods.contains(std::string(cls) + ' ' + std::string(selector));
+  }
+};
+
+}  // namespace sim

@@ -16,8 +16,8 @@ namespace sim {
 // Something in a script is wrong, or an expectation failed. The interpreter adds file and line.
 class ScriptError : public std::runtime_error {
  public:
-  ScriptError(std::size_t column, const std::string& message)
-      : std::runtime_error(message), column(column) {}
+  ScriptError(std::size_t place, const std::string& message)
+      : std::runtime_error(message), column(place) {}
   std::size_t column;  // 1-based; 0 for the whole line
 };
 

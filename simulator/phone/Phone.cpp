@@ -1,0 +1,52 @@
+#include "simulator/phone/Phone.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <nlohmann/json.hpp>
+
+namespace sim {
+namespace {
+
+Phone* theCurrent = nullptr;
+
+}  // namespace
+
+Phone::Phone(std::filesystem::path root) : root_(std::filesystem::absolute(std::move(root))) {
+  theCurrent = this;
+}
+
+Phone::~Phone() {
+  if (theCurrent == this) theCurrent = nullptr;
+}
+
+Phone& Phone::current() {
+  if (theCurrent == nullptr) {
+    std::fputs("sim::Phone::current() is used before a phone exists\n", stderr);
+    std::abort();
+  }
+  return *theCurrent;
+}
+
+std::filesystem::path Phone::file(std::string_view phonePath) const {
+  // Normalised as an absolute path, ".." at the top goes nowhere: nothing leaves the root.
+  const auto inside = (std::filesystem::path("/") / phonePath).lexically_normal();
+  return root_ / inside.relative_path();
+}
+
+void Phone::survives(std::string name, Survivor survivor) {
+  survivors_.insert_or_assign(std::move(name), std::move(survivor));
+}
+
+nlohmann::json Phone::saveSurvivors() const {
+  auto saved = nlohmann::json::object();
+  for (const auto& [name, survivor] : survivors_) saved[name] = survivor.save();
+  return saved;
+}
+
+void Phone::restoreSurvivors(const nlohmann::json& saved) {
+  for (const auto& [name, survivor] : survivors_) {
+    if (const auto found = saved.find(name); found != saved.end()) survivor.restore(*found);
+  }
+}
+
+}  // namespace sim

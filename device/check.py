@@ -1,0 +1,54 @@
+#!/usr/bin/env python3
+"""Runs one of the checks on a built extension:
+
+    check.py CHECK FILE [REFERENCE...]
+
+Prints what is wrong, one line each, and ends with status 1 if anything is.
+"""
+
+import sys
+
+from checks import (
+    assembly,
+    code_pointers,
+    fat_file,
+    initializers,
+    instructions,
+    layout,
+    objc_metadata,
+    signature,
+    symbols,
+)
+from macho.error import MachOError
+
+CHECKS = {
+    "assembly": assembly.check,
+    "code-pointers": code_pointers.check,
+    "imports": symbols.check_imports,
+    "exports": symbols.check_exports,
+    "objc-metadata": objc_metadata.check,
+    "signature": signature.check,
+    "initializers": initializers.check,
+    "fat-file": fat_file.check,
+    "instructions": instructions.check,
+    "layout": layout.check,
+}
+
+
+def failures(name, arguments):
+    try:
+        yield from CHECKS[name](*arguments)
+    except MachOError as error:
+        yield str(error)
+
+
+def main():
+    name, *arguments = sys.argv[1:]
+    found = list(failures(name, arguments))
+    for failure in found:
+        print(f"{name}: {arguments[0]}: {failure}")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,90 @@
+# Compiles and links for phones with the distribution's clang and lld: no SDK, no Mac.
+#
+# An object library whose flags name another target gives dependency tracking, ccache and the
+# compilation database for nothing. Only linking needs commands of its own, because CMake
+# believes that it builds for Linux.
+
+find_program(PHONE_LINKER ld64.lld-19 REQUIRED)
+find_program(PHONE_LIPO llvm-lipo-19 REQUIRED)
+find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+find_path(PHONE_LIBCXX __config PATHS /usr/lib/llvm-19/include/c++/v1 REQUIRED NO_DEFAULT_PATH)
+execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-resource-dir
+                OUTPUT_VARIABLE PHONE_CLANG_RESOURCES OUTPUT_STRIP_TRAILING_WHITESPACE
+                COMMAND_ERROR_IS_FATAL ANY)
+
+set(PHONE_DIR ${CMAKE_CURRENT_LIST_DIR}/..)
+cmake_path(NORMAL_PATH PHONE_DIR)
+# -B: no byte code beside the sources.
+set(PHONE_PYTHON ${Python3_EXECUTABLE} -B)
+
+set(PHONE_COMPILE_FLAGS
+    -nostdinc++ -nostdlibinc  # SHELL: keeps CMake from dropping the repeated word
+    "SHELL:-isystem ${PHONE_DIR}include/libcxx"  # before the library: its configuration
+    "SHELL:-isystem ${PHONE_LIBCXX}"
+    "SHELL:-isystem ${PHONE_DIR}include/c"
+    "SHELL:-isystem ${PHONE_CLANG_RESOURCES}/include"
+    -Wall -Wextra -Wpedantic -Wshadow -Werror
+    -fvisibility=hidden -fvisibility-inlines-hidden
+    # What these would need of the C++ library is not in its headers.
+    -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-c++-static-destructors
+    -fno-stack-protector)
+set(PHONE_COMPILE_FLAGS_arm64 --target=arm64-apple-ios15.0)
+set(PHONE_COMPILE_FLAGS_arm64e --target=arm64e-apple-ios15.0 -fptrauth-calls -fptrauth-returns
+                               -fptrauth-intrinsics)
+
+set(PHONE_LINK_FLAGS
+    # arm64 for both: the linker has no arm64e, and refuses chained fixups for what it does not know.
+    -arch arm64 -platform_version ios 15.0 15.0 -dylib -adhoc_codesign
+    -dead_strip -dead_strip_dylibs
+    -install_name @rpath/Dozewell2.dylib
+    # Where root-less injection platforms keep their libraries, then the same for phones that
+    # move the root elsewhere.
+    -rpath /var/jb/Library/Frameworks -rpath /var/jb/usr/lib
+    -rpath @loader_path/.jbroot/Library/Frameworks -rpath @loader_path/.jbroot/usr/lib)
+# Pointers and initialisers in the only forms that an arm64e loader takes without signatures.
+set(PHONE_FIXUP_FLAGS -fixup_chains -init_offsets)
+
+file(GLOB PHONE_STUBS CONFIGURE_DEPENDS ${PHONE_DIR}stubs/*.tbd)
+file(GLOB PHONE_TOOLS CONFIGURE_DEPENDS ${PHONE_DIR}*.py ${PHONE_DIR}macho/*.py)
+
+# phone_objects(NAME ARCH SOURCES...): the object library NAME.
+function(phone_objects name arch)
+  add_library(${name} OBJECT ${ARGN})
+  target_compile_options(${name} PRIVATE ${PHONE_COMPILE_FLAGS_${arch}} ${PHONE_COMPILE_FLAGS})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+endfunction()
+
+# phone_assembly(NAME LIST SOURCES...): what the arm64e objects are assembled from, for the check
+# that reads it; LIST is the file that will name the results.
+function(phone_assembly name list)
+  phone_objects(${name} arm64e ${ARGN})
+  target_compile_options(${name} PRIVATE -S)
+  file(GENERATE OUTPUT ${list} CONTENT "$<JOIN:$<TARGET_OBJECTS:${name}>,\n>\n")
+endfunction()
+
+# phone_slice(DIRECTORY ARCH OBJECTS [STUBS stubs...] [FIXUP_FLAGS flags...]): links the object library OBJECTS
+# and finishes DIRECTORY/Dozewell2.dylib. The linker's own output stays in DIRECTORY/linked.
+function(phone_slice directory arch objects)
+  cmake_parse_arguments(PARSE_ARGV 3 ARG "" "" "STUBS;FIXUP_FLAGS")
+  if(NOT ARG_FIXUP_FLAGS)
+    set(ARG_FIXUP_FLAGS ${PHONE_FIXUP_FLAGS})
+  endif()
+  # The signature's identifier is the file's name, so it is the final one from the start.
+  set(linked ${directory}/linked/Dozewell2.dylib)
+  set(finished ${directory}/Dozewell2.dylib)
+  file(MAKE_DIRECTORY ${directory}/linked)
+  add_custom_command(
+    OUTPUT ${finished} ${linked}
+    COMMAND ${PHONE_LINKER} ${PHONE_LINK_FLAGS} ${ARG_FIXUP_FLAGS} $<TARGET_OBJECTS:${objects}>
+            ${PHONE_STUBS} ${ARG_STUBS} -o ${linked}
+    COMMAND ${PHONE_PYTHON} ${PHONE_DIR}finish_slice.py ${linked} ${arch} ${finished}
+    DEPENDS $<TARGET_OBJECTS:${objects}> ${PHONE_STUBS} ${ARG_STUBS} ${PHONE_TOOLS}
+    COMMENT "Linking ${finished}"
+    COMMAND_EXPAND_LISTS VERBATIM)
+endfunction()
+
+# phone_fat(OUTPUT SLICES...)
+function(phone_fat output)
+  add_custom_command(OUTPUT ${output} COMMAND ${PHONE_LIPO} -create ${ARGN} -output ${output}
+                     DEPENDS ${ARGN} COMMENT "Joining ${output}" VERBATIM)
+endfunction()

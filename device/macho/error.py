@@ -1,0 +1,2 @@
+class MachOError(Exception):
+    """The bytes are not the Mach-O image that they should be."""

@@ -4,6 +4,7 @@
 namespace sim {
 
 // In order: a framework may use the classes of those before it.
+void registerDispatch();
 void registerFoundation();
 void registerUIKit();
 void registerMediaRemote();
@@ -13,5 +14,8 @@ void registerSpringBoard();
 
 // Registers all of them for the phone's set-up; once, when it boots.
 void registerFrameworks();
+
+// Starts the home screen's application as the system does at its launch. Defined by springboard.
+void launchSpringBoard();
 
 }  // namespace sim

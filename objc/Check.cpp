@@ -53,8 +53,7 @@ Type nextType(const char*& cursor) {
   return type;
 }
 
-// Objects, blocks and classes are passed alike. Pointers are passed alike whatever they point at;
-// only pointers to objects, which are written through, are told apart by their first two letters.
+// Objects, blocks and classes are passed alike, and so are pointers whatever they point at.
 char kind(const Type& type) {
   const char first = *type.begin;
   if (first == '#') return '@';

@@ -15,7 +15,9 @@ namespace objc {
 
 // Specialise with `static constexpr auto value = objc::FixedString("{CGPoint=dd}");`
 template <class T>
-struct StructEncoding;
+struct StructEncoding {
+  static_assert(sizeof(T) == 0, "specialise objc::StructEncoding for this type");
+};
 
 // Blocks (objc/Block.h) mark themselves with this.
 struct BlockTag {};

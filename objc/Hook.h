@@ -43,7 +43,10 @@ class Original<R(Self, Args...)> {
 // The method that takes the place of the host's, and the slot for what it replaced. `Site` makes
 // the slot one of its own even where a function serves two hooks.
 template <class Site, auto function, class Shape = decltype(function)>
-struct Replacement;
+struct Replacement {
+  static_assert(sizeof(Site) == 0,
+                "a hook takes Original<R(Self, Args...)>, Self, Args... and returns R");
+};
 
 template <class Site, auto function, class R, class Self, class... Args>
 struct Replacement<Site, function, R (*)(Original<R(Self, Args...)>, Self, Args...)> {
@@ -73,7 +76,10 @@ bool hook() {
                 "the selector has another number of colons than the function has arguments");
   Class cls = objc_getClass(ClassName.c_str());
   if (cls == nullptr) return false;
-  checkAgainstClass("hook", cls, selector<Name>(), Method::types.c_str());
+  // The hook function, too, looks for a class method where no instance method has the name.
+  const bool ofInstances = class_getInstanceMethod(cls, selector<Name>()) != nullptr;
+  checkAgainstClass("hook", ofInstances ? cls : object_getClass(reinterpret_cast<id>(cls)),
+                    selector<Name>(), Method::types.c_str());
   MSHookMessageEx(cls, selector<Name>(), reinterpret_cast<IMP>(&Method::call), &Method::previous);
   return Method::previous != nullptr;
 }

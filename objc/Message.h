@@ -69,6 +69,20 @@ static_assert(returnedInMemory<Bytes<17>> && returnedInMemory<Bytes<48>>);
 static_assert(!returnedInMemory<Bytes<17>> && !returnedInMemory<Bytes<48>>);
 #endif
 
+template <class T>
+inline constexpr bool crosses = std::is_void_v<T> || std::is_trivially_copyable_v<T>;
+
+// What can be known to be wrong with a message before it is sent.
+template <class R, FixedString Name, class... Args>
+constexpr void requireSendable() {
+  static_assert(argumentCount<Name> == sizeof...(Args),
+                "the selector has another number of colons than the message has arguments");
+  static_assert(!std::is_same_v<R, long double>, "long double results are not bridged");
+  static_assert(crosses<R>,
+                "owners do not cross the bridge: send<View>() and retain() or adopt() the result");
+  static_assert((crosses<Args> && ...), "owners do not cross the bridge: pass get()");
+}
+
 template <class R, class... Args>
 using Sender = Wire<R> (*)(id, SEL, Wire<Args>...);
 template <class R, class... Args>
@@ -76,7 +90,6 @@ using SuperSender = Wire<R> (*)(objc_super*, SEL, Wire<Args>...);
 
 template <class R, class... Args>
 Sender<R, Args...> messageEntry() {
-  static_assert(!std::is_same_v<R, long double>, "long double results are not bridged");
 #if defined(__x86_64__)
   if constexpr (returnedInMemory<R>)
     return reinterpret_cast<Sender<R, Args...>>(&objc_msgSend_stret);
@@ -95,10 +108,7 @@ SuperSender<R, Args...> superEntry() {
 
 template <class R, FixedString Name, class... Args>
 R send(id receiver, Args... args) {
-  static_assert(argumentCount<Name> == sizeof...(Args),
-                "the selector has another number of colons than the message has arguments");
-  static_assert(!std::is_class_v<R> || std::is_trivially_copyable_v<R>,
-                "owners do not cross the bridge: send<View>() and retain() or adopt() the result");
+  requireSendable<R, Name, Args...>();
   if (receiver == nullptr) return R();
   const SEL name = selector<Name>();
   checkSend<R, Name, Argument<Args>...>(receiver, name);
@@ -123,8 +133,7 @@ R send(Class receiver, Args... args) {
 // Sends to the implementation above `implementing`, the class whose method is running.
 template <class R, FixedString Name, class... Args>
 R sendSuper(id receiver, Class implementing, Args... args) {
-  static_assert(argumentCount<Name> == sizeof...(Args),
-                "the selector has another number of colons than the message has arguments");
+  requireSendable<R, Name, Args...>();
   if (receiver == nullptr) return R();
   const SEL name = selector<Name>();
   checkSuper<R, Argument<Args>...>(implementing, name);

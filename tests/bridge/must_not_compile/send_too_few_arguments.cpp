@@ -1,0 +1,6 @@
+// expected: the selector has another number of colons than the message has arguments
+#include "objc/Message.h"
+
+void run(objc::Object object) {
+  objc::send<void, "setTitle:forState:">(object, 1L);
+}

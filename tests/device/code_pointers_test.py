@@ -1,6 +1,10 @@
 """Pointers to code in static data are found, in the assembly and in the linked slice."""
 
+import struct
+
 from case import ALLOWED_IMPORTS, CLEAN, CheckCase, sample
+from macho.fixups import ChainedFixups
+from macho.image import Image
 
 
 class CodePointers(CheckCase):
@@ -30,10 +34,16 @@ class CodePointers(CheckCase):
             "no LC_DYLD_CHAINED_FIXUPS", sample("clean/classic_fixups/Dozewell2.dylib")
         )
 
+    def test_pointer_to_no_section(self):
+        image = Image.read(CLEAN)
+        fixup = next(f for f in ChainedFixups(image) if f.symbol is None)
+        segment = next(s for s in image.segments if fixup.address < s.address + s.size)
+        at = segment.offset + fixup.address - segment.address
+        (word,) = struct.unpack_from("<Q", image.data, at)
+        path = self.damaged((at, "<Q", word - fixup.target + 0x40))
+        self.assert_linked("points at 0x40, in no section", path)
+
     def test_objects_are_no_assembly(self):
-        empty = self.written(b"")
-        self.fails("lists no assembly", "assembly", empty)
-        self.fails("is not assembly", "assembly", self.written(EXPORTS_LIST))
-
-
-EXPORTS_LIST = ALLOWED_IMPORTS.encode() + b"\n"
+        self.fails("lists no assembly", "assembly", self.written(b""))
+        another_text = self.written(ALLOWED_IMPORTS.encode() + b"\n")
+        self.fails("is not assembly", "assembly", another_text)

@@ -1,7 +1,15 @@
 """Load commands and segments that a phone would refuse are found."""
 
 from case import CLEAN, CheckCase, sample
-from macho.image import LC_BUILD_VERSION, LC_ID_DYLIB, LC_RPATH, LC_SEGMENT_64, LC_UUID, Image
+from macho.image import (
+    LC_BUILD_VERSION,
+    LC_ID_DYLIB,
+    LC_LOAD_DYLIB,
+    LC_RPATH,
+    LC_SEGMENT_64,
+    LC_UUID,
+    Image,
+)
 
 UNKNOWN_COMMAND = 0x7FFF
 
@@ -54,6 +62,15 @@ class Layout(CheckCase):
         at = self.command(LC_SEGMENT_64, 1).offset
         address = Image.read(CLEAN).segments[1].address
         self.assert_fails("does not start on a page", (at + 24, "<Q", address + 0x1000))
+
+    def test_no_dependencies(self):
+        commands = Image.read(CLEAN).commands_of(LC_LOAD_DYLIB)
+        changes = [(command.offset, "<I", UNKNOWN_COMMAND) for command in commands]
+        self.assert_fails("there is no LC_LOAD_DYLIB", *changes)
+
+    def test_another_order_of_segments(self):
+        at = self.command(LC_SEGMENT_64).offset + 8
+        self.assert_fails("__TEXT must come first", (at, "16s", b"__OTHER"))
 
     def test_file_that_is_cut_off(self):
         data = Image.read(CLEAN).data

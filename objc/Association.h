@@ -2,24 +2,23 @@
 #pragma once
 
 #include "objc/Object.h"
+#include "objc/Selector.h"
 
 namespace objc {
 
-// One attached object under a key that is the type's own: `Key` is any tag type.
+// One attached object, keyed by the selector of its getter as the platform's own categories do.
 // The host object owns the value (retain, nonatomic) and releases it when it is destroyed.
-template <class Key, View T>
+template <FixedString Getter, View T>
 struct Association {
-  static T get(Object owner) { return T(objc_getAssociatedObject(owner.get(), key())); }
+  // nil when nothing is attached.
+  static T get(Object owner) {
+    return T(objc_getAssociatedObject(owner.get(), selector<Getter>()));
+  }
 
   // nil removes the value.
   static void set(Object owner, T value) {
-    objc_setAssociatedObject(owner.get(), key(), value.get(), OBJC_ASSOCIATION_RETAIN_NONATOMIC);
-  }
-
- private:
-  static const void* key() {
-    static char unique;
-    return &unique;
+    objc_setAssociatedObject(owner.get(), selector<Getter>(), value.get(),
+                             OBJC_ASSOCIATION_RETAIN_NONATOMIC);
   }
 };
 

@@ -24,6 +24,7 @@
 #include <type_traits>
 
 #include "objc/Method.h"
+#include "objc/Once.h"
 #include "objc/Property.h"
 
 namespace objc {
@@ -52,6 +53,10 @@ class Implementation {
   [[nodiscard]] static Strong<T> make() {
     return adopt(T(objc_alloc_init(class_)));
   }
+
+  // The one instance of a class that has only one: made on first use under a once-only guard,
+  // never destroyed. The class must be registered.
+  static Self& shared() { return of(once<&make<Object>>().get()); }
 
  protected:
   // The inherited behaviour of a method that this class overrides.

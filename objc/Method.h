@@ -51,8 +51,16 @@ struct Thunk<Self, function, R (*)(Receiver, Args...)> {
 template <auto function, class Shape = decltype(function)>
 struct ClassThunk;
 
+// A function that hands out the one instance of a class written in C++.
+template <auto function, class Self>
+struct ClassThunk<function, Self& (*)()> {
+  static constexpr std::size_t arguments = 0;
+  static constexpr auto types = methodEncoding<id>;
+  static id call(id, SEL) { return function().self(); }
+};
+
 template <auto function, class R, class... Args>
-struct ClassThunk<function, R (*)(Args...)> {
+requires(!std::is_reference_v<R>) struct ClassThunk<function, R (*)(Args...)> {
   static constexpr std::size_t arguments = sizeof...(Args);
   static constexpr auto types = methodEncoding<R, Args...>;
   static Wire<R> call(id, SEL, Wire<Args>... args) {

@@ -13,14 +13,18 @@
 
 namespace objc {
 
-template <View T>
+// Unconstrained, so that a view's own member functions may return owners of it.
+template <class T>
 class Strong {
  public:
   constexpr Strong() = default;
   constexpr Strong(std::nullptr_t) {}
   Strong(const Strong& other) : view_(T(objc_retain(other.view_.get()))) {}
   Strong(Strong&& other) noexcept : view_(other.detach()) {}
-  ~Strong() { objc_release(view_.get()); }
+  ~Strong() {
+    static_assert(View<T>, "only views can be owned");
+    objc_release(view_.get());
+  }
 
   // By value: the old object is released last, after the new one is in place.
   Strong& operator=(Strong other) noexcept {
@@ -40,6 +44,10 @@ class Strong {
     view_ = T(nullptr);
     return given;
   }
+
+  // The slot itself, for functions of the host that keep it current. They must release what they
+  // replace and retain what they store.
+  id* slot() { return &view_.pointer; }
 
   static Strong adopting(T view) {
     Strong owner;

@@ -31,7 +31,7 @@ struct Exposed {
   static T read(const T& value) { return value; }
   static T store(T value) { return value; }
 };
-template <View T>
+template <class T>
 struct Exposed<Strong<T>> {
   using type = T;
   static constexpr bool owned = true;
@@ -67,6 +67,21 @@ void addProperty(Class cls, bool readonly) {
   class_addProperty(cls, Name.c_str(), attributes, count);
   addMethod<Self, Name, &Access::read>(cls);
   if (!readonly) addMethod<Self, setterName<Name>(), &Access::write>(cls);
+}
+
+// A property of a host class, with functions as accessors; their first parameter is the receiver.
+// `type` is the "T" attribute, which may name a class: @"NSString". Objects are marked as owned.
+template <FixedString Name, auto getter, auto setter>
+void addAttachedProperty(Class cls, const char* type) {
+  if (cls == nullptr) return;
+  objc_property_attribute_t attributes[3] = {};
+  unsigned int count = 0;
+  attributes[count++] = {"T", type};
+  if (type[0] == '@') attributes[count++] = {"&", ""};
+  attributes[count++] = {"N", ""};
+  class_addProperty(cls, Name.c_str(), attributes, count);
+  addMethod<Name, getter>(cls);
+  addMethod<setterName<Name>(), setter>(cls);
 }
 
 }  // namespace objc

@@ -1,0 +1,42 @@
+// SpringBoard (private): the host's own classes.
+#pragma once
+
+#include "platform/UIKit.h"
+
+// The application object of the host.
+struct SpringBoard : UIApplication {
+  using UIApplication::UIApplication;
+};
+
+// The media volume and its category, iOS 13 and later.
+struct SBVolumeControl : objc::Object {
+  using Object::Object;
+  float mediaVolume() const {  // 0 to 1
+    return objc::send<float, "_getMediaVolumeForIAP">(*this);
+  }
+  void setVolume(float volume, NSString category) const {  // clamped to 0 … 1 by the host
+    objc::send<void, "setVolume:forCategory:">(*this, volume, category);
+  }
+};
+
+struct SBMediaController : NSObject {
+  using NSObject::NSObject;
+  static SBMediaController sharedInstance() {  // nil when the class does not exist
+    return objc::send<SBMediaController, "sharedInstance">(objc_getClass("SBMediaController"));
+  }
+  bool canPause() const { return objc::respondsTo<"pause">(*this); }
+  void pause() const { objc::send<void, "pause">(*this); }
+  // Replaces `pause` on some systems.
+  bool canPauseForEventSource() const { return objc::respondsTo<"pauseForEventSource:">(*this); }
+  void pauseForEventSource(long source) const {
+    objc::send<void, "pauseForEventSource:">(*this, source);
+  }
+  // Both before iOS 13 only.
+  float volume() const { return objc::send<float, "volume">(*this); }
+  void setVolume(float volume) const { objc::send<void, "setVolume:">(*this, volume); }
+  SBVolumeControl volumeControl() const {  // iOS 13 and later
+    return objc::as<SBVolumeControl>(safeValueForKey("_volumeControl"_ns));
+  }
+  // While on, volume changes show no indicator.
+  void setSuppressHUD(bool suppress) const { objc::send<void, "setSuppressHUD:">(*this, suppress); }
+};

@@ -1,0 +1,178 @@
+#include "tweak/engine/Dozewell2Manager.h"
+
+#include "objc/Global.h"
+#include "platform/Dispatch.h"
+#include "platform/MediaRemote.h"
+#include "platform/PersistentConnection.h"
+#include "tweak/actions/SpecialTasksHelper.h"
+#include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/panel/Dozewell2ViewController.h"
+#include "tweak/settings/Dozewell2StorageManager.h"
+
+namespace {
+
+// The host's timer that will end the current duration; empty when none is scheduled.
+objc::Global<objc::Strong<PCSimpleTimer>> systemTimer;
+
+// The class is looked up on first use and kept.
+Class simpleTimerClass() {
+  static Class known;
+  if (known == nullptr) known = objc_getClass("PCSimpleTimer");
+  return known;
+}
+
+NSDate fireDate() {
+  return systemTimer->get().fireTimer().fireDate();
+}
+
+void scheduleSystemTimer() {
+  systemTimer->get().scheduleInRunLoop(NSRunLoop::mainRunLoop());
+}
+
+void post(NSString name) {
+  NSNotificationCenter::defaultCenter().postNotificationName(name, nullptr);
+}
+
+}  // namespace
+
+Dozewell2Manager& Dozewell2Manager::sharedInstance() {
+  return shared();
+}
+
+id Dozewell2Manager::init() {
+  id initialised = super<id, "init">();
+  NSNotificationCenter::defaultCenter().addObserver(
+      objc::Object(initialised), objc::selector<"mediaDidChange:">(),
+      MediaRemote::nowPlayingInfoDidChangeNotification(), nullptr);
+  return initialised;
+}
+
+void Dozewell2Manager::startTimerWithMode_andValue(long mode, long value) {
+  if (mode == songCountMode) {
+    startTimerWithNbTracks(value);
+    persistTimerWithNbTracks(value);
+    lastChosenNbSongsSelected = value;
+  } else if (mode == durationMode) {
+    startTimerWithTimeInterval(value);
+    persistTimerWithTimeInterval(value);
+    lastChosenNbSeconds = value;
+  }
+  // Any other mode starts nothing, and still runs the start actions.
+  SpecialTasksHelper::getInstance().performSpecialActionsOnTimerStart();
+}
+
+void Dozewell2Manager::startTimerWithTimeInterval(long seconds) {
+  timerModeIsRunning = true;
+  // A timer that still runs is let go, not invalidated: whoever wants it stopped cancels it first.
+  *systemTimer = PCSimpleTimer::make(simpleTimerClass(), double(seconds),
+                                     "com.corvane.dozewell2"_ns, objc::Object(self()),
+                                     objc::selector<"timerDidFire">(), NSDictionary::dictionary());
+  if (NSThread::isMainThread()) {
+    scheduleSystemTimer();
+  } else {
+    dispatch::onMain([] { scheduleSystemTimer(); });
+  }
+  post("DozewellDidStartNotification"_ns);
+  // Off the main thread the timer is not scheduled yet, and there may be no date.
+  Dozewell2TimeLeftIndicatorsManager::sharedInstance().startTimerWithDate(fireDate());
+}
+
+void Dozewell2Manager::restartTimerWithLastChosenValue() {
+  // No start actions, and an end that waits for the track goes on waiting.
+  if (timerModeIsRunning && lastChosenNbSeconds != 0) {
+    cancelAllPersistedTimers();
+    startTimerWithTimeInterval(lastChosenNbSeconds);
+    persistTimerWithTimeInterval(lastChosenNbSeconds);
+  } else if (nbSongsModeIsRunning && lastChosenNbSongsSelected != 0) {
+    cancelAllPersistedTimers();
+    startTimerWithNbTracks(lastChosenNbSongsSelected);
+    persistTimerWithNbTracks(lastChosenNbSongsSelected);
+  }
+}
+
+void Dozewell2Manager::timerDidFire() {
+  // The engine stays in duration mode: the next track change ends it.
+  if (Dozewell2StorageManager::sharedInstance().letTheSongFinishEnabled) {
+    shouldPauseMusicAtTheEndOfThisTrack = true;
+    return;
+  }
+  timerOrNbTracksDidEnd();
+}
+
+void Dozewell2Manager::timerOrNbTracksDidEnd() {
+  const auto& settings = Dozewell2StorageManager::sharedInstance();
+  auto& tasks = SpecialTasksHelper::getInstance();
+  // Only a duration that ends by itself fades: between two songs there is nothing to fade.
+  if (timerModeIsRunning && settings.volumeFadeOutEnabled && settings.volumeFadeOutTime > 0 &&
+      !shouldPauseMusicAtTheEndOfThisTrack) {
+    tasks.pauseMusicWithFadeOutVolume(int(settings.volumeFadeOutTime));
+  } else {
+    tasks.pauseMusic();
+  }
+  reinit();
+  if (isShowingDozewellUI) Dozewell2ViewController::dismissDozewell(dozewell2VC);
+}
+
+void Dozewell2Manager::cancelTimer() {
+  if (!*systemTimer) return;
+  systemTimer->get().invalidate();
+  *systemTimer = nullptr;
+}
+
+void Dozewell2Manager::reinit() {
+  auto& indicators = Dozewell2TimeLeftIndicatorsManager::sharedInstance();
+  // When both modes are flagged, the duration goes first and the song count stays.
+  if (timerModeIsRunning) {
+    timerModeIsRunning = false;
+    cancelTimer();
+    shouldPauseMusicAtTheEndOfThisTrack = false;
+    indicators.stopTimer();
+  } else if (nbSongsModeIsRunning) {
+    nbSongsModeIsRunning = false;
+    nbSongsPlayed = 0;
+    indicators.stopCounter();
+  }
+  post("DozewellDidStopNotification"_ns);
+  cancelAllPersistedTimers();
+}
+
+double Dozewell2Manager::getTimerRemainingTime() const {
+  return fireDate().timeIntervalSinceNow();
+}
+
+Class Dozewell2Manager::registerClass() {
+  using Engine = Dozewell2Manager;
+  return objc::ClassBuilder<Engine>("Dozewell2Manager", "NSObject")
+      .property<"timerModeIsRunning", &Engine::timerModeIsRunning>()
+      .property<"nbSongsModeIsRunning", &Engine::nbSongsModeIsRunning>()
+      .property<"isShowingDozewellUI", &Engine::isShowingDozewellUI>()
+      .property<"shouldPauseMusicAtTheEndOfThisTrack",
+                &Engine::shouldPauseMusicAtTheEndOfThisTrack>()
+      .property<"nbSongsToPlayBeforeStop", &Engine::nbSongsToPlayBeforeStop>()
+      .property<"nbSongsPlayed", &Engine::nbSongsPlayed>()
+      .property<"lastSongTitleName", &Engine::lastSongTitleName>()
+      .property<"dozewell2VC", &Engine::dozewell2VC>()
+      .property<"currentNowPlayingVC", &Engine::currentNowPlayingVC>()
+      .property<"lastChosenNbSeconds", &Engine::lastChosenNbSeconds>()
+      .property<"lastChosenNbSongsSelected", &Engine::lastChosenNbSongsSelected>()
+      .classMethod<"sharedInstance", &Engine::sharedInstance>()
+      .method<"init", &Engine::init>()
+      .method<"isRunning", &Engine::isRunning>()
+      .method<"startTimerWithMode:andValue:", &Engine::startTimerWithMode_andValue>()
+      .method<"startTimerWithTimeInterval:", &Engine::startTimerWithTimeInterval>()
+      .method<"startTimerWithNbTracks:", &Engine::startTimerWithNbTracks>()
+      .method<"restartTimerWithLastChosenValue", &Engine::restartTimerWithLastChosenValue>()
+      .method<"timerDidFire", &Engine::timerDidFire>()
+      .method<"timerOrNbTracksDidEnd", &Engine::timerOrNbTracksDidEnd>()
+      .method<"cancelTimer", &Engine::cancelTimer>()
+      .method<"reinit", &Engine::reinit>()
+      .method<"getTimerRemainingTime", &Engine::getTimerRemainingTime>()
+      .method<"getTimerRemainingTracks", &Engine::getTimerRemainingTracks>()
+      .method<"mediaDidChange:", &Engine::mediaDidChange>()
+      .method<"handleTrackChangedIfNeeded", &Engine::handleTrackChangedIfNeeded>()
+      .method<"persistTimerWithTimeInterval:", &Engine::persistTimerWithTimeInterval>()
+      .method<"persistTimerWithNbTracks:", &Engine::persistTimerWithNbTracks>()
+      .method<"cancelAllPersistedTimers", &Engine::cancelAllPersistedTimers>()
+      .method<"restoreDozewellIfNeeded", &Engine::restoreDozewellIfNeeded>()
+      .finish();
+}

@@ -1,0 +1,61 @@
+// Read this file first: it is the list of everything that the extension changes in its host.
+//
+// Two initialisers run, in this order, when the library is loaded: before the host's main, on the
+// loading thread. Nothing is ever unhooked.
+#include "objc/Hook.h"
+#include "objc/Ownership.h"
+#include "tweak/actions/SpecialTasksHelper.h"
+#include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/hooks/DozewellButton.h"
+#include "tweak/hooks/Launch.h"
+#include "tweak/hooks/Tracing.h"
+#include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/panel/Dozewell2ViewController.h"
+#include "tweak/settings/Dozewell2StorageManager.h"
+#include "tweak/settings/Registration.h"
+
+namespace {
+
+// The extension's own classes exist in every process that loads it, as they would if the compiler
+// had laid them out.
+void registerClasses() {
+  Dozewell2StorageManager::registerClass();
+  Dozewell2Manager::registerClass();
+  SpecialTasksHelper::registerClass();
+  Dozewell2TimeLeftIndicatorsManager::registerClass();
+  Dozewell2ViewController::registerClass();
+}
+
+bool isHomeScreenProcess() {
+  const auto process = NSProcessInfo::processInfo();
+  return process && process.processName().isEqualToString("SpringBoard"_ns);
+}
+
+bool isEnabled() {
+  return Dozewell2StorageManager::sharedInstance().enabled;
+}
+
+void installHooks() {
+  objc::hook<"CCUICAPackageDescription",
+             "initWithPackageName:inBundle:", tracePackageDescription>();
+  addDozewellButtonClass();
+  addDozewellButtonProperty();
+  objc::hook<"SpringBoard", "applicationDidFinishLaunching:", applicationDidFinishLaunching>();
+}
+
+__attribute__((constructor)) void loadSettingsAndHooks() {
+  objc::AutoreleasePool pool;
+  registerClasses();
+  if (!isHomeScreenProcess()) return;
+  registerSettings();
+  if (isEnabled()) installHooks();
+}
+
+// The lock screen's indicators come second; there are none yet.
+__attribute__((constructor)) void loadIndicators() {
+  objc::AutoreleasePool pool;
+  if (!isHomeScreenProcess()) return;
+  if (!isEnabled()) return;
+}
+
+}  // namespace

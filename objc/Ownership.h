@@ -87,7 +87,7 @@ class Weak {
   ~Weak() { objc_destroyWeak(&location_); }
 
   Weak& operator=(const Weak& other) {
-    if (this != &other) objc_storeWeak(&location_, other.load().get());
+    if (this != &other) objc_storeWeak(&location_, other.load().get().get());
     return *this;
   }
 

@@ -1,0 +1,129 @@
+#include "simulator/runtime/Blocks.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+
+#include "simulator/runtime/Fatal.h"
+#include "simulator/runtime/Instances.h"
+#include "simulator/runtime/LiveObjects.h"
+
+namespace simulator::runtime {
+namespace {
+
+BlockLayout* layoutOf(const void* block) {
+  return static_cast<BlockLayout*>(const_cast<void*>(block));
+}
+
+std::atomic_ref<std::int32_t> flagsOf(const void* block) {
+  return std::atomic_ref(layoutOf(block)->flags);
+}
+
+const BlockHelpers* helpersOf(const BlockLayout& block) {
+  return (block.flags & kBlockHasCopyDispose) != 0
+             ? reinterpret_cast<const BlockHelpers*>(block.descriptor + 1)
+             : nullptr;
+}
+
+// A full count stays full: such a block is never freed.
+bool retainHeapBlock(const void* block) {
+  std::int32_t flags = flagsOf(block).load(std::memory_order_relaxed);
+  do {
+    if ((flags & kBlockDeallocating) != 0) {
+      return false;
+    }
+    if ((flags & kBlockReferenceMask) == kBlockReferenceMask) {
+      return true;
+    }
+  } while (!flagsOf(block).compare_exchange_weak(flags, flags + kBlockOneReference));
+  return true;
+}
+
+// True for the last reference, which leaves the block marked as deallocating.
+bool releaseHeapBlock(const void* block) {
+  std::int32_t flags = flagsOf(block).load(std::memory_order_relaxed);
+  std::int32_t lowered = 0;
+  do {
+    const std::int32_t count = flags & kBlockReferenceMask;
+    if (count == kBlockReferenceMask || (flags & kBlockDeallocating) != 0) {
+      return false;
+    }
+    if (count == 0) {
+      fatal("block %p was released too often", const_cast<void*>(block));
+    }
+    lowered = flags - kBlockOneReference;
+    if (count == kBlockOneReference) {
+      lowered |= kBlockDeallocating;
+    }
+  } while (!flagsOf(block).compare_exchange_weak(flags, lowered));
+  return (lowered & kBlockDeallocating) != 0;
+}
+
+void* copyToHeap(const BlockLayout& source) {
+  void* memory = std::malloc(source.descriptor->size);
+  if (memory == nullptr) {
+    return nullptr;
+  }
+  std::memcpy(memory, &source, source.descriptor->size);
+  auto* copy = static_cast<BlockLayout*>(memory);
+  copy->flags &= ~(kBlockReferenceMask | kBlockDeallocating);
+  copy->flags |= kBlockNeedsFree | kBlockOneReference;
+  if (const BlockHelpers* helpers = helpersOf(*copy)) {
+    helpers->copy(copy, &source);
+  }
+  copy->isa = _NSConcreteMallocBlock;
+  countLiveBlocks(1);
+  return copy;
+}
+
+}  // namespace
+
+bool tryRetainBlock(id block) {
+  return (flagsOf(block).load() & kBlockNeedsFree) == 0 || retainHeapBlock(block);
+}
+
+bool isBlockDeallocating(id block) {
+  return (flagsOf(block).load() & kBlockDeallocating) != 0;
+}
+
+std::size_t blockRetainCount(id block) {
+  const std::int32_t flags = flagsOf(block).load();
+  return (flags & kBlockNeedsFree) != 0
+             ? static_cast<std::size_t>(flags & kBlockReferenceMask) / kBlockOneReference
+             : 1;
+}
+
+}  // namespace simulator::runtime
+
+using namespace simulator::runtime;
+
+void* _Block_copy(const void* block) {
+  if (block == nullptr) {
+    return nullptr;
+  }
+  const std::int32_t flags = flagsOf(block).load();
+  if ((flags & kBlockIsGlobal) != 0) {
+    return layoutOf(block);
+  }
+  if ((flags & kBlockNeedsFree) != 0) {
+    retainHeapBlock(block);
+    return layoutOf(block);
+  }
+  if (layoutOf(block)->invoke == nullptr) {
+    fatal("_Block_copy: block %p has no function", const_cast<void*>(block));
+  }
+  return copyToHeap(*layoutOf(block));
+}
+
+void _Block_release(const void* block) {
+  if (block == nullptr || (flagsOf(block).load() & kBlockIsGlobal) != 0 ||
+      (flagsOf(block).load() & kBlockNeedsFree) == 0 || !releaseHeapBlock(block)) {
+    return;
+  }
+  if (const BlockHelpers* helpers = helpersOf(*layoutOf(block))) {
+    helpers->dispose(block);
+  }
+  destructObject(reinterpret_cast<id>(layoutOf(block)));
+  std::free(layoutOf(block));
+  countLiveBlocks(-1);
+}

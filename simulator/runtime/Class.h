@@ -1,0 +1,93 @@
+// What the runtime's opaque types are made of. Everything in ClassData is guarded by
+// runtimeLock() (ClassRegistry.h) unless its comment says otherwise.
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <thread>
+#include <unordered_map>
+#include <vector>
+
+#include "objc/runtime.h"
+#include "simulator/runtime/AssemblyOffsets.h"
+
+namespace simulator::runtime {
+struct ClassData;
+struct MethodCache;
+
+enum ClassFlag : std::uint32_t {
+  kMetaclass = 1u << 0,
+  kRegistered = 1u << 1,
+  kInitialized = 1u << 2,       // +initialize has returned
+  kInlineReferences = 1u << 3,  // inherits NSObject's retain, release and autorelease
+  kBlockClass = 1u << 4,        // instances are blocks: no InstanceHeader in front of them
+};
+}  // namespace simulator::runtime
+
+// Small, because block classes must fit into the 32 pointers of _NSConcreteStackBlock and its kin.
+struct objc_class {
+  Class isa;
+  Class superclass;
+  std::atomic<simulator::runtime::MethodCache*> cache;  // never null; probed by the assembly
+  std::atomic<std::uint32_t> flags;
+  simulator::runtime::ClassData* data;  // owned
+
+  bool has(simulator::runtime::ClassFlag flag) const {
+    return (flags.load(std::memory_order_acquire) & flag) != 0;
+  }
+};
+
+static_assert(offsetof(objc_class, superclass) == CLASS_SUPERCLASS_OFFSET);
+static_assert(offsetof(objc_class, cache) == CLASS_CACHE_OFFSET);
+static_assert(sizeof(objc_class) <= sizeof(_NSConcreteStackBlock));
+
+struct objc_method {
+  SEL name;
+  std::string types;
+  std::atomic<IMP> implementation;
+  Class owner;
+};
+
+struct objc_ivar {
+  std::string name;
+  std::string types;
+  std::ptrdiff_t offset;
+};
+
+struct objc_property {
+  std::string name;
+  std::string attributes;
+};
+
+namespace simulator::runtime {
+
+struct ClassData {
+  std::string name;
+  Class instanceClass = nullptr;  // of a metaclass: its class; of a class: itself
+  std::vector<Class> subclasses;
+
+  std::vector<std::unique_ptr<objc_method>> methods;  // in the order they were added
+  std::unordered_map<SEL, objc_method*> methodsBySelector;
+  std::vector<std::unique_ptr<objc_ivar>> ivars;
+  std::vector<std::unique_ptr<objc_property>> properties;
+  std::size_t instanceSize = 0;  // bytes, not rounded: a subclass's ivars may fill the rest
+
+  // Other threads may still be probing a cache that was outgrown, so it lives as long as its class.
+  std::vector<MethodCache*> outgrownCaches;
+
+  // Guarded by the lock of Initialization.cpp.
+  bool initializing = false;
+  std::thread::id initializingThread;
+};
+
+inline id asObject(Class cls) {
+  return reinterpret_cast<id>(cls);
+}
+inline Class asClass(id object) {
+  return reinterpret_cast<Class>(object);
+}
+
+}  // namespace simulator::runtime

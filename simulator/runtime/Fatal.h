@@ -1,0 +1,14 @@
+// The end of the program for mistakes that have no way on.
+#pragma once
+
+#include "objc/runtime.h"
+
+namespace simulator::runtime {
+
+// Prints one line on stderr and aborts.
+[[noreturn]] [[gnu::format(printf, 1, 2)]] void fatal(const char* format, ...);
+
+// The platform's line for a message that nobody implements. `receiver` is not nil.
+[[noreturn]] void unrecognizedSelector(id receiver, SEL selector);
+
+}  // namespace simulator::runtime

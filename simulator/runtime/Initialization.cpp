@@ -1,0 +1,67 @@
+#include "simulator/runtime/Initialization.h"
+
+#include <condition_variable>
+#include <mutex>
+
+#include "simulator/runtime/Class.h"
+#include "simulator/runtime/Send.h"
+
+namespace simulator::runtime {
+namespace {
+
+struct InitializationMonitor {
+  std::mutex lock;
+  std::condition_variable finished;
+};
+
+InitializationMonitor& monitor() {
+  static auto* instance = new InitializationMonitor;
+  return *instance;
+}
+
+// True when the calling thread is the one to send +initialize now.
+bool begin(Class cls) {
+  std::unique_lock guard(monitor().lock);
+  ClassData& data = *cls->data;
+  if (data.initializing && data.initializingThread == std::this_thread::get_id()) {
+    return false;
+  }
+  monitor().finished.wait(guard, [&] { return !data.initializing; });
+  if (cls->has(kInitialized)) {
+    return false;
+  }
+  data.initializing = true;
+  data.initializingThread = std::this_thread::get_id();
+  return true;
+}
+
+void finish(Class cls) {
+  const std::lock_guard guard(monitor().lock);
+  cls->data->initializing = false;
+  cls->isa->flags.fetch_or(kInitialized, std::memory_order_release);
+  cls->flags.fetch_or(kInitialized, std::memory_order_release);
+  monitor().finished.notify_all();
+}
+
+}  // namespace
+
+void initializeIfNeeded(Class cls) {
+  if (cls->has(kInitialized)) {
+    return;
+  }
+  Class target = cls->data->instanceClass;
+  if (target->superclass != nullptr) {
+    initializeIfNeeded(target->superclass);
+  }
+  if (!begin(target)) {
+    return;
+  }
+  static const SEL initialize = sel_registerName("initialize");
+  // A root class of its own may have none.
+  if (class_respondsToSelector(target->isa, initialize)) {
+    send<void>(asObject(target), initialize);
+  }
+  finish(target);
+}
+
+}  // namespace simulator::runtime

@@ -1,0 +1,13 @@
+// +initialize.
+#pragma once
+
+#include "objc/runtime.h"
+
+namespace simulator::runtime {
+
+// Sends +initialize to the class (of a metaclass: to its class) unless that has happened,
+// superclasses first. Waits while another thread is doing it; returns at once to the thread that
+// is doing it.
+void initializeIfNeeded(Class cls);
+
+}  // namespace simulator::runtime

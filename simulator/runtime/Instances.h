@@ -1,0 +1,42 @@
+// The memory of instances: a header of the runtime's own in front of every object that
+// class_createInstance makes. Class objects and blocks have none.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+
+#include "objc/runtime.h"
+
+namespace simulator::runtime {
+
+enum ObjectTrace : std::uint32_t {
+  kHasAssociations = 1u << 0,
+  kHasWeakReferences = 1u << 1,
+};
+
+struct alignas(16) InstanceHeader {
+  // The list of live objects, guarded by its shard's lock (LiveObjects.cpp).
+  InstanceHeader* previous;
+  InstanceHeader* next;
+  std::atomic<std::uint32_t> references;  // see ReferenceCounting.cpp
+  std::atomic<std::uint32_t> traces;      // ObjectTrace: which side tables know the object
+};
+
+inline InstanceHeader& headerOf(id object) {
+  return *(reinterpret_cast<InstanceHeader*>(object) - 1);
+}
+inline id objectOf(InstanceHeader* header) {
+  return reinterpret_cast<id>(header + 1);
+}
+
+// What stands behind a pointer to an object; decided by its class alone.
+enum class ObjectKind { kInstance, kClass, kBlock };
+ObjectKind kindOf(id object);
+
+// Remembers that a side table knows the object, so that its end has to look there.
+void leaveTrace(id object, ObjectTrace trace);
+
+// What happens between dealloc and free: associations go, then weak references read nil.
+void destructObject(id object);
+
+}  // namespace simulator::runtime

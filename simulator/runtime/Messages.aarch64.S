@@ -1,0 +1,120 @@
+// Message sends for aarch64 (AAPCS64): find the implementation in the class's method cache and
+// jump to it with every argument register and the stack as the caller left them.
+#if defined(__aarch64__)
+
+#include "simulator/runtime/AssemblyOffsets.h"
+
+#define TO_OBJECT 0  // the first argument is the receiver
+#define TO_SUPER 1   // a struct objc_super: the class to search
+#define TO_SUPER2 2  // a struct objc_super: the class whose superclass to search
+
+    .hidden simulatorRuntimeLookUp
+
+// x8 is where a structure in memory goes.
+.macro SAVE_ARGUMENTS
+    stp x29, x30, [sp, #-224]!
+    .cfi_def_cfa_offset 224
+    .cfi_offset x29, -224
+    .cfi_offset x30, -216
+    mov x29, sp
+    .cfi_def_cfa_register x29
+    stp x0, x1, [sp, #16]
+    stp x2, x3, [sp, #32]
+    stp x4, x5, [sp, #48]
+    stp x6, x7, [sp, #64]
+    str x8, [sp, #80]
+    stp q0, q1, [sp, #96]
+    stp q2, q3, [sp, #128]
+    stp q4, q5, [sp, #160]
+    stp q6, q7, [sp, #192]
+.endm
+
+.macro RESTORE_ARGUMENTS
+    ldp x0, x1, [sp, #16]
+    ldp x2, x3, [sp, #32]
+    ldp x4, x5, [sp, #48]
+    ldp x6, x7, [sp, #64]
+    ldr x8, [sp, #80]
+    ldp q0, q1, [sp, #96]
+    ldp q2, q3, [sp, #128]
+    ldp q4, q5, [sp, #160]
+    ldp q6, q7, [sp, #192]
+    ldp x29, x30, [sp], #224
+    .cfi_def_cfa sp, 0
+    .cfi_restore x29
+    .cfi_restore x30
+.endm
+
+.macro MESSAGE name, target
+    .text
+    .globl \name
+    .type \name, %function
+    .p2align 6
+\name:
+    .cfi_startproc
+    hint #34  // bti c
+.if \target == TO_OBJECT
+    cbz x0, 4f
+    ldr x9, [x0]
+.else
+    ldr x9, [x0, #8]
+.if \target == TO_SUPER2
+    ldr x9, [x9, #CLASS_SUPERCLASS_OFFSET]
+.endif
+    cbz x9, 3f
+.endif
+    ldr x10, [x9, #CLASS_CACHE_OFFSET]
+    ldr x11, [x10, #CACHE_MASK_OFFSET]
+    add x10, x10, #CACHE_BUCKETS_OFFSET
+    and x12, x1, x11
+1:  // x10: the buckets; x11: the mask; x12: the byte offset of a bucket
+    add x13, x10, x12
+    ldr x14, [x13, #BUCKET_SELECTOR_OFFSET]
+    sub x15, x14, x1
+    cbnz x15, 2f
+    // x15 is 0, but comes from the load: the address dependency keeps the two loads in order.
+    add x13, x13, x15
+    ldr x17, [x13, #BUCKET_IMPLEMENTATION_OFFSET]
+.if \target != TO_OBJECT
+    ldr x0, [x0]
+.endif
+    br x17
+2:  // another selector's bucket, or the empty one that ends the probe
+    cbz x14, 3f
+    add x12, x12, #BUCKET_SIZE
+    and x12, x12, x11
+    b 1b
+3:  // not cached; x9: the class to search
+    SAVE_ARGUMENTS
+    mov x2, x9
+.if \target != TO_OBJECT
+    ldr x0, [x0]
+.endif
+    bl simulatorRuntimeLookUp
+    mov x17, x0
+    RESTORE_ARGUMENTS
+.if \target != TO_OBJECT
+    ldr x0, [x0]
+.endif
+    br x17
+.if \target == TO_OBJECT
+4:  // nil: zero in every register that can carry a result; a structure in memory is left alone
+    mov x0, #0
+    mov x1, #0
+    movi d0, #0
+    movi d1, #0
+    movi d2, #0
+    movi d3, #0
+    ret
+.endif
+    .cfi_endproc
+    .size \name, . - \name
+.endm
+
+    MESSAGE objc_msgSend, TO_OBJECT
+    MESSAGE objc_msgSendSuper, TO_SUPER
+    MESSAGE objc_msgSendSuper2, TO_SUPER2
+
+#endif
+
+    .section .note.GNU-stack, "", %progbits

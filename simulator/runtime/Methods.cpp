@@ -1,0 +1,151 @@
+#include "simulator/runtime/Methods.h"
+
+#include <mutex>
+
+#include "simulator/runtime/Class.h"
+#include "simulator/runtime/ClassRegistry.h"
+#include "simulator/runtime/Initialization.h"
+#include "simulator/runtime/Lists.h"
+#include "simulator/runtime/MessageLookup.h"
+#include "simulator/runtime/MethodCache.h"
+
+namespace simulator::runtime {
+
+Method findOwnMethod(Class cls, SEL selector) {
+  const auto& methods = cls->data->methodsBySelector;
+  const auto found = methods.find(selector);
+  return found != methods.end() ? found->second : nullptr;
+}
+
+Method findMethod(Class cls, SEL selector) {
+  for (; cls != nullptr; cls = cls->superclass) {
+    if (const Method method = findOwnMethod(cls, selector)) {
+      return method;
+    }
+  }
+  return nullptr;
+}
+
+namespace {
+
+void stopInliningReferences(Class cls) {
+  cls->flags.fetch_and(~std::uint32_t{kInlineReferences}, std::memory_order_release);
+  for (const Class subclass : cls->data->subclasses) {
+    stopInliningReferences(subclass);
+  }
+}
+
+// objc_retain and its kin go past the methods only while nobody overrides them.
+void noticeReferenceMethod(Class cls, SEL selector) {
+  static const SEL retain = sel_registerName("retain");
+  static const SEL release = sel_registerName("release");
+  static const SEL autorelease = sel_registerName("autorelease");
+  if (selector == retain || selector == release || selector == autorelease) {
+    stopInliningReferences(cls);
+  }
+}
+
+void addNewMethod(Class cls, SEL selector, IMP implementation, const char* types) {
+  auto& added = cls->data->methods.emplace_back(
+      new objc_method{selector, types != nullptr ? types : "", implementation, cls});
+  cls->data->methodsBySelector.emplace(selector, added.get());
+  noticeReferenceMethod(cls, selector);
+  refreshCaches(cls, selector, implementation);
+}
+
+IMP replaceImplementation(Method method, IMP implementation) {
+  const IMP previous = method->implementation.exchange(implementation);
+  noticeReferenceMethod(method->owner, method->name);
+  refreshCaches(method->owner, method->name, implementation);
+  return previous;
+}
+
+}  // namespace
+}  // namespace simulator::runtime
+
+using namespace simulator::runtime;
+
+bool class_addMethod(Class cls, SEL selector, IMP implementation, const char* types) {
+  if (cls == nullptr || selector == nullptr) {
+    return false;
+  }
+  const std::lock_guard guard(runtimeLock());
+  if (findOwnMethod(cls, selector) != nullptr) {
+    return false;
+  }
+  addNewMethod(cls, selector, implementation, types);
+  return true;
+}
+
+IMP class_replaceMethod(Class cls, SEL selector, IMP implementation, const char* types) {
+  if (cls == nullptr || selector == nullptr) {
+    return nullptr;
+  }
+  const std::lock_guard guard(runtimeLock());
+  if (const Method method = findOwnMethod(cls, selector)) {
+    return replaceImplementation(method, implementation);
+  }
+  addNewMethod(cls, selector, implementation, types);
+  return nullptr;
+}
+
+Method class_getInstanceMethod(Class cls, SEL selector) {
+  const std::lock_guard guard(runtimeLock());
+  return findMethod(cls, selector);
+}
+
+Method class_getClassMethod(Class cls, SEL selector) {
+  return cls != nullptr ? class_getInstanceMethod(cls->has(kMetaclass) ? cls : cls->isa, selector)
+                        : nullptr;
+}
+
+IMP class_getMethodImplementation(Class cls, SEL selector) {
+  if (cls == nullptr || selector == nullptr) {
+    return nullptr;
+  }
+  const IMP found = lookUpImplementation(cls, selector);
+  return found != nullptr ? found : reinterpret_cast<IMP>(&unrecognizedSelectorImplementation);
+}
+
+bool class_respondsToSelector(Class cls, SEL selector) {
+  if (cls == nullptr || selector == nullptr) {
+    return false;
+  }
+  return cachedImplementation(cls, selector) != nullptr ||
+         class_getInstanceMethod(cls, selector) != nullptr;
+}
+
+Method* class_copyMethodList(Class cls, unsigned int* count) {
+  const std::lock_guard guard(runtimeLock());
+  return copyList(cls != nullptr ? &cls->data->methods : nullptr, count);
+}
+
+SEL method_getName(Method method) {
+  return method != nullptr ? method->name : nullptr;
+}
+
+IMP method_getImplementation(Method method) {
+  return method != nullptr ? method->implementation.load() : nullptr;
+}
+
+const char* method_getTypeEncoding(Method method) {
+  return method != nullptr ? method->types.c_str() : nullptr;
+}
+
+IMP method_setImplementation(Method method, IMP implementation) {
+  if (method == nullptr || implementation == nullptr) {
+    return nullptr;
+  }
+  const std::lock_guard guard(runtimeLock());
+  return replaceImplementation(method, implementation);
+}
+
+void method_exchangeImplementations(Method one, Method other) {
+  if (one == nullptr || other == nullptr) {
+    return;
+  }
+  const std::lock_guard guard(runtimeLock());
+  const IMP first = one->implementation.load();
+  replaceImplementation(one, other->implementation.load());
+  replaceImplementation(other, first);
+}

@@ -1,0 +1,126 @@
+#include "simulator/runtime/ReferenceCounting.h"
+
+#include "simulator/runtime/AutoreleasePool.h"
+#include "simulator/runtime/Blocks.h"
+#include "simulator/runtime/Class.h"
+#include "simulator/runtime/Fatal.h"
+#include "simulator/runtime/Instances.h"
+#include "simulator/runtime/Send.h"
+
+namespace simulator::runtime {
+namespace {
+
+bool usesInlineReferences(id object) {
+  return object_getClass(object)->has(kInlineReferences);
+}
+
+// An object in dealloc keeps kDeallocating through retains and releases: neither revives it nor
+// sends dealloc a second time.
+bool tryRetainInstance(id object) {
+  std::atomic<std::uint32_t>& references = headerOf(object).references;
+  std::uint32_t current = references.load(std::memory_order_relaxed);
+  do {
+    if ((current & kDeallocating) != 0) {
+      return false;
+    }
+  } while (!references.compare_exchange_weak(current, current + kOneReference,
+                                             std::memory_order_relaxed));
+  return true;
+}
+
+}  // namespace
+
+id retainInstance(id object) {
+  tryRetainInstance(object);
+  return object;
+}
+
+void releaseInstance(id object) {
+  std::atomic<std::uint32_t>& references = headerOf(object).references;
+  std::uint32_t current = references.load(std::memory_order_relaxed);
+  std::uint32_t lowered = 0;
+  do {
+    if (current == kFreed) {
+      fatal("object %p was released after it had been freed", static_cast<void*>(object));
+    }
+    if ((current & kDeallocating) != 0) {
+      return;
+    }
+    lowered = current == kOneReference ? kDeallocating : current - kOneReference;
+  } while (!references.compare_exchange_weak(current, lowered, std::memory_order_acq_rel,
+                                             std::memory_order_relaxed));
+  if (lowered == kDeallocating) {
+    static const SEL dealloc = sel_registerName("dealloc");
+    send<void>(object, dealloc);
+  }
+}
+
+std::size_t instanceRetainCount(id object) {
+  return headerOf(object).references.load(std::memory_order_relaxed) / kOneReference;
+}
+
+bool tryRetain(id object) {
+  switch (kindOf(object)) {
+    case ObjectKind::kClass:
+      return true;
+    case ObjectKind::kBlock:
+      return tryRetainBlock(object);
+    case ObjectKind::kInstance:
+      break;
+  }
+  return tryRetainInstance(object);
+}
+
+bool isDeallocating(id object) {
+  switch (kindOf(object)) {
+    case ObjectKind::kClass:
+      return false;
+    case ObjectKind::kBlock:
+      return isBlockDeallocating(object);
+    case ObjectKind::kInstance:
+      break;
+  }
+  return (headerOf(object).references.load(std::memory_order_acquire) & kDeallocating) != 0;
+}
+
+}  // namespace simulator::runtime
+
+using namespace simulator::runtime;
+
+id objc_retain(id object) {
+  if (object == nullptr) {
+    return nullptr;
+  }
+  if (usesInlineReferences(object)) {
+    return retainInstance(object);
+  }
+  static const SEL retain = sel_registerName("retain");
+  return send<id>(object, retain);
+}
+
+void objc_release(id object) {
+  if (object == nullptr) {
+    return;
+  }
+  if (usesInlineReferences(object)) {
+    releaseInstance(object);
+    return;
+  }
+  static const SEL release = sel_registerName("release");
+  send<void>(object, release);
+}
+
+id objc_autorelease(id object) {
+  if (object == nullptr) {
+    return nullptr;
+  }
+  if (usesInlineReferences(object)) {
+    return addToAutoreleasePool(object);
+  }
+  static const SEL autorelease = sel_registerName("autorelease");
+  return send<id>(object, autorelease);
+}
+
+id objc_retainAutorelease(id object) {
+  return objc_autorelease(objc_retain(object));
+}

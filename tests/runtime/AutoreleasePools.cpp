@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "TestClasses.h"
+#include "simulator/runtime/LiveObjects.h"
+
+using namespace testing_runtime;
+using simulator::runtime::liveInstanceCount;
+
+namespace {
+
+class AutoreleasePools : public testing::Test {
+ protected:
+  Class cls_ = makeClass("Pooled");
+};
+
+TEST_F(AutoreleasePools, releaseAtTheirEnd) {
+  void* pool = objc_autoreleasePoolPush();
+  id object = make(cls_);
+  EXPECT_EQ(objc_autorelease(object), object);
+  EXPECT_EQ(send<id>(make(cls_), "autorelease") != nullptr, true);
+  EXPECT_EQ(liveInstanceCount(cls_), 2u);
+  objc_autoreleasePoolPop(pool);
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+}
+
+TEST_F(AutoreleasePools, retainAutoreleaseAddsOneReference) {
+  id object = make(cls_);
+  void* pool = objc_autoreleasePoolPush();
+  EXPECT_EQ(objc_retainAutorelease(object), object);
+  EXPECT_EQ(send<std::size_t>(object, "retainCount"), 2u);
+  objc_autoreleasePoolPop(pool);
+  EXPECT_EQ(send<std::size_t>(object, "retainCount"), 1u);
+  objc_release(object);
+}
+
+TEST_F(AutoreleasePools, nest) {
+  void* outer = objc_autoreleasePoolPush();
+  objc_autorelease(make(cls_));
+  void* inner = objc_autoreleasePoolPush();
+  objc_autorelease(make(cls_));
+  objc_autoreleasePoolPop(inner);
+  EXPECT_EQ(liveInstanceCount(cls_), 1u);
+  objc_autoreleasePoolPop(outer);
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+}
+
+TEST_F(AutoreleasePools, anOuterOneTakesTheInnerOnesAlong) {
+  void* outer = objc_autoreleasePoolPush();
+  objc_autoreleasePoolPush();
+  objc_autorelease(make(cls_));
+  objc_autoreleasePoolPop(outer);
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+}
+
+Class chainClass;
+void deallocThatAutoreleases(id self, SEL) {
+  objc_autorelease(make(chainClass));
+  object_dispose(self);
+}
+
+TEST_F(AutoreleasePools, objectsAutoreleasedWhileEmptyingGoToo) {
+  chainClass = makeClass("Chained");
+  addMethod(cls_, "dealloc", &deallocThatAutoreleases);
+  void* pool = objc_autoreleasePoolPush();
+  objc_autorelease(make(cls_));
+  objc_autoreleasePoolPop(pool);
+  EXPECT_EQ(liveInstanceCount(chainClass), 0u);
+}
+
+TEST_F(AutoreleasePools, withoutOneALineIsPrintedAndTheObjectLeaks) {
+  testing::internal::CaptureStderr();
+  id object = objc_autorelease(make(cls_));
+  const std::string printed = testing::internal::GetCapturedStderr();
+  EXPECT_NE(printed.find("MISSING POOLS"), std::string::npos) << printed;
+  EXPECT_NE(printed.find(class_getName(cls_)), std::string::npos) << printed;
+  EXPECT_EQ(liveInstanceCount(cls_), 1u);
+  objc_release(object);
+}
+
+TEST_F(AutoreleasePools, belongToTheirThread) {
+  void* pool = objc_autoreleasePoolPush();
+  std::thread([this] {
+    void* own = objc_autoreleasePoolPush();
+    objc_autorelease(make(cls_));
+    objc_autoreleasePoolPop(own);
+  }).join();
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+  objc_autoreleasePoolPop(pool);
+}
+
+TEST_F(AutoreleasePools, areEmptiedWhenTheirThreadEnds) {
+  std::thread([this] {
+    objc_autoreleasePoolPush();
+    objc_autorelease(make(cls_));
+  }).join();
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+}
+
+using AutoreleasePoolsDeathTest = AutoreleasePools;
+
+TEST_F(AutoreleasePoolsDeathTest, poppingTwiceIsFatal) {
+  void* outer = objc_autoreleasePoolPush();
+  void* inner = objc_autoreleasePoolPush();
+  objc_autoreleasePoolPop(inner);
+  EXPECT_DEATH(objc_autoreleasePoolPop(inner), "invalid or prematurely freed autorelease pool");
+  objc_autoreleasePoolPop(outer);
+}
+
+}  // namespace

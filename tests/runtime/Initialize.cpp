@@ -1,0 +1,129 @@
+// +initialize: once, superclasses first, before anything else, for all threads.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "TestClasses.h"
+
+using namespace testing_runtime;
+
+namespace {
+
+std::vector<std::string> initialized;
+
+void recordInitialize(id self, SEL) {
+  initialized.emplace_back(class_getName(reinterpret_cast<Class>(self)));
+}
+
+class Initialize : public testing::Test {
+ protected:
+  void SetUp() override { initialized.clear(); }
+};
+
+TEST_F(Initialize, comesBeforeTheFirstMessageAndOnlyOnce) {
+  Class cls = makeClass("Lazy");
+  addClassMethod(cls, "initialize", &recordInitialize);
+  EXPECT_TRUE(initialized.empty());
+  send<Class>(cls, "class");
+  EXPECT_EQ(initialized.size(), 1u);
+  objc_release(make(cls));
+  EXPECT_EQ(initialized.size(), 1u);
+}
+
+TEST_F(Initialize, superclassesComeFirst) {
+  Class base = makeClass("Base");
+  Class derived = makeClass("Derived", base);
+  addClassMethod(base, "initialize", &recordInitialize);
+  addClassMethod(derived, "initialize", &recordInitialize);
+  objc_release(make(derived));
+  EXPECT_EQ(initialized, (std::vector<std::string>{class_getName(base), class_getName(derived)}));
+}
+
+TEST_F(Initialize, anInheritedOneRunsForTheSubclassToo) {
+  Class base = makeClass("Base");
+  Class derived = makeClass("Derived", base);
+  addClassMethod(base, "initialize", &recordInitialize);
+  objc_release(make(derived));
+  EXPECT_EQ(initialized, (std::vector<std::string>{class_getName(base), class_getName(derived)}));
+}
+
+TEST_F(Initialize, comesBeforeAMessageToAnInstanceMadeWithoutMessages) {
+  Class cls = makeClass("Quiet");
+  addClassMethod(cls, "initialize", &recordInitialize);
+  id object = class_createInstance(cls, 0);
+  EXPECT_TRUE(initialized.empty());
+  send<id>(object, "self");
+  EXPECT_EQ(initialized.size(), 1u);
+  objc_release(object);
+}
+
+TEST_F(Initialize, lookingAClassUpDoesNotSendIt) {
+  Class cls = makeClass("Quiet");
+  addClassMethod(cls, "initialize", &recordInitialize);
+  objc_getClass(class_getName(cls));
+  class_respondsToSelector(cls, sel("self"));
+  class_getInstanceMethod(cls, sel("self"));
+  EXPECT_TRUE(initialized.empty());
+  class_getMethodImplementation(cls, sel("self"));
+  EXPECT_EQ(initialized.size(), 1u);
+}
+
+id createdInside = nullptr;
+void initializeWithMessages(id self, SEL) {
+  createdInside = objc_alloc_init(reinterpret_cast<Class>(self));
+}
+
+TEST_F(Initialize, mayMessageItsOwnClass) {
+  Class cls = makeClass("Selfish");
+  addClassMethod(cls, "initialize", &initializeWithMessages);
+  send<Class>(cls, "class");
+  EXPECT_EQ(object_getClass(createdInside), cls);
+  objc_release(createdInside);
+}
+
+TEST_F(Initialize, aRootClassNeedsNone) {
+  Class root = makeClass("Bare", nullptr);
+  addClassMethod(
+      root, "number", +[](id, SEL) { return 5; });
+  EXPECT_EQ(send<int>(root, "number"), 5);
+}
+
+std::atomic<int> started;
+std::atomic<bool> finished;
+std::atomic<int> sawUnfinished;
+
+void slowInitialize(id, SEL) {
+  ++started;
+  // Long enough for the other threads to come: they must be found waiting, not running.
+  std::this_thread::sleep_for(std::chrono::milliseconds(30));
+  finished = true;
+}
+void check(id, SEL) {
+  if (!finished) {
+    ++sawUnfinished;
+  }
+}
+
+TEST_F(Initialize, otherThreadsWaitForItsEnd) {
+  started = 0;
+  finished = false;
+  sawUnfinished = 0;
+  Class cls = makeClass("Shared");
+  addClassMethod(cls, "initialize", &slowInitialize);
+  addClassMethod(cls, "check", &check);
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 8; ++i) {
+    threads.emplace_back([cls] { send(cls, "check"); });
+  }
+  for (std::thread& thread : threads) {
+    thread.join();
+  }
+  EXPECT_EQ(started, 1);
+  EXPECT_EQ(sawUnfinished, 0);
+}
+
+}  // namespace

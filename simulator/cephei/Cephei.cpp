@@ -1,0 +1,14 @@
+#include "simulator/Frameworks.h"
+#include "simulator/cephei/HBPreferences.h"
+#include "simulator/foundation/Values.h"
+
+namespace sim {
+
+void registerCephei() {
+  const objc::AutoreleasePool pool;
+  HBPreferencesDidChangeNotification =
+      objc::retain(string("HBPreferencesDidChangeNotification")).detach().get();
+  HBPreferences::registerClass();
+}
+
+}  // namespace sim

@@ -1,0 +1,27 @@
+#include "simulator/cephei/PreferencesFile.h"
+
+#include <cstdio>
+#include <system_error>
+
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+
+std::filesystem::path preferencesFile(std::string_view domain) {
+  // On a root-less phone the domains of everything that is not the system's own lie here.
+  return Phone::current().file("/var/jb/var/mobile/Library/Preferences/" + std::string(domain) +
+                               ".plist");
+}
+
+void setAsideUnreadable(const std::filesystem::path& file, const std::string& reason) {
+  auto kept = file;
+  kept += ".corrupt";
+  std::error_code failure;
+  std::filesystem::rename(file, kept, failure);
+  const std::string fate =
+      failure ? "it cannot be moved away: " + failure.message() : "kept as " + kept.string();
+  std::fprintf(stderr, "%s: not a readable preferences file (%s); %s; its domain counts as empty\n",
+               file.c_str(), reason.c_str(), fate.c_str());
+}
+
+}  // namespace sim

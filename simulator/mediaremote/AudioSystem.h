@@ -1,0 +1,44 @@
+// The phone's sound output: volumes by category, and the indicator that shows their changes.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <string_view>
+
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+
+// The category of music and films.
+inline constexpr std::string_view mediaCategory = "Audio/Video";
+
+class AudioSystem {
+ public:
+  explicit AudioSystem(Phone& phone);
+  AudioSystem(const AudioSystem&) = delete;
+  AudioSystem& operator=(const AudioSystem&) = delete;
+
+  // The sound of Phone::current(), made on first use. The volumes survive a restart of the host;
+  // the suppression of the indicator does not, because it is the host that draws it.
+  static AudioSystem& current();
+
+  // From 0 (silent) to 1 (full). A category that nobody has set is at half volume.
+  float volume(std::string_view category = mediaCategory) const;
+  // Held to 0..1; not-a-number counts as 0. A change shows the indicator unless suppressed.
+  void setVolume(float level, std::string_view category = mediaCategory);
+
+  bool isIndicatorSuppressed() const { return indicatorSuppressed_; }
+  void setIndicatorSuppressed(bool suppressed) { indicatorSuppressed_ = suppressed; }
+
+ private:
+  nlohmann::json save() const;
+  void restore(const nlohmann::json& saved);
+
+  Phone& phone_;
+  std::map<std::string, float, std::less<>> volumes_;
+  bool indicatorSuppressed_ = false;
+};
+
+}  // namespace sim

@@ -1,0 +1,138 @@
+#include "simulator/mediaremote/NowPlaying.h"
+
+#include <utility>
+#include <vector>
+
+#include "objc/Block.h"
+#include "simulator/Fidelity.h"
+#include "simulator/Frameworks.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/mediaremote/Player.h"
+#include "simulator/phone/Phone.h"
+
+extern "C" {
+id kMRMediaRemoteNowPlayingInfoDidChangeNotification;
+id kMRMediaRemoteNowPlayingApplicationDidChangeNotification;
+id kMRMediaRemoteNowPlayingInfoTitle;
+id kMRMediaRemoteNowPlayingInfoArtist;
+id kMRMediaRemoteNowPlayingInfoAlbum;
+id kMRMediaRemoteNowPlayingInfoDuration;
+id kMRMediaRemoteNowPlayingInfoElapsedTime;
+id kMRMediaRemoteNowPlayingInfoPlaybackRate;
+}
+
+namespace sim {
+namespace {
+
+using Pairs = std::vector<std::pair<objc::Object, objc::Object>>;
+
+objc::Object nowPlayingInfo() {
+  const Player& player = Player::current();
+  const Track* track = player.track();
+  if (track == nullptr) return nullptr;
+  Pairs info = {
+      {objc::Object(kMRMediaRemoteNowPlayingInfoDuration), number(seconds(track->length))},
+      {objc::Object(kMRMediaRemoteNowPlayingInfoElapsedTime), number(player.position())},
+      {objc::Object(kMRMediaRemoteNowPlayingInfoPlaybackRate),
+       number(player.isPlaying() ? 1.0 : 0.0)}};
+  const auto add = [&info](id key, const std::string& value) {
+    if (!value.empty()) info.emplace_back(objc::Object(key), string(value));
+  };
+  if (track->title)
+    info.emplace_back(objc::Object(kMRMediaRemoteNowPlayingInfoTitle), string(*track->title));
+  add(kMRMediaRemoteNowPlayingInfoArtist, track->artist);
+  add(kMRMediaRemoteNowPlayingInfoAlbum, track->album);
+  return dictionary(info);
+}
+
+void post(id name) {
+  const auto center =
+      objc::send<objc::Object, "defaultCenter">(objc_getClass("NSNotificationCenter"));
+  objc::send<void, "postNotificationName:object:">(center, name, nullptr);
+}
+
+// The player is another process: the host hears of a change when its main queue comes to it.
+void announceChange() {
+  static bool somethingWasPlaying = false;
+  const bool somethingPlays = Player::current().track() != nullptr;
+  const bool applicationChanged =
+      std::exchange(somethingWasPlaying, somethingPlays) != somethingPlays;
+  Phone::current().queue.addNow([applicationChanged] {
+    if (applicationChanged) post(kMRMediaRemoteNowPlayingApplicationDidChangeNotification);
+    post(kMRMediaRemoteNowPlayingInfoDidChangeNotification);
+  });
+}
+
+void define(id& symbol, const char* name) {
+  symbol = objc::retain(string(name)).detach().get();
+}
+
+void defineStrings() {
+  define(kMRMediaRemoteNowPlayingInfoDidChangeNotification,
+         "kMRMediaRemoteNowPlayingInfoDidChangeNotification");
+  define(kMRMediaRemoteNowPlayingApplicationDidChangeNotification,
+         "kMRMediaRemoteNowPlayingApplicationDidChangeNotification");
+  define(kMRMediaRemoteNowPlayingInfoTitle, "kMRMediaRemoteNowPlayingInfoTitle");
+  define(kMRMediaRemoteNowPlayingInfoArtist, "kMRMediaRemoteNowPlayingInfoArtist");
+  define(kMRMediaRemoteNowPlayingInfoAlbum, "kMRMediaRemoteNowPlayingInfoAlbum");
+  define(kMRMediaRemoteNowPlayingInfoDuration, "kMRMediaRemoteNowPlayingInfoDuration");
+  define(kMRMediaRemoteNowPlayingInfoElapsedTime, "kMRMediaRemoteNowPlayingInfoElapsedTime");
+  define(kMRMediaRemoteNowPlayingInfoPlaybackRate, "kMRMediaRemoteNowPlayingInfoPlaybackRate");
+}
+
+bool perform(Player& player, int command) {
+  switch (command) {
+    case 0:
+      player.play();
+      return true;
+    case 1:
+      player.pause();
+      return true;
+    case 2:
+      player.togglePlayPause();
+      return true;
+    case 3:
+      player.stop();
+      return true;
+    case 4:
+      player.nextTrack();
+      return true;
+    case 5:
+      player.previousTrack();
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void registerMediaRemote() {
+  constexpr const char* framework = "MediaRemote";
+  const objc::AutoreleasePool pool;
+  defineStrings();
+  recordFunction(framework, "MRMediaRemoteGetNowPlayingInfo",
+                 {Grade::partial, "no artwork, no identifiers of the track"});
+  recordFunction(framework, "MRMediaRemoteSendCommand",
+                 {Grade::partial, "commands 0 to 5; the options are ignored"});
+  Player::current().observe(announceChange);
+  Player::current().hostDidBoot();
+}
+
+}  // namespace sim
+
+void MRMediaRemoteGetNowPlayingInfo(dispatch_queue_t queue, id block) {
+  using Completion = objc::Block<void(objc::Object)>;
+  if (block == nullptr) return;
+  auto completion = objc::adopt(Completion(static_cast<id>(_Block_copy(block))));
+  dispatch_async(queue, objc::block<void()>([completion = std::move(completion)] {
+                          completion.get()(sim::nowPlayingInfo());
+                        })
+                            .get()
+                            .get());
+}
+
+bool MRMediaRemoteSendCommand(int command, id) {
+  sim::Phone::current().journal.record("MRMediaRemoteSendCommand(" + std::to_string(command) + ')');
+  return sim::perform(sim::Player::current(), command);
+}

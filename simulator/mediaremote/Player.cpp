@@ -1,0 +1,139 @@
+#include "simulator/mediaremote/Player.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace sim {
+
+std::string notation(const Track& track) {
+  return track.title ? sim::quoted(*track.title) : "nil";
+}
+
+Player::Player(Phone& phone) : phone_(phone) {
+  phone.survives("player", {[this] { return save(); },
+                            [this](const nlohmann::json& saved) { restore(saved); }});
+}
+
+Player& Player::current() {
+  static Player player(Phone::current());
+  return player;
+}
+
+void Player::load(std::vector<Track> tracks) {
+  if (track() != nullptr) stop();
+  tracks_ = std::move(tracks);
+}
+
+void Player::play() {
+  if (tracks_.empty() || playing_) return;
+  if (track() == nullptr) index_ = 0;
+  playing_ = true;
+  startedAt_ = phone_.clock.uptime() - pausedAt_;
+  phone_.journal.record("player play " + notation(*track()));
+  scheduleEnd();
+  changed();
+}
+
+void Player::playOnceBooted() {
+  if (booted_)
+    play();
+  else
+    waitsForBoot_ = true;
+}
+
+void Player::hostDidBoot() {
+  booted_ = true;
+  if (!waitsForBoot_) return;
+  phone_.queue.addNow([this] {
+    waitsForBoot_ = false;
+    play();
+  });
+}
+
+void Player::pause() {
+  if (!playing_) return;
+  pausedAt_ = elapsed();
+  playing_ = false;
+  phone_.journal.record("player pause");
+  scheduleEnd();
+  changed();
+}
+
+void Player::togglePlayPause() {
+  if (playing_)
+    pause();
+  else
+    play();
+}
+
+void Player::nextTrack() {
+  if (track() != nullptr) begin(index_ + 1, phone_.clock.uptime());
+}
+
+void Player::previousTrack() {
+  if (track() != nullptr) begin(index_ == 0 ? 0 : index_ - 1, phone_.clock.uptime());
+}
+
+void Player::stop() {
+  if (track() == nullptr) return;
+  index_ = nothing;
+  playing_ = false;
+  pausedAt_ = 0;
+  phone_.journal.record("player stop");
+  scheduleEnd();
+  changed();
+}
+
+void Player::seek(double position) {
+  if (track() == nullptr) return;
+  const Nanoseconds target = std::clamp<Nanoseconds>(nanoseconds(position), 0, track()->length);
+  pausedAt_ = target;
+  startedAt_ = phone_.clock.uptime() - target;
+  phone_.journal.record("player seek " + notation(seconds(target)));
+  scheduleEnd();
+  changed();
+}
+
+const Track* Player::track() const {
+  return index_ == nothing ? nullptr : &tracks_[index_];
+}
+
+double Player::position() const {
+  return track() == nullptr ? 0 : seconds(elapsed());
+}
+
+Nanoseconds Player::elapsed() const {
+  if (!playing_) return pausedAt_;
+  return std::min(phone_.clock.uptime() - startedAt_, track()->length);
+}
+
+void Player::begin(std::size_t index, Nanoseconds when) {
+  if (index >= tracks_.size()) {
+    stop();
+    return;
+  }
+  index_ = index;
+  startedAt_ = when;
+  pausedAt_ = 0;
+  phone_.journal.record("player track " + notation(*track()));
+  scheduleEnd();
+  changed();
+}
+
+// Gapless: the next track starts where this one ended, even when the queue comes to it later,
+// as after the time in which the host was gone.
+void Player::trackDidEnd() {
+  begin(repeatsOne_ ? index_ : index_ + 1, startedAt_ + track()->length);
+}
+
+void Player::scheduleEnd() {
+  phone_.queue.cancel(end_);
+  end_ = 0;
+  if (playing_) end_ = phone_.queue.add(startedAt_ + track()->length, [this] { trackDidEnd(); });
+}
+
+void Player::changed() const {
+  for (const auto& observer : observers_) observer();
+}
+
+}  // namespace sim

@@ -1,0 +1,164 @@
+// The script commands of the person who listens: what plays, how loud, and what is heard.
+#include <cmath>
+#include <optional>
+#include <string>
+
+#include "simulator/mediaremote/AudioSystem.h"
+#include "simulator/mediaremote/Player.h"
+#include "simulator/mediaremote/Playlist.h"
+#include "simulator/phone/script/Command.h"
+
+namespace sim {
+namespace {
+
+Track takeTrack(Arguments& words) {
+  Track track;
+  if (!words.takeKeyword("none")) track.title = words.text("a title");
+  const double length = words.number("the track's seconds");
+  track.length = nanoseconds(length);
+  if (track.length <= 0) words.failHere("a track lasts longer than 0 seconds");
+  return track;
+}
+
+void startPlaylist(std::vector<Track> tracks) {
+  Player& player = Player::current();
+  player.load(std::move(tracks));
+  player.playOnceBooted();
+}
+
+void playlist(Arguments& words) {
+  std::vector<Track> tracks;
+  do tracks.push_back(takeTrack(words));
+  while (!words.atEnd());
+  startPlaylist(std::move(tracks));
+}
+
+void playlistFile(Arguments& words) {
+  const std::string file = words.text("the path of an M3U file");
+  words.finish();
+  try {
+    auto tracks = readPlaylist(file);
+    if (tracks.empty()) throw PlaylistError(file, 0, "names no track");
+    startPlaylist(std::move(tracks));
+  } catch (const PlaylistError& error) {
+    throw ScriptError(0, error.what());
+  }
+}
+
+Player& playerWithMusic(const Arguments& words) {
+  Player& player = Player::current();
+  if (!player.hasPlaylist()) words.failHere("there is no playlist");
+  return player;
+}
+
+void seek(Arguments& words) {
+  const double position = words.number("seconds from the start of the track");
+  if (position < 0) words.failHere("a track has no time before its start");
+  words.finish();
+  if (Player::current().track() == nullptr) words.failHere("nothing plays");
+  Player::current().seek(position);
+}
+
+float takeLevel(Arguments& words) {
+  const double level = words.number("a volume from 0 to 1");
+  if (level < 0 || level > 1) words.failHere("a volume lies between 0 and 1");
+  return float(level);
+}
+
+void volume(Arguments& words) {
+  const float level = takeLevel(words);
+  words.finish();
+  Phone::current().journal.record("user volume " + notation(level));
+  AudioSystem::current().setVolume(level);
+}
+
+[[noreturn]] void failExpectation(const std::string& what, const std::string& expected,
+                                  const std::string& found) {
+  throw ScriptError(0, what + ": expected " + expected + ", found " + found);
+}
+
+void expectVolume(Arguments& words) {
+  const float level = takeLevel(words);
+  const bool isTolerant = words.takeKeyword("within");
+  const double tolerance = isTolerant ? words.number("a tolerance") : 0;
+  words.finish();
+  const float found = AudioSystem::current().volume();
+  // Negated, so that a tolerance that is no number fails.
+  if (!(std::abs(double(found) - double(level)) <= tolerance))
+    failExpectation("volume", notation(level), notation(found));
+}
+
+void expectPlaying(Arguments& words) {
+  const bool expected = words.yesOrNo("whether music plays");
+  words.finish();
+  const bool found = Player::current().isPlaying();
+  if (found != expected) failExpectation("playing", notation(expected), notation(found));
+}
+
+void expectTrack(Arguments& words) {
+  std::optional<std::string> expected;
+  if (!words.takeKeyword("none")) expected = words.text("a title, or none");
+  words.finish();
+  const Track* track = Player::current().track();
+  const auto found = track == nullptr ? std::nullopt : track->title;
+  const auto shown = [](const auto& title) { return title ? sim::quoted(*title) : "none"; };
+  if (found != expected) failExpectation("track", shown(expected), shown(found));
+}
+
+template <auto action>
+void control(Arguments& words) {
+  words.finish();
+  (playerWithMusic(words).*action)();
+}
+
+void addControls(CommandTable& table) {
+  table.add({"play", Stage::running, "play", "play", "The user starts the music, or goes on.",
+             control<&Player::play>});
+  table.add({"pause", Stage::running, "pause", "pause", "The user pauses the music.",
+             control<&Player::pause>});
+  table.add({"next-track", Stage::running, "next-track", "next-track",
+             "The user skips to the next track; after the last one nothing plays.",
+             control<&Player::nextTrack>});
+  table.add({"previous-track", Stage::running, "previous-track", "previous-track",
+             "The user goes back to the track before; the first track begins again.",
+             control<&Player::previousTrack>});
+  table.add({"seek", Stage::running, "seek SECONDS", "seek 170",
+             "The user moves to a position of the track, in seconds from its start.", seek});
+}
+
+void addExpectations(CommandTable& table) {
+  table.add({"expect-volume", Stage::any, "expect-volume LEVEL [within TOLERANCE]",
+             "expect-volume 0.5 within 0.001", "The media volume is LEVEL.", expectVolume});
+  table.add({"expect-playing", Stage::any, "expect-playing YES|NO", "expect-playing YES",
+             "Whether music plays at this moment.", expectPlaying});
+  table.add({"expect-track", Stage::any, "expect-track TITLE|none", "expect-track \"B\"",
+             "The title of the current track, playing or paused; none without track or title.",
+             expectTrack});
+}
+
+}  // namespace
+
+void addPlayerCommands(CommandTable& table) {
+  // Both exist before a restart's saved state is given back to them.
+  Player::current();
+  AudioSystem::current();
+  table.add({"playlist", Stage::any, "playlist TITLE|none SECONDS [TITLE SECONDS]...",
+             "playlist \"A\" 180 \"B\" 200",
+             "Loads tracks and plays the first; before boot the music starts with the host.",
+             playlist});
+  table.add({"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",
+             "Loads the tracks of an M3U playlist of this machine and plays the first.",
+             playlistFile});
+  table.add({"repeat-one", Stage::any, "repeat-one YES|NO", "repeat-one YES",
+             "Whether a track that ends begins again.", [](Arguments& words) {
+               const bool repeats = words.yesOrNo("whether to repeat");
+               words.finish();
+               Player::current().setRepeatsOne(repeats);
+             }});
+  table.add({"volume", Stage::any, "volume LEVEL", "volume 0.5",
+             "The user sets the media volume, from 0 to 1.", volume});
+  addControls(table);
+  addExpectations(table);
+}
+
+}  // namespace sim

@@ -1,0 +1,10 @@
+#include "simulator/Frameworks.h"
+#include "simulator/services/PCSimpleTimer.h"
+
+namespace sim {
+
+void registerServices() {
+  PCSimpleTimer::registerClass();
+}
+
+}  // namespace sim

@@ -1,0 +1,21 @@
+#include "simulator/springboard/SBApplication.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+
+namespace sim {
+
+objc::Object SBApplication::withBundleIdentifier(std::string_view identifier) {
+  auto application = make();
+  if (!application) return nullptr;
+  of(application.get()).bundleIdentifier = objc::retain(string(identifier));
+  return objc::autorelease(std::move(application));
+}
+
+void SBApplication::registerClass() {
+  StandIn<SBApplication>("SpringBoard", "SBApplication", "NSObject")
+      .readonlyProperty<"bundleIdentifier", &SBApplication::bundleIdentifier>()
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,108 @@
+#include "simulator/springboard/SBMediaController.h"
+
+#include <string>
+
+#include "simulator/StandIn.h"
+#include "simulator/mediaremote/AudioSystem.h"
+#include "simulator/mediaremote/Player.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/springboard/SBApplication.h"
+#include "simulator/springboard/SBVolumeControl.h"
+
+namespace sim {
+namespace {
+
+void journal(const std::string& message) {
+  Phone::current().journal.record("-[SBMediaController " + message + ']');
+}
+
+}  // namespace
+
+objc::Object SBMediaController::sharedInstance() {
+  return objc::Object(shared().self());
+}
+
+void SBMediaController::play() {
+  journal("play");
+  Player::current().play();
+}
+
+void SBMediaController::pause() {
+  journal("pause");
+  Player::current().pause();
+}
+
+void SBMediaController::pauseForEventSource(long source) {
+  journal("pauseForEventSource:" + notation(source));
+  Player::current().pause();
+}
+
+void SBMediaController::togglePlayPause() {
+  journal("togglePlayPause");
+  Player::current().togglePlayPause();
+}
+
+void SBMediaController::togglePlayPauseForEventSource(long source) {
+  journal("togglePlayPauseForEventSource:" + notation(source));
+  Player::current().togglePlayPause();
+}
+
+bool SBMediaController::isPlaying() {
+  return Player::current().isPlaying();
+}
+
+bool SBMediaController::isPaused() {
+  const Player& player = Player::current();
+  return player.track() != nullptr && !player.isPlaying();
+}
+
+objc::Object SBMediaController::nowPlayingApplication() {
+  if (Player::current().track() == nullptr) return nullptr;
+  return SBApplication::withBundleIdentifier("com.apple.Music");
+}
+
+float SBMediaController::volume() {
+  return AudioSystem::current().volume();
+}
+
+void SBMediaController::setVolume(float level) {
+  journal("setVolume:" + notation(level));
+  AudioSystem::current().setVolume(level);
+}
+
+bool SBMediaController::suppressHUD() {
+  return AudioSystem::current().isIndicatorSuppressed();
+}
+
+void SBMediaController::setSuppressHUD(bool suppress) {
+  journal("setSuppressHUD:" + notation(suppress));
+  AudioSystem::current().setIndicatorSuppressed(suppress);
+}
+
+objc::Object SBMediaController::volumeControl() {
+  return SBVolumeControl::sharedInstance();
+}
+
+void SBMediaController::registerClass() {
+  StandIn<SBMediaController>("SpringBoard", "SBMediaController", "NSObject")
+      .classMethod<"sharedInstance", &SBMediaController::sharedInstance>()
+      .method<"play", &SBMediaController::play>()
+      .method<"pause", &SBMediaController::pause>()
+      .partial<"pauseForEventSource:", &SBMediaController::pauseForEventSource>(
+          "the source changes nothing")
+      .method<"togglePlayPause", &SBMediaController::togglePlayPause>()
+      .partial<"togglePlayPauseForEventSource:", &SBMediaController::togglePlayPauseForEventSource>(
+          "the source changes nothing")
+      .method<"isPlaying", &SBMediaController::isPlaying>()
+      .method<"isPaused", &SBMediaController::isPaused>()
+      .partial<"nowPlayingApplication", &SBMediaController::nowPlayingApplication>(
+          "the music application, whatever plays; a new object each time")
+      .method<"volume", &SBMediaController::volume>()
+      .method<"setVolume:", &SBMediaController::setVolume>()
+      .method<"suppressHUD", &SBMediaController::suppressHUD>()
+      .method<"setSuppressHUD:", &SBMediaController::setSuppressHUD>()
+      .method<"_volumeControl", &SBMediaController::volumeControl>()
+      .finish();
+}
+
+}  // namespace sim

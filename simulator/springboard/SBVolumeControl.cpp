@@ -1,0 +1,32 @@
+#include "simulator/springboard/SBVolumeControl.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/mediaremote/AudioSystem.h"
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+
+objc::Object SBVolumeControl::sharedInstance() {
+  return cls() != nullptr ? objc::Object(shared().self()) : nullptr;
+}
+
+float SBVolumeControl::mediaVolume() {
+  return AudioSystem::current().volume();
+}
+
+void SBVolumeControl::setVolume_forCategory(float level, objc::Object category) {
+  Phone::current().journal.record("-[SBVolumeControl setVolume:" + notation(level) +
+                                  " forCategory:" + notation(category) + ']');
+  AudioSystem::current().setVolume(level, text(category));
+}
+
+void SBVolumeControl::registerClass() {
+  StandIn<SBVolumeControl>("SpringBoard", "SBVolumeControl", "NSObject")
+      .classMethod<"sharedInstance", &SBVolumeControl::sharedInstance>()
+      .method<"_getMediaVolumeForIAP", &SBVolumeControl::mediaVolume>()
+      .method<"setVolume:forCategory:", &SBVolumeControl::setVolume_forCategory>()
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,26 @@
+#include "simulator/springboard/SpringBoard.h"
+
+#include "simulator/Frameworks.h"
+#include "simulator/StandIn.h"
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+
+void SpringBoard::applicationDidFinishLaunching(objc::Object) {
+  Phone::current().journal.record("-[SpringBoard applicationDidFinishLaunching:]");
+}
+
+void SpringBoard::registerClass() {
+  StandIn<SpringBoard>("SpringBoard", "SpringBoard", "UIApplication")
+      .partial<"applicationDidFinishLaunching:", &SpringBoard::applicationDidFinishLaunching>(
+          "shows no home screen")
+      .finish();
+}
+
+void launchSpringBoard() {
+  const objc::AutoreleasePool pool;
+  const auto application = SpringBoard::make();  // becomes the shared application, which lives on
+  objc::send<void, "applicationDidFinishLaunching:">(application.get(), application.get());
+}
+
+}  // namespace sim

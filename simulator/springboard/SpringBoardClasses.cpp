@@ -1,0 +1,23 @@
+// What lives in the host's process.
+#include "simulator/Frameworks.h"
+#include "simulator/springboard/CCUICAPackageDescription.h"
+#include "simulator/springboard/MRUNowPlayingHeaderView.h"
+#include "simulator/springboard/MRUNowPlayingRoutingButton.h"
+#include "simulator/springboard/SBApplication.h"
+#include "simulator/springboard/SBMediaController.h"
+#include "simulator/springboard/SBVolumeControl.h"
+#include "simulator/springboard/SpringBoard.h"
+
+namespace sim {
+
+void registerSpringBoard() {
+  SBApplication::registerClass();
+  SBVolumeControl::registerClass();
+  SBMediaController::registerClass();
+  CCUICAPackageDescription::registerClass();
+  MRUNowPlayingRoutingButton::registerClass();
+  MRUNowPlayingHeaderView::registerClass();
+  SpringBoard::registerClass();
+}
+
+}  // namespace sim

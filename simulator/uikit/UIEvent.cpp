@@ -1,0 +1,11 @@
+#include "simulator/uikit/UIEvent.h"
+
+#include "simulator/StandIn.h"
+
+namespace sim {
+
+void UIEvent::registerClass() {
+  StandIn<UIEvent>("UIKit", "UIEvent", "NSObject").finish();
+}
+
+}  // namespace sim

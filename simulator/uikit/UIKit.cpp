@@ -1,0 +1,27 @@
+#include "simulator/Frameworks.h"
+#include "simulator/uikit/UIApplication.h"
+#include "simulator/uikit/UIButton.h"
+#include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/UIDevice.h"
+#include "simulator/uikit/UIEvent.h"
+#include "simulator/uikit/UIMotionEvent.h"
+#include "simulator/uikit/UIResponder.h"
+#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/UIViewController.h"
+
+namespace sim {
+
+// A class comes after its superclass.
+void registerUIKit() {
+  UIDevice::registerClass();
+  UIEvent::registerClass();
+  UIMotionEvent::registerClass();
+  UIResponder::registerClass();
+  UIApplication::registerClass();
+  UIView::registerClass();
+  UIControl::registerClass();
+  UIButton::registerClass();
+  UIViewController::registerClass();
+}
+
+}  // namespace sim

@@ -1,0 +1,35 @@
+// A class with methods that give and take one type, registered once for each type.
+#pragma once
+
+#include <string>
+#include <typeinfo>
+
+#include "objc/Class.h"
+#include "tests/bridge/SampleTypes.h"
+
+namespace bridge {
+
+template <class T>
+std::string classNameFor(const char* role) {
+  return std::string(role) + " of " + typeid(T).name();
+}
+
+template <class T>
+struct Giver : objc::Implementation<Giver<T>> {
+  T value() { return sample<T>(); }
+  T echo(T value) { return value; }
+  static T classValue() { return sample<T>(); }
+  // More arguments than registers, so that some are passed on the stack.
+  T last(long, double, long, double, long, double, T value) { return value; }
+
+  static Class registerClass() {
+    return objc::ClassBuilder<Giver>(classNameFor<T>("Giver").c_str(), "NSObject")
+        .template method<"value", &Giver::value>()
+        .template method<"echo:", &Giver::echo>()
+        .template method<"one:two:three:four:five:six:last:", &Giver::last>()
+        .template classMethod<"value", &Giver::classValue>()
+        .finish();
+  }
+};
+
+}  // namespace bridge

@@ -1,0 +1,82 @@
+// A class that counts what happens to its objects.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "objc/Class.h"
+
+namespace bridge {
+
+struct ProbeView : objc::Object {
+  using Object::Object;
+  unsigned long retainCount() const { return objc::send<unsigned long, "retainCount">(*this); }
+};
+
+struct Probe : objc::Implementation<Probe> {
+  static inline int allocations, retains, releases, autoreleases, deallocations;
+  // Runs at the beginning of each dealloc.
+  static inline std::function<void(ProbeView)> onDealloc;
+
+  ~Probe() {
+    ++deallocations;
+    if (onDealloc) onDealloc(ProbeView(self()));
+  }
+
+  id retain() {
+    ++retains;
+    return super<id, "retain">();
+  }
+  void release() {
+    ++releases;
+    super<void, "release">();
+  }
+  id autorelease() {
+    ++autoreleases;
+    return super<id, "autorelease">();
+  }
+  static id alloc(id cls) {
+    ++allocations;
+    return objc::sendSuper<id, "alloc">(cls, object_getClass(reinterpret_cast<id>(Probe::cls())));
+  }
+
+  static Class registerClass() {
+    objc::ClassBuilder<Probe> builder("Probe", "NSObject");
+    builder.method<"retain", &Probe::retain>()
+        .method<"release", &Probe::release>()
+        .method<"autorelease", &Probe::autorelease>();
+    Class cls = builder.finish();
+    objc::addMethod<"alloc", alloc>(object_getClass(reinterpret_cast<id>(cls)));
+    return cls;
+  }
+};
+
+using Owner = objc::Strong<ProbeView>;
+
+// Every test starts with all counts at zero, and leaves no probe behind.
+struct ProbeTest : testing::Test {
+  static void SetUpTestSuite() {
+    if (Probe::cls() == nullptr) Probe::registerClass();
+    ASSERT_TRUE(Probe::cls());
+  }
+  void SetUp() override { forget(); }
+  // After the fixtures' members are gone.
+  ~ProbeTest() override {
+    Probe::onDealloc = nullptr;
+    EXPECT_EQ(total_ + Probe::allocations, deallocated_ + Probe::deallocations);
+  }
+
+  static Owner make() { return Probe::make<ProbeView>(); }
+  void forget() {
+    total_ += Probe::allocations, deallocated_ += Probe::deallocations;
+    Probe::allocations = Probe::retains = Probe::releases = 0;
+    Probe::autoreleases = Probe::deallocations = 0;
+  }
+
+ private:
+  int total_ = 0;
+  int deallocated_ = 0;
+};
+
+}  // namespace bridge

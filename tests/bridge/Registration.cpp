@@ -1,0 +1,78 @@
+// Registration that cannot succeed leaves everything as it was.
+#include <gtest/gtest.h>
+
+#include "objc/Class.h"
+
+namespace {
+
+struct Orphan : objc::Implementation<Orphan> {
+  long number;
+  void run() {}
+  static long answer() { return 1; }
+
+  static Class registerClass(const char* name, const char* superclass) {
+    return objc::ClassBuilder<Orphan>(name, superclass)
+        .method<"run", &Orphan::run>()
+        .classMethod<"answer", &Orphan::answer>()
+        .property<"number", &Orphan::number>()
+        .readonlyProperty<"fixed", &Orphan::number>()
+        .finish();
+  }
+};
+
+long added(objc::Object) {
+  return 17;
+}
+long addedToClass() {
+  return 18;
+}
+long getNumber(objc::Object) {
+  return 19;
+}
+void setNumber(objc::Object, long) {}
+
+TEST(Registration, BelowAnAbsentBaseGivesNil) {
+  EXPECT_EQ(Orphan::registerClass("Orphan", "NoClassOfThatName"), nullptr);
+  EXPECT_EQ(Orphan::cls(), nullptr);
+  EXPECT_EQ(objc_getClass("Orphan"), nullptr);
+  EXPECT_FALSE(Orphan::make());
+  EXPECT_EQ(objc::ClassBuilder<Orphan>("Orphan", Class(nullptr)).finish(), nullptr);
+}
+
+TEST(Registration, UnderATakenNameGivesNil) {
+  const Class before = objc_getClass("NSObject");
+  EXPECT_EQ(Orphan::registerClass("NSObject", "NSObject"), nullptr);
+  EXPECT_EQ(Orphan::cls(), nullptr);
+  EXPECT_EQ(objc_getClass("NSObject"), before);
+  EXPECT_FALSE(class_respondsToSelector(before, objc::selector<"run">()));
+  EXPECT_EQ(class_getProperty(before, "number"), nullptr);
+}
+
+TEST(Registration, OfMethodsOnAnAbsentClassFails) {
+  EXPECT_FALSE((objc::addMethod<"added", added>(nullptr)));
+  EXPECT_FALSE((objc::addClassMethod<"addedToClass", addedToClass>(nullptr)));
+  objc::addAttachedProperty<"attached", getNumber, setNumber>(nullptr, "q");
+}
+
+struct Host : objc::Implementation<Host> {
+  long own() { return 1; }
+  static Class registerClass() {
+    return objc::ClassBuilder<Host>("Host", "NSObject").method<"own", &Host::own>().finish();
+  }
+};
+
+TEST(Registration, AddsMethodsToClassesOfTheHost) {
+  ASSERT_TRUE(Host::registerClass());
+  EXPECT_TRUE((objc::addMethod<"added", added>(Host::cls())));
+  EXPECT_TRUE((objc::addClassMethod<"addedToClass", addedToClass>(Host::cls())));
+  EXPECT_EQ((objc::send<long, "added">(Host::make())), 17);
+  EXPECT_EQ((objc::send<long, "addedToClass">(Host::cls())), 18);
+}
+
+TEST(Registration, NeverReplacesAMethodOfTheClassItself) {
+  ASSERT_TRUE(Host::registerClass());
+  EXPECT_FALSE((objc::addMethod<"own", added>(Host::cls())));
+  EXPECT_EQ((objc::send<long, "own">(Host::make())), 1);
+}
+
+}  // namespace

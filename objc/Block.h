@@ -92,16 +92,20 @@ struct HeapBlock<R(Args...), Function> {
   Function function;
   Descriptor descriptor;
 
-  static Wire<R> invoke(HeapBlock* self, Wire<Args>... args) {
+  // Callers know nothing of the captures: these have the prototypes that they call.
+  static Wire<R> invoke(BlockHeader* literal, Wire<Args>... args) {
+    auto* self = reinterpret_cast<HeapBlock*>(literal);
     if constexpr (std::is_void_v<R>)
       self->function(fromWire<Args>(args)...);
     else
       return toWire<R>(self->function(fromWire<Args>(args)...));
   }
 
-  static void dispose(HeapBlock* self) { self->function.~Function(); }
+  static void dispose(const void* literal) {
+    static_cast<HeapBlock*>(const_cast<void*>(literal))->function.~Function();
+  }
   // Never run: the runtime copies only blocks that live on a stack.
-  static void copy(HeapBlock*, HeapBlock*) {}
+  static void copy(void*, const void*) {}
 
   static HeapBlock* make(Function&& function) {
     auto* made = static_cast<HeapBlock*>(std::calloc(1, sizeof(HeapBlock)));

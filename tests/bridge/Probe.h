@@ -60,22 +60,27 @@ struct ProbeTest : testing::Test {
     if (Probe::cls() == nullptr) Probe::registerClass();
     ASSERT_TRUE(Probe::cls());
   }
+  ProbeTest() { zero(); }
   void SetUp() override { forget(); }
   // After the fixtures' members are gone.
   ~ProbeTest() override {
     Probe::onDealloc = nullptr;
-    EXPECT_EQ(total_ + Probe::allocations, deallocated_ + Probe::deallocations);
+    EXPECT_EQ(allocated_ + Probe::allocations, deallocated_ + Probe::deallocations);
   }
 
   static Owner make() { return Probe::make<ProbeView>(); }
   void forget() {
-    total_ += Probe::allocations, deallocated_ += Probe::deallocations;
+    allocated_ += Probe::allocations, deallocated_ += Probe::deallocations;
+    zero();
+  }
+
+ private:
+  static void zero() {
     Probe::allocations = Probe::retains = Probe::releases = 0;
     Probe::autoreleases = Probe::deallocations = 0;
   }
 
- private:
-  int total_ = 0;
+  int allocated_ = 0;
   int deallocated_ = 0;
 };
 

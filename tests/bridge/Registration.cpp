@@ -61,16 +61,18 @@ struct Host : objc::Implementation<Host> {
   }
 };
 
-TEST(Registration, AddsMethodsToClassesOfTheHost) {
-  ASSERT_TRUE(Host::registerClass());
+struct RegistrationOnHost : testing::Test {
+  static void SetUpTestSuite() { ASSERT_TRUE(Host::registerClass()); }
+};
+
+TEST_F(RegistrationOnHost, AddsMethodsToClassesOfTheHost) {
   EXPECT_TRUE((objc::addMethod<"added", added>(Host::cls())));
   EXPECT_TRUE((objc::addClassMethod<"addedToClass", addedToClass>(Host::cls())));
   EXPECT_EQ((objc::send<long, "added">(Host::make())), 17);
   EXPECT_EQ((objc::send<long, "addedToClass">(Host::cls())), 18);
 }
 
-TEST(Registration, NeverReplacesAMethodOfTheClassItself) {
-  ASSERT_TRUE(Host::registerClass());
+TEST_F(RegistrationOnHost, NeverReplacesAMethodOfTheClassItself) {
   EXPECT_FALSE((objc::addMethod<"own", added>(Host::cls())));
   EXPECT_EQ((objc::send<long, "own">(Host::make())), 1);
 }

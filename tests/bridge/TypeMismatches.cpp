@@ -33,7 +33,10 @@ struct Timer : objc::Implementation<Timer> {
 };
 
 struct TypeMismatches : testing::Test {
-  static void SetUpTestSuite() { ASSERT_TRUE(Timer::registerClass()); }
+  static void SetUpTestSuite() {
+    if (Timer::cls() == nullptr) Timer::registerClass();
+    ASSERT_TRUE(Timer::cls());
+  }
   objc::Strong<Object> timer = Timer::make();
 };
 using TypeMismatchesDeathTest = TypeMismatches;
@@ -101,7 +104,7 @@ TEST_F(TypeMismatchesDeathTest, InAnOverrideStopTheRegistration) {
 }
 
 TEST_F(TypeMismatchesDeathTest, InASendToSuperNameTheClassAbove) {
-  objc::ClassBuilder<Snooze>("Snooze", "Timer")
+  objc::ClassBuilder<Snooze>("NapTimer", "Timer")
       .method<"superIsRunning", &Snooze::superIsRunning>()
       .finish();
   auto snooze = Snooze::make();

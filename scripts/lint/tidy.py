@@ -10,6 +10,7 @@ import hashlib
 import json
 import os
 import pathlib
+import shlex
 import subprocess
 import sys
 
@@ -24,7 +25,8 @@ def sources(build):
         file = pathlib.Path(entry["file"])
         inside = file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in FOLDERS
         if inside and file.suffix == ".cpp":
-            yield file, entry["output"]
+            words = shlex.split(entry["command"])
+            yield file, words[words.index("-o") + 1]
 
 
 def includes(build):

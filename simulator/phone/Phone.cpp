@@ -11,7 +11,7 @@ Phone* theCurrent = nullptr;
 
 }  // namespace
 
-Phone::Phone(std::filesystem::path root) : root_(std::filesystem::absolute(std::move(root))) {
+Phone::Phone(const std::filesystem::path& root) : root_(std::filesystem::absolute(root)) {
   theCurrent = this;
 }
 

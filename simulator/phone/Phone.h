@@ -17,7 +17,7 @@ namespace sim {
 
 class Phone {
  public:
-  explicit Phone(std::filesystem::path root);
+  explicit Phone(const std::filesystem::path& root);
   ~Phone();
   Phone(const Phone&) = delete;
   Phone& operator=(const Phone&) = delete;

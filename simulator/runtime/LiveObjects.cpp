@@ -53,6 +53,7 @@ std::vector<LiveCount> liveInstanceCounts() {
   std::unordered_map<Class, std::size_t> byClass;
   visitLiveObjects([&](id object) { ++byClass[object_getClass(object)]; });
   std::vector<LiveCount> counts;
+  counts.reserve(byClass.size());
   for (const auto& [cls, count] : byClass) {
     counts.push_back({cls, count});
   }

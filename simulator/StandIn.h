@@ -70,6 +70,20 @@ class StandIn {
     return addClass<Name, function>({Grade::partial, difference});
   }
 
+  // `function` takes the class that was sent the message, as an id, and then the arguments: so the
+  // factories of a class make subclasses' objects for subclasses.
+  template <objc::FixedString Name, auto function>
+  StandIn& factory() {
+    using Method = objc::Thunk<Self, function>;
+    static_assert(objc::argumentCount<Name> == Method::arguments,
+                  "the selector has another number of colons than the function has arguments");
+    Class cls = objc::Implementation<Self>::cls();
+    if (page_.record('+', Name.c_str(), {Grade::real, ""}) && cls != nullptr)
+      objc::addThunk<Method>(object_getClass(reinterpret_cast<id>(cls)), objc::selector<Name>(),
+                             "class method override");
+    return *this;
+  }
+
   template <objc::FixedString Name, auto member>
   StandIn& property() {
     page_.record('@', Name.c_str(), {Grade::real, ""});

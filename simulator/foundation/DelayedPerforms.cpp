@@ -1,0 +1,106 @@
+#include "simulator/foundation/DelayedPerforms.h"
+
+#include <algorithm>
+#include <future>
+#include <list>
+#include <memory>
+
+#include "simulator/foundation/NSObject.h"
+#include "simulator/foundation/NSThread.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/runtime/Send.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+using objc::Strong;
+
+struct Perform {
+  Strong<Object> target;
+  SEL selector;
+  Strong<Object> argument;
+  MainQueue::Ticket ticket;
+};
+
+// Never destroyed: what still waits when the process ends is not performed, and not released.
+std::list<Perform>& pending() {
+  static auto* all = new std::list<Perform>;
+  return *all;
+}
+
+void perform(Object target, SEL selector, Object argument) {
+  simulator::runtime::send<void>(target.get(), selector, argument.get());
+}
+
+void performAfterDelay(Object self, SEL selector, Object argument, double delay) {
+  pending().push_back({objc::retain(self), selector, objc::retain(argument), 0});
+  const auto entry = std::prev(pending().end());
+  Phone& phone = Phone::current();
+  const Nanoseconds due = phone.clock.uptime() + nanoseconds(std::max(delay, 0.0));
+  entry->ticket = phone.queue.add(due, [entry] {
+    std::list<Perform> running;
+    running.splice(running.begin(), pending(), entry);
+    const Perform& now = running.front();
+    perform(now.target, now.selector, now.argument);
+  });
+}
+
+void performInModes(Object self, SEL selector, Object argument, double delay, Object) {
+  performAfterDelay(self, selector, argument, delay);
+}
+
+template <class Matches>
+void cancel(Matches matches) {
+  std::list<Perform> cancelled;  // released once the list is whole again
+  for (auto entry = pending().begin(); entry != pending().end();) {
+    const auto current = entry++;
+    if (!matches(*current)) continue;
+    Phone::current().queue.cancel(current->ticket);
+    cancelled.splice(cancelled.end(), pending(), current);
+  }
+}
+
+void cancelAll(Object target) {
+  cancel([target](const Perform& entry) { return entry.target.get() == target; });
+}
+
+void cancelMatching(Object target, SEL selector, Object argument) {
+  cancel([=](const Perform& entry) {
+    const Object its = entry.argument;
+    return entry.target.get() == target && sel_isEqual(entry.selector, selector) &&
+           (its == argument || objc::send<bool, "isEqual:">(its, argument));
+  });
+}
+
+void performOnMainThread(Object self, SEL selector, Object argument, bool wait) {
+  if (wait && isMainThread()) return perform(self, selector, argument);
+  const auto done = std::make_shared<std::promise<void>>();
+  Phone::current().queue.addNow(
+      [target = objc::retain(self), selector, kept = objc::retain(argument), done] {
+        perform(target, selector, kept);
+        done->set_value();
+      });
+  if (wait) done->get_future().wait();
+}
+
+}  // namespace
+
+void addDelayedPerforms() {
+  addToRootClass<"performSelector:withObject:afterDelay:", &performAfterDelay>(
+      "always on the main run loop");
+  addToRootClass<"performSelector:withObject:afterDelay:inModes:", &performInModes>(
+      "always on the main run loop, in every mode");
+  addToRootClass<"performSelectorOnMainThread:withObject:waitUntilDone:", &performOnMainThread>();
+  const FidelityPage page("Foundation", "NSObject");
+  const Class cls = objc_getClass("NSObject");
+  if (page.record('+', "cancelPreviousPerformRequestsWithTarget:", {Grade::real, ""}))
+    objc::addClassMethod<"cancelPreviousPerformRequestsWithTarget:", &cancelAll>(cls);
+  if (page.record('+',
+                  "cancelPreviousPerformRequestsWithTarget:selector:object:", {Grade::real, ""})) {
+    objc::addClassMethod<"cancelPreviousPerformRequestsWithTarget:selector:object:",
+                         &cancelMatching>(cls);
+  }
+}
+
+}  // namespace sim

@@ -1,0 +1,19 @@
+// Foundation's exceptions. Nothing on the simulated phone catches them: the program ends with
+// the line that the platform prints for an uncaught one.
+#pragma once
+
+#include <string>
+
+#include "objc/Object.h"
+
+namespace sim {
+
+[[noreturn]] void raiseException(const char* name, const std::string& reason);
+
+// "-[NSArray objectAtIndex:]", with the receiver's own class.
+std::string methodName(objc::Object receiver, const char* selector);
+
+// "<NSArray: 0x55d0c8>"
+std::string addressDescription(objc::Object object);
+
+}  // namespace sim

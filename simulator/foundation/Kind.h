@@ -1,0 +1,32 @@
+// Making stand-ins' objects, and looking into their state.
+#pragma once
+
+#include "objc/Class.h"
+
+namespace sim {
+
+template <class State>
+bool isA(objc::Object object) {
+  Class cls = object ? object_getClass(object.get()) : nullptr;
+  while (cls != nullptr && cls != State::cls()) cls = class_getSuperclass(cls);
+  return cls != nullptr;
+}
+
+// The state of an object of that class or a subclass; nullptr for nil and for others.
+template <class State>
+State* stateOf(objc::Object object) {
+  return isA<State>(object) ? &State::of(object) : nullptr;
+}
+
+// What a factory method makes: an object of the class that was sent the message.
+inline objc::Strong<objc::Object> makeOf(id cls) {
+  return objc::adopt(objc::Object(objc_alloc_init(reinterpret_cast<Class>(cls))));
+}
+
+// An initialiser that fails gives up the object it was sent to.
+inline objc::Object failInit(id self) {
+  objc_release(self);
+  return nullptr;
+}
+
+}  // namespace sim

@@ -1,0 +1,266 @@
+#include "simulator/foundation/NSArray.h"
+
+#include <cstdarg>
+
+#include "objc/Block.h"
+#include "simulator/StandIn.h"
+#include "simulator/foundation/AtomicFile.h"
+#include "simulator/foundation/CollectionDescription.h"
+#include "simulator/foundation/Exception.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSMutableArray.h"
+#include "simulator/foundation/NSRange.h"
+#include "simulator/foundation/PropertyList.h"
+#include "simulator/foundation/Sorting.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/foundation/Variadic.h"
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+using objc::Strong;
+using Elements = std::vector<Strong<Object>>;
+
+const Elements& elements(Object self) {
+  return NSArray::of(self).elements;
+}
+
+// The elements of an array argument; none for nil.
+const Elements& argument(Object array) {
+  static const Elements none;
+  if (!array) return none;
+  if (const NSArray* state = stateOf<NSArray>(array)) return state->elements;
+  raiseException("NSInvalidArgumentException", "an array is needed, not " + description(array));
+}
+
+Object made(id cls, Elements elements) {
+  Strong<Object> array = makeOf(cls);
+  NSArray::of(array.get()).elements = std::move(elements);
+  return autorelease(std::move(array));
+}
+
+void add(Elements& elements, Object element) {
+  if (!element) {
+    raiseException("NSInvalidArgumentException",
+                   "*** -[NSArray initWithObjects:count:]: attempt to insert nil object from "
+                   "objects[" +
+                       std::to_string(elements.size()) + "]");
+  }
+  elements.push_back(objc::retain(element));
+}
+
+Object makeEmpty(id cls) {
+  return made(cls, {});
+}
+Object makeWithObject(id cls, Object element) {
+  Elements elements;
+  add(elements, element);
+  return made(cls, std::move(elements));
+}
+Object makeWithArray(id cls, Object other) {
+  return made(cls, argument(other));
+}
+Object makeWithObjects(id cls, const id* objects, unsigned long count) {
+  Elements elements;
+  for (unsigned long i = 0; i < count; ++i) add(elements, Object(objects[i]));
+  return made(cls, std::move(elements));
+}
+id makeWithList(id cls, SEL, id first, ...) {
+  Elements elements;
+  std::va_list rest;
+  va_start(rest, first);
+  for (id next = first; next != nullptr; next = va_arg(rest, id)) add(elements, Object(next));
+  va_end(rest);
+  return made(cls, std::move(elements)).get();
+}
+Object makeWithContentsOfFile(id cls, Object path) {
+  if (!path) return nullptr;
+  std::string problem;
+  const Object read = readPropertyList(Phone::current().file(text(path)), &problem);
+  return isA<NSArray>(read) ? made(cls, elements(read)) : nullptr;
+}
+
+Object initWithArray(Object self, Object other) {
+  NSArray::of(self).elements = argument(other);
+  return self;
+}
+Object initWithObjects(Object self, const id* objects, unsigned long count) {
+  Elements elements;
+  for (unsigned long i = 0; i < count; ++i) add(elements, Object(objects[i]));
+  NSArray::of(self).elements = std::move(elements);
+  return self;
+}
+
+unsigned long count(Object self) {
+  return elements(self).size();
+}
+Object objectAtIndex(Object self, unsigned long index) {
+  requireIndex(self, "objectAtIndex:", index);
+  return elements(self)[index];
+}
+Object objectAtIndexedSubscript(Object self, unsigned long index) {
+  requireIndex(self, "objectAtIndexedSubscript:", index);
+  return elements(self)[index];
+}
+Object firstObject(Object self) {
+  return elements(self).empty() ? nullptr : elements(self).front().get();
+}
+Object lastObject(Object self) {
+  return elements(self).empty() ? nullptr : elements(self).back().get();
+}
+bool containsObject(Object self, Object wanted) {
+  return indexOf(NSArray::of(self), wanted) != NSNotFound;
+}
+unsigned long indexOfObject(Object self, Object wanted) {
+  return indexOf(NSArray::of(self), wanted);
+}
+unsigned long indexOfObjectIdenticalTo(Object self, Object wanted) {
+  const Elements& all = elements(self);
+  for (unsigned long i = 0; i < all.size(); ++i)
+    if (all[i].get() == wanted) return i;
+  return NSNotFound;
+}
+
+Object arrayByAddingObject(Object self, Object added) {
+  Elements joined = elements(self);
+  add(joined, added);
+  return made(reinterpret_cast<id>(NSArray::cls()), std::move(joined));
+}
+Object arrayByAddingObjectsFromArray(Object self, Object added) {
+  Elements joined = elements(self);
+  for (const Strong<Object>& element : argument(added)) joined.push_back(element);
+  return made(reinterpret_cast<id>(NSArray::cls()), std::move(joined));
+}
+Object subarrayWithRange(Object self, NSRange range) {
+  const Elements& all = elements(self);
+  if (range.location > all.size() || range.length > all.size() - range.location) {
+    raiseException("NSRangeException",
+                   "*** " + methodName(self, "subarrayWithRange:") + ": range {" +
+                       std::to_string(range.location) + ", " + std::to_string(range.length) +
+                       "} extends beyond bounds [0 .. " + std::to_string(all.size() - 1) + "]");
+  }
+  const auto from = all.begin() + long(range.location);
+  return made(reinterpret_cast<id>(NSArray::cls()), Elements(from, from + long(range.length)));
+}
+Object componentsJoinedByString(Object self, Object separator) {
+  std::string joined;
+  for (const Strong<Object>& element : elements(self)) {
+    if (&element != &elements(self).front()) joined += text(separator);
+    joined += description(element);
+  }
+  return string(joined);
+}
+
+using Visitor = objc::Block<void(Object, unsigned long, bool*)>;
+
+void enumerateObjects(Object self, Visitor visit) {
+  const Elements all = elements(self);
+  bool stop = false;
+  for (unsigned long i = 0; i < all.size() && !stop; ++i) visit(all[i], i, &stop);
+}
+
+void makeObjectsPerformSelector(Object self, SEL selector) {
+  const Elements all = elements(self);
+  for (const Strong<Object>& element : all)
+    objc::send<id, "performSelector:">(Object(element), selector);
+}
+
+bool isEqual(Object self, Object other) {
+  const NSArray* its = stateOf<NSArray>(other);
+  if (its == nullptr || its->elements.size() != count(self)) return false;
+  for (unsigned long i = 0; i < count(self); ++i) {
+    if (!objc::send<bool, "isEqual:">(elements(self)[i].get(), its->elements[i].get()))
+      return false;
+  }
+  return true;
+}
+Object copyWithZone(Object self, void*) {
+  return Object(objc_retain(self.get()));
+}
+Object mutableCopyWithZone(Object self, void*) {
+  Strong<Object> copy = NSMutableArray::make();
+  NSArray::of(copy.get()).elements = elements(self);
+  return copy.detach();
+}
+bool writeToFile(Object self, Object path, bool) {
+  std::string problem;
+  return writePropertyList(self, Phone::current().file(text(path)), &problem);
+}
+Object describe(Object self) {
+  return string(collectionDescription(self));
+}
+
+Object sortedArrayUsingSelector(Object self, SEL selector) {
+  return made(reinterpret_cast<id>(NSArray::cls()), sorted(elements(self), selector));
+}
+Object sortedArrayUsingComparator(Object self, Comparator comparator) {
+  return made(reinterpret_cast<id>(NSArray::cls()), sorted(elements(self), comparator));
+}
+
+void addFactories(StandIn<NSArray>& standIn) {
+  standIn.factory<"array", &makeEmpty>()
+      .factory<"arrayWithObject:", &makeWithObject>()
+      .factory<"arrayWithArray:", &makeWithArray>()
+      .factory<"arrayWithObjects:count:", &makeWithObjects>()
+      .factory<"arrayWithContentsOfFile:", &makeWithContentsOfFile>()
+      .method<"initWithArray:", &initWithArray>()
+      .method<"initWithObjects:count:", &initWithObjects>();
+  addVariadic({NSArray::cls(), '+', "arrayWithObjects:", "@@:@"}, &makeWithList);
+}
+
+void addReading(StandIn<NSArray>& standIn) {
+  standIn.method<"count", &count>()
+      .method<"objectAtIndex:", &objectAtIndex>()
+      .method<"objectAtIndexedSubscript:", &objectAtIndexedSubscript>()
+      .method<"firstObject", &firstObject>()
+      .method<"lastObject", &lastObject>()
+      .method<"containsObject:", &containsObject>()
+      .method<"indexOfObject:", &indexOfObject>()
+      .method<"indexOfObjectIdenticalTo:", &indexOfObjectIdenticalTo>()
+      .partial<"enumerateObjectsUsingBlock:", &enumerateObjects>(
+          "changing the array meanwhile is not noticed: the elements at the start are visited")
+      .method<"makeObjectsPerformSelector:", &makeObjectsPerformSelector>();
+}
+
+}  // namespace
+
+void requireIndex(Object array, const char* selector, unsigned long index) {
+  const unsigned long size = elements(array).size();
+  if (index < size) return;
+  const std::string bounds =
+      size == 0 ? "for empty array" : "[0 .. " + std::to_string(size - 1) + "]";
+  raiseException("NSRangeException", "*** " + methodName(array, selector) + ": index " +
+                                         std::to_string(index) + " beyond bounds " + bounds);
+}
+
+unsigned long indexOf(const NSArray& array, Object wanted) {
+  for (unsigned long i = 0; wanted && i < array.elements.size(); ++i) {
+    const Object element = array.elements[i];
+    if (element == wanted || objc::send<bool, "isEqual:">(element, wanted)) return i;
+  }
+  return NSNotFound;
+}
+
+void NSArray::registerClass() {
+  StandIn<NSArray> standIn("Foundation", "NSArray", "NSObject");
+  addFactories(standIn);
+  addReading(standIn);
+  standIn.method<"arrayByAddingObject:", &arrayByAddingObject>()
+      .method<"arrayByAddingObjectsFromArray:", &arrayByAddingObjectsFromArray>()
+      .method<"subarrayWithRange:", &subarrayWithRange>()
+      .method<"componentsJoinedByString:", &componentsJoinedByString>()
+      .method<"sortedArrayUsingSelector:", &sortedArrayUsingSelector>()
+      .method<"sortedArrayUsingComparator:", &sortedArrayUsingComparator>()
+      .method<"isEqual:", &isEqual>()
+      .method<"isEqualToArray:", &isEqual>()
+      .method<"hash", &count>()
+      .method<"copyWithZone:", &copyWithZone>()
+      .method<"mutableCopyWithZone:", &mutableCopyWithZone>()
+      .partial<"writeToFile:atomically:", &writeToFile>("always atomic and binary")
+      .method<"description", &describe>()
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,31 @@
+#include "simulator/foundation/NSNull.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+
+namespace sim {
+namespace {
+
+objc::Object describe(objc::Object) {
+  return string("<null>");
+}
+objc::Object copyWithZone(objc::Object self, void*) {
+  return objc::Object(objc_retain(self.get()));
+}
+
+}  // namespace
+
+objc::Object NSNull::null() {
+  static const objc::Object only = make().detach();
+  return only;
+}
+
+void NSNull::registerClass() {
+  StandIn<NSNull>("Foundation", "NSNull", "NSObject")
+      .classMethod<"null", &NSNull::null>()
+      .method<"description", &describe>()
+      .method<"copyWithZone:", &copyWithZone>()
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "objc/Class.h"
+
+namespace sim {
+
+struct NSNull : objc::Implementation<NSNull> {
+  static objc::Object null();  // the one object, never freed
+  static void registerClass();
+};
+
+}  // namespace sim

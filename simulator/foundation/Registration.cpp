@@ -1,0 +1,39 @@
+// What Foundation consists of on the simulated phone.
+#include "simulator/Frameworks.h"
+#include "simulator/foundation/NSArray.h"
+#include "simulator/foundation/NSData.h"
+#include "simulator/foundation/NSDate.h"
+#include "simulator/foundation/NSDictionary.h"
+#include "simulator/foundation/NSMutableArray.h"
+#include "simulator/foundation/NSMutableDictionary.h"
+#include "simulator/foundation/NSMutableSet.h"
+#include "simulator/foundation/NSMutableString.h"
+#include "simulator/foundation/NSNull.h"
+#include "simulator/foundation/NSNumber.h"
+#include "simulator/foundation/NSObject.h"
+#include "simulator/foundation/NSSet.h"
+#include "simulator/foundation/NSString.h"
+#include "simulator/foundation/NSThread.h"
+#include "simulator/foundation/NSValue.h"
+
+namespace sim {
+
+void registerFoundation() {
+  NSString::registerClass();
+  NSMutableString::registerClass();
+  NSValue::registerClass();
+  NSNumber::registerClass();
+  NSDate::registerClass();
+  NSData::registerClass();
+  NSNull::registerClass();
+  NSArray::registerClass();
+  NSMutableArray::registerClass();
+  NSDictionary::registerClass();
+  NSMutableDictionary::registerClass();
+  NSSet::registerClass();
+  NSMutableSet::registerClass();
+  NSThread::registerClass();
+  addObjectMethods();  // some of it is for the collections
+}
+
+}  // namespace sim

@@ -27,4 +27,9 @@ void Clock::setWall(double secondsSinceReferenceDate) {
   wallAtZero_ = secondsSinceReferenceDate - seconds(uptime_);
 }
 
+void Clock::restore(Nanoseconds uptime, double wallAtZero) {
+  uptime_ = uptime;
+  wallAtZero_ = wallAtZero;
+}
+
 }  // namespace sim

@@ -24,6 +24,10 @@ class Clock {
   void advanceTo(Nanoseconds uptime);
   void setWall(double secondsSinceReferenceDate);
 
+  // What a restart of the host carries over, exactly.
+  double wallAtZero() const { return wallAtZero_; }
+  void restore(Nanoseconds uptime, double wallAtZero);
+
  private:
   Nanoseconds uptime_ = 0;
   double wallAtZero_ = 820533600.0;  // 2027-01-01 22:00:00 UTC: every night starts alike

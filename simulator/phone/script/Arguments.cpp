@@ -9,7 +9,7 @@ namespace sim {
 namespace {
 
 std::string shown(const Word& word) {
-  return word.quoted ? quoted(word.text) : word.text;
+  return word.quoted ? sim::quoted(word.text) : word.text;
 }
 
 [[noreturn]] void failWord(const Word& word, std::string_view what) {

@@ -1,0 +1,40 @@
+// The host process: the home screen's application with the extensions loaded into it.
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <vector>
+
+namespace sim {
+
+class HostError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+class Host {
+ public:
+  // Paths of the extensions, in loading order; none are loaded yet.
+  explicit Host(std::vector<std::filesystem::path> extensions)
+      : extensions_(std::move(extensions)) {}
+
+  // The classes and functions of the frameworks, as the phone's set-up has them. Once a process.
+  void registerClasses();
+  // Loads the extensions, launches the home screen and runs what is due. Once a process. Throws
+  // HostError when an extension cannot be loaded.
+  void launch();
+  bool isLaunched() const { return launched_; }
+
+  // What an extension exports under that name; nullptr when none does.
+  void* symbol(const char* name) const;
+
+  const std::vector<std::filesystem::path>& extensions() const { return extensions_; }
+
+ private:
+  std::vector<std::filesystem::path> extensions_;
+  std::vector<void*> handles_;  // never closed: classes and hooks point into them
+  bool registered_ = false;
+  bool launched_ = false;
+};
+
+}  // namespace sim

@@ -1,0 +1,27 @@
+// The whole script language is this list.
+#include "simulator/phone/script/Commands.h"
+
+#include "simulator/phone/script/PhoneCommands.h"
+
+namespace sim {
+
+void addPhoneCommands(CommandTable& table) {
+  addSetupCommands(table);
+  addHostCommands(table);
+  addMessageCommands(table);
+  addFunctionCommands(table);
+  addExpectCommands(table);
+  addJournalCommands(table);
+  addReflectionCommands(table);
+}
+
+CommandTable allCommands() {
+  CommandTable table;
+  addPhoneCommands(table);
+  addFoundationCommands(table);
+  addPreferencesCommands(table);
+  addPlayerCommands(table);
+  return table;
+}
+
+}  // namespace sim

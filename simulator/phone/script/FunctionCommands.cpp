@@ -1,0 +1,73 @@
+#include <stdexcept>
+
+#include "simulator/phone/script/Invocation.h"
+#include "simulator/phone/script/Literal.h"
+#include "simulator/phone/script/MessageCommands.h"
+#include "simulator/phone/script/PhoneCommands.h"
+#include "simulator/phone/script/Session.h"
+
+namespace sim {
+namespace {
+
+void* exportedSymbol(const Word& name) {
+  void* found = Session::current().host.symbol(name.text.c_str());
+  if (found == nullptr) throw ScriptError(name.column, "no loaded extension exports " + name.text);
+  return found;
+}
+
+void call(Arguments& arguments) {
+  Session& session = Session::current();
+  const Word name = arguments.word("a function");
+  void* function = exportedSymbol(name);
+  const std::string* types = session.functions.types(name.text);
+  if (types == nullptr)
+    throw ScriptError(name.column, "the types of " + name.text + " are not known: declare them");
+  const Signature signature = parseFunctionTypes(*types);
+  session.last = callFunction(function, signature, readArguments(arguments, signature));
+}
+
+void declare(Arguments& arguments) {
+  const std::string name = arguments.text("a function");
+  const Word types = arguments.word("an encoding such as \"@i\"");
+  try {
+    Session::current().functions.declare(name, types.text);
+  } catch (const std::invalid_argument& error) {
+    throw ScriptError(types.column, error.what());
+  }
+}
+
+TypeEncoding readType(Arguments& arguments) {
+  const Word& word = arguments.word("an encoding such as B");
+  try {
+    return parseType(word.text);
+  } catch (const std::invalid_argument& error) {
+    throw ScriptError(word.column, error.what());
+  }
+}
+
+void expectVariable(Arguments& arguments) {
+  const Word name = arguments.word("an exported variable");
+  const TypeEncoding type = readType(arguments);
+  const Literal expected = readLiteral(arguments, "a value");
+  const double tolerance = readTolerance(arguments);
+  arguments.finish();
+  Value found(type);
+  std::memcpy(found.bytes(), exportedSymbol(name), type.size());
+  found.keepObject();
+  requireMatch(found, expected, tolerance, name.text);
+}
+
+}  // namespace
+
+void addFunctionCommands(CommandTable& table) {
+  table.add({"call", Stage::running, "call FUNCTION [ARGUMENTS…]", "call timeFormatted 3725",
+             "Calls a C function that an extension exports; its result is the last value.", call});
+  table.add({"declare", Stage::any, "declare FUNCTION ENCODING", "declare timeFormatted \"@i\"",
+             "Says what a function gives and takes, for `call`: result and arguments.", declare});
+  table.add({"expect-variable", Stage::running,
+             "expect-variable NAME ENCODING VALUE [within TOLERANCE]",
+             "expect-variable shouldReplaceRoutingActionByDozewell B NO",
+             "Requires the value of a variable that an extension exports.", expectVariable});
+}
+
+}  // namespace sim

@@ -1,0 +1,127 @@
+#include "simulator/phone/script/HostCommands.h"
+
+#include "objc/Message.h"
+#include "simulator/phone/script/PhoneCommands.h"
+#include "simulator/phone/script/Restart.h"
+
+namespace sim {
+namespace {
+
+void boot(Arguments& arguments) {
+  arguments.finish();
+  Session& session = Session::current();
+  session.host.registerClasses();
+  session.state = HostState::running;
+  session.host.launch();
+}
+
+void advance(Arguments& arguments) {
+  const Nanoseconds duration = arguments.duration("a duration");
+  arguments.finish();
+  advanceTo(Session::current().phone.clock.uptime() + duration);
+}
+
+void advanceToUptime(Arguments& arguments) {
+  const Nanoseconds now = Session::current().phone.clock.uptime();
+  const Nanoseconds until = nanoseconds(arguments.number("seconds since the phone's start"));
+  arguments.finish();
+  if (until < now)
+    throw ScriptError(0, "time only moves forward: it is " + notation(seconds(now)) + " already");
+  advanceTo(until);
+}
+
+void moveWallClock(Arguments& arguments) {
+  const Word& word = arguments.word("+DURATION or -DURATION");
+  const char sign = word.quoted || word.text.empty() ? '\0' : word.text[0];
+  if (sign != '+' && sign != '-')
+    throw ScriptError(word.column, "expected +DURATION or -DURATION, found " + word.text);
+  Arguments amount({{word.text.substr(1), false, word.column + 1}}, word.column + 1);
+  const double distance = seconds(amount.duration("a duration"));
+  Clock& clock = Session::current().phone.clock;
+  clock.setWall(clock.wall() + (sign == '+' ? distance : -distance));
+}
+
+void kill(Arguments& arguments) {
+  arguments.finish();
+  endHostProcess(std::nullopt);
+}
+
+void killAt(Arguments& arguments) {
+  const long count = arguments.integer("a number of journal lines");
+  Session& session = Session::current();
+  const auto recorded = long(session.phone.journal.entries().size());
+  if (count <= recorded)
+    throw ScriptError(0, "expected a number of journal lines above " + std::to_string(recorded) +
+                             ", found " + std::to_string(count));
+  session.killPoints.insert(std::size_t(count));
+}
+
+// An orderly end: what is due runs, and user defaults reach the disk.
+void endInOrder(Session& session) {
+  session.phone.queue.runDue();
+  const id defaults = objc::send<id, "standardUserDefaults">(objc_getClass("NSUserDefaults"));
+  objc::send<bool, "synchronize">(defaults);
+}
+
+void respring(Arguments& arguments) {
+  Session& session = Session::current();
+  Nanoseconds relaunchAt = session.phone.clock.uptime();
+  if (arguments.takeKeyword("after")) relaunchAt += arguments.duration("a duration");
+  arguments.finish();
+  if (session.state == HostState::off) throw ScriptError(0, "respring belongs after boot");
+  if (session.state == HostState::dead) return relaunchHost(relaunchAt);
+  endInOrder(session);
+  endHostProcess(relaunchAt);
+}
+
+}  // namespace
+
+void advanceTo(Nanoseconds uptime) {
+  Session& session = Session::current();
+  session.advanceUntil = uptime;
+  session.phone.queue.runUntil(uptime);
+  session.advanceUntil.reset();
+}
+
+void relaunchHost(Nanoseconds uptime) {
+  Session& session = Session::current();
+  session.phone.queue.runUntil(uptime);
+  session.state = HostState::running;
+  session.host.launch();
+}
+
+void watchKillPoints() {
+  Session::current().phone.journal.observe([](const JournalEntry&) {
+    Session& session = Session::current();
+    if (session.state != HostState::running) return;
+    const Phone& phone = session.phone;
+    if (session.killPoints.erase(phone.journal.entries().size()) > 0)
+      endHostProcess(phone.clock.uptime());
+  });
+}
+
+void addHostCommands(CommandTable& table) {
+  table.add({"boot", Stage::setup, "boot", "boot",
+             "Ends the set-up, loads the extension, launches the home screen and runs what is due.",
+             boot});
+  table.add({"advance", Stage::running, "advance DURATION", "advance 90s",
+             "Lets virtual time pass, with everything that falls due on the way.", advance});
+  table.add({"advance-to", Stage::running, "advance-to SECONDS", "advance-to 2701.5",
+             "Lets virtual time pass up to this many seconds since the phone's start.",
+             advanceToUptime});
+  table.add({"wall-clock", Stage::any, "wall-clock +DURATION|-DURATION", "wall-clock -1h",
+             "Moves the wall clock, as a user or the network may; timers by uptime do not notice.",
+             moveWallClock});
+  table.add({"kill", Stage::running, "kill", "kill",
+             "The host dies here without an orderly end; `respring` brings it back.", kill});
+  table.add({"kill-at", Stage::any, "kill-at N", "kill-at 3",
+             "The host will die the moment the journal's N-th line is written, and be launched "
+             "again at once; a running `advance` goes on with the new host.",
+             killAt});
+  table.add({"respring", Stage::any, "respring [after DURATION]", "respring after 30s",
+             "Restarts the host: in order (user defaults are saved) when it runs, or after it "
+             "died; $variables are lost.",
+             respring});
+}
+
+}  // namespace sim

@@ -1,0 +1,84 @@
+#include "simulator/phone/script/Interpreter.h"
+
+#include <exception>
+
+#include "objc/Ownership.h"
+#include "simulator/phone/script/HostCommands.h"
+
+namespace sim {
+namespace {
+
+constexpr std::string_view endOfSetup = "boot";
+
+}  // namespace
+
+void Interpreter::play() {
+  requireKnownCommands();
+  watchKillPoints();
+  playFrom(0);
+}
+
+void Interpreter::resume(const RestartState& state) {
+  repeatSetup();
+  restoreSession(session_, state);
+  watchKillPoints();
+  if (state.relaunchAt) relaunchHost(*state.relaunchAt);
+  if (state.advanceUntil) advanceTo(*state.advanceUntil);
+  playFrom(state.lineNumber + 1);
+}
+
+// Before anything runs: a misspelt command late in a script is found at once.
+void Interpreter::requireKnownCommands() const {
+  for (const ScriptLine& line : lines_) {
+    const Word& name = line.words.front();
+    if (name.quoted || table_.find(name.text) == nullptr)
+      throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
+  }
+}
+
+void Interpreter::playFrom(std::size_t lineNumber) {
+  for (const ScriptLine& line : lines_) {
+    if (line.number >= lineNumber) run(line);
+  }
+}
+
+// What kind of phone it is, is not on its disk: the script says it again.
+void Interpreter::repeatSetup() {
+  for (const ScriptLine& line : lines_) {
+    const std::string& name = line.words.front().text;
+    if (name == endOfSetup) return;
+    if (table_.find(name)->stage == Stage::setup) run(line);
+  }
+}
+
+void Interpreter::run(const ScriptLine& line) {
+  const Word& name = line.words.front();
+  const Command& command = *table_.find(name.text);
+  session_.lineNumber = line.number;
+  try {
+    requireStage(command);
+    const objc::AutoreleasePool pool;
+    Arguments arguments({line.words.begin() + 1, line.words.end()}, line.endColumn);
+    command.run(arguments);
+    arguments.finish();
+    // A person cannot do two things within one turn of the phone's main queue.
+    session_.phone.queue.runDue();
+  } catch (const ScriptError& error) {
+    throw ScriptParseError(line.number,
+                           {error.column == 0 ? name.column : error.column, error.what()});
+  } catch (const std::exception& error) {
+    throw ScriptParseError(line.number, {name.column, error.what()});
+  }
+}
+
+void Interpreter::requireStage(const Command& command) const {
+  const HostState state = session_.state;
+  if (command.stage == Stage::setup && state != HostState::off)
+    throw ScriptError(0, command.name + " belongs before boot");
+  if (command.stage == Stage::running && state == HostState::off)
+    throw ScriptError(0, command.name + " belongs after boot");
+  if (command.stage == Stage::running && state == HostState::dead)
+    throw ScriptError(0, command.name + " needs a running host: it has died, respring first");
+}
+
+}  // namespace sim

@@ -1,0 +1,162 @@
+#include "simulator/phone/script/Invocation.h"
+
+#include <ffi.h>
+
+#include <deque>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "objc/Message.h"
+
+namespace sim {
+namespace {
+
+// libffi's description of types; structures need storage that lives as long as the call.
+class CallTypes {
+ public:
+  ffi_type* of(const TypeEncoding& type) {
+    switch (type.kind) {
+      case 'v':
+        return &ffi_type_void;
+      case 'c':
+        return &ffi_type_sint8;
+      case 'C':
+      case 'B':
+        return &ffi_type_uint8;
+      case 's':
+        return &ffi_type_sint16;
+      case 'S':
+        return &ffi_type_uint16;
+      case 'i':
+        return &ffi_type_sint32;
+      case 'I':
+        return &ffi_type_uint32;
+      case 'l':
+      case 'q':
+        return &ffi_type_sint64;
+      case 'L':
+      case 'Q':
+        return &ffi_type_uint64;
+      case 'f':
+        return &ffi_type_float;
+      case 'd':
+        return &ffi_type_double;
+      case '{':
+        return structure(type);
+      default:
+        return &ffi_type_pointer;
+    }
+  }
+
+ private:
+  ffi_type* structure(const TypeEncoding& type) {
+    std::vector<ffi_type*> elements;
+    for (const TypeEncoding& member : type.members) elements.push_back(of(member));
+    elements.push_back(nullptr);
+    elements_.push_back(std::move(elements));
+    structures_.push_back({0, 0, FFI_TYPE_STRUCT, elements_.back().data()});
+    return &structures_.back();
+  }
+
+  // Deques: growing moves nothing.
+  std::deque<std::vector<ffi_type*>> elements_;
+  std::deque<ffi_type> structures_;
+};
+
+// `arguments` includes self and _cmd for a message.
+Value perform(void (*entry)(), const TypeEncoding& result, std::vector<Value>& arguments) {
+  CallTypes types;
+  std::vector<ffi_type*> argumentTypes;
+  std::vector<void*> places;
+  for (Value& argument : arguments) {
+    argumentTypes.push_back(types.of(argument.type()));
+    places.push_back(argument.bytes());
+  }
+  ffi_cif call;
+  if (ffi_prep_cif(&call, FFI_DEFAULT_ABI, unsigned(places.size()), types.of(result),
+                   argumentTypes.data()) != FFI_OK)
+    throw std::invalid_argument("the call cannot be prepared");
+  Value answer(result);  // its bytes are more than one register, which libffi may fill whole
+  ffi_call(&call, entry, answer.bytes(), places.data());
+  return answer;
+}
+
+template <class Pointer>
+Value pointerValue(const char* type, Pointer pointer) {
+  Value value(parseType(type));
+  std::memcpy(value.bytes(), &pointer, sizeof pointer);
+  return value;
+}
+
+void requireCount(const Signature& signature, const std::vector<Value>& arguments) {
+  if (signature.arguments.size() != arguments.size())
+    throw std::invalid_argument("expected " + std::to_string(signature.arguments.size()) +
+                                " arguments, found " + std::to_string(arguments.size()));
+}
+
+// "newTimer" and "new" are of the family "new", "newsstand" is not.
+bool isOfFamily(std::string_view selector, std::string_view family) {
+  selector.remove_prefix(std::min(selector.find_first_not_of('_'), selector.size()));
+  if (!selector.starts_with(family)) return false;
+  const char next = selector.size() == family.size() ? ':' : selector[family.size()];
+  return next < 'a' || next > 'z';
+}
+
+bool givesOwnership(std::string_view selector) {
+  for (const char* family : {"alloc", "new", "copy", "mutableCopy", "init"}) {
+    if (isOfFamily(selector, family)) return true;
+  }
+  return false;
+}
+
+void (*messageEntry(const TypeEncoding& result))() {
+#if defined(__x86_64__)
+  // Only x86-64 has an entry point of its own for results in memory.
+  if (result.kind == '{' && result.size() > 16) return &objc_msgSend_stret;
+#else
+  static_cast<void>(result);
+#endif
+  return &objc_msgSend;
+}
+
+}  // namespace
+
+std::optional<Signature> methodSignature(objc::Object receiver, SEL selector) {
+  const Method method = class_getInstanceMethod(object_getClass(receiver.get()), selector);
+  if (method == nullptr) return std::nullopt;
+  const char* types = method_getTypeEncoding(method);
+  if (types == nullptr) throw std::invalid_argument("the method has no type encoding");
+  return parseMethodTypes(types);
+}
+
+Value sendMessage(objc::Object receiver, SEL selector, const Signature& signature,
+                  std::vector<Value> arguments) {
+  requireCount(signature, arguments);
+  const std::string_view name = sel_getName(selector);
+  // init consumes its receiver, which the caller goes on to hold.
+  if (isOfFamily(name, "init")) objc_retain(receiver.get());
+  arguments.insert(arguments.begin(),
+                   {pointerValue("@", receiver.get()), pointerValue(":", selector)});
+  Value answer = perform(messageEntry(signature.result), signature.result, arguments);
+  if (answer.type().kind == '@' && givesOwnership(name))
+    return Value::ofOwned(objc::adopt(answer.object()));
+  answer.keepObject();
+  return answer;
+}
+
+Value callFunction(void* function, const Signature& signature, std::vector<Value> arguments) {
+  requireCount(signature, arguments);
+  Value answer = perform(reinterpret_cast<void (*)()>(function), signature.result, arguments);
+  answer.keepObject();
+  return answer;
+}
+
+std::optional<Value> sendIfKnown(objc::Object receiver, const std::string& selector) {
+  const SEL name = sel_registerName(selector.c_str());
+  const auto signature = methodSignature(receiver, name);
+  if (!signature || !signature->arguments.empty()) return std::nullopt;
+  return sendMessage(receiver, name, *signature, {});
+}
+
+}  // namespace sim

@@ -1,0 +1,12 @@
+// What the commands that send messages and call functions share.
+#pragma once
+
+#include "simulator/phone/script/Command.h"
+#include "simulator/phone/script/Value.h"
+
+namespace sim {
+
+// Every remaining word, as arguments of these types.
+std::vector<Value> readArguments(Arguments& arguments, const Signature& signature);
+
+}  // namespace sim

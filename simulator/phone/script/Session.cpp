@@ -1,0 +1,33 @@
+#include "simulator/phone/script/Session.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace sim {
+namespace {
+
+Session* theCurrent = nullptr;
+
+}  // namespace
+
+Session::Session(SessionOptions givenOptions)
+    : options(std::move(givenOptions)), phone(options.root), host(options.extensions) {
+  theCurrent = this;
+}
+
+Session::~Session() {
+  // The objects they keep may ask for the session on their way out.
+  variables = {};
+  last.reset();
+  theCurrent = nullptr;
+}
+
+Session& Session::current() {
+  if (theCurrent == nullptr) {
+    std::fputs("sim::Session::current() is used outside a script\n", stderr);
+    std::abort();
+  }
+  return *theCurrent;
+}
+
+}  // namespace sim

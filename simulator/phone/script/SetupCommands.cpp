@@ -1,0 +1,79 @@
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+
+#include "simulator/phone/script/PhoneCommands.h"
+#include "simulator/phone/script/Session.h"
+
+namespace sim {
+namespace {
+
+Setup& setup() {
+  return Session::current().phone.setup;
+}
+
+void systemVersion(Arguments& arguments) {
+  const Word& word = arguments.word("a version such as 15.4");
+  const bool isVersion = !word.text.empty() && word.text.front() != '.' &&
+                         word.text.back() != '.' && word.text.find("..") == std::string::npos &&
+                         word.text.find_first_not_of("0123456789.") == std::string::npos;
+  if (!isVersion)
+    throw ScriptError(word.column, "expected a version such as 15.4, found " + word.text);
+  setup().systemVersion = word.text;
+}
+
+void locale(Arguments& arguments) {
+  const Word& word = arguments.word("a locale such as en_US");
+  const bool isIdentifier =
+      word.text.size() >= 2 && std::all_of(word.text.begin(), word.text.end(), [](char letter) {
+        return std::isalnum(static_cast<unsigned char>(letter)) || letter == '_' || letter == '-';
+      });
+  if (!isIdentifier)
+    throw ScriptError(word.column, "expected a locale such as en_US, found " + word.text);
+  setup().locale = word.text;
+}
+
+void process(Arguments& arguments) {
+  setup().processName = arguments.text("the name of a process");
+}
+
+void missing(Arguments& arguments) {
+  const std::string cls = arguments.text("the name of a class");
+  if (arguments.atEnd())
+    setup().missingClasses.insert(cls);
+  else
+    setup().missingMethods.insert(cls + ' ' + arguments.text("a selector"));
+}
+
+void file(Arguments& arguments) {
+  const Word path = arguments.word("a path of the phone");
+  const std::string text = arguments.text("the file's text");
+  arguments.finish();
+  if (!path.text.starts_with('/'))
+    throw ScriptError(path.column, "expected an absolute path, found " + path.text);
+  const auto place = Session::current().phone.file(path.text);
+  std::filesystem::create_directories(place.parent_path());
+  std::ofstream stream(place, std::ios::binary);
+  stream << text;
+  stream.close();
+  if (!stream) throw ScriptError(path.column, path.text + ": " + std::strerror(errno));
+}
+
+}  // namespace
+
+void addSetupCommands(CommandTable& table) {
+  table.add({"ios", Stage::setup, "ios VERSION", "ios 16.1.2", "Sets the version of the system.",
+             systemVersion});
+  table.add({"locale", Stage::setup, "locale ID", "locale ar_SA", "Sets the language and region.",
+             locale});
+  table.add({"process", Stage::setup, "process NAME", "process Preferences",
+             "Names the process that the extension is loaded into; without it, SpringBoard.",
+             process});
+  table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]", "missing SBMediaController pause",
+             "Leaves a class of the system, or one of its methods, out of the phone.", missing});
+  table.add({"file", Stage::any, "file PATH TEXT", R"(file "/var/mobile/note.txt" "two\nlines\n")",
+             "Writes a file of the phone, with the folders on its way.", file});
+}
+
+}  // namespace sim

@@ -1,0 +1,183 @@
+#include "simulator/phone/script/TypeEncoding.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace sim {
+namespace {
+
+constexpr std::string_view integers = "cCsSiIlLqQ";
+constexpr int deepestNesting = 16;
+
+// Reads one encoding from left to right.
+class Reader {
+ public:
+  explicit Reader(std::string_view text) : text_(text) {}
+
+  bool atEnd() {
+    skipInformation();
+    return at_ == text_.size();
+  }
+
+  TypeEncoding type(int depth = 0) {
+    skipInformation();
+    if (depth > deepestNesting) fail("is nested too deeply");
+    if (at_ == text_.size()) fail("ends too early");
+    const char letter = text_[at_++];
+    if (letter == '{') return structure(depth);
+    if (letter == '^') return {'^', "^" + pointee(depth), {}};
+    if (letter == '@') return object();
+    if (integers.find(letter) != none || std::string_view("fdBv#:*?").find(letter) != none)
+      return {letter, std::string(1, letter), {}};
+    fail(std::string("has a type that no method passes by value: ") + letter);
+  }
+
+ private:
+  static constexpr std::size_t none = std::string_view::npos;
+
+  [[noreturn]] void fail(const std::string& why) const {
+    throw std::invalid_argument("the encoding \"" + std::string(text_) + "\" " + why);
+  }
+
+  // Frame offsets and const, in, out, … ; member names in structures.
+  void skipInformation() {
+    while (at_ < text_.size()) {
+      if (text_[at_] == '"')
+        skipName();
+      else if (std::string_view("0123456789+-rnNoORVA").find(text_[at_]) != none)
+        ++at_;
+      else
+        return;
+    }
+  }
+
+  void skipName() {
+    const std::size_t close = text_.find('"', at_ + 1);
+    if (close == none) fail("has an open quote");
+    at_ = close + 1;
+  }
+
+  TypeEncoding object() {
+    if (at_ < text_.size() && text_[at_] == '?') {
+      ++at_;
+      return {'@', "@?", {}};
+    }
+    if (at_ < text_.size() && text_[at_] == '"') skipName();
+    return {'@', "@", {}};
+  }
+
+  TypeEncoding structure(int depth) {
+    const std::size_t name = at_;
+    const std::size_t equals = text_.find_first_of("={}", at_);
+    if (equals == none || text_[equals] != '=') fail("has a structure without members");
+    at_ = equals + 1;
+    TypeEncoding made{'{', "{" + std::string(text_.substr(name, equals - name)) + "=", {}};
+    for (;;) {
+      skipInformation();
+      if (at_ < text_.size() && text_[at_] == '}') break;
+      made.members.push_back(type(depth + 1));
+      made.text += made.members.back().text;
+    }
+    ++at_;
+    if (made.members.empty()) fail("has a structure without members");
+    made.text += '}';
+    return made;
+  }
+
+  // Nothing is passed through a pointer by value, so its target may be anything.
+  std::string pointee(int depth) {
+    skipInformation();
+    if (at_ < text_.size() && text_[at_] == '{' && text_.find('=', at_) == none) {
+      const std::size_t close = text_.find('}', at_);
+      if (close == none) fail("ends too early");
+      const auto opaque = text_.substr(at_, close + 1 - at_);
+      at_ = close + 1;
+      return std::string(opaque);
+    }
+    return type(depth + 1).text;
+  }
+
+  std::string_view text_;
+  std::size_t at_ = 0;
+};
+
+std::vector<TypeEncoding> parseAll(std::string_view text) {
+  std::vector<TypeEncoding> types;
+  for (Reader reader(text); !reader.atEnd();) types.push_back(reader.type());
+  if (types.empty()) throw std::invalid_argument("the encoding is empty");
+  return types;
+}
+
+std::size_t scalarSize(char kind) {
+  switch (kind) {
+    case 'v':
+      return 0;
+    case 'c':
+    case 'C':
+    case 'B':
+      return 1;
+    case 's':
+    case 'S':
+      return 2;
+    case 'i':
+    case 'I':
+    case 'f':
+      return 4;
+    default:
+      return 8;
+  }
+}
+
+}  // namespace
+
+bool TypeEncoding::isInteger() const {
+  return integers.find(kind) != std::string_view::npos;
+}
+
+bool TypeEncoding::isFloating() const {
+  return kind == 'f' || kind == 'd';
+}
+
+std::size_t TypeEncoding::alignment() const {
+  if (kind != '{') return std::max<std::size_t>(scalarSize(kind), 1);
+  std::size_t most = 1;
+  for (const TypeEncoding& member : members) most = std::max(most, member.alignment());
+  return most;
+}
+
+std::size_t TypeEncoding::size() const {
+  if (kind != '{') return scalarSize(kind);
+  const auto aligned = [](std::size_t at, std::size_t to) { return (at + to - 1) / to * to; };
+  std::size_t end = 0;
+  for (const TypeEncoding& member : members) end = aligned(end, member.alignment()) + member.size();
+  return aligned(end, alignment());
+}
+
+TypeEncoding parseType(std::string_view text) {
+  auto types = parseAll(text);
+  if (types.size() != 1)
+    throw std::invalid_argument("the encoding \"" + std::string(text) + "\" is not one type");
+  return std::move(types.front());
+}
+
+Signature parseFunctionTypes(std::string_view text) {
+  auto types = parseAll(text);
+  return {types.front(), {types.begin() + 1, types.end()}};
+}
+
+Signature parseMethodTypes(std::string_view text) {
+  Signature signature = parseFunctionTypes(text);
+  auto& arguments = signature.arguments;
+  if (arguments.size() < 2 || !arguments[0].isObject() || arguments[1].kind != ':')
+    throw std::invalid_argument("the encoding \"" + std::string(text) + "\" is not a method's");
+  arguments.erase(arguments.begin(), arguments.begin() + 2);
+  return signature;
+}
+
+std::string normalizedTypes(std::string_view text) {
+  std::string joined;
+  for (const TypeEncoding& type : parseAll(text)) joined += type.text;
+  return joined;
+}
+
+}  // namespace sim

@@ -1,0 +1,8 @@
+// dozewell-simulator fidelity
+#pragma once
+
+namespace sim {
+
+int printFidelity();
+
+}  // namespace sim

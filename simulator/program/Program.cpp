@@ -1,0 +1,41 @@
+#include "simulator/program/Program.h"
+
+#include <cstdio>
+#include <iostream>
+
+#include "simulator/program/FidelityCommand.h"
+#include "simulator/program/Options.h"
+#include "simulator/program/PlayCommand.h"
+#include "simulator/program/ReferenceCommand.h"
+
+namespace sim {
+
+int runProgram(const std::vector<std::string>& words) {
+  // Line by line: what was printed is not lost when an extension stops the program.
+  std::setvbuf(stdout, nullptr, _IOLBF, 0);
+  try {
+    const Options options = parseOptions(words);
+    switch (options.action) {
+      case Action::help:
+        std::cout << usageText();
+        return 0;
+      case Action::play:
+        return playScripts(options);
+      case Action::resume:
+        return resumeScript(options.files.front());
+      case Action::fidelity:
+        return printFidelity();
+      case Action::commands:
+        return printReference();
+    }
+  } catch (const UsageError& error) {
+    std::cerr << "dozewell-simulator: " << error.what() << "\n\n" << usageText();
+    return 2;
+  } catch (const std::exception& error) {
+    std::cerr << "dozewell-simulator: " << error.what() << '\n';
+    return 1;
+  }
+  return 2;
+}
+
+}  // namespace sim

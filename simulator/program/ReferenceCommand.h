@@ -1,0 +1,8 @@
+// dozewell-simulator commands
+#pragma once
+
+namespace sim {
+
+int printReference();
+
+}  // namespace sim

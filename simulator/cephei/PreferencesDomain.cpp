@@ -18,7 +18,7 @@ objc::Object readDictionary(const std::filesystem::path& file) {
   std::string error;
   const objc::Object content = readPropertyList(file, &error);
   if (isKindOf(content, "NSDictionary")) return content;
-  setAsideUnreadable(file, content ? "its root is no dictionary" : error);
+  setAsideUnreadable(file, content ? file.string() + ": its root is no dictionary" : error);
   return nullptr;
 }
 
@@ -53,7 +53,7 @@ void PreferencesDomain::save() const {
   const auto file = preferencesFile(name_);
   std::string error;
   if (!writePropertyList(stored(), file, &error))
-    std::fprintf(stderr, "%s: cannot be written: %s\n", file.c_str(), error.c_str());
+    std::fprintf(stderr, "%s: not written: %s\n", file.c_str(), error.c_str());
 }
 
 void PreferencesDomain::reload() {

@@ -20,8 +20,7 @@ void setAsideUnreadable(const std::filesystem::path& file, const std::string& re
   std::filesystem::rename(file, kept, failure);
   const std::string fate =
       failure ? "it cannot be moved away: " + failure.message() : "kept as " + kept.string();
-  std::fprintf(stderr, "%s: not a readable preferences file (%s); %s; its domain counts as empty\n",
-               file.c_str(), reason.c_str(), fate.c_str());
+  std::fprintf(stderr, "%s; %s; the preferences count as empty\n", reason.c_str(), fate.c_str());
 }
 
 }  // namespace sim

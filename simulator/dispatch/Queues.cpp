@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -35,7 +37,7 @@ void enqueue(sim::Nanoseconds due, dispatch_queue_t queue, std::function<void()>
 
 void runNow(dispatch_queue_t queue, const std::function<void()>& work) {
   if (queue != &_dispatch_main_q) return work();  // on the caller's thread, as the platform does
-  if (sim::isMainThread()) {
+  if (gettid() == getpid()) {                     // the thread that the program started on
     std::fputs("dispatch_sync called on the main queue from the main thread\n", stderr);
     std::abort();
   }

@@ -1,7 +1,5 @@
 #include "simulator/dispatch/WorkerThread.h"
 
-#include <unistd.h>
-
 #include <condition_variable>
 #include <exception>
 #include <mutex>
@@ -54,10 +52,6 @@ class Meeting {
 thread_local Meeting* meeting = nullptr;
 
 }  // namespace
-
-bool isMainThread() {
-  return gettid() == getpid();
-}
 
 void runOnWorkerThread(const std::function<void()>& work) {
   Meeting place;

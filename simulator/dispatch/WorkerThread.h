@@ -5,9 +5,6 @@
 
 namespace sim {
 
-// Whether this is the thread that the program started on.
-bool isMainThread();
-
 // Runs the work on a thread of its own, in an autorelease pool, and waits for its end. While the
 // main thread waits it runs what the work hands to it with runOnMainThread. An exception of the
 // work is thrown again here.

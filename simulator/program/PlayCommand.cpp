@@ -24,8 +24,8 @@ void printEntry(const JournalEntry& entry) {
 // Plays from the start, or goes on after a restart.
 int playOne(const SessionOptions& options, const RestartState* state) {
   const objc::AutoreleasePool pool;
-  const CommandTable table = allCommands();
   Session session(options);
+  const CommandTable table = allCommands();
   noteScriptInCrashes(options.script.string(), session.lineNumber);
   if (!options.quiet) session.phone.journal.observe(printEntry);
   try {

@@ -2,12 +2,16 @@
 
 #include <iostream>
 
+#include "simulator/phone/Phone.h"
 #include "simulator/phone/script/Commands.h"
 #include "simulator/phone/script/Reference.h"
+#include "simulator/program/TemporaryFolder.h"
 
 namespace sim {
 
 int printReference() {
+  const TemporaryFolder folder;
+  const Phone phone(folder.path());
   std::cout << commandReference(allCommands());
   return 0;
 }

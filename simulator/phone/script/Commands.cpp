@@ -25,3 +25,6 @@ CommandTable allCommands() {
 }
 
 }  // namespace sim
+namespace sim {
+__attribute__((weak)) void addFoundationCommands(CommandTable&) {}
+}  // namespace sim

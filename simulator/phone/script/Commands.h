@@ -5,6 +5,7 @@
 
 namespace sim {
 
+// There must be a phone: some commands keep what outlives a restart in it.
 CommandTable allCommands();
 
 }  // namespace sim

@@ -34,8 +34,9 @@ void playlist(Arguments& words) {
 }
 
 void playlistFile(Arguments& words) {
-  const std::string file = words.text("the path of an M3U file");
+  const std::string named = words.text("the path of an M3U file");
   words.finish();
+  const std::string file = Phone::current().setup.playlist.value_or(named).string();
   try {
     auto tracks = readPlaylist(file);
     if (tracks.empty()) throw PlaylistError(file, 0, "names no track");
@@ -147,7 +148,8 @@ void addPlayerCommands(CommandTable& table) {
              "Loads tracks and plays the first; before boot the music starts with the host.",
              playlist});
   table.add({"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",
-             "Loads the tracks of an M3U playlist of this machine and plays the first.",
+             "Loads the tracks of an M3U playlist of this machine, or of the one that the option "
+             "--playlist names, and plays the first.",
              playlistFile});
   table.add({"repeat-one", Stage::any, "repeat-one YES|NO", "repeat-one YES",
              "Whether a track that ends begins again.", [](Arguments& words) {

@@ -1,7 +1,9 @@
 // What kind of phone is simulated: everything that is decided before it boots.
 #pragma once
 
+#include <filesystem>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -12,6 +14,7 @@ struct Setup {
   std::string systemVersion = "15.4";  // UIDevice systemVersion
   std::string locale = "en_US";        // identifier
   std::string processName = "SpringBoard";
+  std::optional<std::filesystem::path> playlist;  // M3U, instead of those that scripts name
   std::set<std::string, std::less<>> missingClasses;
   // "SBMediaController pause": the class exists without this method.
   std::set<std::string, std::less<>> missingMethods;

@@ -12,6 +12,7 @@ Session* theCurrent = nullptr;
 
 Session::Session(SessionOptions givenOptions)
     : options(std::move(givenOptions)), phone(options.root), host(options.extensions) {
+  phone.setup.playlist = options.playlist;
   theCurrent = this;
 }
 

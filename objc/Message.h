@@ -130,6 +130,18 @@ R send(Class receiver, Args... args) {
   return send<R, Name>(reinterpret_cast<id>(receiver), args...);
 }
 
+// A message that ends in "..." on the platform, with one fixed argument. Apple's arm64 passes what
+// follows the fixed arguments on the stack, so the call must go through a variadic prototype.
+template <class R, FixedString Name, class Fixed, class... Rest>
+R sendVariadic(Class receiver, Fixed fixed, Rest... rest) {
+  if (receiver == nullptr) return R();
+  const SEL name = selector<Name>();
+  id object = reinterpret_cast<id>(receiver);
+  checkSend<R, Name, Argument<Fixed>>(object, name);
+  auto entry = reinterpret_cast<Wire<R> (*)(id, SEL, Wire<Fixed>, ...)>(&objc_msgSend);
+  return fromWire<R>(entry(object, name, toWire<Fixed>(fixed), toWire<Rest>(rest)...));
+}
+
 // Sends to the implementation above `implementing`, the class whose method is running.
 template <class R, FixedString Name, class... Args>
 R sendSuper(id receiver, Class implementing, Args... args) {

@@ -3,10 +3,6 @@
 
 #include "platform/Foundation.h"
 
-struct NSBundle : objc::Object {
-  using Object::Object;
-};
-
 struct CCUICAPackageDescription : objc::Object {
   using Object::Object;
 };

@@ -1,6 +1,7 @@
 // Foundation. Every result that is not marked otherwise is +0 (autoreleased).
 #pragma once
 
+#include "objc/Block.h"
 #include "objc/Message.h"
 #include "objc/Ownership.h"
 #include "platform/HostFunction.h"
@@ -11,10 +12,28 @@ struct NSString : objc::Object {
     return objc::send<NSString, "stringWithUTF8String:">(objc_getClass("NSString"), utf8);
   }
   const char* UTF8String() const { return objc::send<const char*, "UTF8String">(*this); }
+  bool isEqual(objc::Object other) const { return objc::send<bool, "isEqual:">(*this, other); }
   bool isEqualToString(NSString other) const {
     return objc::send<bool, "isEqualToString:">(*this, other);
   }
   float floatValue() const { return objc::send<float, "floatValue">(*this); }
+  bool containsString(NSString other) const {
+    return objc::send<bool, "containsString:">(*this, other);
+  }
+  NSString stringByReplacingOccurrencesOfString(NSString wanted, NSString replacement) const {
+    return objc::send<NSString, "stringByReplacingOccurrencesOfString:withString:">(*this, wanted,
+                                                                                    replacement);
+  }
+  static NSString stringWithFormat(NSString format, objc::Object argument) {
+    return objc::sendVariadic<NSString, "stringWithFormat:">(objc_getClass("NSString"), format,
+                                                             argument);
+  }
+  NSString stringByAppendingPathComponent(NSString component) const {
+    return objc::send<NSString, "stringByAppendingPathComponent:">(*this, component);
+  }
+  NSString stringByAppendingString(NSString other) const {
+    return objc::send<NSString, "stringByAppendingString:">(*this, other);
+  }
 };
 
 // A string literal as the platform's string, made when it is needed: constant strings cannot be
@@ -54,6 +73,10 @@ struct NSNumber : objc::Object {
 
 struct NSDate : objc::Object {
   using Object::Object;
+  static NSDate date() { return objc::send<NSDate, "date">(objc_getClass("NSDate")); }
+  static NSDate dateWithTimeIntervalSinceNow(double seconds) {
+    return objc::send<NSDate, "dateWithTimeIntervalSinceNow:">(objc_getClass("NSDate"), seconds);
+  }
   double timeIntervalSinceNow() const {  // seconds; negative in the past; 0 for nil
     return objc::send<double, "timeIntervalSinceNow">(*this);
   }
@@ -61,13 +84,103 @@ struct NSDate : objc::Object {
 
 struct NSDictionary : objc::Object {
   using Object::Object;
+  static NSDictionary dictionaryWithContentsOfFile(NSString path) {  // nil: not a dictionary
+    return objc::send<NSDictionary, "dictionaryWithContentsOfFile:">(objc_getClass("NSDictionary"),
+                                                                     path);
+  }
+  objc::Object objectForKey(objc::Object key) const {
+    return objc::send<objc::Object, "objectForKey:">(*this, key);
+  }
   static NSDictionary dictionary() {
     return objc::send<NSDictionary, "dictionary">(objc_getClass("NSDictionary"));
   }
 };
 
+struct NSArray : objc::Object {
+  using Object::Object;
+  objc::Strong<NSArray> copy() const { return objc::adopt(objc::send<NSArray, "copy">(*this)); }
+  unsigned long count() const { return objc::send<unsigned long, "count">(*this); }
+  objc::Object objectAtIndex(unsigned long index) const {  // raises past the end
+    return objc::send<objc::Object, "objectAtIndex:">(*this, index);
+  }
+  bool containsObject(objc::Object object) const {
+    return objc::send<bool, "containsObject:">(*this, object);
+  }
+};
+
+struct NSBundle : objc::Object {
+  using Object::Object;
+  static NSBundle bundleWithPath(NSString path) {  // nil when there is no such directory
+    return objc::send<NSBundle, "bundleWithPath:">(objc_getClass("NSBundle"), path);
+  }
+  NSString pathForResource(NSString name, NSString type) const {  // nil when it is missing
+    return objc::send<NSString, "pathForResource:ofType:">(*this, name, type);
+  }
+  // A nil table is the default one, "Localizable".
+  NSString localizedStringForKey(NSString key, NSString otherwise, NSString table) const {
+    return objc::send<NSString, "localizedStringForKey:value:table:">(*this, key, otherwise, table);
+  }
+};
+
+struct NSLocale : objc::Object {
+  using Object::Object;
+  static NSLocale currentLocale() {
+    return objc::send<NSLocale, "currentLocale">(objc_getClass("NSLocale"));
+  }
+  static NSLocale localeWithLocaleIdentifier(NSString identifier) {
+    return objc::send<NSLocale, "localeWithLocaleIdentifier:">(objc_getClass("NSLocale"),
+                                                               identifier);
+  }
+  NSString localeIdentifier() const { return objc::send<NSString, "localeIdentifier">(*this); }
+};
+
+struct NSNumberFormatter : objc::Object {
+  using Object::Object;
+  static objc::Strong<NSNumberFormatter> make() {
+    return objc::adopt(NSNumberFormatter(objc_alloc_init(objc_getClass("NSNumberFormatter"))));
+  }
+  void setLocale(NSLocale locale) const { objc::send<void, "setLocale:">(*this, locale); }
+  NSString stringFromNumber(NSNumber number) const {
+    return objc::send<NSString, "stringFromNumber:">(*this, number);
+  }
+};
+
+struct NSFileManager : objc::Object {
+  using Object::Object;
+  static NSFileManager defaultManager() {
+    return objc::send<NSFileManager, "defaultManager">(objc_getClass("NSFileManager"));
+  }
+  bool fileExistsAtPath(NSString path) const {
+    return objc::send<bool, "fileExistsAtPath:">(*this, path);
+  }
+};
+
+struct NSUserDefaults : objc::Object {
+  using Object::Object;
+  // The host process's own.
+  static NSUserDefaults standardUserDefaults() {
+    return objc::send<NSUserDefaults, "standardUserDefaults">(objc_getClass("NSUserDefaults"));
+  }
+  objc::Object objectForKey(NSString key) const {
+    return objc::send<objc::Object, "objectForKey:">(*this, key);
+  }
+  void setObject(objc::Object value, NSString key) const {
+    objc::send<void, "setObject:forKey:">(*this, value, key);
+  }
+  void removeObject(NSString key) const { objc::send<void, "removeObjectForKey:">(*this, key); }
+  bool synchronize() const { return objc::send<bool, "synchronize">(*this); }
+};
+
 struct NSTimer : objc::Object {
   using Object::Object;
+  // Runs on the current run loop, which keeps it until it is invalidated.
+  template <class Tick>
+  static NSTimer scheduledTimer(double seconds, bool repeats, Tick tick) {
+    auto block = objc::block<void(NSTimer)>([tick](NSTimer) { tick(); });
+    return objc::send<NSTimer, "scheduledTimerWithTimeInterval:repeats:block:">(
+        objc_getClass("NSTimer"), seconds, repeats, block.get());
+  }
+  void invalidate() const { objc::send<void, "invalidate">(*this); }
   NSDate fireDate() const { return objc::send<NSDate, "fireDate">(*this); }
 };
 
@@ -75,6 +188,13 @@ struct NSRunLoop : objc::Object {
   using Object::Object;
   static NSRunLoop mainRunLoop() {
     return objc::send<NSRunLoop, "mainRunLoop">(objc_getClass("NSRunLoop"));
+  }
+  // Every mode in which the user may be touching something.
+  static NSString commonModes() {
+    return NSString(platform::hostConstant<"NSRunLoopCommonModes", id>());
+  }
+  void addTimer(NSTimer timer, NSString mode) const {
+    objc::send<void, "addTimer:forMode:">(*this, timer, mode);
   }
 };
 

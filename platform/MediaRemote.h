@@ -1,6 +1,7 @@
 // MediaRemote (private): commands to whatever app is playing.
 #pragma once
 
+#include "platform/Dispatch.h"
 #include "platform/Foundation.h"
 
 namespace MediaRemote {
@@ -16,6 +17,19 @@ inline bool sendCommand(Command command, NSDictionary options) {
 inline NSString nowPlayingInfoDidChangeNotification() {
   return NSString(
       platform::hostConstant<"kMRMediaRemoteNowPlayingInfoDidChangeNotification", id>());
+}
+
+inline NSString infoTitleKey() {
+  return NSString(platform::hostConstant<"kMRMediaRemoteNowPlayingInfoTitle", id>());
+}
+
+// Calls `completion` with what plays, on the main queue; with nil when nothing does.
+template <class Completion>
+void getNowPlayingInfo(Completion completion) {
+  auto block = objc::block<void(NSDictionary)>(std::move(completion));
+  if (auto* get =
+          platform::hostFunction<"MRMediaRemoteGetNowPlayingInfo", void(dispatch_queue_t, id)>())
+    get(dispatch::mainQueue(), block.get().get());
 }
 
 }  // namespace MediaRemote

@@ -8,6 +8,15 @@ struct SpringBoard : UIApplication {
   using UIApplication::UIApplication;
 };
 
+struct SBBacklightController : objc::Object {
+  using Object::Object;
+  static SBBacklightController sharedInstance() {
+    return objc::send<SBBacklightController, "sharedInstance">(
+        objc_getClass("SBBacklightController"));
+  }
+  bool screenIsOn() const { return objc::send<bool, "screenIsOn">(*this); }
+};
+
 // The media volume and its category, iOS 13 and later.
 struct SBVolumeControl : objc::Object {
   using Object::Object;
@@ -17,6 +26,11 @@ struct SBVolumeControl : objc::Object {
   void setVolume(float volume, NSString category) const {  // clamped to 0 … 1 by the host
     objc::send<void, "setVolume:forCategory:">(*this, volume, category);
   }
+};
+
+struct SBApplication : objc::Object {
+  using Object::Object;
+  NSString bundleIdentifier() const { return objc::send<NSString, "bundleIdentifier">(*this); }
 };
 
 struct SBMediaController : NSObject {
@@ -36,6 +50,9 @@ struct SBMediaController : NSObject {
   void setVolume(float volume) const { objc::send<void, "setVolume:">(*this, volume); }
   SBVolumeControl volumeControl() const {  // iOS 13 and later
     return objc::as<SBVolumeControl>(safeValueForKey("_volumeControl"_ns));
+  }
+  SBApplication nowPlayingApplication() const {  // nil when nothing plays
+    return objc::send<SBApplication, "nowPlayingApplication">(*this);
   }
   // While on, volume changes show no indicator.
   void setSuppressHUD(bool suppress) const { objc::send<void, "setSuppressHUD:">(*this, suppress); }

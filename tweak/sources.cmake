@@ -1,7 +1,10 @@
 # The extension's sources, for both of its homes; paths from the top of the repository.
 set(DOZEWELL_TWEAK_SOURCES
+    tweak/actions/PhoneActions.cpp
+    tweak/actions/SpecialActions.cpp
     tweak/actions/SpecialTasksHelper.cpp
     tweak/actions/Volume.cpp
+    tweak/engine/CompanionTweaks.cpp
     tweak/engine/Dozewell2Manager.cpp
     tweak/engine/Persistence.cpp
     tweak/engine/TrackCounting.cpp
@@ -10,7 +13,12 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/hooks/Startup.cpp
     tweak/hooks/Tracing.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp
+    tweak/indicators/LockScreen.cpp
+    tweak/indicators/TimeFormat.cpp
     tweak/panel/Dozewell2ViewController.cpp
     tweak/settings/Dozewell2StorageManager.cpp
     tweak/settings/Registration.cpp
+    tweak/support/BundleHelper.cpp
+    tweak/support/HapticFeedbackHelper.cpp
+    tweak/support/LocalizationHelper.cpp
     tweak/support/Log.cpp)

@@ -21,10 +21,6 @@ void SpecialTasksHelper::skipSong() {
   MediaRemote::sendCommand(MediaRemote::Command::nextTrack, nullptr);
 }
 
-void SpecialTasksHelper::performSpecialActionsOnTimerStart() {}
-
-void SpecialTasksHelper::performSpecialActionsOnTimerEnd() {}
-
 Class SpecialTasksHelper::registerClass() {
   using Tasks = SpecialTasksHelper;
   return objc::ClassBuilder<Tasks>("SpecialTasksHelper", "NSObject")
@@ -40,5 +36,12 @@ Class SpecialTasksHelper::registerClass() {
       .method<"skipSong", &Tasks::skipSong>()
       .method<"performSpecialActionsOnTimerStart", &Tasks::performSpecialActionsOnTimerStart>()
       .method<"performSpecialActionsOnTimerEnd", &Tasks::performSpecialActionsOnTimerEnd>()
+      .method<"enablePlaneMode", &Tasks::enablePlaneMode>()
+      .method<"enableDND", &Tasks::enableDND>()
+      .method<"disconnectBluetoothDevice:", &Tasks::disconnectBluetoothDevice>()
+      .method<"disableBluetooth", &Tasks::disableBluetooth>()
+      .method<"setCustomVolume", &Tasks::setCustomVolume>()
+      .method<"executeShortcutIfPossibleWithName:", &Tasks::executeShortcutIfPossibleWithName>()
+      .method<"killNowPlayingApp", &Tasks::killNowPlayingApp>()
       .finish();
 }

@@ -21,8 +21,18 @@ struct SpecialTasksHelper : objc::Implementation<SpecialTasksHelper> {
   SBVolumeControl getSBVolumeControl();
   void skipSong();
 
+  // The actions that the user has chosen, in a fixed order, each setting read just before its
+  // step. None waits for another, and none is skipped because another failed.
   void performSpecialActionsOnTimerStart();
   void performSpecialActionsOnTimerEnd();
+
+  void enablePlaneMode();
+  void enableDND();
+  void disconnectBluetoothDevice(NSString name);  // all of that exact name; nil: every device
+  void disableBluetooth();
+  void setCustomVolume();
+  void executeShortcutIfPossibleWithName(NSString name);
+  void killNowPlayingApp();
 
   static Class registerClass();
 };

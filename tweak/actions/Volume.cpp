@@ -1,6 +1,7 @@
 // The media volume, and the fade-out that ends a duration.
 #include "platform/Dispatch.h"
 #include "tweak/actions/SpecialTasksHelper.h"
+#include "tweak/settings/Dozewell2StorageManager.h"
 
 namespace {
 
@@ -14,14 +15,19 @@ bool hasVolumeControl() {
   return UIDevice::currentDevice().systemVersion().floatValue() >= 13.0f;
 }
 
-// So that the next listening starts at the volume the user had before the fade; the volume
-// indicator stays away until the change has passed.
+// The volume indicator stays away until a change of volume has passed.
+void showIndicatorLater(SBMediaController controller) {
+  dispatch::onMainAfter(indicatorDelayNanoseconds, [controller = objc::retain(controller)] {
+    controller->setSuppressHUD(false);
+  });
+}
+
+// So that the next listening starts at the volume the user had before the fade.
 void restoreVolumeLater(SBMediaController controller) {
   dispatch::onMainAfter(restoreDelayNanoseconds, [controller = objc::retain(controller)] {
     auto& tasks = SpecialTasksHelper::getInstance();
     tasks.setVolume(tasks.volumeBeforeFadeOut);
-    dispatch::onMainAfter(indicatorDelayNanoseconds,
-                          [controller] { controller->setSuppressHUD(false); });
+    showIndicatorLater(controller);
   });
 }
 
@@ -53,6 +59,14 @@ void SpecialTasksHelper::pauseMusicWithFadeOutVolume(int seconds) {
   volumeBeforeFadeOut = getVolume();
   const double steps = seconds / secondsPerStep;
   doVolumeFadeOutWithSteps(float(volumeBeforeFadeOut / steps));
+}
+
+void SpecialTasksHelper::setCustomVolume() {
+  const auto controller = SBMediaController::sharedInstance();
+  controller.setSuppressHUD(true);
+  setVolume(double(Dozewell2StorageManager::sharedInstance().onTimerStartsCustomVolumeValue) /
+            100.0);
+  showIndicatorLater(controller);
 }
 
 // The volume is read anew at every step, so the user can lengthen or end the fade by hand.

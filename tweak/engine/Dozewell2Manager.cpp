@@ -156,6 +156,8 @@ Class Dozewell2Manager::registerClass() {
       .property<"lastChosenNbSeconds", &Engine::lastChosenNbSeconds>()
       .property<"lastChosenNbSongsSelected", &Engine::lastChosenNbSongsSelected>()
       .classMethod<"sharedInstance", &Engine::sharedInstance>()
+      .classMethod<"sylphTweakEnabled", &Engine::sylphTweakEnabled>()
+      .classMethod<"grupiTweakEnabled", &Engine::grupiTweakEnabled>()
       .method<"init", &Engine::init>()
       .method<"isRunning", &Engine::isRunning>()
       .method<"startTimerWithMode:andValue:", &Engine::startTimerWithMode_andValue>()

@@ -45,5 +45,10 @@ struct Dozewell2Manager : objc::Implementation<Dozewell2Manager> {
   void cancelAllPersistedTimers();
   void restoreDozewellIfNeeded();
 
+  // Whether each of two other extensions of the media module is installed and switched on. The
+  // files are read at every call.
+  static bool sylphTweakEnabled();
+  static bool grupiTweakEnabled();  // and its small music controller is
+
   static Class registerClass();
 };

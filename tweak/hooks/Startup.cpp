@@ -10,9 +10,13 @@
 #include "tweak/hooks/Launch.h"
 #include "tweak/hooks/Tracing.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/indicators/LockScreen.h"
 #include "tweak/panel/Dozewell2ViewController.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/settings/Registration.h"
+#include "tweak/support/BundleHelper.h"
+#include "tweak/support/HapticFeedbackHelper.h"
+#include "tweak/support/LocalizationHelper.h"
 
 namespace {
 
@@ -24,6 +28,9 @@ void registerClasses() {
   SpecialTasksHelper::registerClass();
   Dozewell2TimeLeftIndicatorsManager::registerClass();
   Dozewell2ViewController::registerClass();
+  BundleHelper::registerClass();
+  LocalizationHelper::registerClass();
+  HapticFeedbackHelper::registerClass();
 }
 
 bool isHomeScreenProcess() {
@@ -43,6 +50,20 @@ void installHooks() {
   objc::hook<"SpringBoard", "applicationDidFinishLaunching:", applicationDidFinishLaunching>();
 }
 
+void installIndicatorHooks() {
+  Class timer = objc_getClass("CSTimerViewController");
+  objc::hook<"CSTimerViewController", "initWithNibName:bundle:", LockScreen::initTimerController>();
+  objc::addMethod<"dozewell_startTimerWithDate:", &LockScreen::startCountdown>(timer);
+  objc::addMethod<"dozewell_stopTimer", &LockScreen::stopCountdown>(timer);
+  Class date = objc_getClass("SBFLockScreenDateSubtitleDateView");
+  objc::hook<"SBFLockScreenDateSubtitleDateView", "_setDate:inTimeZone:", LockScreen::setDate>();
+  objc::addMethod<"dozewell_setNbTracksLeftText", &LockScreen::setTracksLeftText>(date);
+  objc::addMethod<"dozewell_setText:", &LockScreen::setText>(date);
+  objc::addMethod<"dozewell_restoreOriginalText", &LockScreen::restoreOriginalText>(date);
+  objc::hook<"CCUIContentModuleContainerViewController",
+             "setExpanded:", LockScreen::setModuleExpanded>();
+}
+
 __attribute__((constructor)) void loadSettingsAndHooks() {
   objc::AutoreleasePool pool;
   registerClasses();
@@ -51,11 +72,10 @@ __attribute__((constructor)) void loadSettingsAndHooks() {
   if (isEnabled()) installHooks();
 }
 
-// The lock screen's indicators come second; there are none yet.
 __attribute__((constructor)) void loadIndicators() {
   objc::AutoreleasePool pool;
   if (!isHomeScreenProcess()) return;
-  if (!isEnabled()) return;
+  if (isEnabled()) installIndicatorHooks();
 }
 
 }  // namespace

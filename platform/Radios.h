@@ -1,0 +1,31 @@
+// Radios: airplane mode (AppSupport, private) and Bluetooth (BluetoothManager, private).
+#pragma once
+
+#include "platform/Foundation.h"
+
+struct RadiosPreferences : objc::Object {
+  using Object::Object;
+  static objc::Strong<RadiosPreferences> make() {
+    return objc::adopt(RadiosPreferences(objc_alloc_init(objc_getClass("RadiosPreferences"))));
+  }
+  void setAirplaneMode(bool on) const { objc::send<void, "setAirplaneMode:">(*this, on); }
+  void synchronize() const { objc::send<void, "synchronize">(*this); }
+};
+
+struct BluetoothDevice : objc::Object {
+  using Object::Object;
+  NSString name() const { return objc::send<NSString, "name">(*this); }
+};
+
+struct BluetoothManager : objc::Object {
+  using Object::Object;
+  static BluetoothManager sharedInstance() {
+    return objc::send<BluetoothManager, "sharedInstance">(objc_getClass("BluetoothManager"));
+  }
+  NSArray connectedDevices() const { return objc::send<NSArray, "connectedDevices">(*this); }
+  // Keeps the pairing.
+  void disconnectDevicePhysicalLink(BluetoothDevice device) const {
+    objc::send<void, "disconnectDevicePhysicalLink:">(*this, device);
+  }
+  void setEnabled(bool on) const { objc::send<void, "setEnabled:">(*this, on); }
+};

@@ -158,6 +158,14 @@ bool writePropertyList(Object object, const std::filesystem::path& path, std::st
   return root && saveNode(root.get(), path, error);
 }
 
+Object propertyListObject(plist_t node) {
+  return objectOf(node);
+}
+
+PropertyListNode propertyListNode(Object object, std::string* error) {
+  return nodeOf(object, 0, error);
+}
+
 Object propertyListCopy(Object object, std::string* error) {
   const PropertyListNode root = nodeOf(object, 0, error);
   return root ? objectOf(root.get()) : nullptr;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "objc/Object.h"
+#include "simulator/foundation/PropertyListNode.h"
 
 namespace sim {
 
@@ -19,5 +20,10 @@ bool writePropertyList(objc::Object object, const std::filesystem::path& path, s
 // The same value with every container immutable, autoreleased; nil and a reason in *error when the
 // object is no property list.
 objc::Object propertyListCopy(objc::Object object, std::string* error);
+
+// Between objects and libplist's nodes. nil, and an empty node with a reason in *error, for what
+// no property list of the platform holds.
+objc::Object propertyListObject(plist_t node);
+PropertyListNode propertyListNode(objc::Object object, std::string* error);
 
 }  // namespace sim

@@ -59,7 +59,7 @@ std::string description(Object object) {
 
 std::string notation(Object object) {
   if (!object) return "nil";
-  if (isA<NSString>(object)) return quoted(text(object));
+  if (isA<NSString>(object)) return sim::quoted(text(object));
   if (const NSDate* date = stateOf<NSDate>(object)) return dateText(date->reference);
   if (const NSNumber* number = stateOf<NSNumber>(object)) {
     if (number->isBoolean()) return notation(number->as<bool>());

@@ -1,0 +1,50 @@
+#include "simulator/foundation/NSNotification.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+Object makeWithName(Object name, Object object) {
+  return notification(name, object, nullptr);
+}
+
+Object copyWithZone(Object self, void*) {
+  return Object(objc_retain(self.get()));
+}
+
+Object describe(Object self) {
+  const NSNotification& state = NSNotification::of(self);
+  std::string result = "NSNotification {name = " + description(state.name);
+  if (state.object) result += "; object = " + description(state.object);
+  if (state.userInfo) result += "; userInfo = " + description(state.userInfo);
+  return string(result + '}');
+}
+
+}  // namespace
+
+Object notification(Object name, Object object, Object userInfo) {
+  objc::Strong<Object> made = NSNotification::make();
+  NSNotification& state = NSNotification::of(made.get());
+  state.name = objc::adopt(objc::send<Object, "copy">(name));
+  state.object = objc::retain(object);
+  state.userInfo = objc::retain(userInfo);
+  return autorelease(std::move(made));
+}
+
+void NSNotification::registerClass() {
+  StandIn<NSNotification>("Foundation", "NSNotification", "NSObject")
+      .classMethod<"notificationWithName:object:", &makeWithName>()
+      .classMethod<"notificationWithName:object:userInfo:", &notification>()
+      .readonlyProperty<"name", &NSNotification::name>()
+      .readonlyProperty<"object", &NSNotification::object>()
+      .readonlyProperty<"userInfo", &NSNotification::userInfo>()
+      .method<"copyWithZone:", &copyWithZone>()
+      .partial<"description", &describe>("without the notification's address")
+      .finish();
+}
+
+}  // namespace sim

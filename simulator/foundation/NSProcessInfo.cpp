@@ -1,0 +1,68 @@
+#include "simulator/foundation/NSProcessInfo.h"
+
+#include <unistd.h>
+
+#include <compare>
+#include <cstdio>
+#include <tuple>
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+Object processInfo() {
+  static const Object only = NSProcessInfo::make().detach();
+  return only;
+}
+
+Object processName(Object) {
+  return string(Phone::current().setup.processName);
+}
+
+int processIdentifier(Object) {
+  return ::getpid();
+}
+
+double systemUptime(Object) {
+  return seconds(Phone::current().clock.uptime());
+}
+
+// Parts that the version does not have are 0.
+NSOperatingSystemVersion operatingSystemVersion(Object) {
+  NSOperatingSystemVersion version = {};
+  std::sscanf(Phone::current().setup.systemVersion.c_str(), "%ld.%ld.%ld", &version.majorVersion,
+              &version.minorVersion, &version.patchVersion);
+  return version;
+}
+
+bool isAtLeast(Object self, NSOperatingSystemVersion wanted) {
+  const NSOperatingSystemVersion mine = operatingSystemVersion(self);
+  return std::tie(mine.majorVersion, mine.minorVersion, mine.patchVersion) >=
+         std::tie(wanted.majorVersion, wanted.minorVersion, wanted.patchVersion);
+}
+
+Object operatingSystemVersionString(Object) {
+  return string("Version " + Phone::current().setup.systemVersion);
+}
+
+}  // namespace
+
+void NSProcessInfo::registerClass() {
+  StandIn<NSProcessInfo>("Foundation", "NSProcessInfo", "NSObject")
+      .classMethod<"processInfo", &processInfo>()
+      .method<"processName", &processName>()
+      .method<"processIdentifier", &processIdentifier>()
+      .method<"systemUptime", &systemUptime>()
+      .method<"operatingSystemVersion", &operatingSystemVersion>()
+      .method<"isOperatingSystemAtLeastVersion:", &isAtLeast>()
+      .partial<"operatingSystemVersionString", &operatingSystemVersionString>(
+          "without the build number")
+      .finish();
+}
+
+}  // namespace sim

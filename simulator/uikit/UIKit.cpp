@@ -4,8 +4,10 @@
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UIDevice.h"
 #include "simulator/uikit/UIEvent.h"
+#include "simulator/uikit/UIImage.h"
 #include "simulator/uikit/UIMotionEvent.h"
 #include "simulator/uikit/UIResponder.h"
+#include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIViewController.h"
 
@@ -14,6 +16,8 @@ namespace sim {
 // A class comes after its superclass.
 void registerUIKit() {
   UIDevice::registerClass();
+  UIScreen::registerClass();
+  UIImage::registerClass();
   UIEvent::registerClass();
   UIMotionEvent::registerClass();
   UIResponder::registerClass();

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+struct UIScreen : objc::Implementation<UIScreen> {
+  static constexpr double mainScale = 3;          // pixels per point
+  static constexpr CGSize mainSize = {390, 844};  // points, upright
+
+  static objc::Object mainScreen();  // the one object, never freed
+  CGRect bounds() { return {{0, 0}, mainSize}; }
+  CGRect nativeBounds() {  // pixels
+    return {{0, 0}, {mainSize.width * mainScale, mainSize.height * mainScale}};
+  }
+  double scale() { return mainScale; }
+
+  static void registerClass();
+};
+
+}  // namespace sim

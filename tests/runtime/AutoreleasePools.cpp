@@ -108,4 +108,13 @@ TEST_F(AutoreleasePoolsDeathTest, poppingTwiceIsFatal) {
   objc_autoreleasePoolPop(outer);
 }
 
+TEST_F(AutoreleasePoolsDeathTest, poppingAPoolWhosePlaceAnObjectTookIsFatal) {
+  void* outer = objc_autoreleasePoolPush();
+  void* inner = objc_autoreleasePoolPush();
+  objc_autoreleasePoolPop(inner);
+  objc_autorelease(make(cls_));
+  EXPECT_DEATH(objc_autoreleasePoolPop(inner), "invalid or prematurely freed autorelease pool");
+  objc_autoreleasePoolPop(outer);
+}
+
 }  // namespace

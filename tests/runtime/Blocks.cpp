@@ -55,6 +55,10 @@ id asObject(Block& block) {
   return reinterpret_cast<id>(&block);
 }
 
+// The first contact with the runtime in this program: blocks need no call to come into being.
+const char* const nameSeenByStaticInitializer =
+    class_getName(reinterpret_cast<Class>(_NSConcreteGlobalBlock));
+
 class Blocks : public testing::Test {
  protected:
   void SetUp() override { copies = disposals = 0; }
@@ -69,6 +73,10 @@ TEST_F(Blocks, classesAreRealAndInherit) {
   EXPECT_TRUE((send<bool>(asObject(block), "isKindOfClass:", objc_getClass("NSBlock"))));
   EXPECT_EQ(class_getSuperclass(objc_getClass("NSBlock")), rootClass());
   EXPECT_EQ(class_createInstance(objc_getClass("NSBlock"), 0), nullptr);
+}
+
+TEST_F(Blocks, classesAreThereForStaticInitializers) {
+  EXPECT_STREQ(nameSeenByStaticInitializer, "__NSGlobalBlock__");
 }
 
 TEST_F(Blocks, copyMovesToTheHeap) {

@@ -95,15 +95,19 @@ TEST_F(Initialize, aRootClassNeedsNone) {
 std::atomic<int> started;
 std::atomic<bool> finished;
 std::atomic<int> sawUnfinished;
+std::atomic<std::thread::id> initializer;
 
-void slowInitialize(id, SEL) {
+void slowInitialize(id self, SEL) {
   ++started;
+  initializer = std::this_thread::get_id();
+  // Must not open a short cut for the other threads.
+  send(self, "check");
   // Long enough for the other threads to come: they must be found waiting, not running.
   std::this_thread::sleep_for(std::chrono::milliseconds(30));
   finished = true;
 }
 void check(id, SEL) {
-  if (!finished) {
+  if (!finished && initializer.load() != std::this_thread::get_id()) {
     ++sawUnfinished;
   }
 }

@@ -167,8 +167,10 @@ TYPED_TEST(MessageResults, ofNilAreZeroInRegisters) {
 #if defined(__x86_64__)
 TEST(MessageToNil, leavesAStructureInMemoryAloneAndReturnsItsAddress) {
   Rectangle rectangle{1, 2, 3, 4};
-  // The hidden pointer to the result is the first argument and the result.
-  const auto sender = reinterpret_cast<Rectangle* (*)(Rectangle*, id, SEL)>(&objc_msgSend_stret);
+  // The hidden pointer to the result is the first argument and the result. As a variadic call it
+  // clears %rax before, where the pointer might be by chance.
+  using Prototype = Rectangle* (*)(Rectangle*, id, SEL, ...);
+  const auto sender = reinterpret_cast<Prototype>(&objc_msgSend_stret);
   EXPECT_EQ(sender(&rectangle, nullptr, sel("frame")), &rectangle);
   EXPECT_EQ(rectangle, (Rectangle{1, 2, 3, 4}));
 }

@@ -67,9 +67,11 @@ TEST(ReferenceCounts, deallocGoesUpTheChain) {
   EXPECT_EQ(liveInstanceCount(deallocDerived), 0u);
 }
 
+std::size_t countInDealloc;
 void revive(id self, SEL) {
   deallocs.emplace_back("dealloc");
   objc_release(objc_retain(self));
+  countInDealloc = countOf(self);
   callSuperDealloc(self, deallocBase);
 }
 
@@ -79,6 +81,7 @@ TEST(ReferenceCounts, retainingInDeallocDoesNotReviveOrRepeat) {
   addMethod(deallocBase, "dealloc", &revive);
   objc_release(make(deallocBase));
   EXPECT_EQ(deallocs.size(), 1u);
+  EXPECT_EQ(countInDealloc, 0u);
 }
 
 TEST(ReferenceCounts, disposeSkipsDealloc) {
@@ -154,6 +157,18 @@ TEST(ReferenceCounts, threadsLoseNothing) {
     objc_release(object);
   }
   EXPECT_EQ(liveInstanceCount(cls), 0u);
+}
+
+void releaseTwice(id object) {
+  objc_release(object);
+  // At once: the memory must not have been used again.
+  objc_release(object);
+}
+
+TEST(ReferenceCountsDeathTest, releasingAFreedObjectIsFatal) {
+  id object = make(makeClass("Freed"));
+  EXPECT_DEATH(releaseTwice(object), "released after it had been freed|heap-use-after-free");
+  objc_release(object);
 }
 
 }  // namespace

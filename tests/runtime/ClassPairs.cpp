@@ -118,6 +118,7 @@ TEST(ClassPairs, aDisposedClassLeavesItsSuperclassUsable) {
   id object = make(base);
   EXPECT_EQ(send<id>(object, "self"), object);
   objc_release(object);
+  objc_disposeClassPair(base);  // fatal if it still counted the subclass
 }
 
 TEST(ClassPairsDeathTest, disposingOfAClassWithSubclassesIsFatal) {

@@ -25,6 +25,3 @@ CommandTable allCommands() {
 }
 
 }  // namespace sim
-namespace sim {
-__attribute__((weak)) void addFoundationCommands(CommandTable&) {}
-}  // namespace sim

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "simulator/runtime/Class.h"
+#include "simulator/runtime/ClassChanges.h"
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/MethodCache.h"
 
@@ -68,8 +69,6 @@ void construct(Class cls, Class superclass, const char* name, std::size_t extraB
   // inherits from the root class: so class objects answer to the root's instance methods.
   Class rootMetaclass = superclass != nullptr ? superclass->isa->isa : metaclass;
   initClass(metaclass, rootMetaclass, superclass != nullptr ? superclass->isa : cls, kMetaclass);
-  // Class objects have no reference count, whatever the root's instances have.
-  metaclass->flags.fetch_and(~(kInlineReferences | kBlockClass));
   metaclass->data->instanceSize = sizeof(objc_class);
   for (Class one : {cls, metaclass}) {
     one->data->name = name;
@@ -146,14 +145,17 @@ void objc_registerClassPair(Class cls) {
   if (cls == nullptr) {
     return;
   }
-  const std::lock_guard guard(runtimeLock());
-  if (cls->has(kMetaclass) || cls->has(kRegistered)) {
-    fatal("objc_registerClassPair: %s %s", cls->data->name.c_str(),
-          cls->has(kMetaclass) ? "is a metaclass" : "is registered already");
+  {
+    const std::lock_guard guard(runtimeLock());
+    if (cls->has(kMetaclass) || cls->has(kRegistered)) {
+      fatal("objc_registerClassPair: %s %s", cls->data->name.c_str(),
+            cls->has(kMetaclass) ? "is a metaclass" : "is registered already");
+    }
+    cls->isa->flags.fetch_or(kRegistered, std::memory_order_release);
+    cls->flags.fetch_or(kRegistered, std::memory_order_release);
+    registry().registered.push_back(cls);
   }
-  cls->isa->flags.fetch_or(kRegistered, std::memory_order_release);
-  cls->flags.fetch_or(kRegistered, std::memory_order_release);
-  registry().registered.push_back(cls);
+  reportClassChange({ClassChange::Kind::classRegistered, cls, class_getName(cls), ""});
 }
 
 void objc_disposeClassPair(Class cls) {

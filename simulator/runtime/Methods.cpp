@@ -3,6 +3,7 @@
 #include <mutex>
 
 #include "simulator/runtime/Class.h"
+#include "simulator/runtime/ClassChanges.h"
 #include "simulator/runtime/ClassRegistry.h"
 #include "simulator/runtime/Initialization.h"
 #include "simulator/runtime/Lists.h"
@@ -69,11 +70,16 @@ bool class_addMethod(Class cls, SEL selector, IMP implementation, const char* ty
   if (cls == nullptr || selector == nullptr) {
     return false;
   }
-  const std::lock_guard guard(runtimeLock());
-  if (findOwnMethod(cls, selector) != nullptr) {
-    return false;
+  {
+    const std::lock_guard guard(runtimeLock());
+    if (findOwnMethod(cls, selector) != nullptr) {
+      return false;
+    }
+    addNewMethod(cls, selector, implementation, types);
   }
-  addNewMethod(cls, selector, implementation, types);
+  if (cls->has(kRegistered)) {
+    reportClassChange({ClassChange::Kind::methodAdded, cls, sel_getName(selector), types});
+  }
   return true;
 }
 

@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include "simulator/runtime/Class.h"
+#include "simulator/runtime/ClassChanges.h"
 #include "simulator/runtime/ClassRegistry.h"
 #include "simulator/runtime/Lists.h"
 
@@ -41,11 +42,17 @@ bool class_addProperty(Class cls, const char* name, const objc_property_attribut
   if (cls == nullptr || name == nullptr) {
     return false;
   }
-  const std::lock_guard guard(runtimeLock());
-  if (findOwnProperty(cls, name) != nullptr) {
-    return false;
+  const std::string text = attributeString(attributes, count);
+  {
+    const std::lock_guard guard(runtimeLock());
+    if (findOwnProperty(cls, name) != nullptr) {
+      return false;
+    }
+    cls->data->properties.emplace_back(new objc_property{name, text});
   }
-  cls->data->properties.emplace_back(new objc_property{name, attributeString(attributes, count)});
+  if (cls->has(kRegistered)) {
+    reportClassChange({ClassChange::Kind::propertyAdded, cls, name, text.c_str()});
+  }
   return true;
 }
 

@@ -1,0 +1,20 @@
+#include "simulator/runtime/ClassChanges.h"
+
+#include <atomic>
+
+namespace simulator::runtime {
+namespace {
+
+std::atomic<ClassChangeObserver> currentObserver{nullptr};
+
+}  // namespace
+
+void observeClassChanges(ClassChangeObserver observer) {
+  currentObserver = observer;
+}
+
+void reportClassChange(const ClassChange& change) {
+  if (const ClassChangeObserver observer = currentObserver) observer(change);
+}
+
+}  // namespace simulator::runtime

@@ -4,7 +4,9 @@
 
 #include "objc/Ownership.h"
 #include "simulator/Frameworks.h"
+#include "simulator/phone/ClassJournal.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/phone/script/Tracing.h"
 
 namespace sim {
 
@@ -18,16 +20,19 @@ void Host::registerClasses() {
 void Host::launch() {
   registerClasses();
   const objc::AutoreleasePool pool;
-  for (const std::filesystem::path& extension : extensions_) {
-    // Now and local, as the injection platform loads them: a missing symbol is an error here.
-    void* handle = dlopen(std::filesystem::absolute(extension).c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (handle == nullptr)
-      throw HostError(std::string("the extension does not load: ") + dlerror());
-    handles_.push_back(handle);
-  }
+  const ClassJournal journal(Phone::current().setup.journalsClassChanges);
+  traceMethods(Phone::current().setup.traced);
+  for (const std::filesystem::path& extension : extensions_) load(extension);
   launched_ = true;
   launchSpringBoard();
   Phone::current().queue.runDue();
+}
+
+void Host::load(const std::filesystem::path& extension) {
+  // Now and local, as the injection platform loads them: a missing symbol is an error here.
+  void* handle = dlopen(std::filesystem::absolute(extension).c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (handle == nullptr) throw HostError(std::string("the extension does not load: ") + dlerror());
+  handles_.push_back(handle);
 }
 
 void* Host::symbol(const char* name) const {

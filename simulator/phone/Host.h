@@ -31,6 +31,8 @@ class Host {
   const std::vector<std::filesystem::path>& extensions() const { return extensions_; }
 
  private:
+  void load(const std::filesystem::path& extension);
+
   std::vector<std::filesystem::path> extensions_;
   std::vector<void*> handles_;  // never closed: classes and hooks point into them
   bool registered_ = false;

@@ -7,6 +7,8 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace sim {
 
@@ -18,6 +20,9 @@ struct Setup {
   std::set<std::string, std::less<>> missingClasses;
   // "SBMediaController pause": the class exists without this method.
   std::set<std::string, std::less<>> missingMethods;
+
+  bool journalsClassChanges = false;  // what extensions do to classes as they load
+  std::vector<std::pair<std::string, std::string>> traced;  // class and selector, see Tracing.h
 
   bool hasClass(std::string_view name) const { return !missingClasses.contains(name); }
   bool hasMethod(std::string_view cls, std::string_view selector) const {

@@ -1,4 +1,5 @@
 #include "objc/runtime.h"
+#include "simulator/runtime/ClassChanges.h"
 
 void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* previous) {
   Class target = cls;
@@ -18,4 +19,7 @@ void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* previous) {
   if (previous != nullptr) {
     *previous = own != nullptr ? own : inherited;
   }
+  using simulator::runtime::ClassChange;
+  simulator::runtime::reportClassChange(
+      {ClassChange::Kind::methodHooked, target, sel_getName(selector), ""});
 }

@@ -1,6 +1,6 @@
 #include "simulator/phone/script/HostCommands.h"
 
-#include "objc/Message.h"
+#include "simulator/foundation/NSUserDefaults.h"
 #include "simulator/phone/script/PhoneCommands.h"
 #include "simulator/phone/script/Restart.h"
 
@@ -59,8 +59,7 @@ void killAt(Arguments& arguments) {
 // An orderly end: what is due runs, and user defaults reach the disk.
 void endInOrder(Session& session) {
   session.phone.queue.runDue();
-  const id defaults = objc::send<id, "standardUserDefaults">(objc_getClass("NSUserDefaults"));
-  objc::send<bool, "synchronize">(defaults);
+  saveChangedUserDefaults();
 }
 
 void respring(Arguments& arguments) {

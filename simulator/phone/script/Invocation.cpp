@@ -1,68 +1,14 @@
 #include "simulator/phone/script/Invocation.h"
 
-#include <ffi.h>
-
-#include <deque>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
 #include "objc/Message.h"
+#include "simulator/phone/script/CallTypes.h"
 
 namespace sim {
 namespace {
-
-// libffi's description of types; structures need storage that lives as long as the call.
-class CallTypes {
- public:
-  ffi_type* of(const TypeEncoding& type) {
-    switch (type.kind) {
-      case 'v':
-        return &ffi_type_void;
-      case 'c':
-        return &ffi_type_sint8;
-      case 'C':
-      case 'B':
-        return &ffi_type_uint8;
-      case 's':
-        return &ffi_type_sint16;
-      case 'S':
-        return &ffi_type_uint16;
-      case 'i':
-        return &ffi_type_sint32;
-      case 'I':
-        return &ffi_type_uint32;
-      case 'l':
-      case 'q':
-        return &ffi_type_sint64;
-      case 'L':
-      case 'Q':
-        return &ffi_type_uint64;
-      case 'f':
-        return &ffi_type_float;
-      case 'd':
-        return &ffi_type_double;
-      case '{':
-        return structure(type);
-      default:
-        return &ffi_type_pointer;
-    }
-  }
-
- private:
-  ffi_type* structure(const TypeEncoding& type) {
-    std::vector<ffi_type*> elements;
-    for (const TypeEncoding& member : type.members) elements.push_back(of(member));
-    elements.push_back(nullptr);
-    elements_.push_back(std::move(elements));
-    structures_.push_back({0, 0, FFI_TYPE_STRUCT, elements_.back().data()});
-    return &structures_.back();
-  }
-
-  // Deques: growing moves nothing.
-  std::deque<std::vector<ffi_type*>> elements_;
-  std::deque<ffi_type> structures_;
-};
 
 // `arguments` includes self and _cmd for a message.
 Value perform(void (*entry)(), const TypeEncoding& result, std::vector<Value>& arguments) {

@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "simulator/dispatch/WorkerThread.h"
+#include "simulator/phone/WorkerThread.h"
 #include "simulator/phone/script/Invocation.h"
 #include "simulator/phone/script/Literal.h"
 #include "simulator/phone/script/PhoneCommands.h"

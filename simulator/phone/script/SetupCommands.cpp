@@ -46,6 +46,17 @@ void missing(Arguments& arguments) {
     setup().missingMethods.insert(cls + ' ' + arguments.text("a selector"));
 }
 
+void journalClassChanges(Arguments& arguments) {
+  arguments.finish();
+  setup().journalsClassChanges = true;
+}
+
+void trace(Arguments& arguments) {
+  const std::string cls = arguments.text("the name of a class");
+  setup().traced.emplace_back(cls, arguments.text("a selector"));
+  arguments.finish();
+}
+
 void file(Arguments& arguments) {
   const Word path = arguments.word("a path of the phone");
   const std::string text = arguments.text("the file's text");
@@ -72,6 +83,12 @@ void addSetupCommands(CommandTable& table) {
              process});
   table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]", "missing SBMediaController pause",
              "Leaves a class of the system, or one of its methods, out of the phone.", missing});
+  table.add({"journal-class-changes", Stage::setup, "journal-class-changes",
+             "journal-class-changes",
+             "Journals every class, method, property and hook that the extension adds as it loads.",
+             journalClassChanges});
+  table.add({"trace", Stage::setup, "trace CLASS SELECTOR", "trace NSUserDefaults synchronize",
+             "Journals each call of an instance method of the system, with its arguments.", trace});
   table.add({"file", Stage::any, "file PATH TEXT", R"(file "/var/mobile/note.txt" "two\nlines\n")",
              "Writes a file of the phone, with the folders on its way.", file});
 }

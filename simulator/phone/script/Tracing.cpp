@@ -1,0 +1,88 @@
+#include "simulator/phone/script/Tracing.h"
+
+#include <cstring>
+#include <deque>
+#include <string_view>
+
+#include "simulator/phone/Host.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/phone/script/CallTypes.h"
+#include "simulator/phone/script/Value.h"
+
+namespace sim {
+namespace {
+
+// One traced method, with all that libffi keeps pointers into.
+struct Trace {
+  std::string cls;
+  SEL selector;
+  Signature signature;
+  IMP original = nullptr;
+  CallTypes types;
+  std::vector<ffi_type*> argumentTypes;
+  ffi_cif call{};
+};
+
+// "-[Class part:argument part:argument]"
+std::string callText(const Trace& trace, void** arguments) {
+  std::string text = "call -[" + trace.cls + ' ';
+  std::string_view rest = sel_getName(trace.selector);
+  std::size_t index = 2;  // behind self and _cmd
+  for (const TypeEncoding& type : trace.signature.arguments) {
+    const std::size_t colon = rest.find(':');
+    Value value(type);
+    std::memcpy(value.bytes(), arguments[index], type.size());
+    if (index++ > 2) text += ' ';
+    text += std::string(rest.substr(0, colon + 1)) + notation(value);
+    rest.remove_prefix(colon + 1);
+  }
+  return text + std::string(rest) + ']';
+}
+
+void journalAndCall(ffi_cif* call, void* result, void** arguments, void* context) {
+  const Trace& trace = *static_cast<Trace*>(context);
+  Phone::current().journal.record(callText(trace, arguments));
+  ffi_call(call, trace.original, result, arguments);
+}
+
+void prepare(Trace& trace) {
+  trace.argumentTypes = {&ffi_type_pointer, &ffi_type_pointer};
+  for (const TypeEncoding& type : trace.signature.arguments)
+    trace.argumentTypes.push_back(trace.types.of(type));
+  if (ffi_prep_cif(&trace.call, FFI_DEFAULT_ABI, unsigned(trace.argumentTypes.size()),
+                   trace.types.of(trace.signature.result), trace.argumentTypes.data()) != FFI_OK)
+    throw HostError("-[" + trace.cls + ' ' + sel_getName(trace.selector) + "] cannot be traced");
+}
+
+IMP makeEntry(Trace& trace) {
+  void* code = nullptr;
+  auto* closure = static_cast<ffi_closure*>(ffi_closure_alloc(sizeof(ffi_closure), &code));
+  if (closure == nullptr ||
+      ffi_prep_closure_loc(closure, &trace.call, journalAndCall, &trace, code) != FFI_OK)
+    throw HostError("-[" + trace.cls + ' ' + sel_getName(trace.selector) + "] cannot be traced");
+  return reinterpret_cast<IMP>(code);
+}
+
+void traceMethod(const std::string& cls, const std::string& selector) {
+  static std::deque<Trace> traces;  // the host calls into them as long as it lives
+  const SEL name = sel_registerName(selector.c_str());
+  const Class target = objc_getClass(cls.c_str());
+  const Method method = class_getInstanceMethod(target, name);
+  if (method == nullptr)
+    throw HostError("there is no method -[" + cls + ' ' + selector + "] to trace");
+  Trace& trace = traces.emplace_back();
+  trace.cls = cls;
+  trace.selector = name;
+  trace.signature = parseMethodTypes(method_getTypeEncoding(method));
+  prepare(trace);
+  trace.original = method_getImplementation(method);
+  class_replaceMethod(target, name, makeEntry(trace), method_getTypeEncoding(method));
+}
+
+}  // namespace
+
+void traceMethods(const std::vector<std::pair<std::string, std::string>>& methods) {
+  for (const auto& [cls, selector] : methods) traceMethod(cls, selector);
+}
+
+}  // namespace sim

@@ -78,7 +78,8 @@ bool class_addMethod(Class cls, SEL selector, IMP implementation, const char* ty
     addNewMethod(cls, selector, implementation, types);
   }
   if (cls->has(kRegistered)) {
-    reportClassChange({ClassChange::Kind::methodAdded, cls, sel_getName(selector), types});
+    reportClassChange({ClassChange::Kind::methodAdded, cls, sel_getName(selector),
+                       types != nullptr ? types : ""});
   }
   return true;
 }

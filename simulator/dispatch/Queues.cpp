@@ -8,7 +8,7 @@
 #include "simulator/Fidelity.h"
 #include "simulator/Frameworks.h"
 #include "simulator/dispatch/Dispatch.h"
-#include "simulator/dispatch/WorkerThread.h"
+#include "simulator/phone/WorkerThread.h"
 #include "simulator/phone/Phone.h"
 
 struct dispatch_queue_s {

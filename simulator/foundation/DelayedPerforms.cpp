@@ -1,13 +1,12 @@
 #include "simulator/foundation/DelayedPerforms.h"
 
 #include <algorithm>
-#include <future>
 #include <list>
-#include <memory>
 
 #include "simulator/foundation/NSObject.h"
 #include "simulator/foundation/NSThread.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/phone/WorkerThread.h"
 #include "simulator/runtime/Send.h"
 
 namespace sim {
@@ -75,13 +74,12 @@ void cancelMatching(Object target, SEL selector, Object argument) {
 
 void performOnMainThread(Object self, SEL selector, Object argument, bool wait) {
   if (wait && isMainThread()) return perform(self, selector, argument);
-  const auto done = std::make_shared<std::promise<void>>();
+  // The main thread waits for every other thread: it is free to do this at once.
+  if (wait) return runOnMainThread([=] { perform(self, selector, argument); });
   Phone::current().queue.addNow(
-      [target = objc::retain(self), selector, kept = objc::retain(argument), done] {
+      [target = objc::retain(self), selector, kept = objc::retain(argument)] {
         perform(target, selector, kept);
-        done->set_value();
       });
-  if (wait) done->get_future().wait();
 }
 
 }  // namespace

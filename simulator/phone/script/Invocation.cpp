@@ -25,6 +25,9 @@ Value perform(void (*entry)(), const TypeEncoding& result, std::vector<Value>& a
     throw std::invalid_argument("the call cannot be prepared");
   Value answer(result);  // its bytes are more than one register, which libffi may fill whole
   ffi_call(&call, entry, answer.bytes(), places.data());
+  // It may lie inside an argument, which does not outlive the call.
+  if (result.kind == '*' && answer.as<const char*>() != nullptr)
+    return Value::ofCString(answer.as<const char*>());
   return answer;
 }
 

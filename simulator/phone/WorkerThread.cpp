@@ -1,4 +1,4 @@
-#include "simulator/dispatch/WorkerThread.h"
+#include "simulator/phone/WorkerThread.h"
 
 #include <condition_variable>
 #include <exception>

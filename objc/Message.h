@@ -134,6 +134,7 @@ R send(Class receiver, Args... args) {
 // follows the fixed arguments on the stack, so the call must go through a variadic prototype.
 template <class R, FixedString Name, class Fixed, class... Rest>
 R sendVariadic(Class receiver, Fixed fixed, Rest... rest) {
+  requireSendable<R, Name, Fixed>();
   if (receiver == nullptr) return R();
   const SEL name = selector<Name>();
   id object = reinterpret_cast<id>(receiver);

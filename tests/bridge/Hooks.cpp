@@ -107,6 +107,13 @@ TEST_F(Hooks, OfTwoMethodsWithOneFunctionHaveTheirOwnPreviousOnes) {
   EXPECT_EQ((objc::send<long, "own">(player)), 101);
 }
 
+TEST_F(Hooks, OfTwoClassesWithOneFunctionHaveTheirOwnPreviousOnes) {
+  EXPECT_TRUE((objc::hook<"Player", "level", plusHundred>()));
+  EXPECT_TRUE((objc::hook<"LoudPlayer", "level", plusHundred>()));
+  EXPECT_EQ(player->level(), 103);
+  EXPECT_EQ(loud->level(), 203);
+}
+
 TEST_F(Hooks, OfAbsentClassesAndMethodsAreSilentlyMissing) {
   EXPECT_FALSE((objc::hook<"NoClassOfThatName", "level", never>()));
   EXPECT_FALSE((objc::hook<"Player", "noMethodOfThatName", never>()));

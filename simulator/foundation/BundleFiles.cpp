@@ -38,6 +38,26 @@ std::vector<std::string> namesFor(const std::string& locale) {
   return names;
 }
 
+// Empty when none is available.
+std::string firstOf(const std::vector<std::string>& names,
+                    const std::vector<std::string>& available) {
+  for (const std::string& name : names) {
+    for (const std::string& candidate : available)
+      if (canonical(candidate) == canonical(name)) return candidate;
+  }
+  return "";
+}
+
+// "pt-BR" for pt_PT, when there is nothing nearer.
+std::string inAnotherRegion(const std::string& locale, const std::vector<std::string>& available) {
+  const LocaleParts wanted = partsOf(locale);
+  for (const std::string& candidate : available) {
+    const LocaleParts parts = partsOf(candidate);
+    if (parts.language == wanted.language && scriptOf(parts) == scriptOf(wanted)) return candidate;
+  }
+  return "";
+}
+
 }  // namespace
 
 BundleFiles::BundleFiles(std::filesystem::path folder, std::string locale,
@@ -59,14 +79,10 @@ std::vector<std::string> BundleFiles::localizations() const {
 
 std::string BundleFiles::preferredLocalization() const {
   const std::vector<std::string> available = localizations();
-  std::vector<std::string> wanted = namesFor(locale_);
-  wanted.push_back(developmentRegion_);
-  wanted.insert(wanted.end(), {"en-US", "en"});
-  for (const std::string& name : wanted) {
-    for (const std::string& candidate : available)
-      if (canonical(candidate) == canonical(name)) return candidate;
-  }
-  return available.empty() ? "" : available.front();
+  std::string best = firstOf(namesFor(locale_), available);
+  if (best.empty()) best = inAnotherRegion(locale_, available);
+  if (best.empty()) best = firstOf({developmentRegion_, "en-US", "en"}, available);
+  return best.empty() && !available.empty() ? available.front() : best;
 }
 
 std::vector<std::string> BundleFiles::searchList() const {

@@ -112,6 +112,10 @@ const StringsTable& NSBundle::table(const std::string& name) {
   const auto found = files().find(name, "strings");
   auto read =
       found ? readStrings(Phone::current().file(path + '/' + found->string())) : std::nullopt;
+  if (found && !read) {
+    Phone::current().journal.record(
+        "log " + sim::quoted("Unable to load .strings file: " + path + " / " + name));
+  }
   return tables.emplace(name, read ? std::move(*read) : StringsTable()).first->second;
 }
 

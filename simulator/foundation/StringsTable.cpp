@@ -140,12 +140,16 @@ class Parser {
   std::size_t at_ = 0;
 };
 
+// A byte order mark is skipped with the blanks. Without one, the zero in the first character tells:
+// a table begins with ASCII.
 std::optional<std::u16string> decoded(std::string_view bytes) {
-  const bool little = bytes.starts_with("\xff\xfe");
-  if (!little && !bytes.starts_with("\xfe\xff")) return unicode::fromUtf8(bytes);
+  const std::string_view start = bytes.substr(0, 2);
+  const bool little = start == "\xff\xfe" || (start.size() == 2 && start[0] != 0 && start[1] == 0);
+  const bool big = start == "\xfe\xff" || (start.size() == 2 && start[0] == 0 && start[1] != 0);
+  if (!little && !big) return unicode::fromUtf8(bytes);
   if (bytes.size() % 2 != 0) return std::nullopt;
   std::u16string units;
-  for (std::size_t i = 2; i < bytes.size(); i += 2) {
+  for (std::size_t i = 0; i < bytes.size(); i += 2) {
     const auto first = static_cast<unsigned char>(bytes[i]);
     const auto second = static_cast<unsigned char>(bytes[i + 1]);
     units += char16_t(little ? second << 8 | first : first << 8 | second);

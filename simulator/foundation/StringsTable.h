@@ -13,8 +13,8 @@ namespace sim {
 
 using StringsTable = std::map<std::string, std::string, std::less<>>;
 
-// The old text form; UTF-8, or UTF-16 with a byte order mark. One mistake in it, and there is
-// nothing: so it is on the platform.
+// The old text form, in UTF-8 or UTF-16. One mistake in it, and there is nothing: so it is on the
+// platform.
 std::optional<StringsTable> parseStrings(std::string_view bytes);
 
 // In any form. Nothing when there is no such file or it is no string table.

@@ -6,9 +6,11 @@
 #   bundle_finish(TARGET)          the target that makes all of them, and nothing else is there
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 
-set(DOZEWELL_PACKAGE ${PROJECT_BINARY_DIR}/package)
+set(DOZEWELL_PACKAGE "${PROJECT_BINARY_DIR}/package"
+    CACHE INTERNAL "The files that the package installs, as they lie on the phone")
 set(DOZEWELL_BUNDLE
-    "${DOZEWELL_PACKAGE}/var/jb/Library/Application Support/Dozewell2Bundle.bundle")
+    "${DOZEWELL_PACKAGE}/var/jb/Library/Application Support/Dozewell2Bundle.bundle"
+    CACHE INTERNAL "The resource bundle among them")
 set(bundle_outputs)
 
 macro(bundle_output path)

@@ -51,6 +51,11 @@ void post(id name) {
   objc::send<void, "postNotificationName:object:">(center, name, nullptr);
 }
 
+// Between two hosts, while one restarts, there is nobody to tell.
+bool hasLaunched() {
+  return bool(objc::send<objc::Object, "sharedApplication">(objc_getClass("UIApplication")));
+}
+
 // The player is another process: the host hears of a change when its main queue comes to it.
 void announceChange() {
   static bool somethingWasPlaying = false;
@@ -58,6 +63,7 @@ void announceChange() {
   const bool applicationChanged =
       std::exchange(somethingWasPlaying, somethingPlays) != somethingPlays;
   Phone::current().queue.addNow([applicationChanged] {
+    if (!hasLaunched()) return;
     if (applicationChanged) post(kMRMediaRemoteNowPlayingApplicationDidChangeNotification);
     post(kMRMediaRemoteNowPlayingInfoDidChangeNotification);
   });

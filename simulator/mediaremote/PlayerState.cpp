@@ -49,6 +49,7 @@ void Player::restore(const nlohmann::json& state) {
   startedAt_ = state.at("startedAt").get<Nanoseconds>();
   pausedAt_ = state.at("pausedAt").get<Nanoseconds>();
   scheduleEnd();
+  if (booted_) hostDidBoot();
 }
 
 }  // namespace sim

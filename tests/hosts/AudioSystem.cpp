@@ -1,0 +1,62 @@
+#include "simulator/mediaremote/AudioSystem.h"
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "tests/hosts/TestPhone.h"
+
+namespace sim {
+namespace {
+
+class AudioSystemTest : public TestPhone {
+ protected:
+  AudioSystem audio{phone};
+};
+
+TEST_F(AudioSystemTest, EveryCategoryHasItsVolume) {
+  audio.setVolume(0.25F);
+  audio.setVolume(0.75F, "Ringtone");
+  EXPECT_EQ(audio.volume(), 0.25F);
+  EXPECT_EQ(audio.volume("Audio/Video"), 0.25F);
+  EXPECT_EQ(audio.volume("Ringtone"), 0.75F);
+}
+
+TEST_F(AudioSystemTest, VolumesAreHeldBetweenSilentAndFull) {
+  audio.setVolume(-0.001F);
+  EXPECT_EQ(audio.volume(), 0);
+  audio.setVolume(1.5F);
+  EXPECT_EQ(audio.volume(), 1);
+  audio.setVolume(std::nanf(""));
+  EXPECT_EQ(audio.volume(), 0);
+}
+
+TEST_F(AudioSystemTest, TheIndicatorShowsChangesOnly) {
+  audio.setVolume(0.25F);
+  audio.setVolume(0.25F);
+  EXPECT_EQ(journal(), std::vector<std::string>{"HUD volume 0.25"});
+}
+
+TEST_F(AudioSystemTest, ASuppressedIndicatorShowsNothing) {
+  audio.setIndicatorSuppressed(true);
+  audio.setVolume(0.25F);
+  EXPECT_TRUE(journal().empty());
+  audio.setIndicatorSuppressed(false);
+  audio.setVolume(0.5F);
+  EXPECT_EQ(count("HUD volume 0.5"), 1);
+}
+
+TEST_F(AudioSystemTest, VolumesSurviveTheHostAndSuppressionDoesNot) {
+  audio.setIndicatorSuppressed(true);
+  audio.setVolume(0.125F);
+  const auto saved = phone.saveSurvivors();
+  TemporaryFolder root;
+  Phone after{root.path};
+  AudioSystem restored{after};
+  after.restoreSurvivors(saved);
+  EXPECT_EQ(restored.volume(), 0.125F);
+  EXPECT_FALSE(restored.isIndicatorSuppressed());
+  EXPECT_TRUE(after.journal.entries().empty());
+}
+
+}  // namespace
+}  // namespace sim

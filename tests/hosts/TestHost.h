@@ -1,0 +1,46 @@
+// A phone with every stand-in registered.
+#pragma once
+
+#include "objc/Message.h"
+#include "objc/Ownership.h"
+#include "simulator/Frameworks.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/mediaremote/AudioSystem.h"
+#include "simulator/mediaremote/Player.h"
+#include "tests/hosts/TestPhone.h"
+
+namespace sim {
+
+class TestHost : public TestPhone {
+ protected:
+  TestHost() {
+    // The players of this process belong to its phone from the start.
+    Player::current();
+    AudioSystem::current();
+  }
+
+  // After the set-up is complete.
+  void boot() {
+    registerFoundation();
+    registerUIKit();
+    registerMediaRemote();
+    registerServices();
+    registerCephei();
+    registerSpringBoard();
+  }
+
+  static objc::Object sharedInstance(const char* className) {
+    return objc::send<objc::Object, "sharedInstance">(objc_getClass(className));
+  }
+
+  static void playTracks() {
+    Player::current().load(
+        {{"A", "The Band", "", nanoseconds(10)}, {"B", "", "", nanoseconds(20)}});
+    Player::current().play();
+  }
+
+ private:
+  objc::AutoreleasePool pool_;
+};
+
+}  // namespace sim

@@ -48,9 +48,9 @@ class NowPlayingTest : public TestHost {
     return reported;
   }
 
-  objc::Object infoValue(id key) {
+  objc::Strong<objc::Object> infoValue(id key) {
     const auto reported = info();
-    return objc::send<objc::Object, "objectForKey:">(reported.value().get(), key);
+    return objc::retain(objc::send<objc::Object, "objectForKey:">(reported.value().get(), key));
   }
 
  private:
@@ -76,7 +76,9 @@ TEST_F(NowPlayingTest, TellsTheTrackAndItsPosition) {
   EXPECT_EQ(text(infoValue(kMRMediaRemoteNowPlayingInfoTitle)), "A");
   EXPECT_EQ(text(infoValue(kMRMediaRemoteNowPlayingInfoArtist)), "The Band");
   EXPECT_FALSE(infoValue(kMRMediaRemoteNowPlayingInfoAlbum));
-  const auto value = [this](id key) { return objc::send<double, "doubleValue">(infoValue(key)); };
+  const auto value = [this](id key) {
+    return objc::send<double, "doubleValue">(infoValue(key).get());
+  };
   EXPECT_EQ(value(kMRMediaRemoteNowPlayingInfoDuration), 10);
   EXPECT_EQ(value(kMRMediaRemoteNowPlayingInfoElapsedTime), 4);
   EXPECT_EQ(value(kMRMediaRemoteNowPlayingInfoPlaybackRate), 1);

@@ -48,10 +48,11 @@ TEST_F(Preferences, WritesAreJournalled) {
   objc::send<void, "setBool:forKey:">(preferences.get(), true, string("onTimerEndsDND"));
   objc::send<void, "setObject:forKey:">(preferences.get(), string("x"), string("name"));
   objc::send<void, "removeObjectForKey:">(preferences.get(), string("name"));
+  const std::string announced = "post \"HBPreferencesDidChangeNotification\"";
   const std::vector<std::string> expected = {
-      "-[HBPreferences setBool:YES forKey:\"onTimerEndsDND\"]",
-      "-[HBPreferences setObject:\"x\" forKey:\"name\"]",
-      "-[HBPreferences removeObjectForKey:\"name\"]"};
+      "-[HBPreferences setBool:YES forKey:\"onTimerEndsDND\"]", announced,
+      "-[HBPreferences setObject:\"x\" forKey:\"name\"]",       announced,
+      "-[HBPreferences removeObjectForKey:\"name\"]",           announced};
   EXPECT_EQ(journal(), expected);
 }
 

@@ -13,8 +13,8 @@ const std::map<std::string, Action> actions = {
 };
 
 // Beside the program: where the build and the installation put it.
-std::filesystem::path ownExtension() {
-  return std::filesystem::read_symlink("/proc/self/exe").parent_path() / "Dozewell2.so";
+std::filesystem::path ownFolder() {
+  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
 }
 
 bool asksForHelp(const std::vector<std::string>& words) {
@@ -52,6 +52,8 @@ class Parser {
       withoutExtension_ = true;
     else if (word == "--tweak")
       options_.extensions.emplace_back(valueOf(word));
+    else if (word == "--package")
+      options_.package = valueOf(word);
     else if (word == "--root")
       options_.root = valueOf(word);
     else if (word == "--playlist")
@@ -74,8 +76,9 @@ class Parser {
       throw UsageError("--root is for one script: each needs a phone of its own");
     if (withoutExtension_ && !options_.extensions.empty())
       throw UsageError("--tweak and --no-tweak exclude each other");
-    if (options_.extensions.empty() && !withoutExtension_)
-      options_.extensions.push_back(ownExtension());
+    if (!options_.extensions.empty() || withoutExtension_) return;
+    options_.extensions.push_back(ownFolder() / "Dozewell2.so");
+    if (!options_.package) options_.package = ownFolder().parent_path() / "package";
   }
 
   const std::vector<std::string>& words_;
@@ -103,6 +106,8 @@ commands  prints the reference of the script language, as Markdown
   --tweak PATH     the extension to load (repeatable, in order); without it, Dozewell2.so
                    beside this program
   --no-tweak       a phone without extensions
+  --package DIR    the files to install on the phone, as they lie there; without it, and without
+                   the options above, the extension's own
   --root DIR       keep the phone's files there; without it, a temporary folder
   --playlist PATH  an M3U file that is played instead of those that scripts name
   --quiet          do not print the journal

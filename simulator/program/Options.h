@@ -26,7 +26,8 @@ struct Options {
   Action action = Action::help;
   std::vector<std::filesystem::path> files;
   std::vector<std::filesystem::path> extensions;
-  std::optional<std::filesystem::path> root;      // none: a temporary folder
+  std::optional<std::filesystem::path> package;  // what is installed on the phone, as it lies there
+  std::optional<std::filesystem::path> root;     // none: a temporary folder
   std::optional<std::filesystem::path> playlist;  // instead of the scripts' own
   bool quiet = false;
 };

@@ -44,6 +44,12 @@ int playOne(const SessionOptions& options, const RestartState* state) {
   return 1;
 }
 
+// Over what an earlier version has left on a phone that is kept.
+void installPackage(const std::filesystem::path& package, const std::filesystem::path& root) {
+  using std::filesystem::copy_options;
+  std::filesystem::copy(package, root, copy_options::recursive | copy_options::overwrite_existing);
+}
+
 int waitFor(pid_t child, const std::filesystem::path& script) {
   int status = 0;
   while (waitpid(child, &status, 0) < 0) {
@@ -71,6 +77,7 @@ int playScripts(const Options& options) {
     const TemporaryFolder temporary;
     const auto root = options.root.value_or(temporary.path() / "phone");
     std::filesystem::create_directories(root);
+    if (options.package) installPackage(*options.package, root);
     worst = std::max(worst, playInChild({script, std::filesystem::canonical(root),
                                          options.extensions, options.playlist, options.quiet}));
   }

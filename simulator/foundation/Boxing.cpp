@@ -88,7 +88,7 @@ Object boxedValue(T value, std::string_view encoding) {
   else if constexpr (std::is_arithmetic_v<T>)
     return numberOf(value);
   else
-    return valueOf(&value, encoding);
+    return valueOf(&value, firstType(encoding));
 }
 
 // Strings convert, too, because they answer the same messages.

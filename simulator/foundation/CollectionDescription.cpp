@@ -80,14 +80,18 @@ std::string entries(const NSDictionary& dictionary, int level) {
   return result + blanks(level) + '}';
 }
 
+// A collection within another begins with its own indentation, behind that of its line: so the
+// platform prints it.
 std::string describe(Object object, int level) {
-  if (const NSArray* array = stateOf<NSArray>(object))
-    return list(array->elements, level, [](const auto& element) { return Object(element); });
+  if (const NSArray* array = stateOf<NSArray>(object)) {
+    return blanks(level) +
+           list(array->elements, level, [](const auto& element) { return Object(element); });
+  }
   if (const NSDictionary* dictionary = stateOf<NSDictionary>(object))
-    return entries(*dictionary, level);
+    return blanks(level) + entries(*dictionary, level);
   if (const NSSet* set = stateOf<NSSet>(object)) {
-    return '{' + list(set->table, level, [](const KeyEntry& entry) { return Object(entry.key); }) +
-           '}';
+    return blanks(level) + '{' +
+           list(set->table, level, [](const KeyEntry& entry) { return Object(entry.key); }) + '}';
   }
   return quotedIfNeeded(description(object));
 }

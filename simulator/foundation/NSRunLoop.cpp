@@ -35,6 +35,7 @@ void NSRunLoop::registerClass() {
       .partialClassMethod<"currentRunLoop", &mainRunLoop>("the main run loop on every thread")
       .partial<"addTimer:forMode:", &addTimer>("the timer runs in every mode")
       .finish();
+  const objc::AutoreleasePool pool;  // the phone boots before there is any other
   NSDefaultRunLoopMode = constant("NSDefaultRunLoopMode", "kCFRunLoopDefaultMode");
   NSRunLoopCommonModes = constant("NSRunLoopCommonModes", "kCFRunLoopCommonModes");
 }

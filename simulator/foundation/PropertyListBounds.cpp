@@ -24,7 +24,8 @@ class BinaryList {
   }
 
   bool isBounded() {
-    if (count_ > bytes_.size() || offsetSize_ > 8 || referenceSize_ > 8) return false;
+    // More objects than bytes, or numbers of more than 64 bits: the parser refuses these.
+    if (count_ > bytes_.size() || offsetSize_ > 8 || referenceSize_ > 8) return true;
     weights_.assign(count_, 0);
     return weigh(top_, 0) <= largest;
   }

@@ -11,6 +11,8 @@ class Reader {
  public:
   explicit Reader(std::string_view encoding) : rest_(encoding) {}
 
+  std::string_view rest() const { return rest_; }
+
   TypeLayout type() {
     while (!rest_.empty() && qualifiers.find(rest_.front()) != rest_.npos) rest_.remove_prefix(1);
     if (rest_.empty()) return {};
@@ -88,6 +90,12 @@ class Reader {
 
 TypeLayout layoutOf(std::string_view encoding) {
   return Reader(encoding).type();
+}
+
+std::string_view firstType(std::string_view encoding) {
+  Reader reader(encoding);
+  reader.type();
+  return encoding.substr(0, encoding.size() - reader.rest().size());
 }
 
 char typeLetter(std::string_view encoding) {

@@ -16,6 +16,9 @@ struct TypeLayout {
 // Of the first type in the encoding; "{CGRect={CGPoint=dd}{CGSize=dd}}" gives 32, 8, "dddd".
 TypeLayout layoutOf(std::string_view encoding);
 
+// The first type alone, without what follows it in a method's encoding.
+std::string_view firstType(std::string_view encoding);
+
 // The letter that decides how a type is passed, qualifiers skipped; 0 for an empty encoding.
 char typeLetter(std::string_view encoding);
 

@@ -1,0 +1,102 @@
+#include "simulator/StandIn.h"
+#include "tests/foundation/FoundationTest.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+using objc::send;
+
+struct Listener : objc::Implementation<Listener> {
+  std::vector<std::string> heard;
+
+  void hear(Object what) { heard.push_back(notation(what)); }
+
+  static void registerClass() {
+    if (cls() == nullptr)
+      StandIn<Listener>("Test", "PerformListener", "NSObject")
+          .method<"hear:", &Listener::hear>()
+          .finish();
+  }
+};
+
+class DelayedPerformsTest : public FoundationTest {
+ protected:
+  DelayedPerformsTest() { Listener::registerClass(); }
+
+  static void perform(Object target, Object argument, double delay) {
+    send<void, "performSelector:withObject:afterDelay:">(target, sel_registerName("hear:"),
+                                                         argument, delay);
+  }
+  using Lines = std::vector<std::string>;
+};
+
+TEST_F(DelayedPerformsTest, runAfterTheirDelayInOrder) {
+  const auto listener = Listener::make();
+  perform(listener, string("late"), 2);
+  perform(listener, string("early"), 0);
+  perform(listener, nullptr, 0);
+  EXPECT_TRUE(Listener::of(listener.get()).heard.empty());
+  advance(0);
+  EXPECT_EQ(Listener::of(listener.get()).heard, (Lines{"\"early\"", "nil"}));
+  advance(1.999);
+  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 2u);
+  advance(0.001);
+  EXPECT_EQ(Listener::of(listener.get()).heard.back(), "\"late\"");
+}
+
+TEST_F(DelayedPerformsTest, keepTheirTarget) {
+  auto listener = Listener::make();
+  const auto watched = objc::weak(listener.get());
+  {
+    const objc::AutoreleasePool pool;
+    perform(listener, string("x"), 1);
+  }
+  listener = nullptr;
+  EXPECT_TRUE(watched.load());
+  advance(1);
+  EXPECT_FALSE(watched.load());
+}
+
+TEST_F(DelayedPerformsTest, areCancelledByTarget) {
+  const auto listener = Listener::make();
+  const auto other = Listener::make();
+  perform(listener, string("x"), 1);
+  perform(other, string("y"), 1);
+  send<void, "cancelPreviousPerformRequestsWithTarget:">(cls("NSObject"), listener.get());
+  advance(1);
+  EXPECT_TRUE(Listener::of(listener.get()).heard.empty());
+  EXPECT_EQ(Listener::of(other.get()).heard.size(), 1u);
+}
+
+TEST_F(DelayedPerformsTest, areCancelledByEqualArgument) {
+  const auto listener = Listener::make();
+  perform(listener, string("x"), 1);
+  perform(listener, string("y"), 1);
+  perform(listener, nullptr, 1);
+  const auto cancel = [&](Object argument) {
+    send<void, "cancelPreviousPerformRequestsWithTarget:selector:object:">(
+        cls("NSObject"), listener.get(), sel_registerName("hear:"), argument);
+  };
+  cancel(string("x"));
+  cancel(nullptr);
+  advance(1);
+  EXPECT_EQ(Listener::of(listener.get()).heard, Lines{"\"y\""});
+}
+
+TEST_F(DelayedPerformsTest, onTheMainThreadRunAtOnceWhenWaitedFor) {
+  const auto listener = Listener::make();
+  const auto perform = [&](bool wait) {
+    send<void, "performSelectorOnMainThread:withObject:waitUntilDone:">(
+        listener.get(), sel_registerName("hear:"), Object(string("x")), wait);
+  };
+  perform(true);
+  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 1u);
+  perform(false);
+  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 1u);
+  advance(0);
+  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 2u);
+}
+
+}  // namespace
+}  // namespace sim

@@ -134,6 +134,19 @@ TEST_F(PCSimpleTimerTest, LeavesNothingBehindWhenItHasFired) {
   EXPECT_EQ(live("NSTimer"), 0U);
 }
 
+TEST_F(PCSimpleTimerTest, LetsItsTargetGoWhenItHasFired) {
+  objc::Strong<objc::Object> timer;
+  {
+    const objc::AutoreleasePool pool;
+    timer = make();
+    schedule(timer.get());
+  }
+  advance(59);
+  EXPECT_EQ(live("TestSleeper"), 1U);
+  advance(1);
+  EXPECT_EQ(live("TestSleeper"), 0U);
+}
+
 TEST_F(PCSimpleTimerTest, LeavesNothingBehindWhenInvalidated) {
   {
     const objc::AutoreleasePool pool;

@@ -64,14 +64,16 @@ long Arguments::integer(std::string_view what) {
 }
 
 bool Arguments::yesOrNo(std::string_view what) {
-  const Word& found = word(what);
+  const std::string form = std::string(what) + " (YES or NO)";
+  const Word& found = word(form);
   if (!found.quoted && found.text == "YES") return true;
   if (!found.quoted && found.text == "NO") return false;
-  failWord(found, std::string(what) + " (YES or NO)");
+  failWord(found, form);
 }
 
 Nanoseconds Arguments::duration(std::string_view what) {
-  const Word& found = word(what);
+  const std::string form = std::string(what) + " such as 250ms, 10s, 5m or 8h";
+  const Word& found = word(form);
   // "ms" before "m" and "s", which it ends and starts with.
   for (const Unit unit : {Unit{"ms", 0.001}, Unit{"s", 1}, Unit{"m", 60}, Unit{"h", 3600}}) {
     const std::string_view text = found.text;
@@ -80,7 +82,7 @@ Nanoseconds Arguments::duration(std::string_view what) {
         parseFinite(text.substr(0, text.size() - unit.suffix.size()), amount) && amount >= 0)
       return nanoseconds(amount * unit.seconds);
   }
-  failWord(found, std::string(what) + " such as 250ms, 10s, 5m or 8h");
+  failWord(found, form);
 }
 
 void Arguments::finish() {

@@ -87,14 +87,22 @@ class Reader {
   // Nothing is passed through a pointer by value, so its target may be anything.
   std::string pointee(int depth) {
     skipInformation();
-    if (at_ < text_.size() && text_[at_] == '{' && text_.find('=', at_) == none) {
-      const std::size_t close = text_.find('}', at_);
-      if (close == none) fail("ends too early");
-      const auto opaque = text_.substr(at_, close + 1 - at_);
-      at_ = close + 1;
-      return std::string(opaque);
-    }
+    const std::string_view brackets = "{([";
+    if (at_ < text_.size() && brackets.find(text_[at_]) != none) return bracketed();
     return type(depth + 1).text;
+  }
+
+  // As it stands: an opaque structure has no members to read.
+  std::string bracketed() {
+    const std::size_t start = at_;
+    int depth = 0;
+    do {
+      if (at_ == text_.size()) fail("ends too early");
+      const char letter = text_[at_++];
+      if (letter == '{' || letter == '(' || letter == '[') ++depth;
+      if (letter == '}' || letter == ')' || letter == ']') --depth;
+    } while (depth > 0);
+    return std::string(text_.substr(start, at_ - start));
   }
 
   std::string_view text_;

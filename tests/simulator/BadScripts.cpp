@@ -1,0 +1,131 @@
+// What a script's author is told: for each mistake the place, what was expected and what was found.
+#include <gtest/gtest.h>
+
+#include "tests/simulator/RunProgram.h"
+
+namespace sim {
+namespace {
+
+struct Mistake {
+  std::string name;
+  std::string script;
+  std::string message;  // the first line on stderr
+};
+
+class BadScript : public testing::TestWithParam<Mistake> {};
+
+TEST_P(BadScript, IsToldItsMistake) {
+  const Outcome outcome = play(GetParam().script);
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.errors.substr(0, outcome.errors.find('\n')), GetParam().message);
+}
+
+void PrintTo(const Mistake& test, std::ostream* stream) {
+  *stream << test.name;
+}
+
+std::string named(const testing::TestParamInfo<Mistake>& test) {
+  return test.param.name;
+}
+
+#define TABLE(name, ...) \
+  INSTANTIATE_TEST_SUITE_P(name, BadScript, testing::Values(__VA_ARGS__), named)
+
+TABLE(Lines, Mistake{"Unknown", "boot\n  bot", "SCRIPT:2:3: expected a command, found bot"},
+      Mistake{"FoundBeforeAnythingRuns", "get X\nbot", "SCRIPT:2:1: expected a command, found bot"},
+      Mistake{"Quote", "locale \"a", "SCRIPT:1:8: expected a closing quote"},
+      Mistake{"TooMany", "boot now", "SCRIPT:1:6: nothing may follow here, found now"},
+      Mistake{"TooFew", "boot\nadvance",
+              "SCRIPT:2:8: expected a duration such as 250ms, 10s, 5m or 8h"},
+      Mistake{"TooEarly", "advance 1s", "SCRIPT:1:1: advance belongs after boot"},
+      Mistake{"TooLate", "boot\nios 15", "SCRIPT:2:1: ios belongs before boot"},
+      Mistake{"BootTwice", "boot\nboot", "SCRIPT:2:1: boot belongs before boot"});
+
+TABLE(Setup, Mistake{"Version", "ios x", "SCRIPT:1:5: expected a version such as 15.4, found x"},
+      Mistake{"VersionDots", "ios 15..4",
+              "SCRIPT:1:5: expected a version such as 15.4, found 15..4"},
+      Mistake{"Locale", "locale \"\"", "SCRIPT:1:8: expected a locale such as en_US, found "},
+      Mistake{"File", "file a b", "SCRIPT:1:6: expected an absolute path, found a"},
+      Mistake{"Encoding", "declare f \"vz\"",
+              "SCRIPT:1:11: the encoding \"vz\" has a type that no method passes by value: z"});
+
+TABLE(Targets, Mistake{"Class", "boot\nget NoClass.x", "SCRIPT:2:5: there is no class NoClass"},
+      Mistake{"Variable", "boot\nget $x", "SCRIPT:2:5: there is no variable $x"},
+      Mistake{"Key", "boot\nget Sample.shared.nokey.x",
+              "SCRIPT:2:19: Sample does not answer nokey"},
+      Mistake{"Nil", "boot\nget Sample.new.title.length",
+              "SCRIPT:2:22: expected an object to ask for length, found nil"},
+      Mistake{"Number", "boot\nget Sample.new.count.x",
+              "SCRIPT:2:22: expected an object to ask for x, found 0"},
+      Mistake{"Dot", "boot\nget Sample.", "SCRIPT:2:12: expected a name after the dot"},
+      Mistake{"Index", "boot\nget NSArray.new.3",
+              "SCRIPT:2:17: expected an index below 0, found 3"},
+      Mistake{"Text", "boot\nget \"x\"",
+              "SCRIPT:2:5: expected a class or a $variable, found a string"},
+      Mistake{"Name", "boot\nlet $x Sample",
+              "SCRIPT:2:5: expected a name without $ and dots, found $x"});
+
+TABLE(Sends,
+      Mistake{"Unknown", "boot\nsend Sample.new nope: 1",
+              "SCRIPT:2:17: Sample does not answer nope:"},
+      Mistake{"NilReceiver", "boot\nsend Sample.new.title length",
+              "SCRIPT:2:6: Sample.new.title: expected an object, found nil"},
+      Mistake{"Missing", "boot\nsend Sample.new sum:b:c:d:e:f: 1 2",
+              "SCRIPT:2:35: expected argument 3"},
+      Mistake{"More", "boot\nsend Sample.new sameInt: 1 2",
+              "SCRIPT:2:28: nothing may follow here, found 2"},
+      Mistake{"Background", "boot\nbackground get Sample", "SCRIPT:2:12: expected send"});
+
+// What does not fit each type of argument.
+Mistake argument(const std::string& name, const std::string& selector, const std::string& value,
+                 const std::string& expected) {
+  return {name, "boot\nsend Sample.new " + selector + ": " + value,
+          "SCRIPT:2:" + std::to_string(19 + selector.size()) + ": expected " + expected +
+              ", found " + value};
+}
+
+TABLE(Arguments, argument("Char", "sameChar", "128", "an integer that fits the type c"),
+      argument("CharLow", "sameChar", "-129", "an integer that fits the type c"),
+      argument("UnsignedChar", "sameUnsignedChar", "-1", "an integer that fits the type C"),
+      argument("Short", "sameShort", "32768", "an integer that fits the type s"),
+      argument("UnsignedShort", "sameUnsignedShort", "65536", "an integer that fits the type S"),
+      argument("Int", "sameInt", "2147483648", "an integer that fits the type i"),
+      argument("Fraction", "sameInt", "1.5", "an integer that fits the type i"),
+      argument("UnsignedInt", "sameUnsignedInt", "4294967296", "an integer that fits the type I"),
+      argument("Long", "sameLong", "9223372036854775808", "an integer that fits the type q"),
+      argument("UnsignedLong", "sameUnsignedLong", "-1", "an integer that fits the type Q"),
+      argument("Float", "sameFloat", "1e39", "a number"),
+      argument("FloatText", "sameFloat", "\"1\"", "a number"),
+      argument("Bool", "sameBool", "1", "YES or NO"),
+      argument("Integer", "sameInt", "YES", "an integer that fits the type i"),
+      argument("Class", "sameClass", "\"x\"", "a class"),
+      argument("ClassObject", "sameClass", "Sample.new", "a class"),
+      argument("Selector", "sameSelector", "3", "a selector"),
+      argument("CString", "sameCString", "3", "a string or nil"),
+      argument("Pointer", "samePointer", "3", "nil"),
+      argument("Structure", "samePoint", "3", "a structure of 2 members"),
+      argument("StructureSize", "samePoint", "{1, 2, 3}", "a structure of 2 members"),
+      argument("ObjectStructure", "sameObject", "{1, 2}", "an object"),
+      argument("NilNumber", "sameInt", "nil", "an integer that fits the type i"));
+
+TABLE(Functions,
+      Mistake{"Absent", "boot\ncall nope", "SCRIPT:2:6: no loaded extension exports nope"},
+      Mistake{"Undeclared", "boot\ncall sampleSum 1 2",
+              "SCRIPT:2:6: the types of sampleSum are not known: declare them"},
+      Mistake{"Variable", "boot\nexpect-variable nope B YES",
+              "SCRIPT:2:17: no loaded extension exports nope"},
+      Mistake{"Type", "boot\nexpect-variable sampleFlag Bd YES",
+              "SCRIPT:2:28: the encoding \"Bd\" is not one type"});
+
+TABLE(Time,
+      Mistake{"Backwards", "boot\nadvance 10s\nadvance-to 9",
+              "SCRIPT:3:1: time only moves forward: it is 10 already"},
+      Mistake{"Wall", "wall-clock 1h", "SCRIPT:1:12: expected +DURATION or -DURATION, found 1h"},
+      Mistake{"WallAmount", "wall-clock +1",
+              "SCRIPT:1:13: expected a duration such as 250ms, 10s, 5m or 8h, found 1"},
+      Mistake{"KillAt", "boot\nkill-at 1",
+              "SCRIPT:2:1: expected a number of journal lines above 1, found 1"},
+      Mistake{"RespringBeforeBoot", "respring", "SCRIPT:1:1: respring belongs after boot"});
+
+}  // namespace
+}  // namespace sim

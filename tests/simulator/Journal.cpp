@@ -1,0 +1,49 @@
+#include "simulator/phone/Journal.h"
+
+#include "tests/simulator/TestPhone.h"
+
+namespace sim {
+namespace {
+
+class JournalTest : public MachineTest {};
+
+TEST_F(JournalTest, RecordsTextWithTheTime) {
+  phone.queue.runUntil(2701 * nanosecondsPerSecond);
+  phone.journal.record("-[SBMediaController pause]");
+  ASSERT_EQ(phone.journal.entries().size(), 1u);
+  EXPECT_EQ(formatted(phone.journal.entries()[0]), "  2701.000  -[SBMediaController pause]");
+}
+
+TEST_F(JournalTest, TellsObserversInOrder) {
+  std::string seen;
+  phone.journal.observe([&seen](const JournalEntry& entry) { seen += "1" + entry.text; });
+  phone.journal.observe([&seen](const JournalEntry& entry) { seen += "2" + entry.text; });
+  phone.journal.record("a");
+  EXPECT_EQ(seen, "1a2a");
+}
+
+TEST_F(JournalTest, AnObserverMayRecord) {
+  phone.journal.observe([this](const JournalEntry& entry) {
+    if (entry.text == "outer") phone.journal.record("inner");
+  });
+  phone.journal.record("outer");
+  ASSERT_EQ(phone.journal.entries().size(), 2u);
+  EXPECT_EQ(phone.journal.entries()[1].text, "inner");
+}
+
+TEST_F(JournalTest, RestoredEntriesAreNotToldAgain) {
+  int told = 0;
+  phone.journal.observe([&told](const JournalEntry&) { ++told; });
+  phone.journal.restore({{5, "before"}});
+  phone.journal.record("after");
+  EXPECT_EQ(told, 1);
+  EXPECT_EQ(phone.journal.entries()[0].time, 5);
+}
+
+TEST(JournalLine, KeepsItsColumnsForLongTimes) {
+  EXPECT_EQ(formatted({500'000, "a"}), "     0.001  a");
+  EXPECT_EQ(formatted({123456789 * nanosecondsPerSecond, "a"}), "123456789.000  a");
+}
+
+}  // namespace
+}  // namespace sim

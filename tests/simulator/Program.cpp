@@ -1,0 +1,82 @@
+// The command line: usage, several scripts, exit status.
+#include <gtest/gtest.h>
+
+#include "tests/simulator/RunProgram.h"
+
+namespace sim {
+namespace {
+
+std::string firstLine(const std::string& text) {
+  return text.substr(0, text.find('\n'));
+}
+
+TEST(Program, WrongUsageIsStatusTwo) {
+  for (const char* words : {"nope", "play", "play --nope x", "play --tweak", "commands x",
+                            "play --root a b c", "play --tweak a --no-tweak b"}) {
+    const Outcome outcome = runSimulator(words);
+    EXPECT_EQ(outcome.status, 2) << words;
+    EXPECT_NE(outcome.errors.find("usage: "), std::string::npos) << words;
+  }
+}
+
+TEST(Program, HelpIsNoError) {
+  for (const char* words : {"--help", "-h", "help", "play --help", ""}) {
+    const Outcome outcome = runSimulator(words);
+    EXPECT_EQ(outcome.status, 0) << words;
+    EXPECT_EQ(outcome.output.rfind("usage: dozewell-simulator play", 0), 0u) << words;
+  }
+}
+
+TEST(Program, PrintsTheJournalUnlessQuiet) {
+  const std::string script = "boot\nadvance 90s\nlet a Sample.new\nget $a.count";
+  EXPECT_EQ(play(script, "").output,
+            "     0.000  -[SpringBoard applicationDidFinishLaunching:]\n0\n");
+  EXPECT_EQ(play(script, "--quiet").output, "0\n");
+}
+
+TEST(Program, PlaysEveryScriptAndReportsEachFailure) {
+  const std::string bad = writeFile("bad.phone", "boot\nadvance x\n");
+  const std::string good = writeFile("good.phone", "boot\nget NSThread.isMainThread\n");
+  const std::string worse = writeFile("worse.phone", "boot\nget Nope\n");
+  const Outcome outcome =
+      runSimulator("play --quiet --no-tweak '" + bad + "' '" + good + "' '" + worse + "'");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.output, "YES\n");
+  EXPECT_NE(outcome.errors.find(bad + ":2:9: "), std::string::npos);
+  EXPECT_NE(outcome.errors.find(worse + ":2:5: there is no class Nope"), std::string::npos);
+}
+
+TEST(Program, AScriptThatIsNotThere) {
+  const Outcome outcome = runSimulator("play --no-tweak /nonexistent.phone");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(firstLine(outcome.errors), "/nonexistent.phone: No such file or directory");
+  EXPECT_EQ(firstLine(runSimulator("play --no-tweak /tmp").errors),
+            "/tmp: is a folder, not a script");
+}
+
+TEST(Program, AnExtensionThatDoesNotLoad) {
+  const std::string script = writeFile("boot.phone", "boot\n");
+  const Outcome outcome = runSimulator("play --tweak /nonexistent.so '" + script + "'");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_NE(outcome.errors.find(":1:1: the extension does not load: /nonexistent.so"),
+            std::string::npos);
+}
+
+TEST(Program, AnExtensionThatStopsTheProgramIsReportedWithTheLine) {
+  const Outcome outcome =
+      play("boot\n\nsend Sample.new performSelector: selector nope\nadvance 1s");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_NE(outcome.errors.find("-[Sample nope]: unrecognized selector"), std::string::npos);
+  EXPECT_NE(outcome.errors.find("SCRIPT:3:1: the phone stopped here"), std::string::npos);
+}
+
+TEST(Program, FidelityGradesEveryFramework) {
+  const Outcome outcome = runSimulator("fidelity");
+  EXPECT_EQ(outcome.status, 0);
+  for (const char* line : {"## Foundation\n", "## UIKit\n", "## libdispatch\n", "### Functions\n",
+                           "| `dispatch_async` | real |  |\n", "| partial | "})
+    EXPECT_NE(outcome.output.find(line), std::string::npos) << line;
+}
+
+}  // namespace
+}  // namespace sim

@@ -1,0 +1,15 @@
+// A phone for one test, whose files nobody writes.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+
+class MachineTest : public testing::Test {
+ protected:
+  Phone phone{"/nonexistent"};
+};
+
+}  // namespace sim

@@ -1,3 +1,4 @@
+#include "simulator/Fidelity.h"
 #include "simulator/Frameworks.h"
 #include "simulator/cephei/HBPreferences.h"
 #include "simulator/foundation/Values.h"
@@ -8,6 +9,7 @@ void registerCephei() {
   const objc::AutoreleasePool pool;
   HBPreferencesDidChangeNotification =
       objc::retain(string("HBPreferencesDidChangeNotification")).detach().get();
+  recordFunction("Cephei", "HBPreferencesDidChangeNotification", {Grade::real, ""});
   HBPreferences::registerClass();
 }
 

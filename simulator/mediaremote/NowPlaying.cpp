@@ -24,6 +24,8 @@ id kMRMediaRemoteNowPlayingInfoPlaybackRate;
 namespace sim {
 namespace {
 
+constexpr const char* framework = "MediaRemote";
+
 using Pairs = std::vector<std::pair<objc::Object, objc::Object>>;
 
 objc::Object nowPlayingInfo() {
@@ -71,6 +73,7 @@ void announceChange() {
 
 void define(id& symbol, const char* name) {
   symbol = objc::retain(string(name)).detach().get();
+  recordFunction(framework, name, {Grade::real, ""});
 }
 
 void defineStrings() {
@@ -114,7 +117,6 @@ bool perform(Player& player, int command) {
 }  // namespace
 
 void registerMediaRemote() {
-  constexpr const char* framework = "MediaRemote";
   const objc::AutoreleasePool pool;
   defineStrings();
   recordFunction(framework, "MRMediaRemoteGetNowPlayingInfo",

@@ -72,6 +72,15 @@ TEST_F(Commands, PlaylistFilesAreRead) {
   EXPECT_NE(run("playlist-file", {quotes(path)}), "");
 }
 
+TEST_F(Commands, AnotherPlaylistMayBeChosenForTheWholePhone) {
+  const auto path = phone.root() / "chosen.m3u";
+  std::ofstream(path) << "#EXTINF:10,Chosen\nchosen.mp3\n";
+  phone.setup.playlist = path;
+  boot();
+  EXPECT_EQ(run("playlist-file", {quotes("/nowhere/night.m3u")}), "");
+  EXPECT_EQ(run("expect-track", {quotes("Chosen")}), "");
+}
+
 TEST_F(Commands, TheUserControlsTheMusic) {
   boot();
   EXPECT_NE(run("play", {}), "") << "there is no playlist yet";

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <list>
 
+#include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/NSObject.h"
 #include "simulator/foundation/NSThread.h"
 #include "simulator/phone/Phone.h"
@@ -36,7 +37,7 @@ void performAfterDelay(Object self, SEL selector, Object argument, double delay)
   pending().push_back({objc::retain(self), selector, objc::retain(argument), 0});
   const auto entry = std::prev(pending().end());
   Phone& phone = Phone::current();
-  const Nanoseconds due = phone.clock.uptime() + nanoseconds(std::max(delay, 0.0));
+  const Nanoseconds due = deadline(phone.clock.uptime(), nanoseconds(delay));
   entry->ticket = phone.queue.add(due, [entry] {
     std::list<Perform> running;
     running.splice(running.begin(), pending(), entry);

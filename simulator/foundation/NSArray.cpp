@@ -8,10 +8,10 @@
 #include "simulator/foundation/CollectionDescription.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSArrayDerived.h"
 #include "simulator/foundation/NSMutableArray.h"
 #include "simulator/foundation/NSRange.h"
 #include "simulator/foundation/PropertyList.h"
-#include "simulator/foundation/Sorting.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/foundation/Variadic.h"
 #include "simulator/phone/Phone.h"
@@ -27,68 +27,45 @@ const Elements& elements(Object self) {
   return NSArray::of(self).elements;
 }
 
-// The elements of an array argument; none for nil.
-const Elements& argument(Object array) {
-  static const Elements none;
-  if (!array) return none;
-  if (const NSArray* state = stateOf<NSArray>(array)) return state->elements;
-  raiseException("NSInvalidArgumentException", "an array is needed, not " + description(array));
-}
-
-Object made(id cls, Elements elements) {
-  Strong<Object> array = makeOf(cls);
-  NSArray::of(array.get()).elements = std::move(elements);
-  return autorelease(std::move(array));
-}
-
-void add(Elements& elements, Object element) {
-  if (!element) {
-    raiseException("NSInvalidArgumentException",
-                   "*** -[NSArray initWithObjects:count:]: attempt to insert nil object from "
-                   "objects[" +
-                       std::to_string(elements.size()) + "]");
-  }
-  elements.push_back(objc::retain(element));
-}
-
 Object makeEmpty(id cls) {
-  return made(cls, {});
+  return makeArray(cls, {});
 }
 Object makeWithObject(id cls, Object element) {
   Elements elements;
-  add(elements, element);
-  return made(cls, std::move(elements));
+  addElement(elements, element);
+  return makeArray(cls, std::move(elements));
 }
 Object makeWithArray(id cls, Object other) {
-  return made(cls, argument(other));
+  return makeArray(cls, elementsOf(other));
 }
 Object makeWithObjects(id cls, const id* objects, unsigned long count) {
   Elements elements;
-  for (unsigned long i = 0; i < count; ++i) add(elements, Object(objects[i]));
-  return made(cls, std::move(elements));
+  for (unsigned long i = 0; i < count; ++i) addElement(elements, Object(objects[i]));
+  return makeArray(cls, std::move(elements));
 }
 id makeWithList(id cls, SEL, id first, ...) {
   Elements elements;
   std::va_list rest;
   va_start(rest, first);
-  for (id next = first; next != nullptr; next = va_arg(rest, id)) add(elements, Object(next));
+  for (id next = first; next != nullptr; next = va_arg(rest, id))
+    addElement(elements, Object(next));
   va_end(rest);
-  return made(cls, std::move(elements)).get();
+  return makeArray(cls, std::move(elements)).get();
 }
 Object makeWithContentsOfFile(id cls, Object path) {
   if (!path) return nullptr;
   std::string problem;
   const Object read = readPropertyList(Phone::current().file(text(path)), &problem);
-  return isA<NSArray>(read) ? made(cls, elements(read)) : nullptr;
+  return isA<NSArray>(read) ? makeArray(cls, elements(read)) : nullptr;
 }
 
 Object initWithArray(Object self, Object other) {
-  NSArray::of(self).elements = argument(other);
+  NSArray::of(self).elements = elementsOf(other);
   return self;
 }
 Object initWithObjects(Object self, const id* objects, unsigned long count) {
   Elements elements;
-  for (unsigned long i = 0; i < count; ++i) add(elements, Object(objects[i]));
+  for (unsigned long i = 0; i < count; ++i) addElement(elements, Object(objects[i]));
   NSArray::of(self).elements = std::move(elements);
   return self;
 }
@@ -121,36 +98,6 @@ unsigned long indexOfObjectIdenticalTo(Object self, Object wanted) {
   for (unsigned long i = 0; i < all.size(); ++i)
     if (all[i].get() == wanted) return i;
   return NSNotFound;
-}
-
-Object arrayByAddingObject(Object self, Object added) {
-  Elements joined = elements(self);
-  add(joined, added);
-  return made(reinterpret_cast<id>(NSArray::cls()), std::move(joined));
-}
-Object arrayByAddingObjectsFromArray(Object self, Object added) {
-  Elements joined = elements(self);
-  for (const Strong<Object>& element : argument(added)) joined.push_back(element);
-  return made(reinterpret_cast<id>(NSArray::cls()), std::move(joined));
-}
-Object subarrayWithRange(Object self, NSRange range) {
-  const Elements& all = elements(self);
-  if (range.location > all.size() || range.length > all.size() - range.location) {
-    raiseException("NSRangeException",
-                   "*** " + methodName(self, "subarrayWithRange:") + ": range {" +
-                       std::to_string(range.location) + ", " + std::to_string(range.length) +
-                       "} extends beyond bounds [0 .. " + std::to_string(all.size() - 1) + "]");
-  }
-  const auto from = all.begin() + long(range.location);
-  return made(reinterpret_cast<id>(NSArray::cls()), Elements(from, from + long(range.length)));
-}
-Object componentsJoinedByString(Object self, Object separator) {
-  std::string joined;
-  for (const Strong<Object>& element : elements(self)) {
-    if (&element != &elements(self).front()) joined += text(separator);
-    joined += description(element);
-  }
-  return string(joined);
 }
 
 using Visitor = objc::Block<void(Object, unsigned long, bool*)>;
@@ -192,13 +139,6 @@ Object describe(Object self) {
   return string(collectionDescription(self));
 }
 
-Object sortedArrayUsingSelector(Object self, SEL selector) {
-  return made(reinterpret_cast<id>(NSArray::cls()), sorted(elements(self), selector));
-}
-Object sortedArrayUsingComparator(Object self, Comparator comparator) {
-  return made(reinterpret_cast<id>(NSArray::cls()), sorted(elements(self), comparator));
-}
-
 void addFactories(StandIn<NSArray>& standIn) {
   standIn.factory<"array", &makeEmpty>()
       .factory<"arrayWithObject:", &makeWithObject>()
@@ -235,6 +175,29 @@ void requireIndex(Object array, const char* selector, unsigned long index) {
                                          std::to_string(index) + " beyond bounds " + bounds);
 }
 
+const Elements& elementsOf(Object array) {
+  static const Elements none;
+  if (!array) return none;
+  if (const NSArray* state = stateOf<NSArray>(array)) return state->elements;
+  raiseException("NSInvalidArgumentException", "an array is needed, not " + description(array));
+}
+
+Object makeArray(id cls, Elements elements) {
+  Strong<Object> array = makeOf(cls);
+  NSArray::of(array.get()).elements = std::move(elements);
+  return autorelease(std::move(array));
+}
+
+void addElement(Elements& elements, Object element) {
+  if (!element) {
+    raiseException("NSInvalidArgumentException",
+                   "*** -[NSArray initWithObjects:count:]: attempt to insert nil object from "
+                   "objects[" +
+                       std::to_string(elements.size()) + "]");
+  }
+  elements.push_back(objc::retain(element));
+}
+
 unsigned long indexOf(const NSArray& array, Object wanted) {
   for (unsigned long i = 0; wanted && i < array.elements.size(); ++i) {
     const Object element = array.elements[i];
@@ -247,13 +210,8 @@ void NSArray::registerClass() {
   StandIn<NSArray> standIn("Foundation", "NSArray", "NSObject");
   addFactories(standIn);
   addReading(standIn);
-  standIn.method<"arrayByAddingObject:", &arrayByAddingObject>()
-      .method<"arrayByAddingObjectsFromArray:", &arrayByAddingObjectsFromArray>()
-      .method<"subarrayWithRange:", &subarrayWithRange>()
-      .method<"componentsJoinedByString:", &componentsJoinedByString>()
-      .method<"sortedArrayUsingSelector:", &sortedArrayUsingSelector>()
-      .method<"sortedArrayUsingComparator:", &sortedArrayUsingComparator>()
-      .method<"isEqual:", &isEqual>()
+  addDerivedArrays(standIn);
+  standIn.method<"isEqual:", &isEqual>()
       .method<"isEqualToArray:", &isEqual>()
       .method<"hash", &count>()
       .method<"copyWithZone:", &copyWithZone>()

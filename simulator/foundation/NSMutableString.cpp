@@ -34,18 +34,15 @@ void appendFormat(id self, SEL, id format, ...) {
 }  // namespace
 
 void NSMutableString::appendString(Object other) {
-  // A copy: a string may be appended to itself.
-  const std::u16string added = argument(self(), "appendString:", other);
-  NSString::of(self()).units += added;
+  NSString::of(self()).units += argument(self(), "appendString:", other);
 }
 
 void NSMutableString::setString(Object other) {
-  const std::u16string text = argument(self(), "setString:", other);
-  NSString::of(self()).units = text;
+  NSString::of(self()).units = argument(self(), "setString:", other);
 }
 
 void NSMutableString::insertString(Object other, unsigned long index) {
-  const std::u16string added = argument(self(), "insertString:atIndex:", other);
+  const std::u16string& added = argument(self(), "insertString:atIndex:", other);
   std::u16string& units = NSString::of(self()).units;
   if (index > units.size()) {
     raiseException("NSRangeException", methodName(Object(self()), "insertString:atIndex:") +

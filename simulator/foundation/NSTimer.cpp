@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSDate.h"
@@ -23,7 +24,7 @@ double usable(double seconds) {
 }
 
 Nanoseconds fromNow(double seconds) {
-  return Phone::current().clock.uptime() + nanoseconds(usable(seconds));
+  return deadline(Phone::current().clock.uptime(), nanoseconds(usable(seconds)));
 }
 
 // Dates of this century resolve a tenth of a microsecond: rounded to whole microseconds, a moment
@@ -34,7 +35,7 @@ Nanoseconds uptimeOf(Object date) {
     raiseException("NSInvalidArgumentException", "a timer needs a date to fire at");
   const Clock& clock = Phone::current().clock;
   const double distance = std::round((state->reference - clock.wall()) * 1e6) / 1e6;
-  return clock.uptime() + std::max(nanoseconds(distance), -clock.uptime());
+  return deadline(clock.uptime(), nanoseconds(distance));
 }
 
 Strong<Object> make(double seconds, Object target, SEL selector, Object info, bool repeats) {
@@ -113,8 +114,10 @@ void NSTimer::tick() {
   if (interval == 0) return invalidate();
   // A new fire date set meanwhile counts. Otherwise the next one is a whole number of intervals
   // after the first, so that it does not drift; those missed are left out.
-  const Nanoseconds now = Phone::current().clock.uptime();
-  if (due == fired) due += std::max<Nanoseconds>((now - due) / interval + 1, 1) * interval;
+  if (due == fired) {
+    const Nanoseconds late = std::max<Nanoseconds>(Phone::current().clock.uptime() - due, 0);
+    due = deadline(due + late / interval * interval, interval);
+  }
   schedule();
 }
 

@@ -33,6 +33,7 @@ TEST_F(NSDateTest, describesItselfInUtc) {
   EXPECT_EQ(description(date(820533600)), "2027-01-01 22:00:00 +0000");
   EXPECT_EQ(description(date(0)), "2001-01-01 00:00:00 +0000");
   EXPECT_EQ(description(date(-0.5)), "2000-12-31 23:59:59 +0000");
+  EXPECT_EQ(description(date(-978307200.5)), "1969-12-31 23:59:59 +0000");
   EXPECT_EQ(description(date(820533660.9)), "2027-01-01 22:01:00 +0000");
   EXPECT_EQ(description(send<Object, "distantFuture">(cls("NSDate"))), "4001-01-01 00:00:00 +0000");
   EXPECT_EQ(description(send<Object, "distantPast">(cls("NSDate"))), "0000-12-30 00:00:00 +0000");

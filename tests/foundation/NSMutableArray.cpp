@@ -41,6 +41,7 @@ TEST_F(NSMutableArrayTest, removesAnElementThatOnlyItKeeps) {
   {
     const objc::AutoreleasePool pool;
     send<void, "addObject:">(list, string("only"));
+    send<void, "addObject:">(list, string("only"));
   }
   send<void, "removeObject:">(list, send<Object, "firstObject">(list));
   EXPECT_EQ((send<unsigned long, "count">(list)), 0u);

@@ -184,6 +184,32 @@ TEST_F(NSTimerTest, replacesIntervalsThatAreNotPositive) {
   EXPECT_EQ(Target::of(target.get()).fired, Times{start + 0.0001});
 }
 
+TEST_F(NSTimerTest, waitsForTheDistantFuture) {
+  const auto target = Target::make();
+  const Object timer = schedule(target, 1, true);
+  send<void, "setFireDate:">(timer, send<Object, "distantFuture">(cls("NSDate")));
+  const Object endless = schedule(target, 1e300, true);
+  advance(1e6);
+  EXPECT_TRUE(Target::of(target.get()).fired.empty());
+  send<void, "setFireDate:">(timer, send<Object, "distantPast">(cls("NSDate")));
+  advance(0);
+  EXPECT_EQ(Target::of(target.get()).fired.size(), 1u);
+  send<void, "invalidate">(timer);
+  send<void, "invalidate">(endless);
+}
+
+TEST_F(NSTimerTest, leavesOutTheTimesItMissed) {
+  const auto target = Target::make();
+  const double start = now();
+  const Object timer = schedule(target, 1, true);
+  Target::of(target.get()).whenFired = [&](Object) {
+    if (Target::of(target.get()).fired.size() == 1) advance(2.5);  // a long call
+  };
+  advance(5);
+  EXPECT_EQ(Target::of(target.get()).fired, (Times{start + 1, start + 4, start + 5}));
+  send<void, "invalidate">(timer);
+}
+
 TEST_F(NSTimerTest, doesNotFollowTheWallClock) {
   const auto target = Target::make();
   const double wall = phone.clock.wall();

@@ -8,8 +8,8 @@
 #include "simulator/Fidelity.h"
 #include "simulator/Frameworks.h"
 #include "simulator/dispatch/Dispatch.h"
-#include "simulator/phone/WorkerThread.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/phone/WorkerThread.h"
 
 struct dispatch_queue_s {
   const char* label;

@@ -1,5 +1,6 @@
 #include "simulator/phone/MainQueue.h"
 
+#include <latch>
 #include <memory>
 #include <string>
 #include <thread>
@@ -104,10 +105,12 @@ TEST_F(MainQueueTest, CapturesOfACancelledEntryMayCancelOthers) {
 
 TEST_F(MainQueueTest, ThreadsMayAddAndCancel) {
   int count = 0;
+  std::latch start(4);  // or the first would be done before the last begins
   std::vector<std::thread> threads;
   for (int thread = 0; thread < 4; ++thread) {
-    threads.emplace_back([this, &count] {
-      for (int entry = 0; entry < 500; ++entry) {
+    threads.emplace_back([this, &count, &start] {
+      start.arrive_and_wait();
+      for (int entry = 0; entry < 1000; ++entry) {
         phone.queue.addNow([&count] { ++count; });
         phone.queue.cancel(phone.queue.addNow([&count] { count += 1'000'000; }));
       }
@@ -115,7 +118,7 @@ TEST_F(MainQueueTest, ThreadsMayAddAndCancel) {
   }
   for (std::thread& thread : threads) thread.join();
   phone.queue.runDue();
-  EXPECT_EQ(count, 2000);
+  EXPECT_EQ(count, 4000);
 }
 
 TEST_F(MainQueueTest, AnEntrysAutoreleasedObjectsDieWithIt) {

@@ -10,10 +10,10 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/engine/TrackCounting.cpp
     tweak/hooks/DozewellButton.cpp
     tweak/hooks/Launch.cpp
+    tweak/hooks/LockScreen.cpp
     tweak/hooks/Startup.cpp
     tweak/hooks/Tracing.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp
-    tweak/indicators/LockScreen.cpp
     tweak/indicators/TimeFormat.cpp
     tweak/panel/Dozewell2ViewController.cpp
     tweak/settings/Dozewell2StorageManager.cpp

@@ -3,7 +3,7 @@
 #include "platform/Dispatch.h"
 #include "platform/SpringBoard.h"
 #include "tweak/engine/Dozewell2Manager.h"
-#include "tweak/indicators/LockScreen.h"
+#include "tweak/hooks/LockScreen.h"
 #include "tweak/indicators/TimeFormat.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/LocalizationHelper.h"

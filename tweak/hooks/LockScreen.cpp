@@ -1,4 +1,4 @@
-#include "tweak/indicators/LockScreen.h"
+#include "tweak/hooks/LockScreen.h"
 
 #include "objc/Global.h"
 #include "tweak/engine/Dozewell2Manager.h"

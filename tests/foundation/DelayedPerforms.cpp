@@ -74,6 +74,8 @@ TEST_F(DelayedPerformsTest, areCancelledByEqualArgument) {
   perform(listener, string("x"), 1);
   perform(listener, string("y"), 1);
   perform(listener, nullptr, 1);
+  const auto other = Listener::make();
+  perform(other, string("x"), 1);
   const auto cancel = [&](Object argument) {
     send<void, "cancelPreviousPerformRequestsWithTarget:selector:object:">(
         cls("NSObject"), listener.get(), sel_registerName("hear:"), argument);
@@ -82,6 +84,7 @@ TEST_F(DelayedPerformsTest, areCancelledByEqualArgument) {
   cancel(nullptr);
   advance(1);
   EXPECT_EQ(Listener::of(listener.get()).heard, Lines{"\"y\""});
+  EXPECT_EQ(Listener::of(other.get()).heard, Lines{"\"x\""});
 }
 
 TEST_F(DelayedPerformsTest, onTheMainThreadRunAtOnceWhenWaitedFor) {

@@ -21,7 +21,8 @@ TEST_F(NSStringTest, givesItsUtf8Back) {
 
 TEST_F(NSStringTest, isNilForBytesThatAreNoUtf8) {
   for (const char* bytes :
-       {"\xff", "\xc0\x80", "\xe2\x82", "\xed\xa0\x80", "\xf5\x80\x80\x80", "a\x80"})
+       {"\xff", "\xc0\x80", "\xe0\x80\x80", "\xf0\x80\x80\x80", "\xf4\x90\x80\x80", "\xe2\x82",
+        "\xed\xa0\x80", "\xf5\x80\x80\x80", "a\x80"})
     EXPECT_FALSE((send<Object, "stringWithUTF8String:">(cls("NSString"), bytes))) << bytes;
 }
 

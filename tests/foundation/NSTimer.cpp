@@ -118,6 +118,16 @@ TEST_F(NSTimerTest, waitsForARunLoop) {
   EXPECT_EQ(Target::of(target.get()).fired, Times{start + 2});
 }
 
+TEST_F(NSTimerTest, isScheduledOnceHoweverOftenItIsAdded) {
+  const auto target = Target::make();
+  const Object timer = schedule(target, 1, true);
+  send<void, "addTimer:forMode:">(send<Object, "mainRunLoop">(cls("NSRunLoop")), timer,
+                                  Object(NSRunLoopCommonModes));
+  advance(3);
+  EXPECT_EQ(Target::of(target.get()).fired.size(), 3u);
+  send<void, "invalidate">(timer);
+}
+
 TEST_F(NSTimerTest, firesAtOnceWhenAskedTo) {
   const auto target = Target::make();
   const Object once = schedule(target, 5, false);

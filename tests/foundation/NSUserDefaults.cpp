@@ -109,6 +109,14 @@ TEST_F(NSUserDefaultsTest, removalReachesTheFile) {
   EXPECT_EQ(stored("gone"), "nil");
 }
 
+TEST_F(NSUserDefaultsTest, areNotWrittenAgainWithoutAChange) {
+  set(number(1L), "a");
+  synchronize();
+  std::filesystem::remove(phone.file(file));
+  synchronize();
+  EXPECT_EQ(stored("a"), "no file");
+}
+
 TEST_F(NSUserDefaultsTest, convertNumbersAndStrings) {
   send<void, "setInteger:forKey:">(defaults(), -7L, string("integer"));
   send<void, "setBool:forKey:">(defaults(), true, string("bool"));

@@ -95,7 +95,7 @@ TEST_F(MainQueueTest, CapturesOfACancelledEntryMayCancelOthers) {
     ~Canceller() { queue.cancel(other); }
   };
   const auto other = phone.queue.add(10, note("other"));
-  auto capture = std::make_shared<Canceller>(phone.queue, other);
+  auto capture = std::shared_ptr<Canceller>(new Canceller{phone.queue, other});
   const auto ticket = phone.queue.add(10, [capture] {});
   capture.reset();
   phone.queue.cancel(ticket);

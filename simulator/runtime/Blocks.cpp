@@ -72,6 +72,7 @@ void* copyToHeap(const BlockLayout& source) {
     helpers->copy(copy, &source);
   }
   copy->isa = _NSConcreteMallocBlock;
+  copy->isCounted = 1;
   countLiveBlocks(1);
   return copy;
 }
@@ -124,6 +125,7 @@ void _Block_release(const void* block) {
     helpers->dispose(block);
   }
   destructObject(reinterpret_cast<id>(layoutOf(block)));
+  // Blocks that their makers put on the heap themselves were never counted.
+  if (layoutOf(block)->isCounted != 0) countLiveBlocks(-1);
   std::free(layoutOf(block));
-  countLiveBlocks(-1);
 }

@@ -22,7 +22,7 @@ struct BlockHelpers {
 struct BlockLayout {
   void* isa;
   std::int32_t flags;
-  std::int32_t reserved;
+  std::int32_t isCounted;  // the ABI's reserved word: 1 if _Block_copy made this block
   void (*invoke)();
   BlockDescriptor* descriptor;
 };

@@ -24,7 +24,8 @@ std::size_t liveInstanceCount(Class cls);
 // All classes that have instances, by name. Walks all objects.
 std::vector<LiveCount> liveInstanceCounts();
 
-// Blocks that were copied to the heap and are not freed yet.
+// Blocks that _Block_copy put on the heap and that are not freed yet. Blocks that are built there
+// by hand, as objc::block does, are not known to the runtime.
 std::size_t liveBlockCount();
 
 // For the runtime itself.

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <thread>
 #include <vector>
@@ -88,6 +89,17 @@ TEST_F(Blocks, copyMovesToTheHeap) {
   EXPECT_EQ(copy->invoke(copy), 7);
   EXPECT_EQ(liveBlockCount(), 1u);
   _Block_release(copy);
+}
+
+TEST_F(Blocks, builtOnTheHeapByHandIsFreedAndNotCounted) {
+  auto* block = static_cast<Block*>(std::malloc(sizeof(Block)));
+  *block = stackBlock(7);
+  block->isa = _NSConcreteMallocBlock;
+  block->flags = kNeedsFree | 2;
+  EXPECT_EQ(_Block_copy(block), block);
+  EXPECT_EQ(liveBlockCount(), 0u);
+  _Block_release(block);
+  _Block_release(block);
 }
 
 TEST_F(Blocks, helpersRunAtTheCopyAndAtTheLastRelease) {

@@ -109,12 +109,12 @@ class StandIn {
   }
 
   template <objc::FixedString Name, auto function>
-  StandIn& add(Rating rating) {
+  StandIn& add(const Rating& rating) {
     if (page_.record('-', Name.c_str(), rating)) builder_.template method<Name, function>();
     return *this;
   }
   template <objc::FixedString Name, auto function>
-  StandIn& addClass(Rating rating) {
+  StandIn& addClass(const Rating& rating) {
     if (page_.record('+', Name.c_str(), rating)) builder_.template classMethod<Name, function>();
     return *this;
   }

@@ -18,7 +18,7 @@ RestartState recorded(Session& session) {
   state.uptime = phone.clock.uptime();
   state.wallAtZero = phone.clock.wallAtZero();
   state.journal = phone.journal.entries();
-  state.survivors = phone.saveSurvivors();
+  state.survivors = phone.saveSurvivors().dump();
   state.journalStart = session.journalStart;
   state.killPoints = session.killPoints;
   state.variables = session.variables.names();
@@ -73,7 +73,7 @@ void restoreSession(Session& session, const RestartState& state) {
   session.variables.restoreLost(state.variables);
   for (const auto& [name, types] : state.functions) session.functions.declare(name, types);
   session.host.registerClasses();
-  phone.restoreSurvivors(state.survivors);
+  phone.restoreSurvivors(nlohmann::json::parse(state.survivors));
 }
 
 }  // namespace sim

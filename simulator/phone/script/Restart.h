@@ -19,7 +19,7 @@ struct RestartState {
   Nanoseconds uptime = 0;
   double wallAtZero = 0;  // the wall clock at uptime 0, seconds since the reference date
   std::vector<JournalEntry> journal;
-  nlohmann::json survivors;
+  std::string survivors;  // JSON text: a json value's moves are not taken to be noexcept
   std::size_t journalStart = 0;
   std::set<std::size_t> killPoints;
   std::set<std::string> variables;  // their objects are gone

@@ -8,6 +8,7 @@ namespace {
 
 std::vector<std::string> texts(const std::vector<std::filesystem::path>& paths) {
   std::vector<std::string> all;
+  all.reserve(paths.size());
   for (const auto& path : paths) all.push_back(path.string());
   return all;
 }
@@ -59,7 +60,7 @@ json restartStateAsJson(const RestartState& state) {
       {"uptime", state.uptime},
       {"wallAtZero", state.wallAtZero},
       {"journal", asJson(state.journal)},
-      {"survivors", state.survivors},
+      {"survivors", json::parse(state.survivors)},
       {"journalStart", state.journalStart},
       {"killPoints", state.killPoints},
       {"variables", state.variables},
@@ -76,7 +77,7 @@ RestartState restartStateFromJson(const json& from) {
   from.at("uptime").get_to(state.uptime);
   from.at("wallAtZero").get_to(state.wallAtZero);
   state.journal = journalFrom(from.at("journal"));
-  state.survivors = from.at("survivors");
+  state.survivors = from.at("survivors").dump();
   from.at("journalStart").get_to(state.journalStart);
   from.at("killPoints").get_to(state.killPoints);
   from.at("variables").get_to(state.variables);

@@ -13,7 +13,7 @@ namespace sim {
 namespace {
 
 // Longer lines are no scripts but something else, given by mistake.
-constexpr std::size_t longestLine = 64 * 1024;
+constexpr std::size_t longestLine = std::size_t(64) * 1024;
 
 void requireText(std::string_view text) {
   if (text.size() > longestLine)

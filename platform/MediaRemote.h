@@ -10,8 +10,8 @@ enum class Command : int { nextTrack = 4 };
 
 // False when the function does not exist or the command was not taken.
 inline bool sendCommand(Command command, NSDictionary options) {
-  auto* send = platform::hostFunction<"MRMediaRemoteSendCommand", bool(Command, id)>();
-  return send != nullptr && send(command, options.get());
+  auto* send = platform::hostFunction<"MRMediaRemoteSendCommand", bool(int, id)>();
+  return send != nullptr && send(int(command), options.get());
 }
 
 inline NSString nowPlayingInfoDidChangeNotification() {

@@ -16,6 +16,7 @@ struct Setup {
   std::string systemVersion = "15.4";  // UIDevice systemVersion
   std::string locale = "en_US";        // identifier
   std::string processName = "SpringBoard";
+  long feedbackSupportLevel = 2;                  // UIDevice _feedbackSupportLevel, 0 to 2
   std::optional<std::filesystem::path> playlist;  // M3U, instead of those that scripts name
   std::set<std::string, std::less<>> missingClasses;
   // "SBMediaController pause": the class exists without this method.

@@ -14,11 +14,15 @@ objc::Object UIDevice::systemVersion() {
   return string(Phone::current().setup.systemVersion);
 }
 
+long UIDevice::feedbackSupportLevel() {
+  return Phone::current().setup.feedbackSupportLevel;
+}
+
 void UIDevice::registerClass() {
   StandIn<UIDevice>("UIKit", "UIDevice", "NSObject")
       .classMethod<"currentDevice", &UIDevice::currentDevice>()
       .method<"systemVersion", &UIDevice::systemVersion>()
-      .partial<"_feedbackSupportLevel", &UIDevice::feedbackSupportLevel>("always 2")
+      .method<"_feedbackSupportLevel", &UIDevice::feedbackSupportLevel>()
       .finish();
 }
 

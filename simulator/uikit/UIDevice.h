@@ -8,8 +8,9 @@ namespace sim {
 struct UIDevice : objc::Implementation<UIDevice> {
   static objc::Object currentDevice();
   objc::Object systemVersion();
-  // 2: a Taptic Engine that plays every kind of feedback. Read by key on the platform.
-  long feedbackSupportLevel() { return 2; }
+  // 0 none, 1 a first Taptic Engine, which plays system sounds alone, 2 one that plays every kind
+  // of feedback. Read by key on the platform.
+  long feedbackSupportLevel();
 
   static void registerClass();
 };

@@ -38,6 +38,14 @@ void process(Arguments& arguments) {
   setup().processName = arguments.text("the name of a process");
 }
 
+void haptics(Arguments& arguments) {
+  const Word* word = arguments.peek();
+  const long level = arguments.integer("a level from 0 to 2");
+  if (level < 0 || level > 2)
+    throw ScriptError(word->column, "expected a level from 0 to 2, found " + word->text);
+  setup().feedbackSupportLevel = level;
+}
+
 void missing(Arguments& arguments) {
   const std::string cls = arguments.text("the name of a class");
   if (arguments.atEnd())
@@ -81,6 +89,10 @@ void addSetupCommands(CommandTable& table) {
   table.add({"process", Stage::setup, "process NAME", "process Preferences",
              "Names the process that the extension is loaded into; without it, SpringBoard.",
              process});
+  table.add({"haptics", Stage::setup, "haptics 0|1|2", "haptics 1",
+             "What the phone can make felt: 0 nothing, 1 system sounds, 2 (without this line) "
+             "every kind of feedback.",
+             haptics});
   table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]", "missing SBMediaController pause",
              "Leaves a class of the system, or one of its methods, out of the phone.", missing});
   table.add({"journal-class-changes", Stage::setup, "journal-class-changes",

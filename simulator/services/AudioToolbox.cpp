@@ -1,0 +1,8 @@
+#include "simulator/services/AudioToolbox.h"
+
+#include "simulator/phone/Phone.h"
+
+void AudioServicesPlaySystemSound(std::uint32_t sound) {
+  sim::Phone::current().journal.record("AudioServicesPlaySystemSound(" + std::to_string(sound) +
+                                       ')');
+}

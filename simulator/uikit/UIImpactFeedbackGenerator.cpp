@@ -1,0 +1,25 @@
+#include "simulator/uikit/UIImpactFeedbackGenerator.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/phone/Journal.h"
+#include "simulator/uikit/UIFeedbackGenerator.h"
+
+namespace sim {
+
+objc::Object UIImpactFeedbackGenerator::initWithStyle(long chosen) {
+  style = chosen;
+  return super<objc::Object, "init">();
+}
+
+void UIImpactFeedbackGenerator::impactOccurred() {
+  UIFeedbackGenerator::play("impact style " + notation(style));
+}
+
+void UIImpactFeedbackGenerator::registerClass() {
+  StandIn<UIImpactFeedbackGenerator>("UIKit", "UIImpactFeedbackGenerator", "UIFeedbackGenerator")
+      .method<"initWithStyle:", &UIImpactFeedbackGenerator::initWithStyle>()
+      .method<"impactOccurred", &UIImpactFeedbackGenerator::impactOccurred>()
+      .finish();
+}
+
+}  // namespace sim

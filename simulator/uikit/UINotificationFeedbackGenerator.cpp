@@ -1,0 +1,20 @@
+#include "simulator/uikit/UINotificationFeedbackGenerator.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/phone/Journal.h"
+#include "simulator/uikit/UIFeedbackGenerator.h"
+
+namespace sim {
+
+void UINotificationFeedbackGenerator::notificationOccurred(long type) {
+  UIFeedbackGenerator::play("notification type " + notation(type));
+}
+
+void UINotificationFeedbackGenerator::registerClass() {
+  using Generator = UINotificationFeedbackGenerator;
+  StandIn<Generator>("UIKit", "UINotificationFeedbackGenerator", "UIFeedbackGenerator")
+      .method<"notificationOccurred:", &Generator::notificationOccurred>()
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,19 @@
+#include "simulator/uikit/UISelectionFeedbackGenerator.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/uikit/UIFeedbackGenerator.h"
+
+namespace sim {
+
+void UISelectionFeedbackGenerator::selectionChanged() {
+  UIFeedbackGenerator::play("selection");
+}
+
+void UISelectionFeedbackGenerator::registerClass() {
+  using Generator = UISelectionFeedbackGenerator;
+  StandIn<Generator>("UIKit", "UISelectionFeedbackGenerator", "UIFeedbackGenerator")
+      .method<"selectionChanged", &Generator::selectionChanged>()
+      .finish();
+}
+
+}  // namespace sim

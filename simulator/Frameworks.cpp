@@ -9,7 +9,13 @@ void registerFrameworks() {
   registerMediaRemote();
   registerServices();
   registerCephei();
+  registerRadios();
+  registerDoNotDisturb();
+  registerRunwright();
+  registerBackBoard();
   registerSpringBoard();
+  registerCoverSheet();
+  registerControlCenter();
 }
 
 }  // namespace sim

@@ -10,7 +10,13 @@ void registerUIKit();
 void registerMediaRemote();
 void registerServices();
 void registerCephei();
+void registerRadios();
+void registerDoNotDisturb();
+void registerRunwright();
+void registerBackBoard();
 void registerSpringBoard();
+void registerCoverSheet();
+void registerControlCenter();
 
 // Registers all of them for the phone's set-up; once, when it boots.
 void registerFrameworks();

@@ -1,5 +1,6 @@
 #include "simulator/mediaremote/NowPlaying.h"
 
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -60,10 +61,10 @@ bool hasLaunched() {
 
 // The player is another process: the host hears of a change when its main queue comes to it.
 void announceChange() {
-  static bool somethingWasPlaying = false;
-  const bool somethingPlays = Player::current().track() != nullptr;
-  const bool applicationChanged =
-      std::exchange(somethingWasPlaying, somethingPlays) != somethingPlays;
+  static std::string announced;  // empty: nothing
+  const Player& player = Player::current();
+  const std::string application = player.track() != nullptr ? player.application() : "";
+  const bool applicationChanged = std::exchange(announced, application) != application;
   Phone::current().queue.addNow([applicationChanged] {
     if (!hasLaunched()) return;
     if (applicationChanged) post(kMRMediaRemoteNowPlayingApplicationDidChangeNotification);

@@ -22,6 +22,15 @@ Player& Player::current() {
 void Player::load(std::vector<Track> tracks) {
   if (track() != nullptr) stop();
   tracks_ = std::move(tracks);
+  application_ = musicApplication;
+}
+
+void Player::takeOver(std::string application, Track track) {
+  application_ = std::move(application);
+  tracks_ = {std::move(track)};
+  playing_ = true;
+  phone_.journal.record("player application " + sim::quoted(application_));
+  begin(0, phone_.clock.uptime());
 }
 
 void Player::play() {

@@ -5,12 +5,16 @@
 #include <cstddef>
 #include <functional>
 #include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "simulator/mediaremote/Track.h"
 #include "simulator/phone/Phone.h"
 
 namespace sim {
+
+inline constexpr std::string_view musicApplication = "com.apple.Music";
 
 class Player {
  public:
@@ -21,8 +25,11 @@ class Player {
   // The player of Phone::current(), made on first use. It is a survivor of that phone.
   static Player& current();
 
-  // Replaces the playlist. Nothing plays until play().
+  // Replaces the playlist, which is the music application's. Nothing plays until play().
   void load(std::vector<Track> tracks);
+  // Another application, named by its bundle identifier, plays this track alone instead of what
+  // was there.
+  void takeOver(std::string application, Track track);
   bool hasPlaylist() const { return !tracks_.empty(); }
 
   // Goes on with the track, or begins the list when nothing plays. No playlist: nothing happens.
@@ -47,6 +54,8 @@ class Player {
   // nullptr when nothing plays. A paused track is still the track.
   const Track* track() const;
   double position() const;  // seconds from the start of the track; 0 without a track
+  // The bundle identifier of the application whose tracks these are.
+  const std::string& application() const { return application_; }
 
   // Called after every change that a now-playing display would show: play, pause, track, seek.
   void observe(std::function<void()> observer) { observers_.push_back(std::move(observer)); }
@@ -64,6 +73,7 @@ class Player {
   void changed() const;
 
   Phone& phone_;
+  std::string application_{musicApplication};
   std::vector<Track> tracks_;
   std::size_t index_ = nothing;
   bool playing_ = false;

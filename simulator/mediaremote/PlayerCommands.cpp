@@ -2,6 +2,7 @@
 #include <cmath>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/mediaremote/Player.h"
@@ -44,6 +45,13 @@ void playlistFile(Arguments& words) {
   } catch (const PlaylistError& error) {
     throw ScriptError(0, error.what());
   }
+}
+
+void nowPlayingApp(Arguments& words) {
+  std::string application = words.text("the bundle identifier of an application");
+  Track track = takeTrack(words);
+  words.finish();
+  Player::current().takeOver(std::move(application), std::move(track));
 }
 
 Player& playerWithMusic(const Arguments& words) {
@@ -113,6 +121,10 @@ void control(Arguments& words) {
 }
 
 void addControls(CommandTable& table) {
+  table.add({"now-playing-app", Stage::running, "now-playing-app BUNDLE TITLE|none SECONDS",
+             "now-playing-app com.example.radio \"Night Talk\" 3600",
+             "Another application plays one track, and the music's playlist is gone.",
+             nowPlayingApp});
   table.add({"play", Stage::running, "play", "play", "The user starts the music, or goes on.",
              control<&Player::play>});
   table.add({"pause", Stage::running, "pause", "pause", "The user pauses the music.",

@@ -27,18 +27,16 @@ static Track restored(const nlohmann::json& saved) {
 nlohmann::json Player::save() const {
   auto tracks = nlohmann::json::array();
   for (const Track& each : tracks_) tracks.push_back(saved(each));
-  nlohmann::json state = {{"tracks", std::move(tracks)},
-                          {"playing", playing_},
-                          {"repeatsOne", repeatsOne_},
-                          {"waitsForBoot", waitsForBoot_},
-                          {"startedAt", startedAt_},
-                          {"pausedAt", pausedAt_},
-                          {"index", nullptr}};
+  nlohmann::json state = {{"application", application_},   {"tracks", std::move(tracks)},
+                          {"playing", playing_},           {"repeatsOne", repeatsOne_},
+                          {"waitsForBoot", waitsForBoot_}, {"startedAt", startedAt_},
+                          {"pausedAt", pausedAt_},         {"index", nullptr}};
   if (track() != nullptr) state["index"] = index_;
   return state;
 }
 
 void Player::restore(const nlohmann::json& state) {
+  state.at("application").get_to(application_);
   tracks_.clear();
   for (const auto& each : state.at("tracks")) tracks_.push_back(restored(each));
   const auto& index = state.at("index");

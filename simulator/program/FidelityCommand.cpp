@@ -7,6 +7,7 @@
 #include "simulator/Frameworks.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/program/TemporaryFolder.h"
+#include "simulator/runwright/ShortcutRunner.h"
 
 namespace sim {
 
@@ -14,6 +15,7 @@ int printFidelity() {
   const TemporaryFolder folder;
   const Phone phone(folder.path());
   const objc::AutoreleasePool pool;
+  ShortcutRunner::current().install();  // an option of the phone, but of the page, too
   registerFrameworks();
   std::cout << fidelityMarkdown();
   return 0;

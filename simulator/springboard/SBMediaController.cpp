@@ -57,8 +57,9 @@ bool SBMediaController::isPaused() {
 }
 
 objc::Object SBMediaController::nowPlayingApplication() {
-  if (Player::current().track() == nullptr) return nullptr;
-  return SBApplication::withBundleIdentifier("com.apple.Music");
+  const Player& player = Player::current();
+  if (player.track() == nullptr) return nullptr;
+  return SBApplication::withBundleIdentifier(player.application());
 }
 
 float SBMediaController::volume() {
@@ -96,7 +97,7 @@ void SBMediaController::registerClass() {
       .method<"isPlaying", &SBMediaController::isPlaying>()
       .method<"isPaused", &SBMediaController::isPaused>()
       .partial<"nowPlayingApplication", &SBMediaController::nowPlayingApplication>(
-          "the music application, whatever plays; a new object each time")
+          "a new object each time")
       .method<"volume", &SBMediaController::volume>()
       .method<"setVolume:", &SBMediaController::setVolume>()
       .method<"suppressHUD", &SBMediaController::suppressHUD>()

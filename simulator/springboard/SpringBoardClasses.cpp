@@ -4,6 +4,7 @@
 #include "simulator/springboard/MRUNowPlayingHeaderView.h"
 #include "simulator/springboard/MRUNowPlayingRoutingButton.h"
 #include "simulator/springboard/SBApplication.h"
+#include "simulator/springboard/SBBacklightController.h"
 #include "simulator/springboard/SBMediaController.h"
 #include "simulator/springboard/SBVolumeControl.h"
 #include "simulator/springboard/SpringBoard.h"
@@ -12,6 +13,7 @@ namespace sim {
 
 void registerSpringBoard() {
   SBApplication::registerClass();
+  SBBacklightController::registerClass();
   SBVolumeControl::registerClass();
   SBMediaController::registerClass();
   CCUICAPackageDescription::registerClass();

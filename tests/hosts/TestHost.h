@@ -26,7 +26,13 @@ class TestHost : public TestPhone {
     registerMediaRemote();
     registerServices();
     registerCephei();
+    registerRadios();
+    registerDoNotDisturb();
+    registerRunwright();
+    registerBackBoard();
     registerSpringBoard();
+    registerCoverSheet();
+    registerControlCenter();
   }
 
   static objc::Object sharedInstance(const char* className) {

@@ -82,5 +82,10 @@ void addPhoneCommands(CommandTable& table);        // phone/script
 void addFoundationCommands(CommandTable& table);   // foundation: default
 void addPreferencesCommands(CommandTable& table);  // cephei: set
 void addPlayerCommands(CommandTable& table);       // mediaremote: playlist, next-track, volume …
+void addRadiosCommands(CommandTable& table);       // radios: bluetooth …
+void addShortcutCommands(CommandTable& table);     // runwright: shortcuts
+void addScreenCommands(CommandTable& table);       // springboard: screen
+void addLockScreenCommands(CommandTable& table);   // coversheet: lock, unlock …
+void addControlCenterCommands(CommandTable& table);  // controlcenter: module
 
 }  // namespace sim

@@ -21,6 +21,11 @@ CommandTable allCommands() {
   addFoundationCommands(table);
   addPreferencesCommands(table);
   addPlayerCommands(table);
+  addRadiosCommands(table);
+  addShortcutCommands(table);
+  addScreenCommands(table);
+  addLockScreenCommands(table);
+  addControlCenterCommands(table);
   return table;
 }
 

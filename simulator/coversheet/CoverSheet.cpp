@@ -1,0 +1,20 @@
+// What the lock screen is made of.
+#include "simulator/Frameworks.h"
+#include "simulator/coversheet/CSTimerViewController.h"
+#include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
+#include "simulator/coversheet/SBFLockScreenDateSubtitleView.h"
+#include "simulator/coversheet/SBLockScreenManager.h"
+#include "simulator/coversheet/SBUILegibilityLabel.h"
+
+namespace sim {
+
+// A class comes after its superclass.
+void registerCoverSheet() {
+  SBUILegibilityLabel::registerClass();
+  SBFLockScreenDateSubtitleView::registerClass();
+  SBFLockScreenDateSubtitleDateView::registerClass();
+  CSTimerViewController::registerClass();
+  SBLockScreenManager::registerClass();
+}
+
+}  // namespace sim

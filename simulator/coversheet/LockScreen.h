@@ -1,0 +1,37 @@
+// The host's lock screen: makes its parts when it is first shown, and keeps its date right.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "objc/Ownership.h"
+
+namespace sim {
+
+class LockScreen {
+ public:
+  // That of the running host. After a restart there is none until the phone is locked.
+  static LockScreen& current();
+
+  bool isLocked() const { return locked_; }
+  void lock();
+  void unlock() { locked_ = false; }
+
+  // What the line under the clock shows; nothing before the phone was first locked.
+  std::optional<std::string> dateText() const;
+  // Seconds until the countdown ends; nothing when there is no countdown.
+  std::optional<double> countdown() const;
+
+ private:
+  void makeParts();
+  void drawDate();
+  void redrawAtMidnight();
+
+  bool locked_ = false;
+  // Owned, and never given up. nil before the phone was first locked, or without the class.
+  objc::Object timerController_;  // CSTimerViewController
+  objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView
+  bool hasParts_ = false;
+};
+
+}  // namespace sim

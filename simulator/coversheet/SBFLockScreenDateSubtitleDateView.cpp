@@ -1,0 +1,34 @@
+#include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/coversheet/DateLine.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+
+void SBFLockScreenDateSubtitleDateView::setDate(objc::Object shown) {
+  objc::send<void, "_setDate:inTimeZone:">(self(), shown, nullptr);
+}
+
+void SBFLockScreenDateSubtitleDateView::setDate_inTimeZone(objc::Object shown, objc::Object) {
+  date = objc::retain(shown);
+  objc::Object line;
+  if (shown)
+    line = string(dateLine(objc::send<double, "timeIntervalSinceReferenceDate">(shown),
+                           Phone::current().setup.locale));
+  objc::send<void, "setString:">(self(), line);
+}
+
+void SBFLockScreenDateSubtitleDateView::registerClass() {
+  using View = SBFLockScreenDateSubtitleDateView;
+  StandIn<View>("SpringBoardFoundation", "SBFLockScreenDateSubtitleDateView",
+                "SBFLockScreenDateSubtitleView")
+      .readonlyProperty<"date", &View::date>()
+      .method<"setDate:", &View::setDate>()
+      .partial<"_setDate:inTimeZone:", &View::setDate_inTimeZone>(
+          "UTC in any time zone; in nine languages, English elsewhere; the Gregorian calendar")
+      .finish();
+}
+
+}  // namespace sim

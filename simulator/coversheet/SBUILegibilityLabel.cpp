@@ -1,0 +1,33 @@
+#include "simulator/coversheet/SBUILegibilityLabel.h"
+
+#include <utility>
+
+#include "simulator/StandIn.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+void SBUILegibilityLabel::setString(objc::Object shown) {
+  const auto before = std::exchange(string, objc::adopt(objc::send<objc::Object, "copy">(shown)));
+  const bool isSame =
+      string.get() == before.get() || objc::send<bool, "isEqual:">(string.get(), before.get());
+  if (!isSame && didChange) didChange();
+}
+
+void SBUILegibilityLabel::sizeToFit() {
+  constexpr CGSize letter = {9, 21};  // points, of an average letter
+  const auto frame = objc::send<CGRect, "frame">(self());
+  const auto length = double(objc::send<unsigned long, "length">(string.get()));
+  objc::send<void, "setFrame:">(self(),
+                                CGRect{frame.origin, {length * letter.width, letter.height}});
+}
+
+void SBUILegibilityLabel::registerClass() {
+  StandIn<SBUILegibilityLabel>("SpringBoardUIServices", "SBUILegibilityLabel", "UIView")
+      .readonlyProperty<"string", &SBUILegibilityLabel::string>()
+      .method<"setString:", &SBUILegibilityLabel::setString>()
+      .partial<"sizeToFit", &SBUILegibilityLabel::sizeToFit>("every letter is as wide as any other")
+      .finish();
+}
+
+}  // namespace sim

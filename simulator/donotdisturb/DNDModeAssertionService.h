@@ -1,0 +1,19 @@
+// DoNotDisturb: switches modes on for one client.
+#pragma once
+
+#include "objc/Class.h"
+
+namespace sim {
+
+struct DNDModeAssertionService : objc::Implementation<DNDModeAssertionService> {
+  objc::Strong<objc::Object> clientIdentifier;  // NSString
+
+  static objc::Object serviceForClientIdentifier(objc::Object client);
+
+  // The assertion, autoreleased; nil when it is refused. `error` may be null.
+  objc::Object takeModeAssertionWithDetails_error(objc::Object details, id* error);
+
+  static void registerClass();
+};
+
+}  // namespace sim

@@ -1,0 +1,17 @@
+// Do Not Disturb, in both generations.
+#include "simulator/Frameworks.h"
+#include "simulator/donotdisturb/BBSettingsGateway.h"
+#include "simulator/donotdisturb/DNDModeAssertion.h"
+#include "simulator/donotdisturb/DNDModeAssertionDetails.h"
+#include "simulator/donotdisturb/DNDModeAssertionService.h"
+
+namespace sim {
+
+void registerDoNotDisturb() {
+  DNDModeAssertionDetails::registerClass();
+  DNDModeAssertion::registerClass();
+  DNDModeAssertionService::registerClass();
+  BBSettingsGateway::registerClass();
+}
+
+}  // namespace sim

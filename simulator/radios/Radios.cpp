@@ -1,0 +1,63 @@
+#include "simulator/radios/Radios.h"
+
+#include <array>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+namespace sim {
+namespace {
+
+// The first byte marks addresses that no maker has given out.
+std::string addressOf(long number) {
+  std::array<char, 24> text;
+  std::snprintf(text.data(), text.size(), "02:00:00:00:%02lX:%02lX", number >> 8 & 0xff,
+                number & 0xff);
+  return text.data();
+}
+
+}  // namespace
+
+Radios::Radios(Phone& phone) {
+  phone.survives("radios", {[this] { return save(); },
+                            [this](const nlohmann::json& saved) { restore(saved); }});
+}
+
+Radios& Radios::current() {
+  static Radios radios(Phone::current());
+  return radios;
+}
+
+void Radios::setBluetooth(bool on) {
+  bluetoothOn_ = on;
+  if (!on) peers_.clear();
+}
+
+void Radios::connect(const std::vector<std::string>& names) {
+  bluetoothOn_ = true;
+  peers_.clear();
+  for (const std::string& name : names) peers_.push_back({name, addressOf(++lastAddress_)});
+}
+
+void Radios::disconnect(std::string_view address) {
+  std::erase_if(peers_, [address](const Peer& peer) { return peer.address == address; });
+}
+
+nlohmann::json Radios::save() const {
+  auto peers = nlohmann::json::array();
+  for (const Peer& peer : peers_) peers.push_back({{"name", peer.name}, {"address", peer.address}});
+  return {{"airplaneMode", airplaneMode_},
+          {"bluetoothOn", bluetoothOn_},
+          {"peers", std::move(peers)},
+          {"lastAddress", lastAddress_}};
+}
+
+void Radios::restore(const nlohmann::json& saved) {
+  airplaneMode_ = saved.at("airplaneMode").get<bool>();
+  bluetoothOn_ = saved.at("bluetoothOn").get<bool>();
+  lastAddress_ = saved.at("lastAddress").get<long>();
+  peers_.clear();
+  for (const auto& peer : saved.at("peers"))
+    peers_.push_back({peer.at("name").get<std::string>(), peer.at("address").get<std::string>()});
+}
+
+}  // namespace sim

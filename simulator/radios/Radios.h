@@ -1,0 +1,53 @@
+// The phone's radios: airplane mode, and what Bluetooth is connected to.
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "simulator/phone/Phone.h"
+
+namespace sim {
+
+class Radios {
+ public:
+  struct Peer {
+    std::string name;
+    std::string address;  // "02:00:00:00:00:01"; unlike names, no two are alike
+  };
+
+  explicit Radios(Phone& phone);
+  Radios(const Radios&) = delete;
+  Radios& operator=(const Radios&) = delete;
+
+  // The radios of Phone::current(), made on first use. Processes of their own run them, so all of
+  // their state survives a restart of the host.
+  static Radios& current();
+
+  bool isAirplaneModeOn() const { return airplaneMode_; }
+  // Leaves Bluetooth as it is, as phones do whose owner has once kept it on in airplane mode.
+  void setAirplaneMode(bool on) { airplaneMode_ = on; }
+
+  bool isBluetoothOn() const { return bluetoothOn_; }
+  // Off ends every connection. On again, none comes back by itself.
+  void setBluetooth(bool on);
+
+  // The owner turns Bluetooth on and connects devices of these names, in this order, instead of
+  // those that were connected. Names may repeat.
+  void connect(const std::vector<std::string>& names);
+  // Nothing happens when there is no such connection.
+  void disconnect(std::string_view address);
+  const std::vector<Peer>& peers() const { return peers_; }
+
+ private:
+  nlohmann::json save() const;
+  void restore(const nlohmann::json& saved);
+
+  bool airplaneMode_ = false;
+  bool bluetoothOn_ = true;
+  std::vector<Peer> peers_;  // connected, in order of connection
+  long lastAddress_ = 0;
+};
+
+}  // namespace sim

@@ -1,0 +1,33 @@
+#include "simulator/radios/RadiosPreferences.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/radios/Radios.h"
+
+namespace sim {
+
+bool RadiosPreferences::airplaneMode() {
+  return unsaved.value_or(Radios::current().isAirplaneModeOn());
+}
+
+void RadiosPreferences::setAirplaneMode(bool on) {
+  Phone::current().journal.record("-[RadiosPreferences setAirplaneMode:" + notation(on) + ']');
+  unsaved = on;
+}
+
+void RadiosPreferences::synchronize() {
+  Phone::current().journal.record("-[RadiosPreferences synchronize]");
+  if (unsaved) Radios::current().setAirplaneMode(*unsaved);
+  unsaved.reset();
+}
+
+void RadiosPreferences::registerClass() {
+  StandIn<RadiosPreferences>("AppSupport", "RadiosPreferences", "NSObject")
+      .method<"airplaneMode", &RadiosPreferences::airplaneMode>()
+      .partial<"setAirplaneMode:", &RadiosPreferences::setAirplaneMode>(
+          "takes effect with synchronize, not before; Bluetooth stays as it is")
+      .method<"synchronize", &RadiosPreferences::synchronize>()
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,10 @@
+#include "simulator/Frameworks.h"
+#include "simulator/runwright/ShortcutRunner.h"
+
+namespace sim {
+
+void registerRunwright() {
+  ShortcutRunner::current().hostDidBoot();
+}
+
+}  // namespace sim

@@ -1,0 +1,25 @@
+// The script command of the side button.
+#include "simulator/phone/Phone.h"
+#include "simulator/phone/script/Command.h"
+#include "simulator/springboard/SBBacklightController.h"
+
+namespace sim {
+namespace {
+
+void screen(Arguments& words) {
+  const bool on = words.takeKeyword("on");
+  if (!on && !words.takeKeyword("off")) words.failHere("expected on or off");
+  words.finish();
+  Phone::current().journal.record(on ? "user screen on" : "user screen off");
+  SBBacklightController::setScreenIsOn(on);
+}
+
+}  // namespace
+
+void addScreenCommands(CommandTable& table) {
+  table.add({"screen", Stage::running, "screen on|off", "screen off",
+             "The screen goes on or off; nothing is locked. A new host begins with a lit screen.",
+             screen});
+}
+
+}  // namespace sim

@@ -1,0 +1,80 @@
+#include "tests/hosts/TestHost.h"
+
+namespace sim {
+namespace {
+
+class CSTimerViewControllerTest : public TestHost {
+ protected:
+  CSTimerViewControllerTest() { boot(); }
+
+  static objc::Strong<objc::Object> make() {
+    return objc::adopt(objc::send<objc::Object, "new">(objc_getClass("CSTimerViewController")));
+  }
+  void countDown(objc::Object controller, double duration) {
+    objc::send<void, "setEndDate:">(controller, date(phone.clock.wall() + duration));
+  }
+  static bool counts(objc::Object controller) {
+    return bool(objc::send<objc::Object, "endDate">(controller));
+  }
+};
+
+constexpr const char* ended = "lock screen countdown ends";
+
+TEST_F(CSTimerViewControllerTest, GoesAwayAtTheEnd) {
+  const auto controller = make();
+  countDown(controller.get(), 60);
+  EXPECT_EQ(journal().front(), "-[CSTimerViewController setEndDate:2027-01-01 22:01:00 +0000]");
+  advance(59.9);
+  EXPECT_TRUE(counts(controller.get()));
+  advance(0.1);
+  EXPECT_FALSE(counts(controller.get()));
+  EXPECT_EQ(timeOf(ended), 60);
+}
+
+TEST_F(CSTimerViewControllerTest, AnotherDateTakesThePlaceOfTheFirst) {
+  const auto controller = make();
+  countDown(controller.get(), 60);
+  countDown(controller.get(), 90);
+  advance(1000);
+  EXPECT_EQ(count(ended), 1);
+  EXPECT_EQ(timeOf(ended), 90);
+}
+
+TEST_F(CSTimerViewControllerTest, NoDateRemovesIt) {
+  const auto controller = make();
+  countDown(controller.get(), 60);
+  objc::send<void, "setEndDate:">(controller.get(), nullptr);
+  EXPECT_FALSE(counts(controller.get()));
+  EXPECT_EQ(journal().back(), "-[CSTimerViewController setEndDate:nil]");
+  advance(1000);
+  EXPECT_EQ(count(ended), 0);
+}
+
+TEST_F(CSTimerViewControllerTest, ADateInThePastIsOverAtOnce) {
+  const auto controller = make();
+  countDown(controller.get(), -60);
+  advance(0);
+  EXPECT_FALSE(counts(controller.get()));
+}
+
+TEST_F(CSTimerViewControllerTest, FollowsAWallClockThatIsSetBack) {
+  const auto controller = make();
+  countDown(controller.get(), 60);
+  phone.clock.setWall(phone.clock.wall() - 3600);
+  advance(3659);
+  EXPECT_TRUE(counts(controller.get()));
+  advance(1);
+  EXPECT_EQ(timeOf(ended), 3660);
+}
+
+TEST_F(CSTimerViewControllerTest, MayGoBeforeTheEnd) {
+  {
+    const objc::AutoreleasePool pool;
+    countDown(make().get(), 60);
+  }
+  advance(1000);
+  EXPECT_EQ(count(ended), 0);
+}
+
+}  // namespace
+}  // namespace sim

@@ -20,13 +20,15 @@ TOOL = "clang-tidy-14"
 
 
 def sources(build):
-    """The C++ files to check, and the object that each is compiled to."""
+    """The C++ files to check, and an object that each is compiled to."""
+    found = {}
     for entry in json.loads((build / "compile_commands.json").read_text()):
         file = pathlib.Path(entry["file"])
         inside = file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in FOLDERS
         if inside and file.suffix == ".cpp":
             words = shlex.split(entry["command"])
-            yield file, words[words.index("-o") + 1]
+            found.setdefault(file, words[words.index("-o") + 1])
+    return found
 
 
 def includes(build):
@@ -65,7 +67,7 @@ def main(build):
     passed.mkdir(exist_ok=True)
     dependencies = includes(build)
     todo = {}
-    for source, output in sources(build):
+    for source, output in sources(build).items():
         if output not in dependencies:
             sys.exit(f"{source} has not been compiled: build it first")
         stamp = passed / fingerprint(dependencies[output])

@@ -70,7 +70,7 @@ std::vector<std::string> BundleFiles::localizations() const {
   std::vector<std::string> names;
   std::error_code problem;
   for (const auto& entry : std::filesystem::directory_iterator(folder_, problem)) {
-    const std::filesystem::path path = entry.path();
+    const std::filesystem::path& path = entry.path();
     if (path.extension() == ".lproj" && path.stem() != "Base") names.push_back(path.stem());
   }
   std::sort(names.begin(), names.end());

@@ -23,9 +23,9 @@ class KeyTable {
   KeyTable(const KeyTable& other) {
     for (const KeyEntry& entry : other.entries_) put(entry.key, entry.value);
   }
+  KeyTable(KeyTable&& other) noexcept { swap(other); }
   KeyTable& operator=(KeyTable other) noexcept {
-    entries_.swap(other.entries_);
-    index_.swap(other.index_);
+    swap(other);
     return *this;
   }
 
@@ -68,6 +68,11 @@ class KeyTable {
   }
 
  private:
+  void swap(KeyTable& other) noexcept {
+    entries_.swap(other.entries_);
+    index_.swap(other.index_);
+  }
+
   struct Hash {
     std::size_t operator()(objc::Object key) const {
       return objc::send<unsigned long, "hash">(key);

@@ -3,6 +3,7 @@
 #include "simulator/foundation/NSUserDefaults.h"
 #include "simulator/phone/script/PhoneCommands.h"
 #include "simulator/phone/script/Restart.h"
+#include "simulator/phone/script/Wildcard.h"
 
 namespace sim {
 namespace {
@@ -46,7 +47,16 @@ void kill(Arguments& arguments) {
   endHostProcess(std::nullopt);
 }
 
+void killAtText(Arguments& arguments) {
+  KillText text{arguments.text("a journal line"), 1};
+  if (arguments.takeKeyword("times")) text.times = arguments.integer("a number of lines");
+  if (text.times < 1) arguments.failHere("expected at least one line");
+  Session::current().killTexts.push_back(std::move(text));
+}
+
 void killAt(Arguments& arguments) {
+  if (const Word* next = arguments.peek(); next != nullptr && next->quoted)
+    return killAtText(arguments);
   const long count = arguments.integer("a number of journal lines");
   Session& session = Session::current();
   const auto recorded = long(session.phone.journal.entries().size());
@@ -54,6 +64,12 @@ void killAt(Arguments& arguments) {
     throw ScriptError(0, "expected a number of journal lines above " + std::to_string(recorded) +
                              ", found " + std::to_string(count));
   session.killPoints.insert(std::size_t(count));
+}
+
+// Every text counts every line, also one at which another of them ends the host.
+bool reachedKillText(Session& session, const std::string& line) {
+  for (KillText& text : session.killTexts) text.times -= matchesWildcard(line, text.pattern);
+  return std::erase_if(session.killTexts, [](const KillText& text) { return text.times == 0; }) > 0;
 }
 
 // An orderly end: what is due runs, and user defaults reach the disk.
@@ -90,12 +106,12 @@ void relaunchHost(Nanoseconds uptime) {
 }
 
 void watchKillPoints() {
-  Session::current().phone.journal.observe([](const JournalEntry&) {
+  Session::current().phone.journal.observe([](const JournalEntry& entry) {
     Session& session = Session::current();
     if (session.state != HostState::running) return;
     const Phone& phone = session.phone;
-    if (session.killPoints.erase(phone.journal.entries().size()) > 0)
-      endHostProcess(phone.clock.uptime());
+    const bool dies = session.killPoints.erase(phone.journal.entries().size()) > 0;
+    if (reachedKillText(session, entry.text) || dies) endHostProcess(phone.clock.uptime());
   });
 }
 
@@ -113,9 +129,10 @@ void addHostCommands(CommandTable& table) {
              moveWallClock});
   table.add({"kill", Stage::running, "kill", "kill",
              "The host dies here without an orderly end; `respring` brings it back.", kill});
-  table.add({"kill-at", Stage::any, "kill-at N", "kill-at 3",
-             "The host will die the moment the journal's N-th line is written, and be launched "
-             "again at once; a running `advance` goes on with the new host.",
+  table.add({"kill-at", Stage::any, "kill-at N|TEXT [times N]", "kill-at 3",
+             "The host will die the moment the journal's N-th line is written, or from now on the "
+             "first or N-th line that is TEXT (`*` stands for anything), and be launched again at "
+             "once; a running `advance` goes on with the new host.",
              killAt});
   table.add({"respring", Stage::any, "respring [after DURATION]", "respring after 30s",
              "Restarts the host: in order (user defaults are saved) when it runs, or after it "

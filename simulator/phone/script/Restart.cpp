@@ -21,6 +21,7 @@ RestartState recorded(Session& session) {
   state.survivors = phone.saveSurvivors().dump();
   state.journalStart = session.journalStart;
   state.killPoints = session.killPoints;
+  state.killTexts = session.killTexts;
   state.variables = session.variables.names();
   state.functions = session.functions.all();
   state.advanceUntil = session.advanceUntil;
@@ -50,6 +51,7 @@ void endHostProcess(std::optional<Nanoseconds> relaunchAt) {
   stream.close();
   if (!stream) stop(file.string());
   std::fflush(nullptr);
+  if (session.relaunch) session.relaunch(file);
   execl("/proc/self/exe", "dozewell-simulator", "resume", file.c_str(), nullptr);
   stop("/proc/self/exe");
 }
@@ -70,6 +72,9 @@ void restoreSession(Session& session, const RestartState& state) {
   phone.journal.restore(state.journal);
   session.journalStart = state.journalStart;
   session.killPoints = state.killPoints;
+  session.killTexts = state.killTexts;
+  // Should the host die once more as it comes back, the interrupted `advance` still goes on.
+  session.advanceUntil = state.advanceUntil;
   session.variables.restoreLost(state.variables);
   for (const auto& [name, types] : state.functions) session.functions.declare(name, types);
   session.host.registerClasses();

@@ -22,6 +22,7 @@ struct RestartState {
   std::string survivors;  // JSON text: a json value's moves are not taken to be noexcept
   std::size_t journalStart = 0;
   std::set<std::size_t> killPoints;
+  std::vector<KillText> killTexts;
   std::set<std::string> variables;  // their objects are gone
   std::map<std::string, std::string, std::less<>> functions;
   // When the host comes back by itself, and how long the interrupted `advance` goes on.

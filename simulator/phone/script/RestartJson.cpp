@@ -28,6 +28,19 @@ json asJson(const std::vector<JournalEntry>& entries) {
   return all;
 }
 
+json asJson(const std::vector<KillText>& texts) {
+  auto all = json::array();
+  for (const KillText& text : texts) all.push_back({text.pattern, text.times});
+  return all;
+}
+
+std::vector<KillText> killTextsFrom(const json& texts) {
+  std::vector<KillText> all;
+  for (const json& text : texts)
+    all.push_back({text.at(0).get<std::string>(), text.at(1).get<long>()});
+  return all;
+}
+
 std::vector<JournalEntry> journalFrom(const json& entries) {
   std::vector<JournalEntry> all;
   for (const json& entry : entries)
@@ -63,6 +76,7 @@ json restartStateAsJson(const RestartState& state) {
       {"survivors", json::parse(state.survivors)},
       {"journalStart", state.journalStart},
       {"killPoints", state.killPoints},
+      {"killTexts", asJson(state.killTexts)},
       {"variables", state.variables},
       {"functions", state.functions},
       {"relaunchAt", optional(state.relaunchAt)},
@@ -80,6 +94,7 @@ RestartState restartStateFromJson(const json& from) {
   state.survivors = from.at("survivors").dump();
   from.at("journalStart").get_to(state.journalStart);
   from.at("killPoints").get_to(state.killPoints);
+  state.killTexts = killTextsFrom(from.at("killTexts"));
   from.at("variables").get_to(state.variables);
   for (const auto& [name, types] : from.at("functions").items())
     state.functions.emplace(name, types.get<std::string>());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -25,6 +26,12 @@ struct SessionOptions {
 
 enum class HostState { off, running, dead };
 
+// Where the host will die, found by what the journal says.
+struct KillText {
+  std::string pattern;  // of a whole line, * for anything
+  long times = 1;       // the host dies when so many more lines have matched
+};
+
 class Session {
  public:
   explicit Session(SessionOptions givenOptions);
@@ -45,8 +52,12 @@ class Session {
   ExportedFunctions functions;
   std::size_t journalStart = 0;             // expectations look at this entry and later ones
   std::set<std::size_t> killPoints;         // counts of journal lines at which the host dies
+  std::vector<KillText> killTexts;          // lines of the journal at which the host dies
   std::optional<Nanoseconds> advanceUntil;  // while `advance` runs
   std::size_t lineNumber = 0;               // of the command that runs
+  // Begins the next host process from the recorded state; does not return. The program executes
+  // itself again when there is none.
+  std::function<void(const std::filesystem::path& stateFile)> relaunch;
 };
 
 }  // namespace sim

@@ -3,17 +3,11 @@
 #include <utility>
 
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
 
 namespace sim {
-namespace {
-
-// Dates of this century resolve about a tenth of a microsecond.
-constexpr double resolution = 1e-6;
-
-}  // namespace
-
 void CSTimerViewController::setEndDate(objc::Object date) {
   Phone::current().journal.record("-[CSTimerViewController setEndDate:" + notation(date) + ']');
   cancelEnd();
@@ -21,14 +15,13 @@ void CSTimerViewController::setEndDate(objc::Object date) {
   if (endDate) scheduleEnd();
 }
 
-double CSTimerViewController::remaining() const {
-  return objc::send<double, "timeIntervalSinceNow">(endDate.get());
+Nanoseconds CSTimerViewController::due() const {
+  return uptimeAt(Phone::current().clock,
+                  objc::send<double, "timeIntervalSinceReferenceDate">(endDate.get()));
 }
 
 void CSTimerViewController::scheduleEnd() {
-  const Nanoseconds distance = nanoseconds(remaining());
-  Phone& phone = Phone::current();
-  end = phone.queue.add(phone.clock.uptime() + distance, [this] { endIfDue(); });
+  end = Phone::current().queue.add(due(), [this] { endIfDue(); });
 }
 
 void CSTimerViewController::cancelEnd() {
@@ -38,7 +31,7 @@ void CSTimerViewController::cancelEnd() {
 // The wall clock may have been set back meanwhile.
 void CSTimerViewController::endIfDue() {
   end = 0;
-  if (remaining() > resolution) {
+  if (due() > Phone::current().clock.uptime()) {
     scheduleEnd();
     return;
   }

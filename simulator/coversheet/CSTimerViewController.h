@@ -21,7 +21,7 @@ struct CSTimerViewController : objc::Implementation<CSTimerViewController> {
   void scheduleEnd();
   void cancelEnd();
   void endIfDue();
-  double remaining() const;  // seconds; negative in the past
+  Nanoseconds due() const;  // uptime
 };
 
 }  // namespace sim

@@ -1,17 +1,19 @@
 #include "simulator/coversheet/LockScreen.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "objc/Message.h"
+#include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
 
 namespace sim {
 namespace {
 
-double secondsToMidnight(double wall) {
+double midnightAfter(double moment) {
   constexpr double day = 86400;
-  return day - (wall - std::floor(wall / day) * day);
+  return (std::floor(moment / day) + 1) * day;
 }
 
 }  // namespace
@@ -24,7 +26,9 @@ LockScreen& LockScreen::current() {
 void LockScreen::lock() {
   locked_ = true;
   if (!hasParts_) makeParts();
-  drawDate();
+  const double now = Phone::current().clock.wall();
+  drawDate(now);
+  redrawAt(midnightAfter(now));
 }
 
 void LockScreen::makeParts() {
@@ -32,19 +36,22 @@ void LockScreen::makeParts() {
   timerController_ = objc::send<objc::Object, "initWithNibName:bundle:">(
       objc_alloc(objc_getClass("CSTimerViewController")), nullptr, nullptr);
   dateView_ = objc::Object(objc_alloc_init(objc_getClass("SBFLockScreenDateSubtitleDateView")));
-  redrawAtMidnight();
 }
 
-void LockScreen::drawDate() {
-  objc::send<void, "setDate:">(dateView_, date(Phone::current().clock.wall()));
+void LockScreen::drawDate(double moment) {
+  objc::send<void, "setDate:">(dateView_, date(moment));
 }
 
-void LockScreen::redrawAtMidnight() {
+void LockScreen::redrawAt(double midnight) {
   Phone& phone = Phone::current();
-  const double distance = secondsToMidnight(phone.clock.wall());
-  phone.queue.add(phone.clock.uptime() + nanoseconds(distance), [this] {
-    drawDate();
-    redrawAtMidnight();
+  phone.queue.cancel(nextDrawing_);
+  nextDrawing_ = phone.queue.add(uptimeAt(phone.clock, midnight), [this, midnight, &phone] {
+    double now = phone.clock.wall();
+    // Set back meanwhile, the wall clock has midnight before it once more. Otherwise it shows at
+    // least midnight, but for what its resolution loses.
+    const bool isEarly = uptimeAt(phone.clock, midnight) > phone.clock.uptime();
+    if (!isEarly) drawDate(now = std::max(now, midnight));
+    redrawAt(midnightAfter(now));
   });
 }
 
@@ -56,7 +63,8 @@ std::optional<std::string> LockScreen::dateText() const {
 std::optional<double> LockScreen::countdown() const {
   const auto end = objc::send<objc::Object, "endDate">(timerController_);
   if (!end) return std::nullopt;
-  return objc::send<double, "timeIntervalSinceNow">(end);
+  const double left = objc::send<double, "timeIntervalSinceNow">(end);
+  return left > 0 ? std::optional(left) : std::nullopt;
 }
 
 }  // namespace sim

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "objc/Ownership.h"
+#include "simulator/phone/MainQueue.h"
 
 namespace sim {
 
@@ -24,14 +25,16 @@ class LockScreen {
 
  private:
   void makeParts();
-  void drawDate();
-  void redrawAtMidnight();
+  // Both in seconds since the reference date.
+  void drawDate(double moment);
+  void redrawAt(double midnight);
 
   bool locked_ = false;
   // Owned, and never given up. nil before the phone was first locked, or without the class.
   objc::Object timerController_;  // CSTimerViewController
   objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView
   bool hasParts_ = false;
+  MainQueue::Ticket nextDrawing_ = 0;
 };
 
 }  // namespace sim

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "simulator/phone/Clock.h"
@@ -14,6 +15,14 @@ inline Nanoseconds deadline(Nanoseconds start, Nanoseconds distance) {
   constexpr auto last = std::numeric_limits<Nanoseconds>::max();
   if (distance > last - start) return last;
   return std::max<Nanoseconds>(start + distance, 0);
+}
+
+// The uptime at which the wall clock shows this moment, seconds since the reference date, if nobody
+// sets it meanwhile. Moments of this century resolve a tenth of a microsecond: rounded to whole
+// microseconds, a moment is the one that was meant.
+inline Nanoseconds uptimeAt(const Clock& clock, double moment) {
+  const double distance = std::round((moment - clock.wall()) * 1e6) / 1e6;
+  return deadline(clock.uptime(), nanoseconds(distance));
 }
 
 }  // namespace sim

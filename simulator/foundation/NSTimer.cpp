@@ -27,15 +27,11 @@ Nanoseconds fromNow(double seconds) {
   return deadline(Phone::current().clock.uptime(), nanoseconds(usable(seconds)));
 }
 
-// Dates of this century resolve a tenth of a microsecond: rounded to whole microseconds, a moment
-// is the one that was meant.
 Nanoseconds uptimeOf(Object date) {
   const NSDate* state = stateOf<NSDate>(date);
   if (state == nullptr)
     raiseException("NSInvalidArgumentException", "a timer needs a date to fire at");
-  const Clock& clock = Phone::current().clock;
-  const double distance = std::round((state->reference - clock.wall()) * 1e6) / 1e6;
-  return deadline(clock.uptime(), nanoseconds(distance));
+  return uptimeAt(Phone::current().clock, state->reference);
 }
 
 Strong<Object> make(double seconds, Object target, SEL selector, Object info, bool repeats) {

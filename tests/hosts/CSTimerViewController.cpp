@@ -67,6 +67,23 @@ TEST_F(CSTimerViewControllerTest, FollowsAWallClockThatIsSetBack) {
   EXPECT_EQ(timeOf(ended), 3660);
 }
 
+TEST_F(CSTimerViewControllerTest, EndsAtTheMomentThatWasMeant) {
+  const auto controller = make();
+  advance(1.1);
+  countDown(controller.get(), 60.2);
+  advance(1000);
+  EXPECT_EQ(timeOf(ended), 61.3);
+}
+
+TEST_F(CSTimerViewControllerTest, MayNeverEnd) {
+  const auto controller = make();
+  objc::send<void, "setEndDate:">(
+      controller.get(), objc::send<objc::Object, "distantFuture">(objc_getClass("NSDate")));
+  countDown(controller.get(), 1e300);
+  advance(100'000);
+  EXPECT_TRUE(counts(controller.get()));
+}
+
 TEST_F(CSTimerViewControllerTest, MayGoBeforeTheEnd) {
   {
     const objc::AutoreleasePool pool;

@@ -1,5 +1,6 @@
 #include "simulator/coversheet/LockScreen.h"
 
+#include "objc/Hook.h"
 #include "simulator/runtime/LiveObjects.h"
 #include "tests/hosts/TestHost.h"
 
@@ -13,6 +14,14 @@ class LockScreenTest : public TestHost {
     return simulator::runtime::liveInstanceCount(objc_getClass("CSTimerViewController"));
   }
 };
+
+long drawings = 0;
+
+void countDrawing(objc::Original<void(objc::Object, objc::Object, objc::Object)> original,
+                  objc::Object view, objc::Object date, objc::Object timeZone) {
+  ++drawings;
+  original(view, date, timeZone);
+}
 
 TEST_F(LockScreenTest, IsMadeWhenThePhoneIsFirstLocked) {
   boot();
@@ -58,6 +67,37 @@ TEST_F(LockScreenTest, DrawsTheDateAtEveryMidnight) {
   advance(86400);
   EXPECT_EQ(screen().dateText(), "Sunday, January 3");
   EXPECT_EQ(timeOf("lock screen date \"Sunday, January 3\""), 7200 + 86400);
+}
+
+TEST_F(LockScreenTest, DrawsTheDateOnceAtMidnightHoweverOftenItWasLocked) {
+  boot();
+  objc::hook<"SBFLockScreenDateSubtitleDateView", "_setDate:inTimeZone:", countDrawing>();
+  screen().lock();
+  screen().lock();
+  drawings = 0;
+  advance(7200);
+  EXPECT_EQ(drawings, 1);
+}
+
+TEST_F(LockScreenTest, MidnightIsMidnightByAnyWallClock) {
+  boot();
+  for (const double fraction : {0.1, 0.3, 0.7, 0.123456789}) {
+    phone.clock.setWall(820533600 + fraction);
+    screen().lock();
+    EXPECT_EQ(screen().dateText(), "Friday, January 1");
+    advance(7200);
+    EXPECT_EQ(screen().dateText(), "Saturday, January 2") << fraction;
+  }
+}
+
+TEST_F(LockScreenTest, WaitsForMidnightAgainWhenTheWallClockIsSetBack) {
+  boot();
+  screen().lock();
+  phone.clock.setWall(phone.clock.wall() - 3600);
+  advance(7200);
+  EXPECT_EQ(screen().dateText(), "Friday, January 1");
+  advance(3600);
+  EXPECT_EQ(screen().dateText(), "Saturday, January 2");
 }
 
 TEST_F(LockScreenTest, LivesWithoutItsClasses) {

@@ -3,7 +3,7 @@
 
 #include "platform/Foundation.h"
 
-// "05:09", from an hour on "1:05:09" with two digits at least for the hours; in the user's digits.
+// "05:09", from an hour on "01:05:09"; in the digits that the user reads.
 // Seconds may be negative: a duration that waits for its track is overdue.
 extern "C" __attribute__((visibility("default"))) id timeFormatted(int seconds);
 

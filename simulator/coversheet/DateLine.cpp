@@ -74,7 +74,7 @@ const Language& languageOf(std::string_view locale) {
 std::string dayNumber(unsigned day, const Language& language) {
   constexpr std::array<std::string_view, 10> arabicIndic = {"٠", "١", "٢", "٣", "٤",
                                                             "٥", "٦", "٧", "٨", "٩"};
-  const std::string western = std::to_string(day);
+  std::string western = std::to_string(day);
   if (language.code != "ar") return western;
   std::string digits;
   for (const char digit : western) digits += arabicIndic[std::size_t(digit - '0')];

@@ -2,6 +2,7 @@
 #
 #   bundle_file(PATH SOURCE)       copies a file
 #   bundle_icon(NAME POINTS)       renders images/NAME.svg for the three scales of screens
+#   bundle_layout(NAME)            compiles layouts/NAME.xib
 #   bundle_output(PATH)            what a custom command of the caller makes at ${DOZEWELL_BUNDLE}
 #   bundle_finish(TARGET)          the target that makes all of them, and nothing else is there
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
@@ -38,6 +39,15 @@ macro(bundle_icon name points)
                        DEPENDS ${source} COMMENT "Bundle: ${file}" VERBATIM)
     bundle_output(${file})
   endforeach()
+endmacro()
+
+macro(bundle_layout name)
+  set(source ${CMAKE_CURRENT_SOURCE_DIR}/layouts/${name}.xib)
+  add_custom_command(OUTPUT "${DOZEWELL_BUNDLE}/${name}.nib"
+                     COMMAND ${CMAKE_COMMAND} -E make_directory "${DOZEWELL_BUNDLE}"
+                     COMMAND dozewell-nibc ${source} "${DOZEWELL_BUNDLE}/${name}.nib"
+                     DEPENDS ${source} dozewell-nibc COMMENT "Bundle: ${name}.nib" VERBATIM)
+  bundle_output(${name}.nib)
 endmacro()
 
 macro(bundle_finish target)

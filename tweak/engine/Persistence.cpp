@@ -24,6 +24,12 @@ double secondsUntil(objc::Object date) {
   return objc::as<NSDate>(date).timeIntervalSinceNow();
 }
 
+// Out of range the phone's processor saturates; C++ leaves it open, so it is written out.
+long truncated(double seconds) {
+  constexpr double limit = 9223372036854775808.0;
+  return seconds < limit ? long(seconds) : 9223372036854775807;
+}
+
 long integer(objc::Object number) {
   if (!objc::respondsTo<"integerValue">(number)) return 0;
   return objc::as<NSNumber>(number).integerValue();
@@ -51,7 +57,7 @@ void Dozewell2Manager::restoreDozewellIfNeeded() {
   const auto defaults = NSUserDefaults::standardUserDefaults();
   if (const auto due = defaults.objectForKey(dueDateKey())) {
     const double seconds = secondsUntil(due);
-    if (seconds > 0) startTimerWithTimeInterval(long(seconds));
+    if (seconds > 0) startTimerWithTimeInterval(truncated(seconds));
     // A date that has passed stays, and hides a stored count, until the next reset.
     return;
   }

@@ -37,5 +37,7 @@ void Dozewell2Manager::handleTrackChangedIfNeeded() {
 }
 
 long Dozewell2Manager::getTimerRemainingTracks() const {
-  return nbSongsToPlayBeforeStop - nbSongsPlayed;
+  // Wraps like the phone's arithmetic: an absurd count may be stored.
+  return long(static_cast<unsigned long>(nbSongsToPlayBeforeStop) -
+              static_cast<unsigned long>(nbSongsPlayed));
 }

@@ -5,6 +5,7 @@ namespace sim {
 void registerFrameworks() {
   registerDispatch();
   registerFoundation();
+  registerQuartzCore();
   registerUIKit();
   registerMediaRemote();
   registerServices();

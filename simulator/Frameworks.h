@@ -6,6 +6,7 @@ namespace sim {
 // In order: a framework may use the classes of those before it.
 void registerDispatch();
 void registerFoundation();
+void registerQuartzCore();
 void registerUIKit();
 void registerMediaRemote();
 void registerServices();

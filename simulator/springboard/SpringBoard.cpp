@@ -3,6 +3,7 @@
 #include "simulator/Frameworks.h"
 #include "simulator/StandIn.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/springboard/HomeScreen.h"
 
 namespace sim {
 
@@ -13,13 +14,14 @@ void SpringBoard::applicationDidFinishLaunching(objc::Object) {
 void SpringBoard::registerClass() {
   StandIn<SpringBoard>("SpringBoard", "SpringBoard", "UIApplication")
       .partial<"applicationDidFinishLaunching:", &SpringBoard::applicationDidFinishLaunching>(
-          "shows no home screen")
+          "the home screen is empty")
       .finish();
 }
 
 void launchSpringBoard() {
   const objc::AutoreleasePool pool;
   const auto application = SpringBoard::make();  // becomes the shared application, which lives on
+  showHomeScreen();
   objc::send<void, "applicationDidFinishLaunching:">(application.get(), application.get());
 }
 

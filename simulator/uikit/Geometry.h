@@ -1,6 +1,8 @@
 // CoreGraphics' structures, in points, as they cross messages.
 #pragma once
 
+#include <cmath>
+
 #include "objc/Encoding.h"
 
 namespace sim {
@@ -21,6 +23,46 @@ struct CGRect {
   CGPoint origin;
   CGSize size;
   bool operator==(const CGRect&) const = default;
+
+  bool contains(CGPoint point) const {
+    return point.x >= origin.x && point.y >= origin.y && point.x < origin.x + size.width &&
+           point.y < origin.y + size.height;
+  }
+};
+
+// x' = a x + c y + tx, y' = b x + d y + ty
+struct CGAffineTransform {
+  double a = 1;
+  double b = 0;
+  double c = 0;
+  double d = 1;
+  double tx = 0;
+  double ty = 0;
+  bool operator==(const CGAffineTransform&) const = default;
+
+  CGPoint apply(CGPoint point) const {
+    return {a * point.x + c * point.y + tx, b * point.x + d * point.y + ty};
+  }
+  // Itself where it cannot be inverted.
+  CGAffineTransform inverse() const {
+    const double determinant = a * d - b * c;
+    if (determinant == 0) return *this;
+    return {d / determinant,
+            -b / determinant,
+            -c / determinant,
+            a / determinant,
+            (c * ty - d * tx) / determinant,
+            (b * tx - a * ty) / determinant};
+  }
+  // The bounding box of the transformed rectangle.
+  CGRect apply(CGRect rect) const {
+    const CGPoint centre =
+        apply(CGPoint{rect.origin.x + rect.size.width / 2, rect.origin.y + rect.size.height / 2});
+    const CGSize box = {
+        std::abs(a) * std::abs(rect.size.width) + std::abs(c) * std::abs(rect.size.height),
+        std::abs(b) * std::abs(rect.size.width) + std::abs(d) * std::abs(rect.size.height)};
+    return {{centre.x - box.width / 2, centre.y - box.height / 2}, box};
+  }
 };
 
 }  // namespace sim
@@ -36,4 +78,8 @@ struct objc::StructEncoding<sim::CGSize> {
 template <>
 struct objc::StructEncoding<sim::CGRect> {
   static constexpr auto value = objc::FixedString("{CGRect={CGPoint=dd}{CGSize=dd}}");
+};
+template <>
+struct objc::StructEncoding<sim::CGAffineTransform> {
+  static constexpr auto value = objc::FixedString("{CGAffineTransform=dddddd}");
 };

@@ -1,22 +1,59 @@
 #include "simulator/uikit/UIApplication.h"
 
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/uikit/UIScreen.h"
+#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/UIWindow.h"
 
 namespace sim {
 namespace {
 
-objc::Object theApplication;  // owned, and never given up
+using objc::Object;
+
+Object theApplication;  // owned, and never given up
+
+Object keyWindow(Object) {
+  return UIWindow::keyWindow();
+}
 
 }  // namespace
 
-objc::Object UIApplication::sharedApplication() {
+Object UIApplication::sharedApplication() {
   return theApplication;
 }
 
-objc::Object UIApplication::init() {
-  const objc::Object made = super<objc::Object, "init">();
+Object UIApplication::init() {
+  const Object made = super<Object, "init">();
   if (!theApplication) theApplication = objc::retain(made).detach();
   return made;
+}
+
+Object UIApplication::windows() const {
+  const auto visible = UIWindow::visibleWindows();
+  return array(std::vector<Object>(visible.begin(), visible.end()));
+}
+
+void UIApplication::openURL(Object url, Object, objc::Block<void(bool)> completion) {
+  Phone& phone = Phone::current();
+  phone.journal.record("-[UIApplication openURL:" + description(url) + ']');
+  if (!completion) return;
+  auto kept = objc::adopt(objc::send<objc::Block<void(bool)>, "copy">(completion));
+  phone.queue.addNow([kept = std::move(kept)] { kept.get()(true); });
+}
+
+void UIApplication::rotate(long to) {
+  const CGSize before = UIScreen::size();
+  orientation = to;
+  const CGSize now = UIScreen::size();
+  for (const auto& window : UIWindow::visibleWindows()) {
+    if (UIView::of(window.get()).geometry().bounds.size == before)
+      objc::send<void, "setFrame:">(window.get(), CGRect{{}, now});
+    // Also where the size stays the same, the interface is laid out anew.
+    const Object root = UIWindow::of(window.get()).rootViewController;
+    objc::send<void, "setNeedsLayout">(objc::send<Object, "view">(root));
+  }
 }
 
 void UIApplication::registerClass() {
@@ -24,6 +61,11 @@ void UIApplication::registerClass() {
       .classMethod<"sharedApplication", &UIApplication::sharedApplication>()
       .partial<"init", &UIApplication::init>("a second application is no error")
       .partial<"delegate", &UIApplication::delegate>("always nil")
+      .method<"keyWindow", &keyWindow>()
+      .method<"windows", &UIApplication::windows>()
+      .readonlyProperty<"_activeInterfaceOrientation", &UIApplication::orientation>()
+      .partial<"openURL:options:completionHandler:", &UIApplication::openURL>(
+          "opens nothing, but says that it did")
       .finish();
 }
 

@@ -1,11 +1,101 @@
 #include "simulator/uikit/UIControl.h"
 
+#include <algorithm>
+#include <string>
+
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/uikit/Actions.h"
 
 namespace sim {
+namespace {
+
+using objc::Object;
+
+void sendActionsForControlEvents(Object self, unsigned long events) {
+  UIControl::of(self).sendActionsForEvents(events, nullptr);
+}
+
+template <bool UIControl::*flag>
+void setFlag(Object self, bool value) {
+  UIControl::of(self).*flag = value;
+  objc::send<void, "setNeedsLayout">(self);
+}
+
+}  // namespace
+
+void UIControl::addTarget(Object target, SEL action, unsigned long events) {
+  for (ControlAction& known : actions)
+    if (known.identity == target.get() && known.selector == action) {
+      known.events |= events;
+      return;
+    }
+  actions.push_back({objc::weak(target), target.get(), action, events});
+}
+
+void UIControl::removeTarget(Object target, SEL action, unsigned long events) {
+  for (ControlAction& known : actions)
+    if ((!target || known.identity == target.get()) &&
+        (action == nullptr || known.selector == action))
+      known.events &= ~events;
+  std::erase_if(actions, [](const ControlAction& known) { return known.events == 0; });
+}
+
+// nil when there is none.
+Object UIControl::actionsForTarget(Object target, unsigned long event) const {
+  std::vector<Object> names;
+  for (const ControlAction& known : actions)
+    if (known.identity == target.get() && (known.events & event) != 0)
+      names.push_back(string(sel_getName(known.selector)));
+  return names.empty() ? Object() : array(names);
+}
+
+unsigned long UIControl::allControlEvents() const {
+  unsigned long all = 0;
+  for (const ControlAction& known : actions) all |= known.events;
+  return all;
+}
+
+// Actions may add and remove others: those of now are sent.
+void UIControl::sendActionsForEvents(unsigned long events, Object event) {
+  const auto kept = objc::retain(Object(self()));
+  const auto now = actions;
+  for (const ControlAction& each : now) {
+    const auto target = each.target.load();
+    if ((each.events & events) == 0 || (each.identity != nullptr && !target)) continue;
+    objc::send<void, "sendAction:to:forEvent:">(self(), each.selector, target.get(), event);
+  }
+}
+
+void UIControl::sendAction(SEL action, Object target, Object event) {
+  performAction(action, target ? target : firstResponderTo(action, Object(self())), Object(self()),
+                event);
+}
+
+unsigned long UIControl::state() const {
+  return (highlighted ? highlightedState : normal) | (enabled ? normal : disabledState) |
+         (selected ? selectedState : normal);
+}
 
 void UIControl::registerClass() {
-  StandIn<UIControl>("UIKit", "UIControl", "UIView").finish();
+  StandIn<UIControl>("UIKit", "UIControl", "UIView")
+      .method<"addTarget:action:forControlEvents:", &UIControl::addTarget>()
+      .method<"removeTarget:action:forControlEvents:", &UIControl::removeTarget>()
+      .method<"actionsForTarget:forControlEvent:", &UIControl::actionsForTarget>()
+      .method<"allControlEvents", &UIControl::allControlEvents>()
+      .method<"sendAction:to:forEvent:", &UIControl::sendAction>()
+      .method<"sendActionsForControlEvents:", &sendActionsForControlEvents>()
+      .readonlyProperty<"enabled", &UIControl::enabled>()
+      .readonlyProperty<"isEnabled", &UIControl::enabled>()
+      .method<"setEnabled:", &setFlag<&UIControl::enabled>>()
+      .readonlyProperty<"selected", &UIControl::selected>()
+      .readonlyProperty<"isSelected", &UIControl::selected>()
+      .method<"setSelected:", &setFlag<&UIControl::selected>>()
+      .readonlyProperty<"highlighted", &UIControl::highlighted>()
+      .readonlyProperty<"isHighlighted", &UIControl::highlighted>()
+      .method<"setHighlighted:", &setFlag<&UIControl::highlighted>>()
+      .method<"state", &UIControl::state>()
+      .finish();
 }
 
 }  // namespace sim

@@ -1,20 +1,32 @@
 #include "simulator/Frameworks.h"
+#include "simulator/uikit/NSLayoutConstraint.h"
+#include "simulator/uikit/NSURL.h"
+#include "simulator/uikit/UIAlertAction.h"
+#include "simulator/uikit/UIAlertController.h"
 #include "simulator/uikit/UIApplication.h"
 #include "simulator/uikit/UIButton.h"
+#include "simulator/uikit/UIColor.h"
 #include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/UIDatePicker.h"
 #include "simulator/uikit/UIDevice.h"
 #include "simulator/uikit/UIEvent.h"
 #include "simulator/uikit/UIFeedbackGenerator.h"
+#include "simulator/uikit/UIFont.h"
 #include "simulator/uikit/UIImage.h"
+#include "simulator/uikit/UIImageView.h"
 #include "simulator/uikit/UIImpactFeedbackGenerator.h"
 #include "simulator/uikit/UILabel.h"
 #include "simulator/uikit/UIMotionEvent.h"
 #include "simulator/uikit/UINotificationFeedbackGenerator.h"
+#include "simulator/uikit/UIPasteboard.h"
+#include "simulator/uikit/UIPickerView.h"
 #include "simulator/uikit/UIResponder.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UISelectionFeedbackGenerator.h"
+#include "simulator/uikit/UIStackView.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIViewController.h"
+#include "simulator/uikit/UIWindow.h"
 
 namespace sim {
 
@@ -29,13 +41,26 @@ void registerUIKit() {
   UISelectionFeedbackGenerator::registerClass();
   UIEvent::registerClass();
   UIMotionEvent::registerClass();
+  NSURL::registerClass();
+  UIPasteboard::registerClass();
   UIResponder::registerClass();
   UIApplication::registerClass();
+  CGColor::registerClass();
+  UIColor::registerClass();
+  UIFont::registerClass();
   UIView::registerClass();
+  UIWindow::registerClass();
+  UIImageView::registerClass();
   UILabel::registerClass();
   UIControl::registerClass();
   UIButton::registerClass();
+  UIStackView::registerClass();
+  UIPickerView::registerClass();
+  UIDatePicker::registerClass();
+  NSLayoutConstraint::registerClass();
   UIViewController::registerClass();
+  UIAlertAction::registerClass();
+  UIAlertController::registerClass();
 }
 
 }  // namespace sim

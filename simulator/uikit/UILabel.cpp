@@ -1,17 +1,85 @@
 #include "simulator/uikit/UILabel.h"
 
+#include <limits>
+
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/uikit/TextMeasure.h"
+#include "simulator/uikit/UIColor.h"
+#include "simulator/uikit/UIFont.h"
+#include "simulator/uikit/UIView.h"
 
 namespace sim {
+namespace {
 
-void UILabel::setText(objc::Object shown) {
-  text = objc::adopt(objc::send<objc::Object, "copy">(shown));
+using objc::Object;
+
+constexpr double unlimited = std::numeric_limits<double>::max();
+
+Object blackColor() {
+  return objc::send<Object, "blackColor">(UIColor::cls());
+}
+
+void sizeMayHaveChanged(id self) {
+  objc::send<void, "invalidateIntrinsicContentSize">(self);
+}
+
+}  // namespace
+
+Object UILabel::initWithFrame(CGRect frame) {
+  const Object made = super<Object, "initWithFrame:">(frame);
+  if (!made) return nullptr;
+  UIView::of(made).userInteractionEnabled = false;
+  textColor = objc::retain(blackColor());
+  font = objc::retain(UIFont::system(17));
+  return made;
+}
+
+void UILabel::setText(Object shown) {
+  text = objc::adopt(objc::send<Object, "copy">(shown));
+  sizeMayHaveChanged(self());
+}
+
+void UILabel::setTextColor(Object color) {
+  textColor = objc::retain(color ? color : blackColor());
+}
+
+void UILabel::setFont(Object used) {
+  font = objc::retain(used ? used : UIFont::system(17));
+  sizeMayHaveChanged(self());
+}
+
+CGSize UILabel::sizeThatFits(CGSize size) const {
+  TextStyle style;
+  style.lines = numberOfLines;
+  if (const UIFont* its = stateOf<UIFont>(font.get())) {
+    style.pointSize = its->pointSize;
+    style.lineHeight = its->lineHeight();
+  }
+  return textSize(sim::text(text), style, size.width > 0 ? size.width : unlimited);
+}
+
+CGSize UILabel::intrinsicContentSize() const {
+  return sizeThatFits({unlimited, unlimited});
 }
 
 void UILabel::registerClass() {
+  constexpr const char* widths = "widths come from a table";
   StandIn<UILabel>("UIKit", "UILabel", "UIView")
+      .method<"initWithFrame:", &UILabel::initWithFrame>()
       .readonlyProperty<"text", &UILabel::text>()
       .method<"setText:", &UILabel::setText>()
+      .readonlyProperty<"textColor", &UILabel::textColor>()
+      .method<"setTextColor:", &UILabel::setTextColor>()
+      .readonlyProperty<"font", &UILabel::font>()
+      .method<"setFont:", &UILabel::setFont>()
+      .property<"textAlignment", &UILabel::textAlignment>()
+      .property<"numberOfLines", &UILabel::numberOfLines>()
+      .property<"adjustsFontSizeToFitWidth", &UILabel::adjustsFontSizeToFitWidth>()
+      .property<"minimumScaleFactor", &UILabel::minimumScaleFactor>()
+      .partial<"sizeThatFits:", &UILabel::sizeThatFits>(widths)
+      .partial<"intrinsicContentSize", &UILabel::intrinsicContentSize>(widths)
       .finish();
 }
 

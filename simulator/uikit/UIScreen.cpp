@@ -1,6 +1,8 @@
 #include "simulator/uikit/UIScreen.h"
 
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/uikit/UIApplication.h"
 
 namespace sim {
 
@@ -8,10 +10,17 @@ objc::Object UIScreen::mainScreen() {
   return objc::Object(shared().self());
 }
 
+CGSize UIScreen::size() {
+  const UIApplication* application = stateOf<UIApplication>(UIApplication::sharedApplication());
+  const bool isTurned =
+      application != nullptr && application->orientation >= UIApplication::landscapeRight;
+  return isTurned ? CGSize{mainSize.height, mainSize.width} : mainSize;
+}
+
 void UIScreen::registerClass() {
   StandIn<UIScreen>("UIKit", "UIScreen", "NSObject")
       .classMethod<"mainScreen", &UIScreen::mainScreen>()
-      .partial<"bounds", &UIScreen::bounds>("always upright")
+      .method<"bounds", &UIScreen::bounds>()
       .method<"nativeBounds", &UIScreen::nativeBounds>()
       .method<"scale", &UIScreen::scale>()
       .method<"nativeScale", &UIScreen::scale>()

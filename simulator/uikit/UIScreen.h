@@ -10,7 +10,8 @@ struct UIScreen : objc::Implementation<UIScreen> {
   static constexpr CGSize mainSize = {390, 844};  // points, upright
 
   static objc::Object mainScreen();  // the one object, never freed
-  CGRect bounds() { return {{0, 0}, mainSize}; }
+  static CGSize size();              // points, as the interface is turned
+  CGRect bounds() { return {{0, 0}, size()}; }
   CGRect nativeBounds() {  // pixels
     return {{0, 0}, {mainSize.width * mainScale, mainSize.height * mainScale}};
   }

@@ -1,61 +1,83 @@
 #include "simulator/uikit/UIView.h"
 
-#include <algorithm>
-
-#include "simulator/StandIn.h"
-#include "simulator/foundation/Values.h"
+#include "objc/Message.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/quartzcore/CALayer.h"
+#include "simulator/uikit/ViewMethods.h"
 
 namespace sim {
+namespace {
+
+using objc::Object;
+
+Object init(Object self) {
+  return objc::send<Object, "initWithFrame:">(self, CGRect());
+}
+
+Class layerClass() {
+  return CALayer::cls();
+}
+
+void makeLayer(UIView& view) {
+  const Class its = objc::send<Class, "layerClass">(object_getClass(view.self()));
+  view.layer = objc::adopt(Object(objc_alloc_init(its)));
+  if (CALayer* layer = stateOf<CALayer>(view.layer.get())) layer->delegate = Object(view.self());
+}
+
+// The controller's whose view it is, else the superview's.
+Object viewControllerForAncestor(Object self) {
+  for (Object view = self; view; view = UIView::of(view).parent)
+    if (UIView::of(view).controller) return UIView::of(view).controller;
+  return nullptr;
+}
+
+Object nextResponder(Object self) {
+  const UIView& view = UIView::of(self);
+  return view.controller ? view.controller : view.parent;
+}
+
+}  // namespace
 
 UIView::~UIView() {
+  if (CALayer* state = stateOf<CALayer>(layer.get())) state->delegate = nullptr;
   for (const auto& child : children) of(child.get()).parent = nullptr;
 }
 
-objc::Object UIView::init() {
-  return objc::send<objc::Object, "initWithFrame:">(self(), CGRect());
+Object UIView::layerOf(Object view) {
+  if (!of(view).layer) makeLayer(of(view));
+  return of(view).layer;
+}
+
+LayerGeometry& UIView::geometry() {
+  CALayer* state = stateOf<CALayer>(layerOf(Object(self())));
+  return state != nullptr ? state->geometry : withoutLayer_;
 }
 
 objc::Object UIView::initWithFrame(CGRect frame) {
-  viewFrame = frame;
-  return super<objc::Object, "init">();
-}
-
-objc::Object UIView::subviews() {
-  return array(std::vector<objc::Object>(children.begin(), children.end()));
-}
-
-void UIView::addSubview(objc::Object view) {
-  if (!view) return;
-  const auto kept = objc::retain(view);  // the parent it has may own it alone
-  objc::send<void, "removeFromSuperview">(view);
-  children.push_back(kept);
-  of(view).parent = objc::Object(self());
-}
-
-void UIView::removeFromSuperview() {
-  if (!parent) return;
-  auto& siblings = of(std::exchange(parent, nullptr)).children;
-  const auto isThis = [this](const auto& each) { return each.get().get() == self(); };
-  const auto found = std::find_if(siblings.begin(), siblings.end(), isThis);
-  const auto last = std::move(*found);  // this view may end with the function
-  siblings.erase(found);
+  const Object made = super<Object, "init">();
+  if (made && !(frame == CGRect())) {
+    geometry().setFrame(frame);
+    needsLayout = true;
+  }
+  return made;
 }
 
 void UIView::registerClass() {
-  StandIn<UIView>("UIKit", "UIView", "UIResponder")
-      .method<"init", &UIView::init>()
+  StandIn<UIView> view("UIKit", "UIView", "UIResponder");
+  view.method<"init", &init>()
       .method<"initWithFrame:", &UIView::initWithFrame>()
-      .method<"frame", &UIView::frame>()
-      .method<"setFrame:", &UIView::setFrame>()
-      .partial<"bounds", &UIView::bounds>("always begins at the origin")
-      .property<"hidden", &UIView::hidden>()
-      .readonlyProperty<"isHidden", &UIView::hidden>()
-      .readonlyProperty<"superview", &UIView::parent>()
-      .method<"subviews", &UIView::subviews>()
-      .method<"addSubview:", &UIView::addSubview>()
-      .method<"removeFromSuperview", &UIView::removeFromSuperview>()
-      .partial<"layoutSubviews", &UIView::layoutSubviews>("no constraints")
-      .finish();
+      .classMethod<"layerClass", &layerClass>()
+      .method<"layer", &UIView::layerOf>()
+      .method<"nextResponder", &nextResponder>()
+      .method<"_viewControllerForAncestor", &viewControllerForAncestor>();
+  addViewGeometry(view);
+  addViewTree(view);
+  addViewLayout(view);
+  addViewAppearance(view);
+  addHitTesting(view);
+  addViewAnimations(view);
+  addViewTransitions(view);
+  view.finish();
 }
 
 }  // namespace sim

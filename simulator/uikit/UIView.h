@@ -1,34 +1,48 @@
-// Views: the tree and the frames.
+// Views: the tree, where they stand in it and what they look like. Layout, hit testing and
+// animations have files of their own.
 #pragma once
 
 #include <vector>
 
 #include "objc/Class.h"
+#include "simulator/quartzcore/LayerGeometry.h"
 #include "simulator/uikit/Geometry.h"
 
 namespace sim {
 
 struct UIView : objc::Implementation<UIView> {
-  CGRect viewFrame;
-  bool hidden = false;
-  objc::Object parent;  // not owned: the parent owns this view and clears it
+  objc::Strong<objc::Object> layer;  // CALayer, which holds the geometry
+  objc::Object parent;               // not owned: the parent owns this view and clears it
+  objc::Object controller;           // not owned: the controller whose view this is; clears it
   std::vector<objc::Strong<objc::Object>> children;  // back to front
+  objc::Strong<objc::Object> backgroundColor;        // UIColor; nil: clear
+  objc::Strong<objc::Object> tintColor;              // UIColor; nil: the superview's
+  objc::Strong<objc::Object> accessibilityLabel;     // NSString
+  objc::Strong<objc::Object> accessibilityIdentifier;
+  long tag = 0;
+  long semanticContentAttribute = 0;  // 0 unspecified … 3 left to right
+  long contentMode = 0;
+  unsigned long autoresizingMask = 0;
+  bool autoresizesSubviews = true;
+  bool userInteractionEnabled = true;
+  bool needsLayout = false;
 
   ~UIView();
 
-  objc::Object init();
   objc::Object initWithFrame(CGRect frame);
-  CGRect frame() { return viewFrame; }
-  void setFrame(CGRect frame) { viewFrame = frame; }
-  CGRect bounds() { return {{}, viewFrame.size}; }
-
-  objc::Object subviews();
-  // Moves the view from the parent it has. nil does nothing.
-  void addSubview(objc::Object view);
-  void removeFromSuperview();
-  void layoutSubviews() {}
+  // Made when it is first asked for: subclasses may set up before the inherited initialiser.
+  static objc::Object layerOf(objc::Object view);
+  bool isHidden() const;
+  double alpha() const;
+  // What -frame, -bounds and the rest read and write. Subclasses may override those messages, so
+  // UIKit itself looks here.
+  LayerGeometry& geometry();
+  const LayerGeometry& geometry() const { return const_cast<UIView*>(this)->geometry(); }
 
   static void registerClass();
+
+ private:
+  LayerGeometry withoutLayer_;  // on a phone that has no CALayer
 };
 
 }  // namespace sim

@@ -1,6 +1,9 @@
-// A view controller, so far without a view.
+// View controllers: a view that is loaded when it is first asked for, and controllers below.
 #pragma once
 
+#include <vector>
+
+#include "objc/Block.h"
 #include "objc/Class.h"
 
 namespace sim {
@@ -8,9 +11,34 @@ namespace sim {
 struct UIViewController : objc::Implementation<UIViewController> {
   objc::Strong<objc::Object> nibName;    // NSString; nil: none
   objc::Strong<objc::Object> nibBundle;  // NSBundle; nil: none
+  objc::Strong<objc::Object> title;      // NSString
+  objc::Strong<objc::Object> loadedView;
+  std::vector<objc::Strong<objc::Object>> children;
+  objc::Object parent;  // not owned: it owns this controller and clears it
+  objc::Strong<objc::Object> presented;
+  objc::Object presenting;            // not owned: it owns this controller and clears it
+  objc::Strong<objc::Object> window;  // kept while something is presented in it
+  long modalPresentationStyle = -2;   // automatic
+
+  ~UIViewController();
 
   objc::Object init();
   objc::Object initWithNibName_bundle(objc::Object name, objc::Object bundle);
+  objc::Object view();  // loads it if need be
+  void setView(objc::Object view);
+  bool isViewLoaded() const { return bool(loadedView); }
+  objc::Object viewIfLoaded() const { return loadedView; }
+  void loadView();
+
+  void addChild(objc::Object child);
+  void removeFromParent();
+  objc::Object childControllers() const;
+
+  // Refused, with the platform's words in the log, when the controller's view is in no window or
+  // it presents another already.
+  void present(objc::Object controller, bool animated, objc::Block<void()> completion);
+  // What it presents; when it presents nothing, itself.
+  void dismiss(bool animated, objc::Block<void()> completion);
 
   static void registerClass();
 };

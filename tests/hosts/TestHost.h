@@ -22,6 +22,7 @@ class TestHost : public TestPhone {
   // After the set-up is complete.
   void boot() {
     registerFoundation();
+    registerQuartzCore();
     registerUIKit();
     registerMediaRemote();
     registerServices();

@@ -18,7 +18,7 @@ class PhoneWithFiles : public TestPhone {
  protected:
   PhoneWithFiles() {
     // Classes are the process's; only the first phone of several tests in one registers them.
-    static const bool registered = (registerFoundation(), registerUIKit(), true);
+    static const bool registered = (registerFoundation(), registerQuartzCore(), registerUIKit(), true);
     (void)registered;
   }
 

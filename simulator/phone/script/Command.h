@@ -87,5 +87,6 @@ void addShortcutCommands(CommandTable& table);     // runwright: shortcuts
 void addScreenCommands(CommandTable& table);       // springboard: screen
 void addLockScreenCommands(CommandTable& table);   // coversheet: lock, unlock …
 void addControlCenterCommands(CommandTable& table);  // controlcenter: module
+void addUIKitCommands(CommandTable& table);          // uikit: tap, select, expect-alert …
 
 }  // namespace sim

@@ -26,6 +26,7 @@ CommandTable allCommands() {
   addScreenCommands(table);
   addLockScreenCommands(table);
   addControlCenterCommands(table);
+  addUIKitCommands(table);
   return table;
 }
 

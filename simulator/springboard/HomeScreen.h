@@ -1,0 +1,10 @@
+// What is behind everything else on the screen.
+#pragma once
+
+namespace sim {
+
+// The application's key window, as large as the screen, with an empty root controller. Once a
+// process; it is never closed. Nothing on a phone that has no windows.
+void showHomeScreen();
+
+}  // namespace sim

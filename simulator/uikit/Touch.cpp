@@ -1,0 +1,46 @@
+#include "simulator/uikit/Touch.h"
+
+#include "objc/Message.h"
+#include "objc/Ownership.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/UIEvent.h"
+#include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/ViewTree.h"
+
+namespace sim {
+
+using objc::Object;
+
+Object viewTouchedAt(Object view, CGPoint point) {
+  const Object root = rootOf(view);
+  const CGPoint onScreen = toRoot(view, point);
+  if (!isA<UIWindow>(root))
+    return objc::send<Object, "hitTest:withEvent:">(root, onScreen, nullptr);
+  const auto windows = UIWindow::visibleWindows();
+  for (auto window = windows.rbegin(); window != windows.rend(); ++window)
+    if (const Object hit =
+            objc::send<Object, "hitTest:withEvent:">(window->get(), onScreen, nullptr))
+      return hit;
+  return nullptr;
+}
+
+bool touchIsFor(Object view, Object hit) {
+  return isDescendant(hit, view) || (isA<UIControl>(hit) && isDescendant(view, hit));
+}
+
+Object controlTracking(Object hit) {
+  while (hit && !isA<UIControl>(hit)) hit = UIView::of(hit).parent;
+  return hit;
+}
+
+void tapControl(Object control) {
+  const auto kept = objc::retain(control);
+  const auto event = UIEvent::make();
+  objc::send<void, "setHighlighted:">(control, true);
+  UIControl::of(control).sendActionsForEvents(UIControl::touchDown, event.get());
+  objc::send<void, "setHighlighted:">(control, false);
+  UIControl::of(control).sendActionsForEvents(UIControl::touchUpInside, event.get());
+}
+
+}  // namespace sim

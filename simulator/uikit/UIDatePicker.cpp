@@ -1,0 +1,52 @@
+#include "simulator/uikit/UIDatePicker.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "simulator/StandIn.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+// Private. Callers hand over an object where a BOOL belongs, so the argument is not looked at.
+void setHighlightsToday(Object, bool) {}
+
+}  // namespace
+
+double UIDatePicker::onWheels(double seconds) const {
+  const double step = double(interval) * 60;
+  constexpr double longest = (23 * 60 + 59) * 60;
+  return std::max(std::floor(std::min(seconds, longest) / step) * step, step);
+}
+
+double UIDatePicker::countDownDuration() const {
+  return mode == countDownTimer ? onWheels(duration) : 0;
+}
+
+void UIDatePicker::setCountDownDuration(double seconds) {
+  if (mode == countDownTimer) duration = onWheels(seconds);
+}
+
+void UIDatePicker::setMinuteInterval(long minutes) {
+  const bool works = minutes >= 1 && minutes <= 30 && 60 % minutes == 0;
+  interval = works ? minutes : 1;
+  duration = onWheels(duration);
+}
+
+void UIDatePicker::registerClass() {
+  StandIn<UIDatePicker>("UIKit", "UIDatePicker", "UIControl")
+      .readonlyProperty<"datePickerMode", &UIDatePicker::mode>()
+      .partial<"setDatePickerMode:", &UIDatePicker::setMode>("only the count-down has wheels")
+      .method<"countDownDuration", &UIDatePicker::countDownDuration>()
+      .method<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>()
+      .readonlyProperty<"minuteInterval", &UIDatePicker::interval>()
+      .method<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>()
+      .readonlyProperty<"_textColor", &UIDatePicker::textColor>()
+      .method<"_setTextColor:", &UIDatePicker::setTextColor>()
+      .partial<"setHighlightsToday:", &setHighlightsToday>("draws nothing")
+      .finish();
+}
+
+}  // namespace sim

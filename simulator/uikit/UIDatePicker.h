@@ -1,0 +1,36 @@
+// Wheels for a duration. Dates are not simulated.
+#pragma once
+
+#include "objc/Class.h"
+
+namespace sim {
+
+struct UIDatePicker : objc::Implementation<UIDatePicker> {
+  static constexpr long dateAndTime = 2, countDownTimer = 3;
+
+  long mode = dateAndTime;
+  long interval = 1;                     // minutes, of one step of the wheel
+  double duration = 0;                   // seconds, as the wheels stand
+  objc::Strong<objc::Object> textColor;  // UIColor
+
+  // Whole minutes. Without a count-down the platform gives 0.
+  double countDownDuration() const;
+  // Rounds down to a step; never less than one, never more than 23 hours and 59 minutes. Ignored
+  // without a count-down.
+  void setCountDownDuration(double seconds);
+  // Whether the wheels have that position.
+  bool canShow(double seconds) const {
+    return mode == countDownTimer && onWheels(seconds) == seconds;
+  }
+  // A divisor of 60 up to 30; others count as 1.
+  void setMinuteInterval(long minutes);
+  void setMode(long chosen) { mode = chosen; }
+  void setTextColor(objc::Object color) { textColor = objc::retain(color); }
+
+  static void registerClass();
+
+ private:
+  double onWheels(double seconds) const;
+};
+
+}  // namespace sim

@@ -1,0 +1,83 @@
+#include "simulator/uikit/UIFont.h"
+
+#include <functional>
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/foundation/Values.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+constexpr double bold = 0.4;
+
+Object weighted(double points, double weight) {
+  if (UIFont::cls() == nullptr) return nullptr;
+  auto made = UIFont::make();
+  UIFont::of(made.get()).pointSize = points;
+  UIFont::of(made.get()).weight = weight;
+  return autorelease(std::move(made));
+}
+
+Object boldSystem(double points) {
+  return weighted(points, bold);
+}
+
+Object copy(Object self, void*) {
+  return objc::retain(self).detach();
+}
+
+struct NamedWeight {
+  double from;
+  const char* name;
+};
+constexpr NamedWeight names[] = {{0.5, "Heavy"},  {0.35, "Bold"},    {0.26, "Semibold"},
+                                 {0.1, "Medium"}, {-0.2, "Regular"}, {-0.5, "Light"},
+                                 {-0.7, "Thin"},  {-2, "Ultralight"}};
+
+}  // namespace
+
+// The system font's ascent and descent.
+double UIFont::lineHeight() const {
+  return pointSize * 1.193359375;
+}
+
+Object UIFont::fontName() const {
+  const NamedWeight* found = names;
+  while (weight < found->from && found->from > -2) ++found;
+  return string(std::string(".SFUI-") + found->name);
+}
+
+Object UIFont::system(double points) {
+  return weighted(points, 0);
+}
+Object UIFont::withSize(double points) const {
+  return weighted(points, weight);
+}
+
+bool UIFont::isEqual(Object other) const {
+  const UIFont* font = stateOf<UIFont>(other);
+  return font != nullptr && font->pointSize == pointSize && font->weight == weight;
+}
+unsigned long UIFont::hash() const {
+  return std::hash<double>()(pointSize) ^ std::hash<double>()(weight);
+}
+
+void UIFont::registerClass() {
+  StandIn<UIFont>("UIKit", "UIFont", "NSObject")
+      .classMethod<"systemFontOfSize:", &UIFont::system>()
+      .classMethod<"systemFontOfSize:weight:", &weighted>()
+      .classMethod<"boldSystemFontOfSize:", &boldSystem>()
+      .readonlyProperty<"pointSize", &UIFont::pointSize>()
+      .method<"lineHeight", &UIFont::lineHeight>()
+      .method<"fontName", &UIFont::fontName>()
+      .method<"fontWithSize:", &UIFont::withSize>()
+      .method<"copyWithZone:", &copy>()
+      .method<"isEqual:", &UIFont::isEqual>()
+      .method<"hash", &UIFont::hash>()
+      .finish();
+}
+
+}  // namespace sim

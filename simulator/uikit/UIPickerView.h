@@ -1,0 +1,41 @@
+// Wheels of rows that a data source counts and a delegate draws.
+#pragma once
+
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "objc/Class.h"
+
+namespace sim {
+
+struct UIPickerView : objc::Implementation<UIPickerView> {
+  objc::Weak<objc::Object> dataSource;
+  objc::Weak<objc::Object> delegate;
+  std::vector<long> selected;  // row of each component; -1 in one without rows
+
+  objc::Object itsDataSource() const { return autorelease(dataSource.load()); }
+  objc::Object itsDelegate() const { return autorelease(delegate.load()); }
+  void setDataSource(objc::Object source);
+  void setDelegate(objc::Object listener);
+  long numberOfComponents() const;
+  long numberOfRows(long component) const;
+  // Tells nobody. Rows that do not exist give the nearest one.
+  void selectRow(long row, long component, bool animated);
+  long selectedRow(long component);  // -1: none
+  // As the delegate makes it; kept until the rows are loaded again.
+  objc::Object viewForRow(long row, long component);
+  void reloadAllComponents();
+  void reloadComponent(long component);
+
+  // By touch: the delegate hears of it. False when there is no such row.
+  bool userSelectsRow(long row, long component);
+
+  static void registerClass();
+
+ private:
+  void countComponents();
+  std::map<std::pair<long, long>, objc::Strong<objc::Object>> rowViews_;
+};
+
+}  // namespace sim

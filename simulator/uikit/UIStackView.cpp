@@ -1,0 +1,83 @@
+#include "simulator/uikit/UIStackView.h"
+
+#include <algorithm>
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/uikit/UIView.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+void subviewVisibilityDidChange(Object self) {
+  objc::send<void, "setNeedsLayout">(self);
+}
+
+template <auto member>
+void setAndLayOut(Object self,
+                  std::remove_reference_t<decltype(UIStackView::of(self).*member)> value) {
+  UIStackView::of(self).*member = value;
+  objc::send<void, "setNeedsLayout">(self);
+}
+
+}  // namespace
+
+Object UIStackView::initWithArrangedSubviews(Object views) {
+  const Object made = objc::send<Object, "initWithFrame:">(self(), CGRect());
+  const auto count = objc::send<unsigned long, "count">(views);
+  for (unsigned long i = 0; made && i < count; ++i)
+    addArranged(objc::send<Object, "objectAtIndex:">(views, i));
+  return made;
+}
+
+Object UIStackView::arrangedSubviews() const {
+  return array(std::vector<Object>(arranged.begin(), arranged.end()));
+}
+
+void UIStackView::insertArranged(Object view, unsigned long index) {
+  if (!view) return;
+  const auto kept = objc::retain(view);
+  std::erase_if(arranged, [view](const auto& each) { return each.get() == view; });
+  arranged.insert(arranged.begin() + long(std::min<std::size_t>(index, arranged.size())), kept);
+  if (UIView::of(view).parent.get() != self()) objc::send<void, "addSubview:">(self(), view);
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+void UIStackView::removeArranged(Object view) {
+  std::erase_if(arranged, [view](const auto& each) { return each.get() == view; });
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+void UIStackView::willRemoveSubview(Object view) {
+  super<void, "willRemoveSubview:">(view);
+  removeArranged(view);
+}
+
+void UIStackView::registerClass() {
+  StandIn<UIStackView>("UIKit", "UIStackView", "UIView")
+      .method<"initWithArrangedSubviews:", &UIStackView::initWithArrangedSubviews>()
+      .method<"arrangedSubviews", &UIStackView::arrangedSubviews>()
+      .method<"addArrangedSubview:", &UIStackView::addArranged>()
+      .method<"insertArrangedSubview:atIndex:", &UIStackView::insertArranged>()
+      .method<"removeArrangedSubview:", &UIStackView::removeArranged>()
+      .method<"willRemoveSubview:", &UIStackView::willRemoveSubview>()
+      .method<"_subviewVisibilityDidChange", &subviewVisibilityDidChange>()
+      .readonlyProperty<"axis", &UIStackView::axis>()
+      .method<"setAxis:", &setAndLayOut<&UIStackView::axis>>()
+      .readonlyProperty<"distribution", &UIStackView::distribution>()
+      .partial<"setDistribution:", &setAndLayOut<&UIStackView::distribution>>(
+          "others than fill equally count as fill")
+      .readonlyProperty<"alignment", &UIStackView::alignment>()
+      .method<"setAlignment:", &setAndLayOut<&UIStackView::alignment>>()
+      .readonlyProperty<"spacing", &UIStackView::spacing>()
+      .method<"setSpacing:", &setAndLayOut<&UIStackView::spacing>>()
+      .partial<"layoutSubviews", &UIStackView::layoutSubviews>(
+          "no constraints: the last view takes what fill leaves over")
+      .partial<"intrinsicContentSize", &UIStackView::intrinsicContentSize>(
+          "what its constraints would give")
+      .finish();
+}
+
+}  // namespace sim

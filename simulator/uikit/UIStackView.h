@@ -1,0 +1,38 @@
+// A stack: subviews in a row or a column, without gaps where one is hidden.
+#pragma once
+
+#include <vector>
+
+#include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+struct UIStackView : objc::Implementation<UIStackView> {
+  static constexpr long horizontal = 0, vertical = 1;
+  static constexpr long fill = 0, fillEqually = 1;
+  static constexpr long alignFill = 0, alignLeading = 1, alignCenter = 3, alignTrailing = 4;
+
+  std::vector<objc::Strong<objc::Object>> arranged;
+  long axis = horizontal;
+  long distribution = fill;
+  long alignment = alignFill;
+  double spacing = 0;  // points
+
+  objc::Object initWithArrangedSubviews(objc::Object views);
+  objc::Object arrangedSubviews() const;
+  void insertArranged(objc::Object view, unsigned long index);
+  void addArranged(objc::Object view) { insertArranged(view, arranged.size()); }
+  void removeArranged(objc::Object view);  // stays a subview
+  void willRemoveSubview(objc::Object view);
+  void layoutSubviews();
+  CGSize intrinsicContentSize() const;
+
+  static void registerClass();
+
+ private:
+  std::vector<objc::Object> visible() const;
+  std::vector<double> lengths(const std::vector<objc::Object>& views, double room) const;
+};
+
+}  // namespace sim

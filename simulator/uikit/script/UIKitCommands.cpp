@@ -1,0 +1,11 @@
+#include "simulator/uikit/script/UIKitCommands.h"
+
+namespace sim {
+
+void addUIKitCommands(CommandTable& table) {
+  addTouchCommands(table);
+  addAlertCommands(table);
+  addScreenViewCommands(table);
+}
+
+}  // namespace sim

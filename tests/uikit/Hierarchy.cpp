@@ -1,0 +1,125 @@
+#include "objc/Class.h"
+#include "tests/uikit/UIKitTest.h"
+
+namespace sim {
+namespace {
+
+// Writes down what it is told.
+struct Listener : objc::Implementation<Listener> {
+  static inline std::vector<std::string> heard;
+  void willMoveToWindow(Object window) { heard.push_back(window ? "will window" : "will none"); }
+  void didMoveToWindow() { heard.push_back("did window"); }
+  void willMoveToSuperview(Object view) { heard.push_back(view ? "will move" : "will leave"); }
+  void didMoveToSuperview() { heard.push_back("did move"); }
+
+  static void registerClass() {
+    objc::ClassBuilder<Listener>("ListeningView", "UIView")
+        .method<"willMoveToWindow:", &Listener::willMoveToWindow>()
+        .method<"didMoveToWindow", &Listener::didMoveToWindow>()
+        .method<"willMoveToSuperview:", &Listener::willMoveToSuperview>()
+        .method<"didMoveToSuperview", &Listener::didMoveToSuperview>()
+        .finish();
+  }
+};
+
+class Hierarchy : public UIKitTest {
+ protected:
+  Hierarchy() {
+    if (cls("ListeningView") == nullptr) Listener::registerClass();
+    Listener::heard.clear();
+  }
+  static std::vector<Object> subviews(Object view) {
+    const Object all = send<Object, "subviews">(view);
+    std::vector<Object> list;
+    for (unsigned long i = 0; i < send<unsigned long, "count">(all); ++i)
+      list.push_back(send<Object, "objectAtIndex:">(all, i));
+    return list;
+  }
+};
+
+using Views = std::vector<Object>;
+
+TEST_F(Hierarchy, KeepsTheOrderOfItsSubviewsAndLayers) {
+  const auto parent = make("UIView");
+  const auto a = make("UIView"), b = make("UIView"), c = make("UIView"), d = make("UIView");
+  add(parent, a);
+  add(parent, b);
+  send<void, "insertSubview:atIndex:">(parent.get(), c.get(), 1L);
+  EXPECT_EQ(subviews(parent), (Views{a, c, b}));
+  send<void, "insertSubview:aboveSubview:">(parent.get(), d.get(), a.get());
+  EXPECT_EQ(subviews(parent), (Views{a, d, c, b}));
+  send<void, "insertSubview:belowSubview:">(parent.get(), b.get(), a.get());
+  EXPECT_EQ(subviews(parent), (Views{b, a, d, c}));
+  send<void, "bringSubviewToFront:">(parent.get(), a.get());
+  send<void, "sendSubviewToBack:">(parent.get(), c.get());
+  EXPECT_EQ(subviews(parent), (Views{c, b, d, a}));
+  const Object layers = send<Object, "sublayers">(send<Object, "layer">(parent.get()));
+  EXPECT_EQ((send<unsigned long, "count">(layers)), 4U);
+  EXPECT_EQ((send<Object, "objectAtIndex:">(layers, 1UL)), (send<Object, "layer">(b.get())));
+  EXPECT_EQ((send<Object, "objectAtIndex:">(layers, 3UL)), (send<Object, "layer">(a.get())));
+}
+
+TEST_F(Hierarchy, ViewsStayBelowALayerThatIsNoViews) {
+  const auto parent = make("UIView");
+  const auto view = make("UIView"), over = make("UIView");
+  const Object layer = send<Object, "layer">(parent.get());
+  const Object extra = send<Object, "layer">(cls("CALayer"));
+  add(parent, over);
+  send<void, "insertSublayer:atIndex:">(layer, extra, 0U);
+  send<void, "insertSubview:belowSubview:">(parent.get(), view.get(), over.get());
+  const Object layers = send<Object, "sublayers">(layer);
+  EXPECT_EQ((send<Object, "objectAtIndex:">(layers, 0UL)), extra);
+  EXPECT_EQ((send<Object, "objectAtIndex:">(layers, 1UL)), (send<Object, "layer">(view.get())));
+  send<void, "removeFromSuperlayer">(extra);
+  EXPECT_EQ((send<unsigned long, "count">(send<Object, "sublayers">(layer))), 2U);
+}
+
+TEST_F(Hierarchy, TellsViewsWhereTheyGo) {
+  const auto window = shownWindow();
+  const auto outer = make("UIView"), inner = make("ListeningView");
+  add(outer, inner);
+  EXPECT_EQ(Listener::heard, (std::vector<std::string>{"will move", "did move"}));
+  Listener::heard.clear();
+  add(window, outer);
+  EXPECT_EQ(Listener::heard, (std::vector<std::string>{"will window", "did window"}));
+  EXPECT_EQ((send<Object, "window">(inner.get())), window.get());
+  Listener::heard.clear();
+  send<void, "removeFromSuperview">(inner.get());
+  EXPECT_EQ(Listener::heard,
+            (std::vector<std::string>{"will none", "will leave", "did window", "did move"}));
+}
+
+TEST_F(Hierarchy, FindsAncestorsAndTags) {
+  const auto root = make("UIView"), middle = make("UIView"), leaf = make("UIView");
+  add(root, middle);
+  add(middle, leaf);
+  EXPECT_TRUE((send<bool, "isDescendantOfView:">(leaf.get(), root.get())));
+  EXPECT_TRUE((send<bool, "isDescendantOfView:">(leaf.get(), leaf.get())));
+  EXPECT_FALSE((send<bool, "isDescendantOfView:">(root.get(), leaf.get())));
+  send<void, "setTag:">(leaf.get(), 7L);
+  EXPECT_EQ((send<Object, "viewWithTag:">(root.get(), 7L)), leaf.get());
+  EXPECT_FALSE((send<Object, "viewWithTag:">(root.get(), 8L)));
+}
+
+TEST_F(Hierarchy, TintComesFromAbove) {
+  const auto root = make("UIView"), leaf = make("UIView");
+  add(root, leaf);
+  const Object white = send<Object, "whiteColor">(cls("UIColor"));
+  send<void, "setTintColor:">(root.get(), white);
+  EXPECT_EQ((send<Object, "tintColor">(leaf.get())), white);
+  send<void, "removeFromSuperview">(leaf.get());
+  EXPECT_EQ(description(send<Object, "tintColor">(leaf.get())),
+            description(send<Object, "systemBlueColor">(cls("UIColor"))));
+}
+
+using HierarchyDeathTest = Hierarchy;
+
+TEST_F(HierarchyDeathTest, AViewIsNotItsOwnSubview) {
+  const auto view = make("UIView"), child = make("UIView");
+  add(view, child);
+  EXPECT_DEATH(add(view, view), "Can't add self as subview");
+  EXPECT_DEATH(add(child, view), "subview of its own subview");
+}
+
+}  // namespace
+}  // namespace sim

@@ -1,0 +1,69 @@
+#include "tests/uikit/UIKitTest.h"
+
+namespace sim {
+namespace {
+
+class StackViews : public UIKitTest {
+ protected:
+  static Strong<Object> stack(CGRect frame, long distribution, long alignment, double spacing) {
+    auto made = make("UIStackView", frame);
+    send<void, "setDistribution:">(made.get(), distribution);
+    send<void, "setAlignment:">(made.get(), alignment);
+    send<void, "setSpacing:">(made.get(), spacing);
+    return made;
+  }
+  static void arrange(Object stack, Object view) { send<void, "addArrangedSubview:">(stack, view); }
+  static unsigned long arrangedCount(Object stack) {
+    return send<unsigned long, "count">(send<Object, "arrangedSubviews">(stack));
+  }
+};
+
+TEST_F(StackViews, FillEquallyInTheMiddle) {
+  const auto bar = stack(rect(0, 0, 300, 50), 1, 3, 0);
+  const auto left = make("UIView", rect(0, 0, 10, 20)), right = make("UIView", rect(0, 0, 10, 30));
+  arrange(bar, left);
+  arrange(bar, right);
+  send<void, "layoutIfNeeded">(bar.get());
+  EXPECT_EQ(frameOf(left), rect(0, 15, 150, 20));
+  EXPECT_EQ(frameOf(right), rect(150, 10, 150, 30));
+}
+
+TEST_F(StackViews, AHiddenViewLeavesNoGap) {
+  const auto window = shownWindow();
+  const auto column = stack(rect(0, 0, 100, 110), 1, 0, 10);
+  send<void, "setAxis:">(column.get(), 1L);
+  const auto a = make("UIView"), b = make("UIView"), c = make("UIView");
+  for (const auto& each : {a, b, c}) arrange(column, each);
+  add(window, column);
+  advance(0);
+  EXPECT_EQ(frameOf(b), rect(0, 40, 100, 30));
+  send<void, "setHidden:">(a.get(), true);
+  advance(0);
+  EXPECT_EQ(frameOf(b), rect(0, 0, 100, 50));
+  EXPECT_EQ(frameOf(c), rect(0, 60, 100, 50));
+}
+
+TEST_F(StackViews, FillGivesTheRestToTheLast) {
+  const auto row = stack(rect(0, 0, 100, 20), 0, 1, 5);
+  const auto a = make("UIView", rect(0, 0, 30, 10)), b = make("UIView", rect(0, 0, 30, 10));
+  arrange(row, a);
+  arrange(row, b);
+  send<void, "layoutIfNeeded">(row.get());
+  EXPECT_EQ(frameOf(a), rect(0, 0, 30, 10));
+  EXPECT_EQ(frameOf(b), rect(35, 0, 65, 10));
+}
+
+TEST_F(StackViews, WhatLeavesTheTreeIsArrangedNoMore) {
+  const auto row = stack(rect(0, 0, 100, 20), 1, 0, 0);
+  const auto view = make("UIView");
+  arrange(row, view);
+  send<void, "removeArrangedSubview:">(row.get(), view.get());
+  EXPECT_EQ((send<Object, "superview">(view.get())), row.get());
+  arrange(row, view);
+  EXPECT_EQ(arrangedCount(row), 1U);
+  send<void, "removeFromSuperview">(view.get());
+  EXPECT_EQ(arrangedCount(row), 0U);
+}
+
+}  // namespace
+}  // namespace sim

@@ -43,6 +43,10 @@ void tintColorDidChange(Object self) {
   UIButton::of(self).showState();
 }
 
+void subviewDidChangeSize(Object self) {
+  objc::send<void, "setNeedsLayout">(self);
+}
+
 CGSize sizeThatFits(Object self, CGSize) {
   return objc::send<CGSize, "intrinsicContentSize">(self);
 }
@@ -146,6 +150,7 @@ void UIButton::registerClass() {
       .method<"setSelected:", &setFlag<"setSelected:">>()
       .method<"setHighlighted:", &setFlag<"setHighlighted:">>()
       .method<"setEnabled:", &setFlag<"setEnabled:">>()
+      .method<"_subviewDidChangeSize", &subviewDidChangeSize>()
       .method<"tintColorDidChange", &tintColorDidChange>()
       .partial<"intrinsicContentSize", &UIButton::intrinsicContentSize>(
           "no insets, no configurations")

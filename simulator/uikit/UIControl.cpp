@@ -16,12 +16,6 @@ void sendActionsForControlEvents(Object self, unsigned long events) {
   UIControl::of(self).sendActionsForEvents(events, nullptr);
 }
 
-template <bool UIControl::*flag>
-void setFlag(Object self, bool value) {
-  UIControl::of(self).*flag = value;
-  objc::send<void, "setNeedsLayout">(self);
-}
-
 }  // namespace
 
 void UIControl::addTarget(Object target, SEL action, unsigned long events) {
@@ -85,15 +79,12 @@ void UIControl::registerClass() {
       .method<"allControlEvents", &UIControl::allControlEvents>()
       .method<"sendAction:to:forEvent:", &UIControl::sendAction>()
       .method<"sendActionsForControlEvents:", &sendActionsForControlEvents>()
-      .readonlyProperty<"enabled", &UIControl::enabled>()
+      .property<"enabled", &UIControl::enabled>()
       .readonlyProperty<"isEnabled", &UIControl::enabled>()
-      .method<"setEnabled:", &setFlag<&UIControl::enabled>>()
-      .readonlyProperty<"selected", &UIControl::selected>()
+      .property<"selected", &UIControl::selected>()
       .readonlyProperty<"isSelected", &UIControl::selected>()
-      .method<"setSelected:", &setFlag<&UIControl::selected>>()
-      .readonlyProperty<"highlighted", &UIControl::highlighted>()
+      .property<"highlighted", &UIControl::highlighted>()
       .readonlyProperty<"isHighlighted", &UIControl::highlighted>()
-      .method<"setHighlighted:", &setFlag<&UIControl::highlighted>>()
       .method<"state", &UIControl::state>()
       .finish();
 }

@@ -10,8 +10,17 @@ namespace {
 
 using objc::Object;
 
-// Private. Callers hand over an object where a BOOL belongs, so the argument is not looked at.
-void setHighlightsToday(Object, bool) {}
+// Private. The argument is a BOOL, but callers also hand over an object, which is no bool that C++
+// may look at.
+void setHighlightsToday(id, SEL, id) {}
+
+void addHighlightsToday() {
+  if (FidelityPage("UIKit", "UIDatePicker")
+          .record('-', "setHighlightsToday:", {Grade::partial, "draws nothing"}))
+    class_addMethod(UIDatePicker::cls(), sel_registerName("setHighlightsToday:"),
+                    reinterpret_cast<IMP>(&setHighlightsToday),
+                    objc::methodEncoding<void, bool>.c_str());
+}
 
 }  // namespace
 
@@ -45,8 +54,8 @@ void UIDatePicker::registerClass() {
       .method<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>()
       .readonlyProperty<"_textColor", &UIDatePicker::textColor>()
       .method<"_setTextColor:", &UIDatePicker::setTextColor>()
-      .partial<"setHighlightsToday:", &setHighlightsToday>("draws nothing")
       .finish();
+  if (UIDatePicker::cls() != nullptr) addHighlightsToday();
 }
 
 }  // namespace sim

@@ -11,7 +11,7 @@ namespace {
 
 using objc::Object;
 
-void subviewVisibilityDidChange(Object self) {
+void subviewDidChangeSize(Object self) {
   objc::send<void, "setNeedsLayout">(self);
 }
 
@@ -63,7 +63,7 @@ void UIStackView::registerClass() {
       .method<"insertArrangedSubview:atIndex:", &UIStackView::insertArranged>()
       .method<"removeArrangedSubview:", &UIStackView::removeArranged>()
       .method<"willRemoveSubview:", &UIStackView::willRemoveSubview>()
-      .method<"_subviewVisibilityDidChange", &subviewVisibilityDidChange>()
+      .method<"_subviewDidChangeSize", &subviewDidChangeSize>()
       .readonlyProperty<"axis", &UIStackView::axis>()
       .method<"setAxis:", &setAndLayOut<&UIStackView::axis>>()
       .readonlyProperty<"distribution", &UIStackView::distribution>()

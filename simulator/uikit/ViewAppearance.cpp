@@ -28,10 +28,8 @@ void setHidden(Object self, bool hidden) {
   if (layer == nullptr || layer->hidden == hidden) return;
   layer->hidden = hidden;
   // A stack closes the gap.
-  if (UIView::of(self).parent)
-    objc::send<void, "_subviewVisibilityDidChange">(UIView::of(self).parent);
+  if (UIView::of(self).parent) objc::send<void, "_subviewDidChangeSize">(UIView::of(self).parent);
 }
-void subviewVisibilityDidChange(Object) {}
 
 void setBackgroundColor(Object self, Object color) {
   UIView::of(self).backgroundColor = objc::retain(color);
@@ -84,8 +82,6 @@ void addViewAppearance(StandIn<UIView>& view) {
       .method<"hidden", &hidden>()
       .method<"isHidden", &hidden>()
       .method<"setHidden:", &setHidden>()
-      .partial<"_subviewVisibilityDidChange", &subviewVisibilityDidChange>(
-          "the simulator's own, for stack views")
       .readonlyProperty<"backgroundColor", &UIView::backgroundColor>()
       .method<"setBackgroundColor:", &setBackgroundColor>()
       .method<"clipsToBounds", &clipsToBounds>()

@@ -31,10 +31,11 @@ void sizeToFit(Object self) {
 CGSize intrinsicContentSize(Object) {
   return {noIntrinsicMetric, noIntrinsicMetric};
 }
-// The superview is the one that places the view.
+// Matters only to superviews that place their subviews by their sizes.
 void invalidateIntrinsicContentSize(Object self) {
-  if (UIView::of(self).parent) objc::send<void, "setNeedsLayout">(UIView::of(self).parent);
+  if (UIView::of(self).parent) objc::send<void, "_subviewDidChangeSize">(UIView::of(self).parent);
 }
+void subviewDidChangeSize(Object) {}
 
 }  // namespace
 
@@ -45,7 +46,9 @@ void addViewLayout(StandIn<UIView>& view) {
       .method<"sizeThatFits:", &sizeThatFits>()
       .method<"sizeToFit", &sizeToFit>()
       .method<"intrinsicContentSize", &intrinsicContentSize>()
-      .method<"invalidateIntrinsicContentSize", &invalidateIntrinsicContentSize>();
+      .method<"invalidateIntrinsicContentSize", &invalidateIntrinsicContentSize>()
+      .partial<"_subviewDidChangeSize", &subviewDidChangeSize>(
+          "the simulator's own, for stack views and buttons");
 }
 
 }  // namespace sim

@@ -65,6 +65,20 @@ TEST_F(Layout, WaitsForAWindow) {
   EXPECT_EQ(layouts, Calls{"layout"});
 }
 
+TEST_F(Layout, NewTextMovesNoSuperview) {
+  const auto window = shownWindow();
+  const auto view = make("CountingView", rect(0, 0, 10, 10));
+  const auto label = make("UILabel");
+  add(view, label);
+  add(window, view);
+  advance(0);
+  EXPECT_EQ(layouts.size(), 1U);
+  send<void, "setText:">(label.get(), string("7"));
+  send<void, "setHidden:">(label.get(), true);
+  advance(0);
+  EXPECT_EQ(layouts.size(), 1U);
+}
+
 TEST_F(Layout, HiddenWindowsAreLeftAlone) {
   const auto window = make("UIWindow", rect(0, 0, 390, 844));
   const auto view = make("CountingView", rect(0, 0, 10, 10));

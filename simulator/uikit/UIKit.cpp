@@ -27,6 +27,7 @@
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIViewController.h"
 #include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/nib/NibLoading.h"
 
 namespace sim {
 
@@ -61,6 +62,7 @@ void registerUIKit() {
   UIViewController::registerClass();
   UIAlertAction::registerClass();
   UIAlertController::registerClass();
+  registerNibLoading();
 }
 
 }  // namespace sim

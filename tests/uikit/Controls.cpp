@@ -109,6 +109,14 @@ TEST_F(Controls, ButtonsShowWhatBelongsToTheirState) {
   EXPECT_EQ((send<unsigned long, "state">(button)), 4UL);
 }
 
+TEST_F(Controls, ButtonsFallBackOnTheNormalState) {
+  const Object button = send<Object, "buttonWithType:">(cls("UIButton"), 0L);
+  send<void, "setTitle:forState:">(button, string("Back"), 0UL);
+  send<void, "setHighlighted:">(button, true);
+  EXPECT_EQ(text(send<Object, "currentTitle">(button)), "Back");
+  EXPECT_FALSE((send<Object, "imageForState:">(button, 0UL)));
+}
+
 TEST_F(Controls, ButtonsKeepTheirContentInTheMiddle) {
   const Object button = send<Object, "buttonWithType:">(cls("UIButton"), 0L);
   send<void, "setTitle:forState:">(button, string("Back"), 0UL);

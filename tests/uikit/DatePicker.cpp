@@ -35,6 +35,9 @@ TEST_F(DatePicker, StepsDivideTheHour) {
   set(47 * 60);
   setInterval(5);
   EXPECT_EQ(duration(), 45 * 60);
+  setInterval(1);  // the wheels have moved
+  EXPECT_EQ(duration(), 45 * 60);
+  setInterval(5);
   set(60);
   EXPECT_EQ(duration(), 5 * 60);
   set(100000);

@@ -85,5 +85,14 @@ TEST_F(Geometry, SubviewsFollowByTheirMasks) {
   EXPECT_EQ(frameOf(fixed), rect(1, 2, 3, 4));
 }
 
+TEST_F(Geometry, FlexiblePartsGrowInProportion) {
+  const auto parent = make("UIView", rect(0, 0, 100, 100));
+  const auto view = make("UIView", rect(20, 0, 60, 10));
+  send<void, "setAutoresizingMask:">(view.get(), 1UL | 2UL);  // the left margin and the width
+  add(parent, view);
+  send<void, "setBounds:">(parent.get(), rect(0, 0, 180, 100));
+  EXPECT_EQ(frameOf(view), rect(40, 0, 120, 10));
+}
+
 }  // namespace
 }  // namespace sim

@@ -59,6 +59,17 @@ TEST_F(Hierarchy, KeepsTheOrderOfItsSubviewsAndLayers) {
   EXPECT_EQ((send<Object, "objectAtIndex:">(layers, 3UL)), (send<Object, "layer">(a.get())));
 }
 
+TEST_F(Hierarchy, MovesSubviewsTowardsTheFront) {
+  const auto parent = make("UIView");
+  const auto a = make("UIView"), b = make("UIView"), c = make("UIView");
+  for (const auto& each : {a, b, c}) add(parent, each);
+  send<void, "insertSubview:aboveSubview:">(parent.get(), a.get(), b.get());
+  EXPECT_EQ(subviews(parent), (Views{b, a, c}));
+  for (const auto& each : {a, b, c}) send<void, "removeFromSuperview">(each.get());
+  EXPECT_FALSE((send<Object, "sublayers">(send<Object, "layer">(parent.get()))));
+  EXPECT_FALSE((send<Object, "superlayer">(send<Object, "layer">(a.get()))));
+}
+
 TEST_F(Hierarchy, ViewsStayBelowALayerThatIsNoViews) {
   const auto parent = make("UIView");
   const auto view = make("UIView"), over = make("UIView");

@@ -18,7 +18,8 @@ class PhoneWithFiles : public TestPhone {
  protected:
   PhoneWithFiles() {
     // Classes are the process's; only the first phone of several tests in one registers them.
-    static const bool registered = (registerFoundation(), registerQuartzCore(), registerUIKit(), true);
+    static const bool registered =
+        (registerFoundation(), registerQuartzCore(), registerUIKit(), true);
     (void)registered;
   }
 

@@ -7,6 +7,7 @@
 namespace sim {
 
 objc::Object UIScreen::mainScreen() {
+  if (cls() == nullptr) return nullptr;  // left out of the phone
   return objc::Object(shared().self());
 }
 

@@ -9,7 +9,7 @@ struct UIScreen : objc::Implementation<UIScreen> {
   static constexpr double mainScale = 3;          // pixels per point
   static constexpr CGSize mainSize = {390, 844};  // points, upright
 
-  static objc::Object mainScreen();  // the one object, never freed
+  static objc::Object mainScreen();  // the one object, never freed; nil without the class
   static CGSize size();              // points, as the interface is turned
   CGRect bounds() { return {{0, 0}, size()}; }
   CGRect nativeBounds() {  // pixels

@@ -55,7 +55,7 @@ void UIViewController::setView(Object view) {
 
 void UIViewController::loadView() {
   constexpr unsigned long flexibleSize = 2 | 16;
-  const CGRect screen = objc::send<CGRect, "bounds">(UIScreen::mainScreen());
+  const CGRect screen{{0, 0}, UIScreen::size()};
   const auto made = objc::adopt(
       objc::send<Object, "initWithFrame:">(objc_alloc(objc_getClass("UIView")), screen));
   objc::send<void, "setAutoresizingMask:">(made.get(), flexibleSize);

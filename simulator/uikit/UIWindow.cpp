@@ -17,8 +17,7 @@ UIWindow* key = nullptr;
 unsigned long timesShown = 0;
 
 Object init(Object self) {
-  return objc::send<Object, "initWithFrame:">(
-      self, CGRect(objc::send<CGRect, "bounds">(UIScreen::mainScreen())));
+  return objc::send<Object, "initWithFrame:">(self, CGRect{{0, 0}, UIScreen::size()});
 }
 
 bool isKeyWindow(Object self) {

@@ -8,8 +8,6 @@
 namespace sim {
 namespace {
 
-using objc::Object;
-
 // Private. The argument is a BOOL, but callers also hand over an object, which is no bool that C++
 // may look at.
 void setHighlightsToday(id, SEL, id) {}

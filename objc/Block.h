@@ -135,4 +135,11 @@ Strong<Block<Signature>> block(Function function) {
   return adopt(Block<Signature>(reinterpret_cast<id>(made)));
 }
 
+// For keeping a block that was handed in: it may still live on its maker's stack. nil gives an
+// empty owner.
+template <class Signature>
+[[nodiscard]] Strong<Block<Signature>> copy(Block<Signature> block) {
+  return adopt(Block<Signature>(static_cast<id>(_Block_copy(block.get()))));
+}
+
 }  // namespace objc

@@ -105,7 +105,8 @@ class ClassBuilder {
   }
 
   // A member variable as a declared property: `name`, `setName:` and the property itself.
-  // Strong members are retained by the setter.
+  // Strong members are retained by the setter. An accessor of that name that the class has been
+  // given before is kept.
   template <FixedString Name, auto member>
   ClassBuilder& property() {
     addProperty<Self, Name, member>(class_, false);

@@ -27,16 +27,23 @@ struct MemberType<Value Owner::*> {
 template <class T>
 struct Exposed {
   using type = T;
-  static constexpr bool owned = false;
+  static constexpr const char* ownership = nullptr;
   static T read(const T& value) { return value; }
   static T store(T value) { return value; }
 };
 template <class T>
 struct Exposed<Strong<T>> {
   using type = T;
-  static constexpr bool owned = true;
+  static constexpr const char* ownership = "&";
   static T read(const Strong<T>& value) { return value.get(); }
   static Strong<T> store(T value) { return retain(value); }
+};
+template <class T>
+struct Exposed<Weak<T>> {
+  using type = T;
+  static constexpr const char* ownership = "W";
+  static T read(const Weak<T>& value) { return autorelease(value.load()); }
+  static Weak<T> store(T value) { return weak(value); }
 };
 
 template <class Self, auto member>
@@ -61,8 +68,8 @@ void addProperty(Class cls, bool readonly) {
   attributes[count++] = {"T", type.c_str()};
   if (readonly)
     attributes[count++] = {"R", ""};
-  else if (Access::Outside::owned)
-    attributes[count++] = {"&", ""};
+  else if (Access::Outside::ownership != nullptr)
+    attributes[count++] = {Access::Outside::ownership, ""};
   attributes[count++] = {"N", ""};
   class_addProperty(cls, Name.c_str(), attributes, count);
   addMethod<Self, Name, &Access::read>(cls);

@@ -15,6 +15,10 @@ struct HBPreferences : objc::Object {
     return objc::adopt(objc::send<HBPreferences, "initWithIdentifier:">(
         objc_alloc(objc_getClass("HBPreferences")), identifier));
   }
+  bool boolForKey(NSString key) const { return objc::send<bool, "boolForKey:">(*this, key); }
+  void setBool(bool value, NSString key) const {
+    objc::send<void, "setBool:forKey:">(*this, value, key);
+  }
   void registerBool(bool* value, bool otherwise, NSString key) const {
     objc::send<void, "registerBool:default:forKey:">(*this, value, otherwise, key);
   }

@@ -6,6 +6,8 @@
 #include "objc/Ownership.h"
 #include "platform/HostFunction.h"
 
+struct NSArray;
+
 struct NSString : objc::Object {
   using Object::Object;
   static NSString string(const char* utf8) {
@@ -24,10 +26,19 @@ struct NSString : objc::Object {
     return objc::send<NSString, "stringByReplacingOccurrencesOfString:withString:">(*this, wanted,
                                                                                     replacement);
   }
-  static NSString stringWithFormat(NSString format, objc::Object argument) {
+  template <class Argument>
+  static NSString stringWithFormat(NSString format, Argument argument) {
     return objc::sendVariadic<NSString, "stringWithFormat:">(objc_getClass("NSString"), format,
                                                              argument);
   }
+  NSString stringByTrimmingWhitespaceAndNewlines() const {
+    const auto blanks = objc::send<objc::Object, "whitespaceAndNewlineCharacterSet">(
+        objc_getClass("NSCharacterSet"));
+    return objc::send<NSString, "stringByTrimmingCharactersInSet:">(*this, blanks);
+  }
+  unsigned long length() const { return objc::send<unsigned long, "length">(*this); }
+  NSArray componentsSeparatedByString(NSString separator) const;
+  long integerValue() const { return objc::send<long, "integerValue">(*this); }
   NSString stringByAppendingPathComponent(NSString component) const {
     return objc::send<NSString, "stringByAppendingPathComponent:">(*this, component);
   }
@@ -52,6 +63,14 @@ struct NSMutableString : NSString {
 
 struct NSObject : objc::Object {
   using Object::Object;
+  void performSelectorAfterDelay(SEL selector, double seconds) const {
+    objc::send<void, "performSelector:withObject:afterDelay:">(*this, selector,
+                                                               objc::Object(nullptr), seconds);
+  }
+  void performSelector(SEL selector, objc::Object argument) const {
+    objc::send<objc::Object, "performSelector:withObject:">(*this, selector, argument);
+  }
+  bool isKindOfClass(Class cls) const { return objc::send<bool, "isKindOfClass:">(*this, cls); }
   NSString description() const { return objc::send<NSString, "description">(*this); }
   // Raises for an unknown key, which ends the host.
   objc::Object valueForKey(NSString key) const {
@@ -65,6 +84,9 @@ struct NSObject : objc::Object {
 
 struct NSNumber : objc::Object {
   using Object::Object;
+  static NSNumber numberWithBool(bool value) {
+    return objc::send<NSNumber, "numberWithBool:">(objc_getClass("NSNumber"), value);
+  }
   static NSNumber numberWithInteger(long value) {
     return objc::send<NSNumber, "numberWithInteger:">(objc_getClass("NSNumber"), value);
   }
@@ -103,6 +125,9 @@ struct NSArray : objc::Object {
   objc::Object objectAtIndex(unsigned long index) const {  // raises past the end
     return objc::send<objc::Object, "objectAtIndex:">(*this, index);
   }
+  objc::Object firstObject() const {  // nil when empty
+    return objc::send<objc::Object, "firstObject">(*this);
+  }
   bool containsObject(objc::Object object) const {
     return objc::send<bool, "containsObject:">(*this, object);
   }
@@ -112,6 +137,11 @@ struct NSBundle : objc::Object {
   using Object::Object;
   static NSBundle bundleWithPath(NSString path) {  // nil when there is no such directory
     return objc::send<NSBundle, "bundleWithPath:">(objc_getClass("NSBundle"), path);
+  }
+  // The layout's top-level objects. Raises when there is no such layout.
+  NSArray loadNibNamed(NSString name, objc::Object owner) const {
+    return objc::send<NSArray, "loadNibNamed:owner:options:">(*this, name, owner,
+                                                              NSDictionary(nullptr));
   }
   NSString pathForResource(NSString name, NSString type) const {  // nil when it is missing
     return objc::send<NSString, "pathForResource:ofType:">(*this, name, type);
@@ -142,6 +172,21 @@ struct NSNumberFormatter : objc::Object {
   void setLocale(NSLocale locale) const { objc::send<void, "setLocale:">(*this, locale); }
   NSString stringFromNumber(NSNumber number) const {
     return objc::send<NSString, "stringFromNumber:">(*this, number);
+  }
+};
+
+inline NSArray NSString::componentsSeparatedByString(NSString separator) const {
+  return objc::send<NSArray, "componentsSeparatedByString:">(*this, separator);
+}
+
+struct NSMutableArray : NSArray {
+  using NSArray::NSArray;
+  static NSMutableArray array() {
+    return objc::send<NSMutableArray, "array">(objc_getClass("NSMutableArray"));
+  }
+  void addObject(objc::Object object) const { objc::send<void, "addObject:">(*this, object); }
+  void addObjectsFromArray(NSArray objects) const {
+    objc::send<void, "addObjectsFromArray:">(*this, objects);
   }
 };
 
@@ -219,6 +264,10 @@ struct NSNotificationCenter : objc::Object {
   // The observer is not retained. A nil sender means any.
   void addObserver(objc::Object observer, SEL selector, NSString name, objc::Object sender) const {
     objc::send<void, "addObserver:selector:name:object:">(*this, observer, selector, name, sender);
+  }
+  // By identity alone: the observer may be gone already.
+  void removeObserver(objc::Object observer) const {
+    objc::send<void, "removeObserver:">(*this, observer);
   }
   // No user info.
   void postNotificationName(NSString name, objc::Object sender) const {

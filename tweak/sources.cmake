@@ -15,10 +15,22 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/hooks/Tracing.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp
     tweak/indicators/TimeFormat.cpp
+    tweak/panel/ButtonWithIncreasedTouchArea.cpp
+    tweak/panel/CheckboxButton.cpp
+    tweak/panel/ChooseModes.cpp
+    tweak/panel/ChooseSnoozeTimeView.cpp
+    tweak/panel/CurrentTimerView.cpp
+    tweak/panel/Dozewell2ImageButton.cpp
     tweak/panel/Dozewell2ViewController.cpp
+    tweak/panel/OnTimerEndsSettingsView.cpp
+    tweak/panel/PanelActions.cpp
+    tweak/panel/ShortcutCheck.cpp
+    tweak/panel/ShowAndHide.cpp
+    tweak/panel/SongsPicker.cpp
     tweak/settings/Dozewell2StorageManager.cpp
     tweak/settings/Registration.cpp
     tweak/support/BundleHelper.cpp
+    tweak/support/CorvaneTweakUtils.cpp
     tweak/support/HapticFeedbackHelper.cpp
     tweak/support/LocalizationHelper.cpp
     tweak/support/Log.cpp)

@@ -42,7 +42,14 @@ struct UIView : NSObject {
     objc::send<void, "bringSubviewToFront:">(*this, view);
   }
   void layoutSubviews() const { objc::send<void, "layoutSubviews">(*this); }
-  bool isKindOfClass(Class cls) const { return objc::send<bool, "isKindOfClass:">(*this, cls); }
+};
+
+struct NSValue : objc::Object {
+  using Object::Object;
+  static NSValue valueWithCGRect(CGRect rectangle) {
+    return objc::send<NSValue, "valueWithCGRect:">(objc_getClass("NSValue"), rectangle);
+  }
+  CGRect CGRectValue() const { return objc::send<CGRect, "CGRectValue">(*this); }
 };
 
 struct UIImageView : UIView {

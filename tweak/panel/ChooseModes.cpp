@@ -1,0 +1,72 @@
+// The choose-time page's two modes, and the settings that preset its pickers.
+#include "tweak/panel/ChooseSnoozeTimeView.h"
+#include "tweak/support/BundleHelper.h"
+
+namespace {
+
+constexpr double switchSeconds = 0.3;
+
+// Without the option that shows and hides the two, the platform swaps them in the hierarchy.
+void crossDissolve(UIView from, UIView to) {
+  UIKit::transition(from, to, switchSeconds, UIKit::transitionCrossDissolve,
+                    UIKit::completion([from = objc::retain(from)] { from->setHidden(true); }));
+}
+
+}  // namespace
+
+void ChooseSnoozeTimeView::toggleModes() {
+  if (nbSongsPickerView->isHidden()) {
+    showSongMode();
+  } else {
+    showTimerMode();
+  }
+  view().bringSubviewToFront(topRightCornerButton);
+  view().bringSubviewToFront(topLeftCornerButton);
+}
+
+void ChooseSnoozeTimeView::showTimerMode() {
+  timeSelectorPickerView->setHidden(false);
+  topRightCornerButton->setImage(BundleHelper::getImageWithName("nbSongsIcon"_ns));
+  crossDissolve(nbSongsPickerView, timeSelectorPickerView);
+}
+
+void ChooseSnoozeTimeView::showSongMode() {
+  nbSongsPickerView->setHidden(false);
+  topRightCornerButton->setImage(BundleHelper::getImageWithName("timerIcon"_ns));
+  crossDissolve(timeSelectorPickerView, nbSongsPickerView);
+}
+
+void ChooseSnoozeTimeView::setModeType(int type) {
+  enum { bothModes = 0, durationsOnly = 1, songsOnly = 2 };
+  if (type != modeType) {
+    modeType = type;
+    topRightCornerButton->setHidden(type != bothModes);
+    if (type == bothModes || type == durationsOnly) showTimerMode();
+    if (type == songsOnly) showSongMode();
+    if (type == bothModes) view().bringSubviewToFront(topRightCornerButton);
+  }
+  view().bringSubviewToFront(topLeftCornerButton);
+}
+
+// Puts the picker back to one step.
+void ChooseSnoozeTimeView::setPickerMinutesSteps(long minutes) {
+  if (minutes == pickerMinutesSteps) return;
+  pickerMinutesSteps = minutes;
+  timeSelectorPickerView->setMinuteInterval(minutes);
+  // What the picker makes of it: not every number of minutes can be a step.
+  timeSelectorPickerView->setCountDownDuration(double(timeSelectorPickerView->minuteInterval()) *
+                                               60);
+}
+
+void ChooseSnoozeTimeView::setDefaultTimerPickerValue(long minutes) {
+  if (minutes == defaultTimerPickerValue) return;
+  defaultTimerPickerValue = minutes;
+  timeSelectorPickerView->setCountDownDuration(double(minutes) * 60);
+}
+
+void ChooseSnoozeTimeView::setDefaultNbSongsPickerValue(long songs) {
+  if (songs == defaultNbSongsPickerValue) return;
+  defaultNbSongsPickerValue = songs;
+  nbSongsPickerView->selectRow(songs - 1, 0, false);
+  addOrRemovePluralForRow(songs - 1);
+}

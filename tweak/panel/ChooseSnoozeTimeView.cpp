@@ -1,0 +1,172 @@
+#include "tweak/panel/ChooseSnoozeTimeView.h"
+
+#include "tweak/panel/ButtonWithIncreasedTouchArea.h"
+#include "tweak/support/BundleHelper.h"
+
+using Page = ChooseSnoozeTimeView;
+
+namespace {
+
+constexpr double barHeight = 50, cornerInset = 15, cornerSize = 20;  // points
+constexpr double captionWidth = 120, rowHeight = 32;
+constexpr long forceLeftToRight = 3;
+
+CGRect pickerFrame(CGSize container) {
+  return rect(0, 0, container.width, container.height - barHeight);
+}
+CGRect barFrame(CGSize container) {
+  return rect(0, container.height - barHeight, container.width, barHeight);
+}
+CGRect topRightFrame(CGSize container) {
+  return rect(container.width - cornerInset - cornerSize, cornerInset, cornerSize, cornerSize);
+}
+CGRect topLeftFrame() {
+  return rect(cornerInset, cornerInset, cornerSize, cornerSize);
+}
+
+objc::Strong<UIButton> barButton(const char* titleKey) {
+  const auto button = UIButton::buttonWithType(objc_getClass("UIButton"), UIButton::Type::system);
+  button.setTitle(BundleHelper::getLocalizedStringFor(NSString::string(titleKey)));
+  button.titleLabel().setFont(UIFont::system(15));
+  button.setTintColor(UIColor::white());
+  return objc::retain(button);
+}
+
+objc::Strong<UIButton> cornerButton(const char* image, CGRect frame) {
+  auto button = ButtonWithIncreasedTouchArea::make();
+  button->setFrame(frame);
+  button->setImage(BundleHelper::getImageWithName(NSString::string(image)));
+  button->setTintColor(UIColor::white());
+  return button;
+}
+
+}  // namespace
+
+id ChooseSnoozeTimeView::initWithFrame(CGRect frame) {
+  const id made = super<id, "initWithFrame:">(frame);
+  if (made != nullptr) of(made).setupView();
+  return made;
+}
+
+CGRect ChooseSnoozeTimeView::frame() {
+  return view().superview().frame();
+}
+
+void ChooseSnoozeTimeView::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  const auto size = container();
+  timeSelectorPickerView->setFrame(pickerFrame(size));
+  nbSongsPickerView->setFrame(pickerFrame(size));
+  const auto picker = nbSongsPickerView->frame().size;
+  // Another formula than at set-up, deliberately.
+  musicLabel->setFrame(rect(picker.width / 2.2, picker.height * 0.5 - 15, captionWidth, rowHeight));
+  bottomButtonsStackView->setFrame(barFrame(size));
+  topRightCornerButton->setFrame(topRightFrame(size));
+  topLeftCornerButton->setFrame(topLeftFrame());
+}
+
+void ChooseSnoozeTimeView::setupView() {
+  addTimeSelectorPickerView();
+  addNbSongsSelectorPickerView();
+  nbSongsPickerView->setHidden(true);
+  addButtons();
+  addToggleModesButton();
+  addSettingsButton();
+}
+
+void ChooseSnoozeTimeView::addTimeSelectorPickerView() {
+  timeSelectorPickerView = UIDatePicker::make(pickerFrame(container()));
+  timeSelectorPickerView->setDatePickerMode(UIDatePicker::countDownTimerMode);
+  timeSelectorPickerView->setPrivateTextColor(UIColor::white());
+  // The boxed NO goes where a plain one is meant, deliberately.
+  if (objc::respondsTo<"setHighlightsToday:">(timeSelectorPickerView.get()))
+    timeSelectorPickerView->performSelector(objc::selector<"setHighlightsToday:">(),
+                                            NSNumber::numberWithBool(false));
+  view().addSubview(timeSelectorPickerView);
+}
+
+void ChooseSnoozeTimeView::addNbSongsSelectorPickerView() {
+  nbSongsPickerView = UIPickerView::make(pickerFrame(container()));
+  nbSongsPickerView->setDataSource(view());
+  nbSongsPickerView->setDelegate(view());
+  nbSongsPickerView->selectRow(0, 0, false);
+  view().addSubview(nbSongsPickerView);
+
+  musicLocalizedlabelText = objc::retain(BundleHelper::getLocalizedStringFor("SONG"_ns));
+  const auto picker = nbSongsPickerView->frame().size;
+  const double letters = double(musicLocalizedlabelText->length());
+  musicLabel = UILabel::make(
+      rect(picker.width * 0.5 - 2 * letters, picker.height * 0.5 - 15, captionWidth, rowHeight));
+  musicLabel->setText(musicLocalizedlabelText);
+  musicLabel->setFont(UIFont::system(17, UIFont::weightSemibold));
+  musicLabel->setTextColor(UIColor::white());
+  musicLabel->setSemanticContentAttribute(forceLeftToRight);
+  nbSongsPickerView->addSubview(musicLabel.get());
+}
+
+void ChooseSnoozeTimeView::addButtons() {
+  leftButton = barButton("BACK");
+  rightButton = barButton("CONFIRM");
+  bottomButtonsStackView = UIStackView::make(barFrame(container()));
+  bottomButtonsStackView->setAxis(UIStackView::Axis::horizontal);
+  bottomButtonsStackView->setDistribution(UIStackView::Distribution::fillEqually);
+  bottomButtonsStackView->setAlignment(UIStackView::Alignment::center);
+  bottomButtonsStackView->setSpacing(0);
+  bottomButtonsStackView->addArrangedSubview(leftButton.get());
+  bottomButtonsStackView->addArrangedSubview(rightButton.get());
+  view().addSubview(bottomButtonsStackView);
+}
+
+void ChooseSnoozeTimeView::addToggleModesButton() {
+  topRightCornerButton = cornerButton("nbSongsIcon", topRightFrame(container()));
+  topRightCornerButton->addTarget(view(), objc::selector<"toggleModes">(),
+                                  UIControl::touchUpInside);
+  view().addSubview(topRightCornerButton);
+}
+
+void ChooseSnoozeTimeView::addSettingsButton() {
+  topLeftCornerButton = cornerButton("settingsIcon", topLeftFrame());
+  view().addSubview(topLeftCornerButton);
+}
+
+Class ChooseSnoozeTimeView::registerClass() {
+  return objc::ClassBuilder<Page>("ChooseSnoozeTimeView", "UIView")
+      .method<"setModeType:", &Page::setModeType>()
+      .method<"setPickerMinutesSteps:", &Page::setPickerMinutesSteps>()
+      .method<"setDefaultTimerPickerValue:", &Page::setDefaultTimerPickerValue>()
+      .method<"setDefaultNbSongsPickerValue:", &Page::setDefaultNbSongsPickerValue>()
+      .property<"modeType", &Page::modeType>()
+      .property<"pickerMinutesSteps", &Page::pickerMinutesSteps>()
+      .property<"defaultTimerPickerValue", &Page::defaultTimerPickerValue>()
+      .property<"defaultNbSongsPickerValue", &Page::defaultNbSongsPickerValue>()
+      .property<"leftButton", &Page::leftButton>()
+      .property<"rightButton", &Page::rightButton>()
+      .property<"topLeftCornerButton", &Page::topLeftCornerButton>()
+      .property<"topRightCornerButton", &Page::topRightCornerButton>()
+      .property<"musicLabel", &Page::musicLabel>()
+      .property<"bottomButtonsStackView", &Page::bottomButtonsStackView>()
+      .property<"timeSelectorPickerView", &Page::timeSelectorPickerView>()
+      .property<"nbSongsPickerView", &Page::nbSongsPickerView>()
+      .method<"initWithFrame:", &Page::initWithFrame>()
+      .method<"frame", &Page::frame>()
+      .method<"layoutSubviews", &Page::layoutSubviews>()
+      .method<"setupView", &Page::setupView>()
+      .method<"addTimeSelectorPickerView", &Page::addTimeSelectorPickerView>()
+      .method<"addNbSongsSelectorPickerView", &Page::addNbSongsSelectorPickerView>()
+      .method<"addButtons", &Page::addButtons>()
+      .method<"addToggleModesButton", &Page::addToggleModesButton>()
+      .method<"addSettingsButton", &Page::addSettingsButton>()
+      .method<"nbSongsSelected", &Page::nbSongsSelected>()
+      .method<"addOrRemovePluralForRow:", &Page::addOrRemovePluralForRow>()
+      .method<"toggleModes", &Page::toggleModes>()
+      .method<"showTimerMode", &Page::showTimerMode>()
+      .method<"showSongMode", &Page::showSongMode>()
+      .method<"numberOfComponentsInPickerView:", &Page::numberOfComponentsInPickerView>()
+      .method<"pickerView:numberOfRowsInComponent:", &Page::pickerView_numberOfRowsInComponent>()
+      .method<"pickerView:rowHeightForComponent:", &Page::pickerView_rowHeightForComponent>()
+      .method<"pickerView:titleForRow:forComponent:", &Page::pickerView_titleForRow_forComponent>()
+      .method<"pickerView:viewForRow:forComponent:reusingView:",
+              &Page::pickerView_viewForRow_forComponent_reusingView>()
+      .method<"pickerView:didSelectRow:inComponent:", &Page::pickerView_didSelectRow_inComponent>()
+      .finish();
+}

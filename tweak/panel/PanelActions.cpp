@@ -1,0 +1,75 @@
+// What the panel's buttons do, and how one page gives way to another.
+#include "platform/Dispatch.h"
+#include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/panel/Dozewell2ViewController.h"
+#include "tweak/settings/Dozewell2StorageManager.h"
+
+namespace {
+
+constexpr double seconds = 0.3;
+
+UIKit::Completion hideLater(UIView view) {
+  return UIKit::completion([view = objc::retain(view)] { view->setHidden(true); });
+}
+
+}  // namespace
+
+void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(
+    bool fromChooseTime) {
+  view().setHidden(false);
+  const UIView source = fromChooseTime ? chooseSnoozeTimeView : currentTimerView;
+  const UIView target = fromChooseTime ? currentTimerView : chooseSnoozeTimeView;
+  chooseSnoozeTimeViewShowed = !fromChooseTime;
+  currentTimerViewShowed = fromChooseTime;
+  if (fromChooseTime) currentTimer().setupViewWithMode(selectedMode());
+  target.setFrame(source.frame());
+  target.setHidden(false);
+  UIKit::transition(source, target, seconds,
+                    UIKit::transitionCrossDissolve | UIKit::showHideTransitionViews,
+                    hideLater(source));
+}
+
+// Without the option that shows and hides the two, the platform takes the first out of the panel
+// and puts the second in its place. The difference to the other transition is deliberate.
+void Dozewell2ViewController::showOnTimerEndsSettingsView() {
+  onTimerEndsSettingsView->setHidden(false);
+  actions().restoreSettings();
+  UIKit::transition(chooseSnoozeTimeView, onTimerEndsSettingsView, seconds,
+                    UIKit::transitionCrossDissolve, hideLater(chooseSnoozeTimeView));
+}
+
+void Dozewell2ViewController::hideOnTimerEndsSettingsView() {
+  chooseSnoozeTimeView->setHidden(false);
+  UIKit::transition(onTimerEndsSettingsView, chooseSnoozeTimeView, seconds,
+                    UIKit::transitionCrossDissolve, hideLater(onTimerEndsSettingsView));
+  // At once, not when the transition has ended.
+  actions().saveSettingsToPrefsPlist();
+}
+
+void Dozewell2ViewController::validateButtonClicked() {
+  auto& engine = Dozewell2Manager::sharedInstance();
+  engine.cancelTimer();
+  const long mode = selectedMode();
+  // The extra second is deliberate: the first thing seen is the whole number that was picked.
+  const long value = mode == Dozewell2Manager::durationMode
+                         ? long(chooseTime().timeSelectorPickerView->countDownDuration() + 1.0)
+                         : chooseTime().nbSongsSelected();
+  engine.startTimerWithMode_andValue(mode, value);
+  dispatch::onMain([this] {
+    transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(true);
+    currentTimer().hideBottomButtons(true);
+    // Never cancelled: it closes whatever the panel shows by then.
+    NSObject(self()).performSelectorAfterDelay(
+        objc::selector<"dismissDozewell">(),
+        Dozewell2StorageManager::sharedInstance().confirmViewAutoDismissTime);
+  });
+}
+
+void Dozewell2ViewController::cancelButtonClicked() {
+  Dozewell2Manager::sharedInstance().reinit();
+  transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(false);
+}
+
+void Dozewell2ViewController::backButtonClicked() {
+  dismissDozewell();
+}

@@ -1,0 +1,150 @@
+// The panel coming and going.
+#include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/panel/Dozewell2ViewController.h"
+
+namespace {
+
+constexpr double seconds = 0.3;
+constexpr unsigned long noOptions = 0;
+
+template <class Visit>
+void forEachView(NSArray views, Visit visit) {
+  for (unsigned long i = 0; i < views.count(); ++i)
+    visit(objc::as<UIView>(views.objectAtIndex(i)), i);
+}
+
+void setHidden(NSArray views, bool hidden) {
+  forEachView(views, [hidden](UIView view, unsigned long) { view.setHidden(hidden); });
+}
+
+void setAlpha(NSArray views, double alpha) {
+  forEachView(views, [alpha](UIView view, unsigned long) { view.setAlpha(alpha); });
+}
+
+// One panel height below its place.
+CGRect below(CGRect frame) {
+  return rect(0, frame.size.height, frame.size.width, frame.size.height);
+}
+
+}  // namespace
+
+void Dozewell2ViewController::showChooseSnoozeTimeView_transitionView_slideAnimated(
+    bool show, UIView transition, bool slide) {
+  chooseSnoozeTimeViewShowed = show;
+  currentTimerView->setHidden(true);
+  if (!show) return show_slideAnimated_transitionView(false, slide, transition);
+
+  chooseSnoozeTimeView->setHidden(false);
+  containerFrame = view().frame();
+  containerView = objc::retain(transition);
+  transitionViewsOriginalFramesArray = objc::retain(NSMutableArray::array());
+  forEachView(transitionViews, [this](UIView host, unsigned long) {
+    transitionViewsOriginalFramesArray->addObject(NSValue::valueWithCGRect(host.frame()));
+  });
+  view().setHidden(false);
+  chooseSnoozeTimeView->setFrame(rect(0, 0, containerFrame.size.width, containerFrame.size.height));
+  show_slideAnimated_transitionView(true, slide, transition);
+}
+
+// Unlike the other page, this one does not note the frames of the host's views.
+void Dozewell2ViewController::showCurrentTimerView_transitionView_slideAnimated(bool show,
+                                                                                UIView transition,
+                                                                                bool slide) {
+  currentTimerViewShowed = show;
+  chooseSnoozeTimeView->setHidden(true);
+  if (show) {
+    currentTimerView->setHidden(false);
+    currentTimer().setupViewWithMode(selectedMode());
+    currentTimer().hideBottomButtons(false);
+    containerFrame = view().frame();
+    containerView = objc::retain(transition);
+    currentTimerView->setFrame(rect(0, 0, containerFrame.size.width, containerFrame.size.height));
+    view().setHidden(false);
+  }
+  show_slideAnimated_transitionView(show, slide, transition);
+}
+
+void Dozewell2ViewController::show_slideAnimated_transitionView(bool show, bool slide, UIView) {
+  if (show && slide) return slideIn();
+  if (show) return fadeIn();
+  if (slide) return slideOut();
+  fadeOut();
+}
+
+void Dozewell2ViewController::fadeIn() {
+  view().setAlpha(0);
+  view().setFrame(containerFrame);
+  UIKit::animate(
+      seconds,
+      [this] {
+        view().setAlpha(1);
+        setAlpha(transitionViews, 0);
+      },
+      UIKit::completion([this] {
+        setHidden(transitionViews, true);
+        setAlpha(transitionViews, 1);
+        hasBeenShownUsingSlideAnimation = false;
+      }));
+}
+
+void Dozewell2ViewController::slideIn() {
+  view().setFrame(below(containerFrame));
+  UIKit::animate(
+      seconds, 0, noOptions,
+      [this] {
+        forEachView(transitionViews, [](UIView host, unsigned long) {
+          const auto [origin, size] = host.frame();
+          host.setFrame(rect(origin.x, -size.height, size.width, size.height));
+        });
+        view().setFrame(containerFrame);
+      },
+      UIKit::completion([this] {
+        setHidden(transitionViews, true);
+        hasBeenShownUsingSlideAnimation = true;
+      }));
+}
+
+void Dozewell2ViewController::slideOut() {
+  setHidden(transitionViews, false);
+  UIKit::animate(
+      seconds, 0, noOptions,
+      [this] {
+        forEachView(transitionViews, [this](UIView host, unsigned long index) {
+          const auto frame = transitionViewsOriginalFramesArray->objectAtIndex(index);
+          host.setFrame(objc::as<NSValue>(frame).CGRectValue());
+        });
+        view().setFrame(below(containerFrame));
+      },
+      UIKit::completion([this] { view().setHidden(true); }));
+}
+
+void Dozewell2ViewController::fadeOut() {
+  setHidden(transitionViews, false);
+  setAlpha(transitionViews, 0);
+  UIKit::animate(
+      seconds,
+      [this] {
+        setAlpha(transitionViews, 1);
+        view().setAlpha(0);
+      },
+      UIKit::completion([this] {
+        view().setHidden(true);
+        view().setAlpha(1);
+      }));
+}
+
+void Dozewell2ViewController::dismissCurrentView() {
+  if (chooseSnoozeTimeViewShowed) {
+    showChooseSnoozeTimeView_transitionView_slideAnimated(false, nullptr, false);
+    // The actions page is a layer over the choose-time page, not a state of its own.
+    if (!onTimerEndsSettingsView->isHidden()) hideOnTimerEndsSettingsView();
+  } else if (currentTimerViewShowed) {
+    showCurrentTimerView_transitionView_slideAnimated(false, nullptr, false);
+  }
+}
+
+void Dozewell2ViewController::dismissDozewell() {
+  dismissCurrentView();
+  objc::send<void, "dozewell_expandDozewell:">(
+      Dozewell2Manager::sharedInstance().currentNowPlayingVC.get(), false);
+}

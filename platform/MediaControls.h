@@ -3,15 +3,52 @@
 
 #include "platform/UIKit.h"
 
+// The layouts of the module, as its header and its controller number them.
+enum MRULayout : long { minimizedLayout = 0, routingLayout = 1, expandedLayout = 2 };
+
 // The round button at the right end of the module's header.
-struct MRUNowPlayingRoutingButton : objc::Object {
-  using Object::Object;
+struct MRUNowPlayingRoutingButton : UIControl {
+  using UIControl::UIControl;
+  UIView packageView() const { return objc::send<UIView, "packageView">(*this); }
+  void setPackageView(UIView view) const { objc::send<void, "setPackageView:">(*this, view); }
+  void setActive(bool active) const { objc::send<void, "setActive:">(*this, active); }
 };
 
-struct MRUNowPlayingHeaderView : objc::Object {
-  using Object::Object;
+struct MRUNowPlayingHeaderView : UIView {
+  using UIView::UIView;
+  UIView routingButton() const { return objc::send<UIView, "routingButton">(*this); }
+  UIView labelView() const { return objc::send<UIView, "labelView">(*this); }
+  long layout() const { return objc::send<long, "layout">(*this); }
+  UIViewController viewControllerForAncestor() const {
+    return objc::send<UIViewController, "_viewControllerForAncestor">(*this);
+  }
+};
+
+// What the module's controller embeds below its header: the routing panel, usually.
+struct MRUEmbeddingView : UIView {
+  using UIView::UIView;
+  void removeViewController() const { objc::send<void, "removeViewController">(*this); }
+  void setEmbeddedViewController(UIViewController controller) const {
+    objc::send<void, "setEmbeddedViewController:">(*this, controller);
+  }
+  void showViewController() const { objc::send<void, "showViewController">(*this); }
 };
 
 struct MRUNowPlayingViewController : UIViewController {
   using UIViewController::UIViewController;
+  long layout() const { return objc::send<long, "layout">(*this); }
+  UIViewController routingViewController() const {
+    return objc::send<UIViewController, "routingViewController">(*this);
+  }
+  MRUEmbeddingView collapsedEmbeddingView() const {
+    return objc::send<MRUEmbeddingView, "collapsedEmbeddingView">(view());
+  }
+  // What a tap on the routing button does: to the routing layout and back.
+  void didSelectRoutingButton(objc::Object sender) const {
+    objc::send<void, "didSelectRoutingButton:">(*this, sender);
+  }
+};
+
+struct UIMotionEvent : objc::Object {
+  using Object::Object;
 };

@@ -8,9 +8,13 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/engine/Dozewell2Manager.cpp
     tweak/engine/Persistence.cpp
     tweak/engine/TrackCounting.cpp
+    tweak/hooks/ButtonPlacement.cpp
     tweak/hooks/DozewellButton.cpp
+    tweak/hooks/Embedding.cpp
+    tweak/hooks/Glyph.cpp
     tweak/hooks/Launch.cpp
     tweak/hooks/LockScreen.cpp
+    tweak/hooks/NowPlayingHeader.cpp
     tweak/hooks/Startup.cpp
     tweak/hooks/Tracing.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp

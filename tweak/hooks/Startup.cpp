@@ -7,14 +7,20 @@
 #include "tweak/actions/SpecialTasksHelper.h"
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/hooks/DozewellButton.h"
+#include "tweak/hooks/Embedding.h"
 #include "tweak/hooks/Launch.h"
 #include "tweak/hooks/LockScreen.h"
+#include "tweak/hooks/NowPlayingHeader.h"
 #include "tweak/hooks/Tracing.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/panel/ButtonWithIncreasedTouchArea.h"
+#include "tweak/panel/CheckboxButton.h"
+#include "tweak/panel/Dozewell2ImageButton.h"
 #include "tweak/panel/Dozewell2ViewController.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/settings/Registration.h"
 #include "tweak/support/BundleHelper.h"
+#include "tweak/support/CorvaneTweakUtils.h"
 #include "tweak/support/HapticFeedbackHelper.h"
 #include "tweak/support/LocalizationHelper.h"
 
@@ -27,7 +33,14 @@ void registerClasses() {
   Dozewell2Manager::registerClass();
   SpecialTasksHelper::registerClass();
   Dozewell2TimeLeftIndicatorsManager::registerClass();
+  ButtonWithIncreasedTouchArea::registerClass();
+  CheckboxButton::registerClass();
+  Dozewell2ImageButton::registerClass();
+  ChooseSnoozeTimeView::registerClass();
+  CurrentTimerView::registerClass();
+  OnTimerEndsSettingsView::registerClass();
   Dozewell2ViewController::registerClass();
+  CorvaneTweakUtils::registerClass();
   BundleHelper::registerClass();
   LocalizationHelper::registerClass();
   HapticFeedbackHelper::registerClass();
@@ -42,12 +55,39 @@ bool isEnabled() {
   return Dozewell2StorageManager::sharedInstance().enabled;
 }
 
+void installHeaderHooks() {
+  Class header = objc_getClass("MRUNowPlayingHeaderView");
+  NowPlayingHeader::addButtonProperty();
+  objc::hook<"MRUNowPlayingHeaderView", "layoutSubviews", NowPlayingHeader::layoutSubviews>();
+  objc::hook<"MRUNowPlayingHeaderView", "setLayout:", NowPlayingHeader::setLayout>();
+  objc::hook<"MRUNowPlayingHeaderView",
+             "setShowRoutingButton:", NowPlayingHeader::setShowRoutingButton>();
+  objc::addMethod<"dozewell_stateChanged:", &NowPlayingHeader::stateChanged>(header);
+  objc::hook<"MRUNowPlayingHeaderView", "dealloc", NowPlayingHeader::dealloc>();
+}
+
+void installControllerHooks() {
+  Class controller = objc_getClass("MRUNowPlayingViewController");
+  objc::hook<"MRUNowPlayingViewController", "viewDidAppear:", Embedding::viewDidAppear>();
+  objc::hook<"MRUNowPlayingViewController", "viewDidLoad", Embedding::viewDidLoad>();
+  objc::addMethod<"didSelectDozewellButton:", &Embedding::didSelectDozewellButton>(controller);
+  objc::addMethod<"dozewell_expandDozewell:", &Embedding::expandDozewell>(controller);
+  objc::hook<"MRUNowPlayingViewController",
+             "didSelectRoutingButton:", Embedding::didSelectRoutingButton>();
+  objc::addMethod<"dozewell_updateEmbeddedVCWithDozewellVC:", &Embedding::updateEmbeddedController>(
+      controller);
+  objc::hook<"MRUEmbeddingView", "sizeThatFits:", Embedding::sizeThatFits>();
+  objc::hook<"MRUEmbeddingView", "showViewController", Embedding::showViewController>();
+}
+
 void installHooks() {
   objc::hook<"CCUICAPackageDescription",
              "initWithPackageName:inBundle:", tracePackageDescription>();
   addDozewellButtonClass();
-  addDozewellButtonProperty();
+  installHeaderHooks();
+  installControllerHooks();
   objc::hook<"SpringBoard", "applicationDidFinishLaunching:", applicationDidFinishLaunching>();
+  objc::hook<"UIMotionEvent", "setShakeState:", Embedding::setShakeState>();
 }
 
 void installIndicatorHooks() {

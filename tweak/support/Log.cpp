@@ -22,6 +22,11 @@ LogLine& LogLine::operator<<(const void* address) {
   return *this << static_cast<const char*>(digits);
 }
 
+LogLine& LogLine::operator<<(double number) {
+  text_.appendString(NSString::stringWithFormat("%g"_ns, number));
+  return *this;
+}
+
 void LogLine::write() const {
   NSLog(text_);
 }

@@ -3,13 +3,14 @@
 
 #include "platform/Foundation.h"
 
-// A line put together from parts: text, objects (their descriptions, "(null)" for nil) and
-// addresses of objects.
+// A line put together from parts: text, objects (their descriptions, "(null)" for nil) addresses
+// of objects, and numbers.
 class LogLine {
  public:
   LogLine& operator<<(const char* text);
   LogLine& operator<<(objc::Object object);
   LogLine& operator<<(const void* address);
+  LogLine& operator<<(double number);  // as "%g"
   void write() const;
 
  private:

@@ -1,0 +1,15 @@
+// QuartzCore's shape layers, and CAPackage (private).
+#pragma once
+
+#include "platform/uikit/View.h"
+
+struct CAShapeLayer : CALayer {
+  using CALayer::CALayer;
+  void setFillColor(id color) const {  // a CGColorRef
+    objc::send<void, "setFillColor:">(*this, color);
+  }
+};
+
+struct CAPackage : objc::Object {
+  using Object::Object;
+};

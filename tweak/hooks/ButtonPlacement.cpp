@@ -1,0 +1,94 @@
+// Where the timer button stands, and how it looks, in each layout of the module.
+#include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/hooks/DozewellButton.h"
+#include "tweak/hooks/Embedding.h"
+#include "tweak/hooks/NowPlayingHeader.h"
+#include "tweak/settings/Dozewell2StorageManager.h"
+
+namespace {
+
+using Button = MRUNowPlayingRoutingButton;
+
+bool isRunning() {
+  return Dozewell2Manager::sharedInstance().isRunning();
+}
+
+void showOrdinaryState(Button button) {
+  updateForNewState(button, isRunning() ? ButtonState::running : ButtonState::idle);
+}
+
+CGRect moved(CGRect frame, double x, double y) {
+  frame.origin.x += x;
+  frame.origin.y += y;
+  return frame;
+}
+
+CGRect placeInMinimizedLayout(UIView routing, Button button) {
+  auto frame = routing.frame();
+  if (Dozewell2StorageManager::sharedInstance().showDozewellButtonInCCMinimizedMediaPlayer) {
+    frame.origin.x = 0;
+  } else {
+    button.setHidden(true);
+  }
+  showOrdinaryState(button);
+  return frame;
+}
+
+// Beside the routing button, or below it where the text takes the width. Each pass moves the
+// routing button up again, deliberately; the routing layout puts it back.
+CGRect placeInExpandedLayout(UIView labels, UIView routing, Button button) {
+  constexpr double tallLabels = 40, up = 18, below = 33, beside = 40;  // points
+  CGRect frame;
+  if (labels.frame().size.height > tallLabels) {
+    routing.setTransform(routing.transform().translated(0, -up));
+    frame = moved(routing.frame(), 0, below);
+  } else {
+    frame = moved(routing.frame(), -beside, 0);
+  }
+  showOrdinaryState(button);
+  return frame;
+}
+
+// With the panel embedded the timer button takes the routing button's place.
+CGRect placeInRoutingLayout(UIView routing, Button button) {
+  routing.setTransform(CGAffineTransform::identity());
+  const auto frame = routing.frame();
+  if (shouldShowDozewellEmbeddedVCInsteadOfAirPlay) {
+    routing.setHidden(true);
+    updateForNewState(
+        button, isRunning() ? ButtonState::runningInRoutingPlace : ButtonState::idleInRoutingPlace);
+  } else {
+    button.setHidden(true);
+  }
+  return frame;
+}
+
+CGRect placeElsewhere(UIView routing, Button button) {
+  button.setHidden(true);
+  showOrdinaryState(button);
+  return routing.frame();
+}
+
+CGRect place(MRUNowPlayingHeaderView header, UIView routing, Button button) {
+  switch (header.layout()) {
+    case minimizedLayout:
+      return placeInMinimizedLayout(routing, button);
+    case routingLayout:
+      return placeInRoutingLayout(routing, button);
+    case expandedLayout:
+      return placeInExpandedLayout(header.labelView(), routing, button);
+    default:
+      return placeElsewhere(routing, button);
+  }
+}
+
+}  // namespace
+
+void setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(id headerObject) {
+  const MRUNowPlayingHeaderView header(headerObject);
+  const auto routing = header.routingButton();
+  const auto button = objc::send<Button, "dozewellButton">(header);
+  routing.setHidden(false);
+  button.setHidden(false);
+  button.setFrame(place(header, routing, button));
+}

@@ -96,17 +96,20 @@ void Dozewell2ViewController::initChooseSnoozeTimeView() {
 void Dozewell2ViewController::initCurrentTimerView() {
   if (currentTimerView) return;
   currentTimerView = CurrentTimerView::make<UIView>();
-  wireWithHaptics(currentTimer().backButton.load(), objc::selector<"backButtonClicked">());
-  wireWithHaptics(currentTimer().cancelTimerButton.load(), objc::selector<"cancelButtonClicked">());
+  wireWithHaptics(objc::send<UIButton, "backButton">(currentTimerView),
+                  objc::selector<"backButtonClicked">());
+  wireWithHaptics(objc::send<UIButton, "cancelTimerButton">(currentTimerView),
+                  objc::selector<"cancelButtonClicked">());
   addPage(currentTimerView);
   Dozewell2TimeLeftIndicatorsManager::sharedInstance().dozewellVcTimeLeftLabel =
-      currentTimer().timerLabel.load();
+      objc::retain(objc::send<UILabel, "timerLabel">(currentTimerView));
 }
 
 void Dozewell2ViewController::initOnTimerEndsSettingsView() {
   if (onTimerEndsSettingsView) return;
   onTimerEndsSettingsView = OnTimerEndsSettingsView::make<UIView>();
-  wireWithHaptics(actions().backButton.load(), objc::selector<"hideOnTimerEndsSettingsView">());
+  wireWithHaptics(objc::send<UIButton, "backButton">(onTimerEndsSettingsView),
+                  objc::selector<"hideOnTimerEndsSettingsView">());
   addPage(onTimerEndsSettingsView);
 }
 

@@ -55,10 +55,10 @@ struct Dozewell2ViewController : objc::Implementation<Dozewell2ViewController> {
  private:
   UIView view() const { return UIViewController(self()).view(); }
   ChooseSnoozeTimeView& chooseTime() { return ChooseSnoozeTimeView::of(chooseSnoozeTimeView); }
-  CurrentTimerView& currentTimer() { return CurrentTimerView::of(currentTimerView); }
-  OnTimerEndsSettingsView& actions() {
-    return OnTimerEndsSettingsView::of(onTimerEndsSettingsView);
-  }
+  // The pages that come from layouts are reached by messages alone: without the resource bundle
+  // they are nil.
+  void setUpCurrentTimerView();
+  void hideBottomButtons(bool hide);
   void addPage(UIView page);
   void wire(UIButton button, SEL action);
   void wireWithHaptics(UIButton button, SEL action);

@@ -14,6 +14,14 @@ UIKit::Completion hideLater(UIView view) {
 
 }  // namespace
 
+void Dozewell2ViewController::setUpCurrentTimerView() {
+  objc::send<void, "setupViewWithMode:">(currentTimerView, selectedMode());
+}
+
+void Dozewell2ViewController::hideBottomButtons(bool hide) {
+  objc::send<void, "hideBottomButtons:">(currentTimerView, hide);
+}
+
 void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(
     bool fromChooseTime) {
   view().setHidden(false);
@@ -21,7 +29,7 @@ void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFrom
   const UIView target = fromChooseTime ? currentTimerView : chooseSnoozeTimeView;
   chooseSnoozeTimeViewShowed = !fromChooseTime;
   currentTimerViewShowed = fromChooseTime;
-  if (fromChooseTime) currentTimer().setupViewWithMode(selectedMode());
+  if (fromChooseTime) setUpCurrentTimerView();
   target.setFrame(source.frame());
   target.setHidden(false);
   UIKit::transition(source, target, seconds,
@@ -33,7 +41,7 @@ void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFrom
 // and puts the second in its place. The difference to the other transition is deliberate.
 void Dozewell2ViewController::showOnTimerEndsSettingsView() {
   onTimerEndsSettingsView->setHidden(false);
-  actions().restoreSettings();
+  objc::send<void, "restoreSettings">(onTimerEndsSettingsView);
   UIKit::transition(chooseSnoozeTimeView, onTimerEndsSettingsView, seconds,
                     UIKit::transitionCrossDissolve, hideLater(chooseSnoozeTimeView));
 }
@@ -43,7 +51,7 @@ void Dozewell2ViewController::hideOnTimerEndsSettingsView() {
   UIKit::transition(onTimerEndsSettingsView, chooseSnoozeTimeView, seconds,
                     UIKit::transitionCrossDissolve, hideLater(onTimerEndsSettingsView));
   // At once, not when the transition has ended.
-  actions().saveSettingsToPrefsPlist();
+  objc::send<void, "saveSettingsToPrefsPlist">(onTimerEndsSettingsView);
 }
 
 void Dozewell2ViewController::validateButtonClicked() {
@@ -57,7 +65,7 @@ void Dozewell2ViewController::validateButtonClicked() {
   engine.startTimerWithMode_andValue(mode, value);
   dispatch::onMain([this] {
     transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(true);
-    currentTimer().hideBottomButtons(true);
+    hideBottomButtons(true);
     // Never cancelled: it closes whatever the panel shows by then.
     NSObject(self()).performSelectorAfterDelay(
         objc::selector<"dismissDozewell">(),

@@ -23,6 +23,7 @@
 #include "simulator/uikit/UIResponder.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UISelectionFeedbackGenerator.h"
+#include "simulator/uikit/UISlider.h"
 #include "simulator/uikit/UIStackView.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIViewController.h"
@@ -55,6 +56,7 @@ void registerUIKit() {
   UILabel::registerClass();
   UIControl::registerClass();
   UIButton::registerClass();
+  UISlider::registerClass();
   UIStackView::registerClass();
   UIPickerView::registerClass();
   UIDatePicker::registerClass();

@@ -5,6 +5,7 @@
 
 #include "objc/Block.h"
 #include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
 
 namespace sim {
 
@@ -19,6 +20,7 @@ struct UIViewController : objc::Implementation<UIViewController> {
   objc::Object presenting;            // not owned: it owns this controller and clears it
   objc::Strong<objc::Object> window;  // kept while something is presented in it
   long modalPresentationStyle = -2;   // automatic
+  CGSize preferredContentSize;        // what containers may give its view; zero: anything
 
   ~UIViewController();
 

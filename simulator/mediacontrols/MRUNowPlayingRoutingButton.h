@@ -2,6 +2,7 @@
 #pragma once
 
 #include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
 
 namespace sim {
 
@@ -9,8 +10,12 @@ struct MRUNowPlayingRoutingButton : objc::Implementation<MRUNowPlayingRoutingBut
   objc::Strong<objc::Object> packageView;
   bool active = false;
 
+  objc::Object initWithFrame(CGRect frame);
+  // Whether sound goes elsewhere than to the phone's own speaker.
+  void setActive(bool isActive);
   // Loads the routing glyph into the package view.
-  void updatePackage() {}
+  void updatePackage();
+  void layoutSubviews();
 
   static void registerClass();
 };

@@ -15,10 +15,14 @@ struct CALayer : objc::Implementation<CALayer> {
   objc::Strong<objc::Object> backgroundColor;        // CGColor
   objc::Strong<objc::Object> contents;
   objc::Strong<objc::Object> name;  // NSString
+  objc::Strong<objc::Object> mask;  // CALayer in this layer's coordinates; its alpha cuts this one
   double opacity = 1;
   double cornerRadius = 0;  // points
   bool hidden = false;
   bool masksToBounds = false;
+  // Within the bounds, y grows upwards from the lower edge: for the layer's own drawing and for
+  // everything below it, until a layer below is flipped again.
+  bool geometryFlipped = false;
 
   ~CALayer();
 

@@ -1,10 +1,12 @@
 #include "simulator/Frameworks.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/CAShapeLayer.h"
+#include "simulator/quartzcore/CGPath.h"
 
 namespace sim {
 
 void registerQuartzCore() {
+  CGPath::registerClass();
   CALayer::registerClass();
   CAShapeLayer::registerClass();
 }

@@ -27,11 +27,7 @@ void Container::loadView() {
 
 void Container::viewDidLoad() {
   super<void, "viewDidLoad">();
-  const Object content = contentViewController();
-  objc::send<void, "addChildViewController:">(self(), content);
-  objc::send<void, "addSubview:">(objc::send<Object, "view">(self()),
-                                  objc::send<Object, "view">(content));
-  objc::send<void, "didMoveToParentViewController:">(content, Object(self()));
+  addChildController(Object(self()), contentViewController());
 }
 
 void Container::viewWillLayoutSubviews() {

@@ -65,9 +65,7 @@ void Overlay::viewDidLoad() {
   for (const ModulePlace& place : modulePlaces())
     if (place.kind != ModuleKind::media) addTile(place);
   mediaContainer = makeContainer();
-  objc::send<void, "addChildViewController:">(self(), mediaContainer.get());
-  objc::send<void, "addSubview:">(view, viewOf(mediaContainer));
-  objc::send<void, "didMoveToParentViewController:">(mediaContainer.get(), Object(self()));
+  addChildController(Object(self()), mediaContainer);
 }
 
 void Overlay::addTile(const ModulePlace& place) {

@@ -15,10 +15,7 @@ void Controller::viewDidLoad() {
       objc::adopt(objc::send<Object, "new">(objc_getClass("MRUNowPlayingViewController")));
   const Object player = nowPlayingViewController;
   objc::send<void, "setDelegate:">(player, Object(self()));
-  objc::send<void, "addChildViewController:">(self(), player);
-  objc::send<void, "addSubview:">(objc::send<Object, "view">(self()),
-                                  objc::send<Object, "view">(player));
-  objc::send<void, "didMoveToParentViewController:">(player, Object(self()));
+  addChildController(Object(self()), player);
 }
 
 void Controller::viewWillLayoutSubviews() {

@@ -30,9 +30,7 @@ void MRUEmbeddingView::setEmbeddedViewController(Object controller) {
 void MRUEmbeddingView::removeViewController() {
   if (!isShowing()) return;
   const auto controller = embeddedViewController;
-  objc::send<void, "willMoveToParentViewController:">(controller.get(), nullptr);
-  objc::send<void, "removeFromSuperview">(viewOf(controller));
-  objc::send<void, "removeFromParentViewController">(controller.get());
+  removeChildController(controller);
 }
 
 void MRUEmbeddingView::showViewController() {

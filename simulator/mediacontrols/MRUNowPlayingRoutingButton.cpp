@@ -1,16 +1,12 @@
 #include "simulator/mediacontrols/MRUNowPlayingRoutingButton.h"
 
 #include "simulator/StandIn.h"
+#include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {
-namespace {
 
 using objc::Object;
-
-constexpr double glyphSize = 36;  // points
-
-}  // namespace
 
 Object MRUNowPlayingRoutingButton::initWithFrame(CGRect frame) {
   const auto made = super<Object, "initWithFrame:">(frame);
@@ -20,6 +16,7 @@ Object MRUNowPlayingRoutingButton::initWithFrame(CGRect frame) {
 
 void MRUNowPlayingRoutingButton::setActive(bool isActive) {
   active = isActive;
+  tintGlyph();
 }
 
 void MRUNowPlayingRoutingButton::updatePackage() {
@@ -27,6 +24,16 @@ void MRUNowPlayingRoutingButton::updatePackage() {
   packageView = addView(Object(self()), "UIView");
   objc::send<void, "setUserInteractionEnabled:">(packageView.get(), false);
   setFrame(packageView, {{0, 0}, {glyphSize, glyphSize}});
+  triangle = addShape(packageView, routingTriangle());
+  waves = addShape(packageView, routingWaves(), 1.8);
+  tintGlyph();
+}
+
+// A subclass with a glyph of its own keeps that one's colours.
+void MRUNowPlayingRoutingButton::tintGlyph() {
+  const Object color = active ? rgbColor(0.04, 0.52, 1) : whiteColor(0.95);
+  tint(triangle, color);
+  tint(waves, color);
 }
 
 void MRUNowPlayingRoutingButton::layoutSubviews() {

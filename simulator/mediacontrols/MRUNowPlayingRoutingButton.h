@@ -8,6 +8,8 @@ namespace sim {
 
 struct MRUNowPlayingRoutingButton : objc::Implementation<MRUNowPlayingRoutingButton> {
   objc::Strong<objc::Object> packageView;
+  objc::Strong<objc::Object> triangle;  // CAShapeLayer; nil where no glyph is loaded
+  objc::Strong<objc::Object> waves;     // CAShapeLayer
   bool active = false;
 
   objc::Object initWithFrame(CGRect frame);
@@ -18,6 +20,9 @@ struct MRUNowPlayingRoutingButton : objc::Implementation<MRUNowPlayingRoutingBut
   void layoutSubviews();
 
   static void registerClass();
+
+ private:
+  void tintGlyph();
 };
 
 }  // namespace sim

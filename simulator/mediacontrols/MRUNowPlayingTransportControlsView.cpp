@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "simulator/StandIn.h"
-#include "simulator/foundation/Values.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/mediacontrols/MRUTransportButton.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {
@@ -11,30 +12,28 @@ namespace {
 
 using objc::Object;
 
-constexpr unsigned long normalState = 0;
-
-objc::Strong<Object> addButton(Object parent, const char* symbol, const char* name) {
-  auto button = addView(parent, "UIButton");
-  objc::send<void, "setTitle:forState:">(button.get(), string(symbol), normalState);
-  objc::send<void, "setAccessibilityLabel:">(button.get(), string(name));
-  return button;
+void show(Object button, TransportSymbol symbol, const char* name) {
+  if (auto* state = stateOf<MRUTransportButton>(button)) state->show(symbol, name);
 }
 
 }  // namespace
 
 Object MRUNowPlayingTransportControlsView::initWithFrame(CGRect frame) {
   const auto made = super<Object, "initWithFrame:">(frame);
-  previousButton = addButton(made, "⏮", "previous track");
-  playPauseButton = addButton(made, "▶", "play");
-  nextButton = addButton(made, "⏭", "next track");
+  previousButton = addView(made, "MRUTransportButton");
+  playPauseButton = addView(made, "MRUTransportButton");
+  nextButton = addView(made, "MRUTransportButton");
+  show(previousButton, TransportSymbol::previous, "previous track");
+  show(nextButton, TransportSymbol::next, "next track");
+  setPlaying(false);
   return made;
 }
 
 void MRUNowPlayingTransportControlsView::setPlaying(bool isPlaying) {
-  objc::send<void, "setTitle:forState:">(playPauseButton.get(), string(isPlaying ? "⏸" : "▶"),
-                                         normalState);
-  objc::send<void, "setAccessibilityLabel:">(playPauseButton.get(),
-                                             string(isPlaying ? "pause" : "play"));
+  if (isPlaying)
+    show(playPauseButton, TransportSymbol::pause, "pause");
+  else
+    show(playPauseButton, TransportSymbol::play, "play");
 }
 
 void MRUNowPlayingTransportControlsView::layoutSubviews() {

@@ -8,9 +8,9 @@ namespace sim {
 
 struct MRUNowPlayingTransportControlsView
     : objc::Implementation<MRUNowPlayingTransportControlsView> {
-  objc::Strong<objc::Object> previousButton;   // UIButton
-  objc::Strong<objc::Object> playPauseButton;  // UIButton
-  objc::Strong<objc::Object> nextButton;       // UIButton
+  objc::Strong<objc::Object> previousButton;   // MRUTransportButton
+  objc::Strong<objc::Object> playPauseButton;  // MRUTransportButton
+  objc::Strong<objc::Object> nextButton;       // MRUTransportButton
 
   objc::Object initWithFrame(CGRect frame);
   void setPlaying(bool isPlaying);

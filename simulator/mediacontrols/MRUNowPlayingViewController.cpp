@@ -104,6 +104,8 @@ void Controller::viewWillAppear(bool animated) {
   objc::send<void, "addObserver:selector:name:object:">(
       notificationCenter(), Object(self()), objc::selector<"_nowPlayingInfoDidChange:">(),
       Object(kMRMediaRemoteNowPlayingInfoDidChangeNotification), nullptr);
+  if (volumeObserver == 0)
+    volumeObserver = AudioSystem::current().observe([this] { showVolume(); });
   update();
 }
 
@@ -116,7 +118,7 @@ void Controller::viewDidAppear(bool animated) {
 void Controller::viewDidDisappear(bool animated) {
   super<void, "viewDidDisappear:">(animated);
   objc::send<void, "removeObserver:">(notificationCenter(), Object(self()));
-  stopClock();
+  stopWatching();
 }
 
 Object Controller::moduleView() const {
@@ -154,8 +156,13 @@ void Controller::update() {
   if (auto* transport =
           stateOf<MRUNowPlayingTransportControlsView>(view->transportControlsView.get()))
     transport->setPlaying(Player::current().isPlaying());
-  objc::send<void, "setValue:">(view->volumeSlider.get(), AudioSystem::current().volume());
+  showVolume();
   showTime();
+}
+
+void Controller::showVolume() {
+  objc::send<void, "setValue:">(MRUNowPlayingView::of(moduleView()).volumeSlider.get(),
+                                AudioSystem::current().volume());
 }
 
 void Controller::showTime() {
@@ -176,6 +183,11 @@ void Controller::showTime() {
 
 void Controller::stopClock() {
   if (nextSecond != 0) Phone::current().queue.cancel(std::exchange(nextSecond, 0));
+}
+
+void Controller::stopWatching() {
+  stopClock();
+  if (volumeObserver != 0) AudioSystem::current().forget(std::exchange(volumeObserver, 0));
 }
 
 void Controller::registerClass() {

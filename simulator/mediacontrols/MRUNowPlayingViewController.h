@@ -14,7 +14,9 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
   long layoutBeforeRouting = minimizedLayout;
   MainQueue::Ticket nextSecond = 0;  // the queue's entry for the next step of the time line
 
-  ~MRUNowPlayingViewController() { stopClock(); }
+  long volumeObserver = 0;  // AudioSystem's number for it; 0 while off the screen
+
+  ~MRUNowPlayingViewController() { stopWatching(); }
 
   objc::Object initWithNibName_bundle(objc::Object name, objc::Object bundle);
   objc::Object itsDelegate() const { return autorelease(delegate.load()); }
@@ -38,7 +40,9 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
   void connectControls();
   void showEmbedded();
   void showTime();
+  void showVolume();
   void stopClock();
+  void stopWatching();
 };
 
 }  // namespace sim

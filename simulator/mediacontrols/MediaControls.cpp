@@ -11,6 +11,7 @@
 #include "simulator/mediacontrols/MRUNowPlayingView.h"
 #include "simulator/mediacontrols/MRUNowPlayingViewController.h"
 #include "simulator/mediacontrols/MRURoutingViewController.h"
+#include "simulator/mediacontrols/MRUTransportButton.h"
 
 namespace sim {
 
@@ -19,6 +20,7 @@ void registerMediaControls() {
   MRUNowPlayingLabelView::registerClass();
   MRUNowPlayingHeaderView::registerClass();
   MRUNowPlayingTimeControl::registerClass();
+  MRUTransportButton::registerClass();
   MRUNowPlayingTransportControlsView::registerClass();
   MRUEmbeddingView::registerClass();
   MRUNowPlayingView::registerClass();

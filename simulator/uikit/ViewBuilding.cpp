@@ -66,6 +66,19 @@ void addTapTarget(Object control, Object target, SEL action) {
                                                          UIControl::touchUpInside);
 }
 
+void addChildController(Object parent, Object child) {
+  objc::send<void, "addChildViewController:">(parent, child);
+  objc::send<void, "addSubview:">(objc::send<Object, "view">(parent),
+                                  objc::send<Object, "view">(child));
+  objc::send<void, "didMoveToParentViewController:">(child, parent);
+}
+
+void removeChildController(Object child) {
+  objc::send<void, "willMoveToParentViewController:">(child, nullptr);
+  objc::send<void, "removeFromSuperview">(objc::send<Object, "viewIfLoaded">(child));
+  objc::send<void, "removeFromParentViewController">(child);
+}
+
 void animateLayout(Object view) {
   constexpr double seconds = 0.3;
   const auto layOut = objc::block<void()>([view] { objc::send<void, "layoutIfNeeded">(view); });

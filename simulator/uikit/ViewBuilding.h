@@ -35,6 +35,10 @@ CGSize sizeThatFits(objc::Object view, CGSize room);
 // -[UIControl addTarget:action:forControlEvents:] for touch-up-inside.
 void addTapTarget(objc::Object control, objc::Object target, SEL action);
 
+// The child's view comes to lie on top in the parent's, which gives it a frame.
+void addChildController(objc::Object parent, objc::Object child);
+void removeChildController(objc::Object child);
+
 // Lays the view out within an animation of the host's usual length.
 void animateLayout(objc::Object view);
 

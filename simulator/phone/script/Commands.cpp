@@ -13,6 +13,8 @@ void addPhoneCommands(CommandTable& table) {
   addExpectCommands(table);
   addJournalCommands(table);
   addReflectionCommands(table);
+  addRepeatCommands(table);
+  addLiveObjectCommands(table);
 }
 
 CommandTable allCommands() {

@@ -13,6 +13,7 @@
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UIDatePicker.h"
 #include "simulator/uikit/UIPickerView.h"
+#include "simulator/uikit/UISlider.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/script/UIKitCommands.h"
 
@@ -96,6 +97,19 @@ void pick(Arguments& words) {
   UIControl::of(view).sendActionsForEvents(UIControl::valueChanged, nullptr);
 }
 
+void slide(Arguments& words) {
+  const Object view = readView<UISlider>(words, "UISlider");
+  const double value = words.number("a value of the slider");
+  words.finish();
+  reach(view, centreOf(view));
+  UISlider& slider = UISlider::of(view);
+  if (value < double(slider.minimumValue) || value > double(slider.maximumValue))
+    throw ScriptError(0, "the slider goes from " + notation(slider.minimumValue) + " to " +
+                             notation(slider.maximumValue));
+  record("slide " + notation(value));
+  slider.userSlides(float(value));
+}
+
 }  // namespace
 
 void addTouchCommands(CommandTable& table) {
@@ -107,6 +121,8 @@ void addTouchCommands(CommandTable& table) {
              "The user turns the wheel of a picker view to a row; rows and components count from "
              "0.",
              select});
+  table.add({"slide", Stage::running, "slide TARGET VALUE", "slide $slider 0.25",
+             "The user drags the knob of a slider to a value.", slide});
   table.add({"pick", Stage::running, "pick TARGET DURATION", "pick $datePicker 45m",
              "The user turns the wheels of a count-down date picker to a duration.", pick});
 }

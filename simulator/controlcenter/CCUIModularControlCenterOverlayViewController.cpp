@@ -118,10 +118,15 @@ Object Overlay::container(std::string_view identifier) const {
   return identifier == nowPlayingModule ? mediaContainer.get() : Object();
 }
 
+Object Overlay::tileViews() const {
+  return array(std::vector<Object>(tiles.begin(), tiles.end()));
+}
+
 void Overlay::registerClass() {
   StandIn<Overlay>("ControlCenterUI", "CCUIModularControlCenterOverlayViewController",
                    "UIViewController")
       .readonlyProperty<"backgroundView", &Overlay::backgroundView>()
+      .partial<"tiles", &Overlay::tileViews>("the simulator's own")
       .readonlyProperty<"mediaContainer", &Overlay::mediaContainer>()
       .partial<"viewDidLoad", &Overlay::viewDidLoad>("only the music's module works")
       .method<"viewWillLayoutSubviews", &Overlay::viewWillLayoutSubviews>()

@@ -17,6 +17,7 @@ struct CCUIModularControlCenterOverlayViewController
   // UIView of each place of the grid that no container fills: they only look like modules.
   std::vector<objc::Strong<objc::Object>> tiles;
 
+  objc::Object tileViews() const;  // NSArray
   void viewDidLoad();
   void viewWillLayoutSubviews();
   // Collapses the expanded module, or else leaves Control Center.

@@ -18,6 +18,7 @@ Track takeTrack(Arguments& words) {
   const double length = words.number("the track's seconds");
   track.length = nanoseconds(length);
   if (track.length <= 0) words.failHere("a track lasts longer than 0 seconds");
+  if (words.takeKeyword("by")) track.artist = words.text("an artist");
   return track;
 }
 
@@ -155,8 +156,8 @@ void addPlayerCommands(CommandTable& table) {
   // Both exist before a restart's saved state is given back to them.
   Player::current();
   AudioSystem::current();
-  table.add({"playlist", Stage::any, "playlist TITLE|none SECONDS [TITLE SECONDS]...",
-             "playlist \"A\" 180 \"B\" 200",
+  table.add({"playlist", Stage::any, "playlist TITLE|none SECONDS [by ARTIST] [TITLE…]",
+             "playlist \"A\" 180 \"B\" 200 by \"The Band\"",
              "Loads tracks and plays the first; before boot the music starts with the host.",
              playlist});
   table.add({"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",

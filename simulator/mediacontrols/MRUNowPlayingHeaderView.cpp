@@ -70,7 +70,7 @@ void MRUNowPlayingHeaderView::registerClass() {
       .method<"initWithFrame:", &MRUNowPlayingHeaderView::initWithFrame>()
       .readonlyProperty<"artworkView", &MRUNowPlayingHeaderView::artworkView>()
       .readonlyProperty<"labelView", &MRUNowPlayingHeaderView::labelView>()
-      .readonlyProperty<"routingButton", &MRUNowPlayingHeaderView::routingButton>()
+      .property<"routingButton", &MRUNowPlayingHeaderView::routingButton>()
       .readonlyProperty<"layout", &MRUNowPlayingHeaderView::layout>()
       .partial<"setLayout:", &MRUNowPlayingHeaderView::setLayout>(
           "layouts 0 to 3 only; another looks like the full player")

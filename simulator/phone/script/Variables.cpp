@@ -15,8 +15,7 @@ void Variables::keep(const std::string& name, Value value) {
 Value Variables::value(const std::string& name, std::size_t column) const {
   if (const auto found = values_.find(name); found != values_.end()) return found->second;
   if (const objc::Object current = phoneVariable(name)) return Value::ofObject(current);
-  if (isPhoneVariable(name))
-    throw ScriptError(column, "there is no $" + name + " just now");
+  if (isPhoneVariable(name)) throw ScriptError(column, "there is no $" + name + " just now");
   if (lost_.contains(name))
     throw ScriptError(column, "$" + name + " was an object of a host process that has ended");
   throw ScriptError(column, "there is no variable $" + name);

@@ -1,10 +1,13 @@
 #include "simulator/quartzcore/CALayer.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/uikit/UIColor.h"
 
 namespace sim {
 namespace {
@@ -31,7 +34,10 @@ CGRect bounds(Object self) {
 }
 void setBounds(Object self, CGRect bounds) {
   const CGSize before = geometry(self).bounds.size;
-  geometry(self).bounds = bounds;
+  {
+    const LayerChange change(&CALayer::of(self));
+    geometry(self).bounds = bounds;
+  }
   sizeMayHaveChanged(self, before);
 }
 CGRect frame(Object self) {
@@ -39,13 +45,17 @@ CGRect frame(Object self) {
 }
 void setFrame(Object self, CGRect frame) {
   const CGSize before = geometry(self).bounds.size;
-  geometry(self).setFrame(frame);
+  {
+    const LayerChange change(&CALayer::of(self));
+    geometry(self).setFrame(frame);
+  }
   sizeMayHaveChanged(self, before);
 }
 CGPoint position(Object self) {
   return geometry(self).position;
 }
 void setPosition(Object self, CGPoint position) {
+  const LayerChange change(&CALayer::of(self));
   geometry(self).position = position;
 }
 CGPoint anchorPoint(Object self) {
@@ -58,12 +68,14 @@ CATransform3D transform(Object self) {
   return geometry(self).transform;
 }
 void setTransform(Object self, CATransform3D transform) {
+  const LayerChange change(&CALayer::of(self));
   geometry(self).transform = transform;
 }
 CGAffineTransform affineTransform(Object self) {
   return geometry(self).transform.affine();
 }
 void setAffineTransform(Object self, CGAffineTransform transform) {
+  const LayerChange change(&CALayer::of(self));
   geometry(self).transform = CATransform3D::ofAffine(transform);
 }
 
@@ -71,7 +83,17 @@ float layerOpacity(Object self) {
   return float(CALayer::of(self).opacity);
 }
 void setLayerOpacity(Object self, float opacity) {
+  const LayerChange change(&CALayer::of(self));
   CALayer::of(self).opacity = double(opacity);
+}
+
+void setBackgroundColor(Object self, Object color) {
+  const LayerChange change(&CALayer::of(self));
+  CALayer::of(self).backgroundColor = objc::retain(color);
+}
+void setCornerRadius(Object self, double radius) {
+  const LayerChange change(&CALayer::of(self));
+  CALayer::of(self).cornerRadius = radius;
 }
 
 Object sublayers(Object self) {
@@ -84,7 +106,59 @@ void addSublayer(Object self, Object layer) {
   state.insertSublayer(layer, unsigned(state.children.size()));
 }
 
+// A copy that stands where the layer is seen, without the layers below it.
+Object presentationLayer(Object self) {
+  const CALayer& model = CALayer::of(self);
+  const LayerValues seen = model.presentation(Phone::current().clock.uptime());
+  auto made = CALayer::make();
+  CALayer& copy = CALayer::of(made.get());
+  copy.geometry.bounds = seen.bounds;
+  copy.geometry.position = seen.position;
+  copy.geometry.anchorPoint = model.geometry.anchorPoint;
+  copy.geometry.transform = CATransform3D::ofAffine(seen.transform);
+  copy.opacity = seen.opacity;
+  copy.cornerRadius = seen.cornerRadius;
+  copy.hidden = model.hidden;
+  copy.masksToBounds = model.masksToBounds;
+  copy.backgroundColor = model.backgroundColor;
+  copy.contents = model.contents;
+  copy.name = model.name;
+  return autorelease(std::move(made));
+}
+
+std::array<double, 4> componentsOf(Object color) {
+  const CGColor* state = stateOf<CGColor>(color);
+  return state != nullptr ? state->color.values : std::array<double, 4>{};
+}
+
+unsigned long layersMade = 0;
+
 }  // namespace
+
+CALayer::CALayer() : identity(++layersMade) {}
+
+LayerValues CALayer::values() const {
+  return {geometry.bounds,
+          geometry.position,
+          geometry.transform.affine(),
+          opacity,
+          componentsOf(backgroundColor),
+          cornerRadius};
+}
+
+LayerValues CALayer::presentation(Nanoseconds now) const {
+  auto seen = std::bit_cast<LayerNumbers>(values());
+  for (const LayerAnimation& animation : animations) {
+    const double toCome = 1 - animation.timing.progress(now);
+    for (std::size_t i = 0; i < seen.size(); ++i) seen[i] += animation.difference[i] * toCome;
+  }
+  return std::bit_cast<LayerValues>(seen);
+}
+
+void CALayer::removeAllAnimations() {
+  animations.clear();
+  transition = {};
+}
 
 CALayer::~CALayer() {
   for (const auto& child : children) of(child.get()).superlayer = nullptr;
@@ -126,12 +200,16 @@ void CALayer::registerClass() {
       .method<"setOpacity:", &setLayerOpacity>()
       .property<"hidden", &CALayer::hidden>()
       .readonlyProperty<"isHidden", &CALayer::hidden>()
-      .property<"cornerRadius", &CALayer::cornerRadius>()
+      .readonlyProperty<"cornerRadius", &CALayer::cornerRadius>()
+      .method<"setCornerRadius:", &setCornerRadius>()
+      .property<"borderWidth", &CALayer::borderWidth>()
+      .property<"borderColor", &CALayer::borderColor>()
       .property<"masksToBounds", &CALayer::masksToBounds>()
       .property<"geometryFlipped", &CALayer::geometryFlipped>()
       .readonlyProperty<"isGeometryFlipped", &CALayer::geometryFlipped>()
       .property<"mask", &CALayer::mask>()
-      .property<"backgroundColor", &CALayer::backgroundColor>()
+      .readonlyProperty<"backgroundColor", &CALayer::backgroundColor>()
+      .method<"setBackgroundColor:", &setBackgroundColor>()
       .property<"contents", &CALayer::contents>()
       .property<"name", &CALayer::name>()
       .property<"delegate", &CALayer::delegate>()
@@ -140,6 +218,8 @@ void CALayer::registerClass() {
       .method<"addSublayer:", &addSublayer>()
       .method<"insertSublayer:atIndex:", &CALayer::insertSublayer>()
       .method<"removeFromSuperlayer", &CALayer::removeFromSuperlayer>()
+      .partial<"presentationLayer", &presentationLayer>("has no sublayers; colours as they end")
+      .method<"removeAllAnimations", &CALayer::removeAllAnimations>()
       .finish();
 }
 

@@ -1,4 +1,5 @@
 #include "simulator/Frameworks.h"
+#include "simulator/quartzcore/CAGradientLayer.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/CAShapeLayer.h"
 #include "simulator/quartzcore/CGPath.h"
@@ -8,6 +9,7 @@ namespace sim {
 void registerQuartzCore() {
   CGPath::registerClass();
   CALayer::registerClass();
+  CAGradientLayer::registerClass();
   CAShapeLayer::registerClass();
 }
 

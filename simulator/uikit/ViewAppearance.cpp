@@ -15,6 +15,7 @@ CALayer* layerOf(Object self) {
 }
 
 void setAlpha(Object self, double alpha) {
+  const LayerChange change(layerOf(self));
   if (CALayer* layer = layerOf(self)) layer->opacity = alpha < 0 ? 0 : alpha > 1 ? 1 : alpha;
 }
 double alphaOf(Object self) {
@@ -32,6 +33,7 @@ void setHidden(Object self, bool hidden) {
 }
 
 void setBackgroundColor(Object self, Object color) {
+  const LayerChange change(layerOf(self));
   UIView::of(self).backgroundColor = objc::retain(color);
   if (CALayer* layer = layerOf(self))
     layer->backgroundColor = objc::retain(objc::send<Object, "CGColor">(color));

@@ -29,6 +29,7 @@ CommandTable allCommands() {
   addLockScreenCommands(table);
   addControlCenterCommands(table);
   addUIKitCommands(table);
+  addDrawingCommands(table);
   return table;
 }
 

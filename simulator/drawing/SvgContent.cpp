@@ -22,6 +22,13 @@ double anchorX(const scene::Text& text, const CGRect& bounds) {
   return bounds.origin.x + bounds.size.width;
 }
 
+double leftEdge(const scene::Text& text, const TextLine& line, const CGRect& bounds) {
+  const double anchor = anchorX(text, bounds);
+  if (text.alignment == HorizontalAlignment::left) return anchor;
+  return text.alignment == HorizontalAlignment::center ? anchor - line.width / 2
+                                                       : anchor - line.width;
+}
+
 // SVG counts start and end in the direction in which the text is read.
 std::string_view anchorName(const scene::Text& text) {
   if (text.alignment == HorizontalAlignment::center) return "middle";
@@ -75,7 +82,12 @@ std::string svgFonts() {
   return "Inter, " + std::string(otherFonts);
 }
 
-void SvgContent::add(const scene::Attributes& attributes) {
+std::string svgDisplayStyle() {
+  return ".display{font-family:Inter Display, " + svgFonts() + "}";
+}
+
+void SvgContent::add(const scene::Attributes& attributes, bool isStretched) {
+  isStretched_ = isStretched;
   std::visit([&](const auto& content) { add(content, attributes); }, attributes.content);
 }
 
@@ -84,15 +96,15 @@ void SvgContent::add(const scene::Text& text, const scene::Attributes& attribute
   double baseline = bounds.origin.y + text.baseline;
   for (const TextLine& line : text.lines) {
     SvgElement element("text");
-    element.number("x", anchorX(text, bounds)).number("y", baseline);
-    if (text.style.isDisplay())
-      element.text("font-family", "Inter Display, " + std::string(otherFonts));
-    element.number("font-size", text.style.pointSize);
+    if (text.style.isDisplay()) element.text("class", "display");
+    // librsvg misjudges the length of stretched text, so such text begins where we say.
+    element.number("x", isStretched_ ? leftEdge(text, line, bounds) : anchorX(text, bounds));
+    element.number("y", baseline).number("font-size", text.style.pointSize);
     element.number("font-weight", text.style.cssWeight(), 400);
     element.number("letter-spacing", line.isTracked ? text.style.tracking() : 0, 0);
     if (text.style.monospacedDigits) element.text("style", "font-variant-numeric:tabular-nums");
-    if (anchorName(text) != "start") element.text("text-anchor", anchorName(text));
-    if (text.isRightToLeft) element.text("direction", "rtl");
+    if (!isStretched_ && anchorName(text) != "start") element.text("text-anchor", anchorName(text));
+    if (!isStretched_ && text.isRightToLeft) element.text("direction", "rtl");
     element.color("fill", text.color);
     lines_.add(element.open() + svgText(line.text) + "</text>");
     baseline += text.style.lineHeight();

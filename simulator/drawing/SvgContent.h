@@ -10,14 +10,17 @@
 
 namespace sim {
 
-// The families that stand in for the phone's own font, in order of preference.
+// The families that stand in for the phone's own font, in order of preference: for the document,
+// and as a style for the texts of class "display".
 std::string svgFonts();
+std::string svgDisplayStyle();
 
 class SvgContent {
  public:
   SvgContent(SvgLines& lines, const ImageReference& image) : lines_(lines), image_(image) {}
 
-  void add(const scene::Attributes& attributes);
+  // Stretched: a length is not drawn as long across as along.
+  void add(const scene::Attributes& attributes, bool isStretched);
 
  private:
   void add(const scene::Text& text, const scene::Attributes& attributes);
@@ -32,6 +35,7 @@ class SvgContent {
   const ImageReference& image_;
   std::map<scene::Color, std::string> tints_;
   int gradients_ = 0;
+  bool isStretched_ = false;
 };
 
 }  // namespace sim

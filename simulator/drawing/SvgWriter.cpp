@@ -1,6 +1,7 @@
 #include "simulator/drawing/SvgWriter.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "simulator/drawing/SvgContent.h"
 #include "simulator/drawing/SvgElement.h"
@@ -23,6 +24,12 @@ bool isEmpty(const Node& node) {
   return true;
 }
 
+bool stretches(const CGAffineTransform& transform) {
+  constexpr double tolerance = 1e-4;
+  return std::abs(std::hypot(transform.a, transform.b) - std::hypot(transform.c, transform.d)) >
+         tolerance;
+}
+
 class SvgWriter {
  public:
   explicit SvgWriter(const ImageReference& image) : content_(lines_, image) {}
@@ -36,6 +43,7 @@ class SvgWriter {
                             svgNumber(bounds.size.width) + ' ' + svgNumber(bounds.size.height));
     svg.text("font-family", svgFonts());
     lines_.begin(svg.open());
+    lines_.add("<style>" + svgDisplayStyle() + "</style>");
     addInside(node);
     lines_.end("svg");
     return lines_.text();
@@ -50,7 +58,10 @@ class SvgWriter {
     const std::string mask = node.mask ? addMask(*node.mask) : "";
     if (!mask.empty()) group.text("mask", mask);
     lines_.begin(group.open());
+    const bool before =
+        std::exchange(isStretched_, isStretched_ || stretches(node.attributes.toParent));
     addInside(node);
+    isStretched_ = before;
     lines_.end("g");
   }
 
@@ -72,7 +83,7 @@ class SvgWriter {
           svgBox(attributes.bounds, attributes).color("fill", *attributes.background).empty());
     const bool clips = attributes.clips && !(node.children.empty() && !hasContent(attributes));
     if (clips) beginClip(attributes);
-    content_.add(attributes);
+    content_.add(attributes, isStretched_);
     for (const Node& child : node.children) add(child);
     if (clips) lines_.end("g");
     if (attributes.border) addBorder(attributes);
@@ -115,6 +126,7 @@ class SvgWriter {
   SvgContent content_;
   int clips_ = 0;
   int masks_ = 0;
+  bool isStretched_ = false;
 };
 
 }  // namespace

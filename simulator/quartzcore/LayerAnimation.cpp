@@ -48,6 +48,13 @@ Nanoseconds AnimationTiming::end() const {
   return begin + nanoseconds(duration) * (autoreverses ? 2 : 1);
 }
 
+void animateFrom(CALayer& layer, const LayerValues& start, const AnimationTiming& timing) {
+  const auto first = std::bit_cast<LayerNumbers>(start);
+  const auto last = std::bit_cast<LayerNumbers>(layer.values());
+  LayerAnimation& animation = animationOf(layer, timing);
+  for (std::size_t i = 0; i < last.size(); ++i) animation.difference[i] += first[i] - last[i];
+}
+
 LayerChange::LayerChange(CALayer* layer) : layer_(current ? layer : nullptr) {
   if (layer_ == nullptr) return;
   const Nanoseconds now = Phone::current().clock.uptime();

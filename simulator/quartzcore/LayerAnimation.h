@@ -36,6 +36,9 @@ struct LayerAnimation {
 const std::optional<AnimationTiming>& currentAnimation();
 void setCurrentAnimation(std::optional<AnimationTiming> timing);
 
+// The layer is seen going from those values to the ones that it has.
+void animateFrom(CALayer& layer, const LayerValues& start, const AnimationTiming& timing);
+
 // Lives while a layer's values change, and animates the change.
 class LayerChange {
  public:

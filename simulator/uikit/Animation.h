@@ -14,7 +14,7 @@ namespace animation {
 constexpr unsigned long beginFromCurrentState = 1 << 2, repeat = 1 << 3, autoreverse = 1 << 4,
                         overrideInheritedDuration = 1 << 5, overrideInheritedCurve = 1 << 6,
                         allowAnimatedContent = 1 << 7, showHideTransitionViews = 1 << 8,
-                        curveMask = 3 << 16, transitionMask = 7 << 20;
+                        curveMask = 3 << 16, curveEaseOut = 2 << 16, transitionMask = 7 << 20;
 }  // namespace animation
 
 struct AnimationParameters {

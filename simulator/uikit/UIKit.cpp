@@ -1,4 +1,5 @@
 #include "simulator/Frameworks.h"
+#include "simulator/uikit/AlertView.h"
 #include "simulator/uikit/NSLayoutConstraint.h"
 #include "simulator/uikit/NSURL.h"
 #include "simulator/uikit/UIAlertAction.h"
@@ -19,6 +20,7 @@
 #include "simulator/uikit/UIMotionEvent.h"
 #include "simulator/uikit/UINotificationFeedbackGenerator.h"
 #include "simulator/uikit/UIPasteboard.h"
+#include "simulator/uikit/UIPickerColumnView.h"
 #include "simulator/uikit/UIPickerView.h"
 #include "simulator/uikit/UIResponder.h"
 #include "simulator/uikit/UIScreen.h"
@@ -58,11 +60,13 @@ void registerUIKit() {
   UIButton::registerClass();
   UISlider::registerClass();
   UIStackView::registerClass();
+  UIPickerColumnView::registerClass();
   UIPickerView::registerClass();
   UIDatePicker::registerClass();
   NSLayoutConstraint::registerClass();
   UIViewController::registerClass();
   UIAlertAction::registerClass();
+  AlertView::registerClass();
   UIAlertController::registerClass();
   registerNibLoading();
 }

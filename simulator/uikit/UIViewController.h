@@ -39,6 +39,8 @@ struct UIViewController : objc::Implementation<UIViewController> {
   // Refused, with the platform's words in the log, when the controller's view is in no window or
   // it presents another already.
   void present(objc::Object controller, bool animated, objc::Block<void()> completion);
+  // How its view is seen coming when it is presented: from below. It is in its place already.
+  void animateIn();
   // What it presents; when it presents nothing, itself.
   void dismiss(bool animated, objc::Block<void()> completion);
 

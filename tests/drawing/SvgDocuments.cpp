@@ -10,10 +10,10 @@ namespace {
 
 using SvgDocuments = DrawingTest;
 
-// The lines of a document without the outermost element.
+// The lines of a document without the outermost element and its style.
 std::string inside(const scene::Node& node) {
   const std::string document = svgDocument(node, namedImage);
-  const auto start = document.find('\n') + 1;
+  const auto start = document.find('\n', document.find('\n') + 1) + 1;
   return document.substr(start, document.rfind("</svg>") - start);
 }
 
@@ -43,7 +43,7 @@ TEST_F(SvgDocuments, AreAsLargeAsTheScene) {
       document.starts_with("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"390\" height=\"844\" "
                            "viewBox=\"0 0 390 844\" font-family=\"Inter, "))
       << document;
-  EXPECT_TRUE(document.ends_with(">\n</svg>\n")) << document;
+  EXPECT_TRUE(document.ends_with("</style>\n</svg>\n")) << document;
 }
 
 TEST_F(SvgDocuments, NodesAreGroups) {
@@ -95,6 +95,28 @@ TEST_F(SvgDocuments, TextStandsOnItsBaselines) {
             "text-anchor=\"middle\" fill=\"#000000\">Tom &amp; Ann</text>\n"
             "  <text x=\"50\" y=\"41.19\" font-size=\"17\" letter-spacing=\"-0.22\" "
             "text-anchor=\"middle\" fill=\"#000000\">sing</text>\n");
+}
+
+TEST_F(SvgDocuments, StretchedTextBeginsWhereWeSay) {
+  const auto view = make("UIView"), label = make("UILabel", rect(0, 0, 100, 20));
+  add(view, label);
+  send<void, "setText:">(label.get(), string("23"));
+  send<void, "setTextAlignment:">(label.get(), 2L);
+  send<void, "setTransform:">(label.get(), CGAffineTransform{1, 0, 0, 0.5, 0, 0});
+  EXPECT_EQ(inside(drawn(view)),
+            "  <g class=\"UILabel\" transform=\"matrix(1 0 0 0.5 0 5)\">\n"
+            "    <text x=\"79.33\" y=\"16.04\" font-size=\"17\" letter-spacing=\"-0.22\" "
+            "fill=\"#000000\">23</text>\n"
+            "  </g>\n");
+}
+
+TEST_F(SvgDocuments, LargeTextHasAFaceOfItsOwn) {
+  const auto label = make("UILabel", rect(0, 0, 100, 40));
+  send<void, "setText:">(label.get(), string("8"));
+  send<void, "setFont:">(label.get(), send<Object, "systemFontOfSize:">(cls("UIFont"), 20.0));
+  EXPECT_EQ(inside(drawn(label)),
+            "  <text class=\"display\" x=\"0\" y=\"27.11\" font-size=\"20\" "
+            "fill=\"#000000\">8</text>\n");
 }
 
 TEST_F(SvgDocuments, TextFromTheRightSaysSo) {

@@ -19,6 +19,9 @@ AIMS = {
     "retainAndRelease": ("virtualCall", None),
     "loadExtension": (None, 1e6),
     "eightHoursRefreshedEverySecond": (None, 100e6),
+    "buildScene": (None, 2e6),
+    "buildAndCompareScene": (None, 2e6),
+    "writeSvg": (None, None),
 }
 
 

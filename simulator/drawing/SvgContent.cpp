@@ -36,26 +36,6 @@ std::string_view anchorName(const scene::Text& text) {
   return atStart ? "start" : "end";
 }
 
-std::string pathData(const std::vector<PathElement>& path) {
-  using Kind = PathElement::Kind;
-  std::string data;
-  for (const PathElement& element : path) {
-    if (!data.empty()) data += ' ';
-    const char letter = element.kind == Kind::move    ? 'M'
-                        : element.kind == Kind::line  ? 'L'
-                        : element.kind == Kind::cubic ? 'C'
-                                                      : 'Z';
-    data += letter;
-    const std::size_t points = element.kind == Kind::cubic   ? 3
-                               : element.kind == Kind::close ? 0
-                                                             : 1;
-    for (std::size_t i = 0; i < points; ++i)
-      data += (i > 0 ? " " : "") + svgNumber(element.points[i].x) + ' ' +
-              svgNumber(element.points[i].y);
-  }
-  return data;
-}
-
 std::string numberList(const std::vector<double>& numbers) {
   std::string list;
   for (const double number : numbers) list += (list.empty() ? "" : " ") + svgNumber(number);
@@ -133,7 +113,7 @@ void SvgContent::add(const scene::Image& image, const scene::Attributes&) {
 
 void SvgContent::add(const scene::Shape& shape, const scene::Attributes&) {
   SvgElement element("path");
-  element.text("d", pathData(shape.path));
+  element.text("d", svgPath(shape.path));
   if (shape.fill)
     element.color("fill", *shape.fill);
   else

@@ -76,6 +76,26 @@ SvgElement& SvgElement::transform(const CGAffineTransform& transform) {
   return moved == "0 0" ? *this : text("transform", "translate(" + moved + ')');
 }
 
+std::string svgPath(const std::vector<PathElement>& path) {
+  using Kind = PathElement::Kind;
+  std::string data;
+  for (const PathElement& element : path) {
+    if (!data.empty()) data += ' ';
+    const char letter = element.kind == Kind::move    ? 'M'
+                        : element.kind == Kind::line  ? 'L'
+                        : element.kind == Kind::cubic ? 'C'
+                                                      : 'Z';
+    data += letter;
+    const std::size_t points = element.kind == Kind::cubic   ? 3
+                               : element.kind == Kind::close ? 0
+                                                             : 1;
+    for (std::size_t i = 0; i < points; ++i)
+      data += (i > 0 ? " " : "") + svgNumber(element.points[i].x) + ' ' +
+              svgNumber(element.points[i].y);
+  }
+  return data;
+}
+
 double cornerRadius(const scene::Attributes& attributes) {
   const CGSize size = attributes.bounds.size;
   return std::min(attributes.cornerRadius, std::min(size.width, size.height) / 2);

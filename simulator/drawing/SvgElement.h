@@ -34,6 +34,8 @@ class SvgElement {
   std::string tag_;
 };
 
+std::string svgPath(const std::vector<PathElement>& path);  // "M1 2 L3 4.5 Z"
+
 // A rectangle with the corners that a layer of these attributes has.
 SvgElement svgBox(const CGRect& rect, const scene::Attributes& attributes);
 double cornerRadius(const scene::Attributes& attributes);  // at most half of the shorter side

@@ -8,7 +8,7 @@ namespace sim {
 namespace {
 
 // UISemanticContentAttribute.
-constexpr long forceLeftToRight = 3, forceRightToLeft = 4;
+constexpr long forceRightToLeft = 4;
 
 }  // namespace
 
@@ -17,11 +17,14 @@ bool interfaceIsRightToLeft() {
   return language == "ar" || language == "he" || language == "fa" || language == "ur";
 }
 
-bool viewIsRightToLeft(objc::Object view) {
-  const long attribute = UIView::of(view).semanticContentAttribute;
-  if (attribute == forceRightToLeft) return true;
+bool isRightToLeftFor(long semanticContentAttribute) {
+  if (semanticContentAttribute == forceRightToLeft) return true;
   // Playback and spatial controls (1, 2) never turn round.
-  return attribute == 0 && interfaceIsRightToLeft();
+  return semanticContentAttribute == 0 && interfaceIsRightToLeft();
+}
+
+bool viewIsRightToLeft(objc::Object view) {
+  return isRightToLeftFor(UIView::of(view).semanticContentAttribute);
 }
 
 }  // namespace sim

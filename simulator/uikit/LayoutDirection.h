@@ -7,7 +7,9 @@ namespace sim {
 
 // The interface's, by the phone's language.
 bool interfaceIsRightToLeft();
-// The view's own: its semantic content attribute may force either.
+// Of views with that semantic content attribute, which may force either.
+bool isRightToLeftFor(long semanticContentAttribute);
+// The view's own.
 bool viewIsRightToLeft(objc::Object view);
 
 }  // namespace sim

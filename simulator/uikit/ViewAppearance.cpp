@@ -3,7 +3,9 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/UIColor.h"
+#include "simulator/uikit/UIStackView.h"
 #include "simulator/uikit/ViewMethods.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
@@ -29,7 +31,7 @@ void setHidden(Object self, bool hidden) {
   if (layer == nullptr || layer->hidden == hidden) return;
   layer->hidden = hidden;
   // A stack closes the gap.
-  if (UIView::of(self).parent) objc::send<void, "_subviewDidChangeSize">(UIView::of(self).parent);
+  if (isA<UIStackView>(UIView::of(self).parent)) constraintsChanged(self);
 }
 
 void setBackgroundColor(Object self, Object color) {

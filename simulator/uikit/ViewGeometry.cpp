@@ -4,6 +4,7 @@
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/ViewMethods.h"
 #include "simulator/uikit/ViewTree.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
@@ -28,6 +29,7 @@ void setFrame(Object self, CGRect frame) {
   const CGSize before = geometry(self).bounds.size;
   change(self, [frame](LayerGeometry& its) { its.setFrame(frame); });
   sizeChanged(self, before);
+  geometryChanged(self);
 }
 CGRect bounds(Object self) {
   return geometry(self).bounds;
@@ -36,12 +38,14 @@ void setBounds(Object self, CGRect bounds) {
   const CGSize before = geometry(self).bounds.size;
   change(self, [bounds](LayerGeometry& its) { its.bounds = bounds; });
   sizeChanged(self, before);
+  geometryChanged(self);
 }
 CGPoint center(Object self) {
   return geometry(self).position;
 }
 void setCenter(Object self, CGPoint center) {
   change(self, [center](LayerGeometry& its) { its.position = center; });
+  geometryChanged(self);
 }
 CGAffineTransform transform(Object self) {
   return geometry(self).transform.affine();

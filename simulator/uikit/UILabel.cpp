@@ -57,6 +57,12 @@ void UILabel::setFont(Object used) {
   sizeMayHaveChanged(self());
 }
 
+void UILabel::setNumberOfLines(long lines) {
+  if (numberOfLines == lines) return;
+  numberOfLines = lines;
+  sizeMayHaveChanged(self());
+}
+
 FontStyle UILabel::fontStyle() const {
   const UIFont* its = stateOf<UIFont>(font.get());
   return its != nullptr ? its->style : FontStyle();
@@ -88,7 +94,8 @@ void UILabel::registerClass() {
       .readonlyProperty<"font", &UILabel::font>()
       .method<"setFont:", &UILabel::setFont>()
       .property<"textAlignment", &UILabel::textAlignment>()
-      .property<"numberOfLines", &UILabel::numberOfLines>()
+      .readonlyProperty<"numberOfLines", &UILabel::numberOfLines>()
+      .method<"setNumberOfLines:", &UILabel::setNumberOfLines>()
       .property<"adjustsFontSizeToFitWidth", &UILabel::adjustsFontSizeToFitWidth>()
       .property<"minimumScaleFactor", &UILabel::minimumScaleFactor>()
       .partial<"sizeThatFits:", &UILabel::sizeThatFits>(widths)

@@ -21,6 +21,7 @@ struct UILabel : objc::Implementation<UILabel> {
   void setTextColor(objc::Object color);  // nil: black
   void setFont(objc::Object used);        // nil: the system's of 17 points
   FontStyle fontStyle() const;
+  void setNumberOfLines(long lines);
   CGSize sizeThatFits(CGSize size) const;
   CGSize intrinsicContentSize() const;
 

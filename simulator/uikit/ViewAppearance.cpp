@@ -68,6 +68,13 @@ void setTintColor(Object self, Object color) {
 }
 void tintColorDidChange(Object) {}
 
+// What is inside may run the other way now.
+void setSemanticContentAttribute(Object self, long attribute) {
+  if (UIView::of(self).semanticContentAttribute == attribute) return;
+  UIView::of(self).semanticContentAttribute = attribute;
+  constraintsChanged(self);
+}
+
 }  // namespace
 
 bool UIView::isHidden() const {
@@ -94,7 +101,8 @@ void addViewAppearance(StandIn<UIView>& view) {
       .method<"setTintColor:", &setTintColor>()
       .method<"tintColorDidChange", &tintColorDidChange>()
       .property<"contentMode", &UIView::contentMode>()
-      .property<"semanticContentAttribute", &UIView::semanticContentAttribute>()
+      .readonlyProperty<"semanticContentAttribute", &UIView::semanticContentAttribute>()
+      .method<"setSemanticContentAttribute:", &setSemanticContentAttribute>()
       .property<"accessibilityLabel", &UIView::accessibilityLabel>()
       .property<"accessibilityIdentifier", &UIView::accessibilityIdentifier>();
 }

@@ -67,13 +67,13 @@ class Stack {
     add(a - b, Relation::equal, Problem::required, name);
   }
 
-  // They take no room: nothing of them along the stack, at its beginning.
+  // They take no room along the stack and make it no wider across.
   void addHidden() {
     for (const auto& view : stack_.arranged) {
       if (!UIView::of(view.get()).isHidden()) continue;
       add(length(view, along_), Relation::equal, Problem::required, "UISV-hiding");
-      addEqual(start(view, along_), start(view_, along_), "UISV-hiding");
-      alignAcross(view);
+      for (const Axis axis : {along_, across_})
+        addEqual(start(view, axis), start(view_, axis), "UISV-hiding");
     }
   }
 

@@ -5,6 +5,7 @@
 #include "simulator/foundation/NSData.h"
 #include "simulator/foundation/NSDate.h"
 #include "simulator/foundation/NSDictionary.h"
+#include "simulator/foundation/NSError.h"
 #include "simulator/foundation/NSFileManager.h"
 #include "simulator/foundation/NSLocale.h"
 #include "simulator/foundation/NSLog.h"
@@ -44,6 +45,7 @@ void registerFoundation() {
   NSSet::registerClass();
   NSMutableSet::registerClass();
   NSThread::registerClass();
+  NSError::registerClass();
   NSLocale::registerClass();
   NSNumberFormatter::registerClass();
   NSFileManager::registerClass();

@@ -5,8 +5,11 @@
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/quartzcore/LayerKeyPath.h"
+#include "simulator/quartzcore/states/CAState.h"
 #include "simulator/uikit/UIColor.h"
 
 namespace sim {
@@ -133,6 +136,36 @@ std::array<double, 4> componentsOf(Object color) {
 
 unsigned long layersMade = 0;
 
+// The whole of what was there goes first.
+void setSublayers(Object self, Object layers) {
+  const auto before = CALayer::of(self).children;
+  for (const auto& child : before) CALayer::of(child.get()).removeFromSuperlayer();
+  const NSArray* list = stateOf<NSArray>(layers);
+  if (list == nullptr) return;
+  const auto kept = list->elements;
+  for (const auto& each : kept) addSublayer(self, each.get());
+}
+
+Object valueForUndefinedKey(Object self, Object key) {
+  const auto& values = CALayer::of(self).otherValues;
+  const auto found = values.find(text(key));
+  return found != values.end() ? found->second.get() : Object();
+}
+void setValueForUndefinedKey(Object self, Object value, Object key) {
+  CALayer::of(self).otherValues[text(key)] = objc::retain(value);
+}
+Object valueForKeyPath(Object self, Object path) {
+  if (const auto member = layerMember(self, text(path))) return number(*member);
+  return objc::sendSuper<Object, "valueForKeyPath:">(self.get(), CALayer::cls(), path);
+}
+void setValueForKeyPath(Object self, Object value, Object path) {
+  if (isLayerKeyPath(text(path))) {
+    setLayerMember(self, text(path), objc::send<double, "doubleValue">(value));
+    return;
+  }
+  objc::sendSuper<void, "setValue:forKeyPath:">(self.get(), CALayer::cls(), value, path);
+}
+
 }  // namespace
 
 CALayer::CALayer() : identity(++layersMade) {}
@@ -181,6 +214,14 @@ void CALayer::removeFromSuperlayer() {
   siblings.erase(found);
 }
 
+Object CALayer::stateWithName(Object wanted) const {
+  const NSArray* list = stateOf<NSArray>(states);
+  if (list == nullptr) return nullptr;
+  for (const auto& state : list->elements)
+    if (text(CAState::of(state.get()).name) == text(wanted)) return state;
+  return nullptr;
+}
+
 void CALayer::registerClass() {
   StandIn<CALayer>("QuartzCore", "CALayer", "NSObject")
       .factory<"layer", &layer>()
@@ -220,6 +261,14 @@ void CALayer::registerClass() {
       .method<"removeFromSuperlayer", &CALayer::removeFromSuperlayer>()
       .partial<"presentationLayer", &presentationLayer>("has no sublayers; colours as they end")
       .method<"removeAllAnimations", &CALayer::removeAllAnimations>()
+      .method<"setSublayers:", &setSublayers>()
+      .property<"states", &CALayer::states>()
+      .property<"stateTransitions", &CALayer::stateTransitions>()
+      .method<"stateWithName:", &CALayer::stateWithName>()
+      .method<"valueForUndefinedKey:", &valueForUndefinedKey>()
+      .method<"setValue:forUndefinedKey:", &setValueForUndefinedKey>()
+      .method<"valueForKeyPath:", &valueForKeyPath>()
+      .partial<"setValue:forKeyPath:", &setValueForKeyPath>("of structures, what is in the plane")
       .finish();
 }
 

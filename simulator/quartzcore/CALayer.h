@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+#include <string>
 #include <vector>
 
 #include "objc/Class.h"
@@ -18,6 +20,10 @@ struct CALayer : objc::Implementation<CALayer> {
   objc::Strong<objc::Object> contents;
   objc::Strong<objc::Object> name;  // NSString
   objc::Strong<objc::Object> mask;  // CALayer in this layer's coordinates; its alpha cuts this one
+  objc::Strong<objc::Object> states;            // NSArray of CAState; nil: none
+  objc::Strong<objc::Object> stateTransitions;  // NSArray of CAStateTransition; nil: none
+  // What key-value coding has stored for keys without accessors: a layer keeps any.
+  std::map<std::string, objc::Strong<objc::Object>> otherValues;
   double opacity = 1;
   double cornerRadius = 0;                 // points
   double borderWidth = 0;                  // points, inside the bounds
@@ -44,6 +50,7 @@ struct CALayer : objc::Implementation<CALayer> {
   // Moves the layer from the superlayer that it has; an index past the end means on top.
   void insertSublayer(objc::Object layer, unsigned index);
   void removeFromSuperlayer();
+  objc::Object stateWithName(objc::Object name) const;  // nil when there is none
 
   static void registerClass();
 };

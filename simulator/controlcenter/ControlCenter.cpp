@@ -5,6 +5,8 @@
 
 #include "objc/Message.h"
 #include "simulator/Frameworks.h"
+#include "simulator/controlcenter/CCUICAPackageDescription.h"
+#include "simulator/controlcenter/CCUICAPackageView.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
 #include "simulator/foundation/Values.h"
@@ -21,6 +23,8 @@ Object shown;  // UIWindow; owned, nil while Control Center is closed
 }  // namespace
 
 void registerControlCenter() {
+  CCUICAPackageDescription::registerClass();
+  CCUICAPackageView::registerClass();
   CCUIContentModuleContainerViewController::registerClass();
   CCUIModularControlCenterOverlayViewController::registerClass();
 }

@@ -2,6 +2,7 @@
 #include "simulator/Frameworks.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/NSBundle.h"
+#include "simulator/foundation/NSCharacterSet.h"
 #include "simulator/foundation/NSData.h"
 #include "simulator/foundation/NSDate.h"
 #include "simulator/foundation/NSDictionary.h"
@@ -36,6 +37,7 @@ void registerFoundation() {
   NSValue::registerClass();
   NSNumber::registerClass();
   NSDate::registerClass();
+  NSCharacterSet::registerClass();
   NSData::registerClass();
   NSNull::registerClass();
   NSArray::registerClass();

@@ -100,8 +100,8 @@ void addSetupCommands(CommandTable& table) {
              "Journals every class, method, property and hook that the extension adds as it loads.",
              journalClassChanges});
   table.add({"trace", Stage::setup, "trace CLASS SELECTOR", "trace NSUserDefaults synchronize",
-             "Journals each call of a method of the system, with its arguments; `+` before the "
-             "selector means a class method.",
+             "Journals each call of a method of the system, with the receiver's class and the "
+             "arguments; `+` before the selector means a class method.",
              trace});
   table.add({"file", Stage::any, "file PATH TEXT", R"(file "/var/mobile/note.txt" "two\nlines\n")",
              "Writes a file of the phone, with the folders on its way.", file});

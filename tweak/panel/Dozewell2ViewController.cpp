@@ -49,10 +49,11 @@ void Dozewell2ViewController::viewDidLoad() {
 void Dozewell2ViewController::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
   const auto& settings = Dozewell2StorageManager::sharedInstance();
-  chooseTime().setPickerMinutesSteps(settings.timerMinutesSteps);
-  chooseTime().setDefaultTimerPickerValue(settings.timerDefaultValue);
-  chooseTime().setDefaultNbSongsPickerValue(settings.nbSongsDefaultValue);
-  chooseTime().setModeType(int(settings.enabledModes));
+  const UIView page = chooseSnoozeTimeView;
+  objc::send<void, "setPickerMinutesSteps:">(page, settings.timerMinutesSteps);
+  objc::send<void, "setDefaultTimerPickerValue:">(page, settings.timerDefaultValue);
+  objc::send<void, "setDefaultNbSongsPickerValue:">(page, settings.nbSongsDefaultValue);
+  objc::send<void, "setModeType:">(page, int(settings.enabledModes));
 }
 
 void Dozewell2ViewController::viewDidLayoutSubviews() {
@@ -86,10 +87,11 @@ void Dozewell2ViewController::initChooseSnoozeTimeView() {
   const auto size = view().frame().size;
   chooseSnoozeTimeView = objc::adopt(objc::send<UIView, "initWithFrame:">(
       objc_alloc(ChooseSnoozeTimeView::cls()), rect(0, 0, size.width, size.height)));
-  wireWithHaptics(chooseTime().leftButton, objc::selector<"backButtonClicked">());
+  const auto& page = ChooseSnoozeTimeView::of(chooseSnoozeTimeView);
+  wireWithHaptics(page.leftButton, objc::selector<"backButtonClicked">());
   // The button itself answers with a tap.
-  wire(chooseTime().topLeftCornerButton, objc::selector<"showOnTimerEndsSettingsView">());
-  wireWithHaptics(chooseTime().rightButton, objc::selector<"validateButtonClicked">());
+  wire(page.topLeftCornerButton, objc::selector<"showOnTimerEndsSettingsView">());
+  wireWithHaptics(page.rightButton, objc::selector<"validateButtonClicked">());
   addPage(chooseSnoozeTimeView);
 }
 
@@ -115,8 +117,8 @@ void Dozewell2ViewController::initOnTimerEndsSettingsView() {
 
 // What the page shows decides, never the engine.
 long Dozewell2ViewController::selectedMode() {
-  return chooseTime().nbSongsPickerView->isHidden() ? Dozewell2Manager::durationMode
-                                                    : Dozewell2Manager::songCountMode;
+  const auto songs = objc::send<UIPickerView, "nbSongsPickerView">(chooseSnoozeTimeView);
+  return songs.isHidden() ? Dozewell2Manager::durationMode : Dozewell2Manager::songCountMode;
 }
 
 void Dozewell2ViewController::performHapticFeedback() {
@@ -135,6 +137,10 @@ Class Dozewell2ViewController::registerClass() {
       .property<"transitionViews", &Panel::transitionViews>()
       .readonlyProperty<"chooseSnoozeTimeViewShowed", &Panel::chooseSnoozeTimeViewShowed>()
       .readonlyProperty<"currentTimerViewShowed", &Panel::currentTimerViewShowed>()
+      .readonlyProperty<"containerFrame", &Panel::containerFrame>()
+      .readonlyProperty<"containerView", &Panel::containerView>()
+      .readonlyProperty<"transitionViewsOriginalFramesArray",
+                        &Panel::transitionViewsOriginalFramesArray>()
       .readonlyProperty<"hasBeenShownUsingSlideAnimation",
                         &Panel::hasBeenShownUsingSlideAnimation>()
       .classMethod<"preloadViewController", &Panel::preloadViewController>()

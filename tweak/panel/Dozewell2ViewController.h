@@ -54,9 +54,8 @@ struct Dozewell2ViewController : objc::Implementation<Dozewell2ViewController> {
 
  private:
   UIView view() const { return UIViewController(self()).view(); }
-  ChooseSnoozeTimeView& chooseTime() { return ChooseSnoozeTimeView::of(chooseSnoozeTimeView); }
-  // The pages that come from layouts are reached by messages alone: without the resource bundle
-  // they are nil.
+  // The pages are reached by messages alone, which nil takes: none exists before the view is
+  // loaded, and those that come from layouts never do without the resource bundle.
   void setUpCurrentTimerView();
   void hideBottomButtons(bool hide);
   void addPage(UIView page);

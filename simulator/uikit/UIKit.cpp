@@ -1,5 +1,6 @@
 #include "simulator/Frameworks.h"
 #include "simulator/uikit/AlertView.h"
+#include "simulator/uikit/GeometryValues.h"
 #include "simulator/uikit/NSLayoutConstraint.h"
 #include "simulator/uikit/NSURL.h"
 #include "simulator/uikit/UIAlertAction.h"
@@ -69,6 +70,7 @@ void registerUIKit() {
   AlertView::registerClass();
   UIAlertController::registerClass();
   registerNibLoading();
+  addGeometryValues();
 }
 
 }  // namespace sim

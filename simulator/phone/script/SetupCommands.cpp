@@ -94,7 +94,8 @@ void addSetupCommands(CommandTable& table) {
              "every kind of feedback.",
              haptics});
   table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]", "missing SBMediaController pause",
-             "Leaves a class of the system, or one of its methods, out of the phone.", missing});
+             "Leaves a class of the system, or one of its methods or properties, out of the phone.",
+             missing});
   table.add({"journal-class-changes", Stage::setup, "journal-class-changes",
              "journal-class-changes",
              "Journals every class, method, property and hook that the extension adds as it loads.",

@@ -22,7 +22,13 @@ struct Trace {
   ffi_cif call{};
 };
 
-// "-[Class part:argument part:argument]", with the receiver's own class.
+// "-[Class selector]"; a class method is named with a plus.
+std::string methodName(const std::string& cls, const std::string& selector) {
+  const bool ofClass = selector.starts_with('+');
+  return (ofClass ? "+[" : "-[") + cls + ' ' + selector.substr(ofClass ? 1 : 0) + ']';
+}
+
+// "call -[Class part:argument part:argument]", with the receiver's own class.
 std::string callText(const Trace& trace, void** arguments) {
   const id receiver = *static_cast<id*>(arguments[0]);
   std::string text = object_isClass(receiver) ? "call +[" : "call -[";
@@ -71,7 +77,7 @@ void traceMethod(const std::string& cls, const std::string& selector) {
   const Class target = ofClass ? objc_getMetaClass(cls.c_str()) : objc_getClass(cls.c_str());
   const Method method = class_getInstanceMethod(target, name);
   if (method == nullptr)
-    throw HostError("there is no method " + selector + " of " + cls + " to trace");
+    throw HostError("there is no method " + methodName(cls, selector) + " to trace");
   Trace& trace = traces.emplace_back();
   trace.selector = name;
   trace.signature = parseMethodTypes(method_getTypeEncoding(method));

@@ -17,6 +17,7 @@ namespace {
 using objc::Object;
 
 constexpr double windowLevel = 1090;  // above the lock screen, below alerts
+constexpr double backdropBlur = 20;   // points
 
 Object shown;  // UIWindow; owned, nil while Control Center is closed
 
@@ -35,6 +36,7 @@ void openControlCenter() {
   const auto overlay = objc::adopt(Object(objc_alloc_init(overlayClass)));
   shown = objc::send<Object, "new">(objc_getClass("UIWindow"));
   objc::send<void, "setWindowLevel:">(shown, windowLevel);
+  objc::send<void, "_setBackdropBlur:">(objc::send<Object, "layer">(shown), backdropBlur);
   objc::send<void, "setRootViewController:">(shown, overlay.get());
   objc::send<void, "setHidden:">(shown, false);
 }

@@ -7,6 +7,8 @@
 namespace sim {
 
 struct CSCoverSheetViewController : objc::Implementation<CSCoverSheetViewController> {
+  objc::Strong<objc::Object> wallpaper;                    // SBFWallpaperView
+  objc::Strong<objc::Object> padlock;                      // UIView
   objc::Strong<objc::Object> timeLabel;                    // UILabel
   objc::Strong<objc::Object> dateView;                     // SBFLockScreenDateSubtitleDateView
   objc::Strong<objc::Object> mediaControlsViewController;  // nil while nothing plays

@@ -9,6 +9,7 @@
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/springboard/StatusBar.h"
 
 namespace sim {
 namespace {
@@ -36,6 +37,7 @@ void LockScreen::lock() {
 
 void LockScreen::unlock() {
   locked_ = false;
+  setStatusBarShowsTime(true);
   const auto window = objc::adopt(std::exchange(window_, nullptr));
   objc::send<void, "setRootViewController:">(window.get(), nullptr);
   objc::send<void, "setHidden:">(window.get(), true);
@@ -50,6 +52,7 @@ void LockScreen::showCoverSheet() {
   objc::send<void, "setWindowLevel:">(window_, windowLevel);
   objc::send<void, "setRootViewController:">(window_, sheet.get());
   objc::send<void, "setHidden:">(window_, false);
+  setStatusBarShowsTime(false);
 }
 
 objc::Object LockScreen::coverSheet() const {

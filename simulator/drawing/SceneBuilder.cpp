@@ -3,6 +3,7 @@
 #include "simulator/drawing/NodeContent.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/uikit/Looking.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIWindow.h"
@@ -57,6 +58,7 @@ scene::Attributes attributesOf(const CALayer& layer, const LayerValues& seen, Ob
   made.toParent = toSuperlayer(seen, layer.geometry.anchorPoint);
   made.opacity = seen.opacity;
   made.cornerRadius = seen.cornerRadius;
+  made.backdropBlur = seen.backdropBlur;
   made.clips = layer.masksToBounds;
   made.background = visible(seen.backgroundColor);
   if (const auto color = sceneColor(layer.borderColor); color && layer.borderWidth > 0)
@@ -112,6 +114,7 @@ Node sceneOf(const CALayer& layer, Nanoseconds now) {
 
 Node screenScene() {
   const objc::AutoreleasePool pool;
+  prepareForLooking();
   const Nanoseconds now = Phone::current().clock.uptime();
   Node screen;
   screen.attributes.kind = "screen";

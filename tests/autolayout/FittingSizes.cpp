@@ -54,6 +54,10 @@ TEST_F(FittingSizes, OfAStack) {
   for (const auto& each : {a, b}) send<void, "addArrangedSubview:">(stack.get(), each.get());
   EXPECT_EQ((send<CGSize, "systemLayoutSizeFittingSize:">(stack.get(), CGSize())),
             (CGSize{75, 20}));
+  // Unless its views are stretched, it is no wider than they are, whatever the target.
+  send<void, "setAlignment:">(stack.get(), 3L);
+  EXPECT_EQ((send<CGSize, "systemLayoutSizeFittingSize:">(stack.get(), CGSize{0, 100})),
+            (CGSize{75, 20}));
 }
 
 }  // namespace

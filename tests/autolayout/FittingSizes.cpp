@@ -47,6 +47,11 @@ TEST_F(FittingSizes, FollowTheTargetAsFarAsItsPriorityReaches) {
               (send<CGSize, "sizeThatFits:">(text.get(), CGSize{100, 1000})).height + 20, 1e-9);
 }
 
+TEST_F(FittingSizes, OfTextByItself) {
+  EXPECT_EQ((send<CGSize, "systemLayoutSizeFittingSize:">(text.get(), CGSize())),
+            (send<CGSize, "intrinsicContentSize">(text.get())));
+}
+
 TEST_F(FittingSizes, OfAStack) {
   const auto stack = make("UIStackView");
   send<void, "setSpacing:">(stack.get(), 5.0);

@@ -133,6 +133,12 @@ TEST_F(Solver, WhatNothingDeterminesIsZero) {
   EXPECT_DOUBLE_EQ(value(alone), 0);
 }
 
+TEST_F(Solver, LengthsAreNoLongerThanTheyMustBe) {
+  const Variable width = problem.length();
+  for (const double wish : {300.0, 100.0}) problem.add(v(width) - wish, equal, 500);
+  EXPECT_DOUBLE_EQ(value(width), 100);  // anything from there to 300 misses 200 in sum
+}
+
 TEST_F(Solver, ChoicesDoNotDependOnWhatElseThereIs) {
   const Variable a = problem.length(), b = problem.length();
   problem.add(v(a) + v(b) - 100, equal, 1000);

@@ -79,26 +79,23 @@ class Stack {
 
   void alignAcross(Object view) {
     constexpr const char* name = "UISV-alignment";
-    switch (stack_.alignment) {
-      case UIStackView::alignFill:
-        addEqual(start(view, across_), start(view_, across_), name);
-        addEqual(end(view, across_), end(view_, across_), name);
-        return;
-      case UIStackView::alignLeading:
-        addEqual(start(view, across_), start(view_, across_), name);
-        break;
-      case UIStackView::alignTrailing:
-        addEqual(end(view, across_), end(view_, across_), name);
-        break;
-      case UIStackView::alignCenter:
-        addEqual(centre(view, across_), centre(view_, across_), name);
-        break;
-      default:
-        alignBaselines(view);
-    }
-    constexpr const char* around = "UISV-spanning-boundary";
-    add(start(view, across_) - start(view_, across_), Relation::atLeast, boundary, around);
-    add(end(view, across_) - end(view_, across_), Relation::atMost, boundary, around);
+    const long alignment = stack_.alignment;
+    const bool fills = alignment == UIStackView::alignFill;
+    if (fills || alignment == UIStackView::alignLeading)
+      addEqual(start(view, across_), start(view_, across_), name);
+    if (fills || alignment == UIStackView::alignTrailing)
+      addEqual(end(view, across_), end(view_, across_), name);
+    if (alignment == UIStackView::alignCenter)
+      addEqual(centre(view, across_), centre(view_, across_), name);
+    if (alignment == UIStackView::alignFirstBaseline || alignment == UIStackView::alignLastBaseline)
+      alignBaselines(view);
+    if (!fills) stayInside(view);
+  }
+
+  void stayInside(Object view) {
+    constexpr const char* name = "UISV-spanning-boundary";
+    add(start(view, across_) - start(view_, across_), Relation::atLeast, boundary, name);
+    add(end(view, across_) - end(view_, across_), Relation::atMost, boundary, name);
   }
 
   // With that of the first view.

@@ -133,10 +133,13 @@ TEST_F(Solver, WhatNothingDeterminesIsZero) {
   EXPECT_DOUBLE_EQ(value(alone), 0);
 }
 
-TEST_F(Solver, LengthsAreNoLongerThanTheyMustBe) {
-  const Variable width = problem.length();
-  for (const double wish : {300.0, 100.0}) problem.add(v(width) - wish, equal, 500);
-  EXPECT_DOUBLE_EQ(value(width), 100);  // anything from there to 300 misses 200 in sum
+// Anything from 100 to 300 points misses 200 in sum.
+TEST_F(Solver, LengthsAreNoLongerInSumThanTheyMustBe) {
+  const Variable b = problem.length(), a = problem.length();
+  problem.add(v(a) + 2 * v(b) - 400, equal, 1000);
+  for (const double wish : {300.0, 100.0}) problem.add(v(a) - wish, equal, 500);
+  EXPECT_DOUBLE_EQ(value(a), 100);
+  EXPECT_DOUBLE_EQ(value(b), 150);
 }
 
 TEST_F(Solver, ChoicesDoNotDependOnWhatElseThereIs) {

@@ -103,10 +103,8 @@ LinearExpression LayoutProblem::start(Object view, Axis axis, Object space) cons
 }
 
 CGRect LayoutProblem::rect(Object view, const Solution& solution) const {
-  const auto value = [&, first = firstVariable(view)](int which) {
-    return solution.values[std::size_t(first + which)];
-  };
-  return {{value(0), value(1)}, {value(lengths), value(lengths + 1)}};
+  const double* values = &solution.values[std::size_t(firstVariable(view))];
+  return {{values[0], values[1]}, {values[lengths], values[lengths + 1]}};
 }
 
 }  // namespace sim

@@ -15,6 +15,7 @@ namespace {
 Track takeTrack(Arguments& words) {
   Track track;
   if (!words.takeKeyword("none")) track.title = words.text("a title");
+  if (words.takeKeyword("by")) track.artist = words.text("an artist");
   const double length = words.number("the track's seconds");
   track.length = nanoseconds(length);
   if (track.length <= 0) words.failHere("a track lasts longer than 0 seconds");
@@ -121,10 +122,10 @@ void control(Arguments& words) {
 }
 
 void addControls(CommandTable& table) {
-  table.add({"now-playing-app", Stage::running, "now-playing-app BUNDLE TITLE|none SECONDS",
-             "now-playing-app com.example.radio \"Night Talk\" 3600",
-             "Another application plays one track, and the music's playlist is gone.",
-             nowPlayingApp});
+  table.add(
+      {"now-playing-app", Stage::running, "now-playing-app BUNDLE TITLE|none [by ARTIST] SECONDS",
+       "now-playing-app com.example.radio \"Night Talk\" 3600",
+       "Another application plays one track, and the music's playlist is gone.", nowPlayingApp});
   table.add({"play", Stage::running, "play", "play", "The user starts the music, or goes on.",
              control<&Player::play>});
   table.add({"pause", Stage::running, "pause", "pause", "The user pauses the music.",
@@ -155,8 +156,8 @@ void addPlayerCommands(CommandTable& table) {
   // Both exist before a restart's saved state is given back to them.
   Player::current();
   AudioSystem::current();
-  table.add({"playlist", Stage::any, "playlist TITLE|none SECONDS [TITLE SECONDS]...",
-             "playlist \"A\" 180 \"B\" 200",
+  table.add({"playlist", Stage::any, "playlist TITLE|none [by ARTIST] SECONDS [...]",
+             "playlist \"A\" 180 \"B\" by \"The Example\" 200",
              "Loads tracks and plays the first; before boot the music starts with the host.",
              playlist});
   table.add({"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",

@@ -13,9 +13,15 @@ constexpr std::string_view endOfSetup = "boot";
 }  // namespace
 
 void Interpreter::play() {
-  requireKnownCommands();
+  // Before anything runs: a misspelt command late in a script is found at once.
+  for (const ScriptLine& line : lines_) requireKnownCommand(line);
   watchKillPoints();
   playFrom(0);
+}
+
+void Interpreter::perform(const ScriptLine& line) {
+  requireKnownCommand(line);
+  run(line);
 }
 
 void Interpreter::resume(const RestartState& state) {
@@ -27,13 +33,10 @@ void Interpreter::resume(const RestartState& state) {
   playFrom(state.lineNumber + 1);
 }
 
-// Before anything runs: a misspelt command late in a script is found at once.
-void Interpreter::requireKnownCommands() const {
-  for (const ScriptLine& line : lines_) {
-    const Word& name = line.words.front();
-    if (name.quoted || table_.find(name.text) == nullptr)
-      throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
-  }
+void Interpreter::requireKnownCommand(const ScriptLine& line) const {
+  const Word& name = line.words.front();
+  if (name.quoted || table_.find(name.text) == nullptr)
+    throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
 }
 
 void Interpreter::playFrom(std::size_t lineNumber) {

@@ -20,9 +20,12 @@ class Interpreter {
   void play();
   // Goes on after a restart of the host.
   void resume(const RestartState& state);
+  // One line more than the script has, for whoever types as the phone goes. Throws
+  // ScriptParseError.
+  void perform(const ScriptLine& line);
 
  private:
-  void requireKnownCommands() const;
+  void requireKnownCommand(const ScriptLine& line) const;
   void playFrom(std::size_t lineNumber);
   void repeatSetup();
   void run(const ScriptLine& line);

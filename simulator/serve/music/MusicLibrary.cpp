@@ -1,0 +1,88 @@
+#include "simulator/serve/music/MusicLibrary.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include "simulator/phone/Journal.h"
+#include "simulator/serve/Recording.h"
+
+namespace sim {
+
+namespace files = std::filesystem;
+
+namespace {
+
+constexpr std::size_t longestLine = 60 * std::size_t(1024);  // scripts have a limit
+
+void leaveOut(const files::path& path, const std::string& problem) {
+  std::cerr << path.string() << ": left out: " << problem << '\n';
+}
+
+bool liesIn(const files::path& folder, const files::path& path) {
+  return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first ==
+         folder.end();
+}
+
+// Folders that are links are not entered, so there is no way round in circles.
+std::vector<files::path> musicBelow(const files::path& folder) {
+  std::vector<files::path> found;
+  const auto options = files::directory_options::skip_permission_denied;
+  for (const auto& entry : files::recursive_directory_iterator(folder, options)) {
+    std::error_code ignored;  // a dangling link is no file
+    if (isNamedAsMusic(entry.path()) && entry.is_regular_file(ignored))
+      found.push_back(entry.path());
+  }
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::string words(const Track& track) {
+  std::string text = ' ' + sim::quoted(*track.title);
+  if (!track.artist.empty()) text += " by " + sim::quoted(track.artist);
+  return text + ' ' + secondsText(track.length);
+}
+
+}  // namespace
+
+MusicLibrary::MusicLibrary(const files::path& folder) {
+  const files::path root = files::canonical(folder);
+  for (const files::path& named : musicBelow(root)) {
+    const files::path path = files::canonical(named);
+    std::string problem = "it lies outside the folder";
+    std::optional<MusicFile> file;
+    if (liesIn(root, path)) file = readMusicFile(path, problem);
+    if (file)
+      files_.push_back(std::move(*file));
+    else
+      leaveOut(named, problem);
+  }
+}
+
+const MusicFile* MusicLibrary::find(const std::string& id) const {
+  for (std::size_t index = 0; index < files_.size(); ++index) {
+    if (idAt(index) == id) return &files_[index];
+  }
+  return nullptr;
+}
+
+std::string MusicLibrary::idOf(const Track& track) const {
+  const auto found = std::find_if(files_.begin(), files_.end(), [&track](const MusicFile& file) {
+    return file.track.title == track.title && file.track.artist == track.artist &&
+           file.track.length == track.length;
+  });
+  return found == files_.end() ? "" : idAt(std::size_t(found - files_.begin()));
+}
+
+std::string MusicLibrary::playlistLine() const {
+  std::string line;
+  for (const MusicFile& file : files_) {
+    const std::string next = words(file.track);
+    if (line.size() + next.size() > longestLine)
+      leaveOut(file.path, "the playlist is full");
+    else
+      line += next;
+  }
+  return line.empty() ? line : "playlist" + line;
+}
+
+}  // namespace sim

@@ -1,4 +1,5 @@
 // The script commands of the person who listens: what plays, how loud, and what is heard.
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -15,10 +16,10 @@ namespace {
 Track takeTrack(Arguments& words) {
   Track track;
   if (!words.takeKeyword("none")) track.title = words.text("a title");
-  if (words.takeKeyword("by")) track.artist = words.text("an artist");
   const double length = words.number("the track's seconds");
   track.length = nanoseconds(length);
   if (track.length <= 0) words.failHere("a track lasts longer than 0 seconds");
+  if (words.takeKeyword("by")) track.artist = words.text("an artist");
   return track;
 }
 
@@ -82,6 +83,17 @@ void volume(Arguments& words) {
   AudioSystem::current().setVolume(level);
 }
 
+// A press of the key, as the phone counts them.
+template <int direction>
+void volumeKey(Arguments& words) {
+  constexpr float presses = 16;  // from silent to full
+  words.finish();
+  const float pressed = AudioSystem::current().volume() * presses + direction;
+  const float level = std::clamp(std::round(pressed) / presses, 0.0F, 1.0F);
+  Phone::current().journal.record("user volume " + notation(level));
+  AudioSystem::current().setVolume(level);
+}
+
 [[noreturn]] void failExpectation(const std::string& what, const std::string& expected,
                                   const std::string& found) {
   throw ScriptError(0, what + ": expected " + expected + ", found " + found);
@@ -122,10 +134,10 @@ void control(Arguments& words) {
 }
 
 void addControls(CommandTable& table) {
-  table.add(
-      {"now-playing-app", Stage::running, "now-playing-app BUNDLE TITLE|none [by ARTIST] SECONDS",
-       "now-playing-app com.example.radio \"Night Talk\" 3600",
-       "Another application plays one track, and the music's playlist is gone.", nowPlayingApp});
+  table.add({"now-playing-app", Stage::running, "now-playing-app BUNDLE TITLE|none SECONDS",
+             "now-playing-app com.example.radio \"Night Talk\" 3600",
+             "Another application plays one track, and the music's playlist is gone.",
+             nowPlayingApp});
   table.add({"play", Stage::running, "play", "play", "The user starts the music, or goes on.",
              control<&Player::play>});
   table.add({"pause", Stage::running, "pause", "pause", "The user pauses the music.",
@@ -156,8 +168,8 @@ void addPlayerCommands(CommandTable& table) {
   // Both exist before a restart's saved state is given back to them.
   Player::current();
   AudioSystem::current();
-  table.add({"playlist", Stage::any, "playlist TITLE|none [by ARTIST] SECONDS [...]",
-             "playlist \"A\" 180 \"B\" by \"The Example\" 200",
+  table.add({"playlist", Stage::any, "playlist TITLE|none SECONDS [by ARTIST] [TITLE…]",
+             "playlist \"A\" 180 \"B\" 200 by \"The Band\"",
              "Loads tracks and plays the first; before boot the music starts with the host.",
              playlist});
   table.add({"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",
@@ -172,6 +184,11 @@ void addPlayerCommands(CommandTable& table) {
              }});
   table.add({"volume", Stage::any, "volume LEVEL", "volume 0.5",
              "The user sets the media volume, from 0 to 1.", volume});
+  table.add({"volume-up", Stage::any, "volume-up", "volume-up",
+             "The user presses the key that makes the music louder by a sixteenth.", volumeKey<1>});
+  table.add({"volume-down", Stage::any, "volume-down", "volume-down",
+             "The user presses the key that makes the music quieter by a sixteenth.",
+             volumeKey<-1>});
   addControls(table);
   addExpectations(table);
 }

@@ -63,9 +63,8 @@ ServeState stateFrom(const Options& options, const Listener& listener, const fil
 
 pid_t served = 0;
 
-// Ctrl-C reaches both processes; what is meant for this one alone is passed on.
 void passOn(int signal) {
-  if (signal != SIGINT) kill(served, signal);
+  kill(served, signal);
 }
 
 int waitForEnd() {

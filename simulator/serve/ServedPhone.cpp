@@ -63,7 +63,7 @@ std::vector<std::string> ServedPhone::firstLines() const {
 
 void ServedPhone::begin() {
   interpreter_ = std::make_unique<Interpreter>(session_, table_, std::vector<ScriptLine>());
-  watchKillPoints();
+  interpreter_->play();
   for (const std::string& line : firstLines()) play(line);
   setOut();
 }

@@ -13,15 +13,9 @@ constexpr std::string_view endOfSetup = "boot";
 }  // namespace
 
 void Interpreter::play() {
-  // Before anything runs: a misspelt command late in a script is found at once.
-  for (const ScriptLine& line : lines_) requireKnownCommand(line);
+  requireKnownCommands();
   watchKillPoints();
   playFrom(0);
-}
-
-void Interpreter::perform(const ScriptLine& line) {
-  requireKnownCommand(line);
-  run(line);
 }
 
 void Interpreter::resume(const RestartState& state) {
@@ -33,10 +27,13 @@ void Interpreter::resume(const RestartState& state) {
   playFrom(state.lineNumber + 1);
 }
 
-void Interpreter::requireKnownCommand(const ScriptLine& line) const {
-  const Word& name = line.words.front();
-  if (name.quoted || table_.find(name.text) == nullptr)
-    throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
+// Before anything runs: a misspelt command late in a script is found at once.
+void Interpreter::requireKnownCommands() const {
+  for (const ScriptLine& line : lines_) {
+    const Word& name = line.words.front();
+    if (name.quoted || table_.find(name.text) == nullptr)
+      throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
+  }
 }
 
 void Interpreter::playFrom(std::size_t lineNumber) {
@@ -56,7 +53,10 @@ void Interpreter::repeatSetup() {
 
 void Interpreter::run(const ScriptLine& line) {
   const Word& name = line.words.front();
-  const Command& command = *table_.find(name.text);
+  const Command* known = name.quoted ? nullptr : table_.find(name.text);
+  if (known == nullptr)
+    throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
+  const Command& command = *known;
   session_.lineNumber = line.number;
   try {
     requireStage(command);

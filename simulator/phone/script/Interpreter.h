@@ -20,12 +20,12 @@ class Interpreter {
   void play();
   // Goes on after a restart of the host.
   void resume(const RestartState& state);
-  // One line more than the script has, for whoever types as the phone goes. Throws
-  // ScriptParseError.
-  void perform(const ScriptLine& line);
+  // One line more than the script has, after one of those: for whoever types as the phone goes.
+  // Throws ScriptParseError.
+  void perform(const ScriptLine& line) { run(line); }
 
  private:
-  void requireKnownCommand(const ScriptLine& line) const;
+  void requireKnownCommands() const;
   void playFrom(std::size_t lineNumber);
   void repeatSetup();
   void run(const ScriptLine& line);

@@ -2,6 +2,7 @@
 
 #include <taglib/fileref.h>
 #include <taglib/tag.h>
+#include <taglib/wavfile.h>
 
 #include <algorithm>
 #include <map>
@@ -38,11 +39,18 @@ std::string titleFrom(const std::filesystem::path& path) {
   return title.empty() ? "Untitled" : title;
 }
 
+// The library gives a WAVE file's tag of the one kind, where most have one of the other.
+const TagLib::Tag* tagOf(const TagLib::FileRef& file) {
+  const auto* wave = dynamic_cast<const TagLib::RIFF::WAV::File*>(file.file());
+  if (wave != nullptr && !wave->hasID3v2Tag()) return wave->InfoTag();
+  return file.tag();
+}
+
 Track describe(const TagLib::FileRef& file, const std::filesystem::path& path) {
   Track track;
   track.length =
       Nanoseconds(file.audioProperties()->lengthInMilliseconds()) * (nanosecondsPerSecond / 1000);
-  if (const TagLib::Tag* tag = file.tag()) {
+  if (const TagLib::Tag* tag = tagOf(file)) {
     track.title = text(tag->title());
     track.artist = text(tag->artist());
     track.album = text(tag->album());

@@ -37,9 +37,8 @@ std::vector<files::path> musicBelow(const files::path& folder) {
 }
 
 std::string words(const Track& track) {
-  std::string text = ' ' + sim::quoted(*track.title);
-  if (!track.artist.empty()) text += " by " + sim::quoted(track.artist);
-  return text + ' ' + secondsText(track.length);
+  const std::string text = ' ' + sim::quoted(*track.title) + ' ' + secondsText(track.length);
+  return track.artist.empty() ? text : text + " by " + sim::quoted(track.artist);
 }
 
 }  // namespace

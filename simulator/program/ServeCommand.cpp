@@ -14,6 +14,7 @@
 #include <random>
 #include <system_error>
 
+#include "simulator/program/EndSignals.h"
 #include "simulator/program/ServingProcess.h"
 #include "simulator/program/TemporaryFolder.h"
 #include "simulator/serve/http/Listener.h"
@@ -67,11 +68,15 @@ void passOn(int signal) {
   kill(served, signal);
 }
 
-int waitForEnd() {
+void passOnSignals() {
   struct sigaction action {};
   action.sa_handler = passOn;
   sigaction(SIGINT, &action, nullptr);
   sigaction(SIGTERM, &action, nullptr);
+  EndSignals::unblock();
+}
+
+int waitForEnd() {
   int status = 0;
   while (waitpid(served, &status, 0) < 0) {
     if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "waitpid");
@@ -88,11 +93,11 @@ int servePhone(const Options& options) {
   const Listener listener = Listener::open(options.port);
   const ServeState state = stateFrom(options, listener, temporary.path() / "phone");
   std::cout.flush();
-  blockEndSignals();  // from here on: none is lost between the two processes' beginnings
+  EndSignals::block();  // none is lost between the two processes' beginnings
   served = fork();
   if (served < 0) throw std::system_error(errno, std::generic_category(), "fork");
   if (served > 0) {
-    unblockEndSignals();
+    passOnSignals();
     return waitForEnd();
   }
   prctl(PR_SET_PDEATHSIG, SIGTERM);

@@ -9,9 +9,10 @@
 #include <cstring>
 #include <functional>
 #include <iostream>
-#include <thread>
+#include <optional>
 
 #include "objc/Ownership.h"
+#include "simulator/program/EndSignals.h"
 #include "simulator/program/PhonePackage.h"
 #include "simulator/program/SetupCheck.h"
 #include "simulator/serve/Api.h"
@@ -23,14 +24,6 @@ namespace sim {
 namespace files = std::filesystem;
 
 namespace {
-
-sigset_t endSignals() {
-  sigset_t signals;
-  sigemptyset(&signals);
-  sigaddset(&signals, SIGINT);
-  sigaddset(&signals, SIGTERM);
-  return signals;
-}
 
 // Does not return.
 void execute(const files::path& stateFile) {
@@ -47,9 +40,7 @@ class ServingProcess {
         library_(state.music),
         phone_(state, library_, inbox_,
                [this](const nlohmann::json& answer, const files::path& stateFile) {
-                 inbox_.answerEarly(answer);
-                 server_.waitUntilAnswered(std::chrono::seconds(1));
-                 execute(stateFile);
+                 leave(answer, stateFile);
                }) {
     guard(server_, listener_.port());
     addApi(router_, {inbox_, server_, library_, state.web, setupCheck(state)});
@@ -60,14 +51,9 @@ class ServingProcess {
 
   void serve() {
     server_.start(listener_);
-    std::thread ender([this] {
-      const sigset_t signals = endSignals();
-      int signal = 0;
-      sigwait(&signals, &signal);
-      inbox_.stop();
-    });
+    endSignals_.emplace([this] { inbox_.stop(); });
     phone_.run();
-    ender.join();
+    endSignals_.reset();
   }
 
   void printAddress() const {
@@ -75,16 +61,28 @@ class ServingProcess {
   }
 
  private:
+  // Whoever connects from here on waits for the next process, and so does a signal to end.
+  void leave(const nlohmann::json& answer, const files::path& stateFile) {
+    constexpr std::chrono::seconds patience{1};
+    server_.stopAccepting();
+    inbox_.answerEarly(answer);
+    server_.waitUntilAnswered(patience);
+    endSignals_.reset();
+    if (inbox_.isStopped()) std::_Exit(0);
+    execute(stateFile);
+  }
+
   Listener listener_;
   MusicLibrary library_;
   Inbox inbox_;
   Router router_;
   HttpServer server_;
+  std::optional<EndSignals> endSignals_;
   ServedPhone phone_;  // ends first: it lets the watching pages go
 };
 
 int serving(const ServeState& state, const std::function<void(ServingProcess&)>& start) {
-  blockEndSignals();
+  EndSignals::block();
   std::signal(SIGPIPE, SIG_IGN);
   const objc::AutoreleasePool pool;
   try {
@@ -99,16 +97,6 @@ int serving(const ServeState& state, const std::function<void(ServingProcess&)>&
 }
 
 }  // namespace
-
-void blockEndSignals() {
-  const sigset_t signals = endSignals();
-  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-}
-
-void unblockEndSignals() {
-  const sigset_t signals = endSignals();
-  pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
-}
 
 int beginServing(const ServeState& state) {
   files::remove_all(state.root);

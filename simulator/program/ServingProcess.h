@@ -10,8 +10,4 @@ namespace sim {
 int beginServing(const ServeState& state);
 int continueServing(const RestartState& saved);
 
-// Ctrl-C and the like end a serving process in order: they are taken by a thread of their own.
-void blockEndSignals();
-void unblockEndSignals();
-
 }  // namespace sim

@@ -35,6 +35,8 @@ const char* nameOf(Stage stage) {
       return "setup";
     case Stage::running:
       return "running";
+    case Stage::booted:
+      return "booted";
     case Stage::any:
       return "any";
   }

@@ -6,12 +6,13 @@ namespace sim {
 
 using nlohmann::json;
 
-namespace {
-
+// Here, where the library looks for it.
 NLOHMANN_JSON_SERIALIZE_ENUM(OpenScript::State, {{OpenScript::State::ready, "ready"},
                                                  {OpenScript::State::running, "running"},
                                                  {OpenScript::State::finished, "finished"},
                                                  {OpenScript::State::failed, "failed"}})
+
+namespace {
 
 json asJson(const std::optional<OpenScript>& script) {
   if (!script) return nullptr;

@@ -1,11 +1,13 @@
 #include "simulator/serve/http/HttpServer.h"
 
 #include <poll.h>
+#include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <system_error>
 
 #include "simulator/serve/http/SocketStream.h"
@@ -18,6 +20,7 @@ using std::chrono::milliseconds;
 constexpr std::size_t mostConnections = 400;
 constexpr std::size_t requestBytes = std::size_t(2) * 1024 * 1024;  // headers and body
 constexpr milliseconds idlePatience{60'000};
+constexpr milliseconds breath{100};  // when there are no descriptors left
 
 thread_local int theConnection = -1;
 thread_local bool isAnswering = false;
@@ -53,7 +56,8 @@ class HttpServer::Answering {
   HttpServer& server_;
 };
 
-HttpServer::HttpServer() {
+HttpServer::HttpServer() : wakeUp_(eventfd(0, EFD_CLOEXEC)) {
+  if (wakeUp_ < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
   set_logger([](const httplib::Request&, const httplib::Response& response) {
     lastAnswerWasError = response.status >= 400;
   });
@@ -61,25 +65,27 @@ HttpServer::HttpServer() {
 
 HttpServer::~HttpServer() {
   stopServing();
+  close(wakeUp_);
 }
 
 void HttpServer::start(const Listener& listener) {
   // The library streams only as long as it believes that it listens.
-  svr_sock_ = listener.descriptor();
-  acceptor_ = std::thread([this] { accept(); });
+  svr_sock_ = listener_ = listener.descriptor();
+  acceptor_ = std::thread([this] { acceptConnections(); });
+}
+
+void HttpServer::stopAccepting() {
+  if (!acceptor_.joinable()) return;
+  const std::uint64_t one = 1;
+  [[maybe_unused]] const auto written = write(wakeUp_, &one, sizeof one);
+  acceptor_.join();
 }
 
 void HttpServer::stopServing() {
-  {
-    const std::lock_guard lock(mutex_);
-    if (stopping_) return;
-    stopping_ = true;
-    if (svr_sock_ >= 0) shutdown(svr_sock_, SHUT_RDWR);
-    for (const int each : connections_) shutdown(each, SHUT_RDWR);
-    changed_.notify_all();
-  }
-  if (acceptor_.joinable()) acceptor_.join();
+  stopAccepting();
   std::unique_lock lock(mutex_);
+  stopping_ = true;
+  for (const int each : connections_) shutdown(each, SHUT_RDWR);
   changed_.wait(lock, [this] { return connections_.empty(); });
 }
 
@@ -109,21 +115,23 @@ bool HttpServer::processRequest(httplib::Stream& stream, bool isLast) {
   return processed && !closed && !lastAnswerWasError;
 }
 
-void HttpServer::accept() {
-  for (;;) {
+bool HttpServer::waitForConnection() const {
+  std::array<pollfd, 2> watched{{{listener_, POLLIN, 0}, {wakeUp_, POLLIN, 0}}};
+  while (poll(watched.data(), watched.size(), -1) < 0 && errno == EINTR) continue;
+  return watched[1].revents == 0;
+}
+
+void HttpServer::acceptConnections() {
+  while (waitForConnection()) {
     // Closed by exec(): pages notice at once that the phone's process begins anew.
-    const int descriptor = accept4(svr_sock_, nullptr, nullptr, SOCK_CLOEXEC);
+    const int descriptor = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
     const int problem = errno;
     std::unique_lock lock(mutex_);
-    if (stopping_) {
-      if (descriptor >= 0) close(descriptor);
-      return;
-    }
     if (descriptor >= 0)
       take(descriptor);
     else if (problem == EMFILE || problem == ENFILE)
-      changed_.wait(lock);  // for a connection that ends
-    else if (problem != EINTR && problem != ECONNABORTED)
+      changed_.wait_for(lock, breath);
+    else if (problem != EINTR && problem != ECONNABORTED && problem != EAGAIN)
       throw std::system_error(problem, std::generic_category(), "accept");
   }
 }

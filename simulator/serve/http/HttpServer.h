@@ -24,6 +24,8 @@ class HttpServer : public httplib::Server {
 
   // Begins to answer. The listener must outlive this.
   void start(const Listener& listener);
+  // Leaves further connections to whoever takes over the listener.
+  void stopAccepting();
   // Answers no longer and closes every connection; waits for handlers that run.
   void stopServing();
 
@@ -43,7 +45,8 @@ class HttpServer : public httplib::Server {
  private:
   class Answering;
 
-  void accept();
+  void acceptConnections();
+  bool waitForConnection() const;
   void take(int descriptor);
   void serve(int descriptor);
   void endConnection(int descriptor);
@@ -54,6 +57,8 @@ class HttpServer : public httplib::Server {
   std::set<int> connections_;
   int answering_ = 0;
   bool stopping_ = false;
+  int listener_ = -1;
+  int wakeUp_;  // eventfd: no further connections
 };
 
 }  // namespace sim

@@ -18,7 +18,11 @@ AIMS = {
     "directCall": ("virtualCall", None),
     "retainAndRelease": ("virtualCall", None),
     "loadExtension": (None, 1e6),
+    "layOutThePanel": (None, 1e6),
     "eightHoursRefreshedEverySecond": (None, 100e6),
+    "buildScene": (None, 2e6),
+    "buildAndCompareScene": (None, 2e6),
+    "writeSvg": (None, None),
 }
 
 

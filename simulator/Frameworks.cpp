@@ -15,6 +15,7 @@ void registerFrameworks() {
   registerRunwright();
   registerBackBoard();
   registerSpringBoard();
+  registerMediaControls();
   registerCoverSheet();
   registerControlCenter();
 }

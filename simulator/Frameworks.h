@@ -16,6 +16,7 @@ void registerDoNotDisturb();
 void registerRunwright();
 void registerBackBoard();
 void registerSpringBoard();
+void registerMediaControls();
 void registerCoverSheet();
 void registerControlCenter();
 

@@ -6,8 +6,9 @@
 //       .stub<"setDisableSystemWaking:", void(bool)>()                            // only logs
 //       .finish();
 //
-// A class, or a method, that the phone's set-up names as missing is not registered. Unlike the
-// extension's classes, a stand-in's state is constructed and destroyed like any C++ object.
+// A class, a method, or a property that the phone's set-up names as missing is not registered.
+// Unlike the extension's classes, a stand-in's state is constructed and destroyed like any C++
+// object.
 #pragma once
 
 #include <new>
@@ -86,14 +87,14 @@ class StandIn {
 
   template <objc::FixedString Name, auto member>
   StandIn& property() {
-    page_.record('@', Name.c_str(), {Grade::real, ""});
-    builder_.template property<Name, member>();
+    if (page_.record('@', Name.c_str(), {Grade::real, ""}))
+      builder_.template property<Name, member>();
     return *this;
   }
   template <objc::FixedString Name, auto member>
   StandIn& readonlyProperty() {
-    page_.record('@', Name.c_str(), {Grade::real, ""});
-    builder_.template readonlyProperty<Name, member>();
+    if (page_.record('@', Name.c_str(), {Grade::real, ""}))
+      builder_.template readonlyProperty<Name, member>();
     return *this;
   }
 

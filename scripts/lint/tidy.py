@@ -15,7 +15,7 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-FOLDERS = ["objc", "platform", "simulator", "tweak"]
+FOLDERS = ["objc", "platform", "simulator", "tools", "tweak"]
 TOOL = "clang-tidy-14"
 
 

@@ -1,25 +1,68 @@
 #include "simulator/controlcenter/ControlCenter.h"
 
 #include <map>
+#include <utility>
 
 #include "objc/Message.h"
 #include "simulator/Frameworks.h"
+#include "simulator/controlcenter/CCUICAPackageDescription.h"
+#include "simulator/controlcenter/CCUICAPackageView.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
+#include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
 #include "simulator/foundation/Values.h"
 
 namespace sim {
+namespace {
+
+using objc::Object;
+
+constexpr double windowLevel = 1090;  // above the lock screen, below alerts
+
+Object shown;  // UIWindow; owned, nil while Control Center is closed
+
+}  // namespace
 
 void registerControlCenter() {
+  CCUICAPackageDescription::registerClass();
+  CCUICAPackageView::registerClass();
   CCUIContentModuleContainerViewController::registerClass();
+  CCUIModularControlCenterOverlayViewController::registerClass();
 }
 
-objc::Object moduleContainer(const std::string& identifier) {
-  static std::map<std::string, objc::Object> containers;  // owned, and never given up
+void openControlCenter() {
+  const Class overlayClass = CCUIModularControlCenterOverlayViewController::cls();
+  if (shown || overlayClass == nullptr) return;
+  const auto overlay = objc::adopt(Object(objc_alloc_init(overlayClass)));
+  shown = objc::send<Object, "new">(objc_getClass("UIWindow"));
+  objc::send<void, "setWindowLevel:">(shown, windowLevel);
+  objc::send<void, "setRootViewController:">(shown, overlay.get());
+  objc::send<void, "setHidden:">(shown, false);
+}
+
+void closeControlCenter() {
+  if (!shown) return;
+  const auto overlay = objc::retain(openedControlCenter());
+  CCUIModularControlCenterOverlayViewController::of(overlay.get()).collapseModules();
+  const auto window = objc::adopt(std::exchange(shown, nullptr));
+  objc::send<void, "setRootViewController:">(window.get(), nullptr);
+  objc::send<void, "setHidden:">(window.get(), true);
+}
+
+Object openedControlCenter() {
+  return objc::send<Object, "rootViewController">(shown);
+}
+
+Object moduleContainer(const std::string& identifier) {
+  static std::map<std::string, Object> containers;  // owned, and never given up
+  if (const Object overlay = openedControlCenter())
+    if (const Object found =
+            CCUIModularControlCenterOverlayViewController::of(overlay).container(identifier))
+      return found;
   Class cls = CCUIContentModuleContainerViewController::cls();
   if (cls == nullptr) return nullptr;
-  objc::Object& container = containers[identifier];
+  Object& container = containers[identifier];
   if (!container)
-    container = objc::send<objc::Object, "initWithModuleIdentifier:contentModule:">(
+    container = objc::send<Object, "initWithModuleIdentifier:contentModule:">(
         objc_alloc(cls), string(identifier), nullptr);
   return container;
 }

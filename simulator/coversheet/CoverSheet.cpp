@@ -1,5 +1,7 @@
 // What the lock screen is made of.
 #include "simulator/Frameworks.h"
+#include "simulator/coversheet/CSCoverSheetViewController.h"
+#include "simulator/coversheet/CSMediaControlsViewController.h"
 #include "simulator/coversheet/CSTimerViewController.h"
 #include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
 #include "simulator/coversheet/SBFLockScreenDateSubtitleView.h"
@@ -14,6 +16,8 @@ void registerCoverSheet() {
   SBFLockScreenDateSubtitleView::registerClass();
   SBFLockScreenDateSubtitleDateView::registerClass();
   CSTimerViewController::registerClass();
+  CSMediaControlsViewController::registerClass();
+  CSCoverSheetViewController::registerClass();
   SBLockScreenManager::registerClass();
 }
 

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "objc/Message.h"
+#include "simulator/coversheet/CSCoverSheetViewController.h"
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
@@ -29,6 +31,29 @@ void LockScreen::lock() {
   const double now = Phone::current().clock.wall();
   drawDate(now);
   redrawAt(midnightAfter(now));
+  showCoverSheet();
+}
+
+void LockScreen::unlock() {
+  locked_ = false;
+  const auto window = objc::adopt(std::exchange(window_, nullptr));
+  objc::send<void, "setRootViewController:">(window.get(), nullptr);
+  objc::send<void, "setHidden:">(window.get(), true);
+}
+
+void LockScreen::showCoverSheet() {
+  constexpr double windowLevel = 1050;  // above the home screen, below Control Center
+  if (window_ || CSCoverSheetViewController::cls() == nullptr) return;
+  const auto sheet = CSCoverSheetViewController::make();
+  CSCoverSheetViewController::of(sheet.get()).setDateView(dateView_);
+  window_ = objc::send<objc::Object, "new">(objc_getClass("UIWindow"));
+  objc::send<void, "setWindowLevel:">(window_, windowLevel);
+  objc::send<void, "setRootViewController:">(window_, sheet.get());
+  objc::send<void, "setHidden:">(window_, false);
+}
+
+objc::Object LockScreen::coverSheet() const {
+  return objc::send<objc::Object, "rootViewController">(window_);
 }
 
 void LockScreen::makeParts() {

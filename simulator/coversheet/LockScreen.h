@@ -16,7 +16,9 @@ class LockScreen {
 
   bool isLocked() const { return locked_; }
   void lock();
-  void unlock() { locked_ = false; }
+  void unlock();
+  // CSCoverSheetViewController; nil while the phone is not locked.
+  objc::Object coverSheet() const;
 
   // What the line under the clock shows; nothing before the phone was first locked.
   std::optional<std::string> dateText() const;
@@ -25,6 +27,7 @@ class LockScreen {
 
  private:
   void makeParts();
+  void showCoverSheet();
   // Both in seconds since the reference date.
   void drawDate(double moment);
   void redrawAt(double midnight);
@@ -33,6 +36,7 @@ class LockScreen {
   // Owned, and never given up. nil before the phone was first locked, or without the class.
   objc::Object timerController_;  // CSTimerViewController
   objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView
+  objc::Object window_;           // UIWindow; owned, nil while the phone is not locked
   bool hasParts_ = false;
   MainQueue::Ticket nextDrawing_ = 0;
 };

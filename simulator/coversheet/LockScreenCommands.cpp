@@ -3,9 +3,11 @@
 #include <optional>
 #include <string>
 
+#include "objc/Message.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/phone/script/Command.h"
+#include "simulator/phone/script/PhoneVariables.h"
 
 namespace sim {
 namespace {
@@ -54,13 +56,26 @@ void expectTimer(Arguments& words) {
     failExpectation("countdown", shown(expected), shown(found));
 }
 
+objc::Object lockScreenPlayer() {
+  return objc::send<objc::Object, "nowPlayingViewController">(
+      objc::send<objc::Object, "mediaControlsViewController">(LockScreen::current().coverSheet()));
+}
+
+objc::Object lockScreenHeader() {
+  return objc::send<objc::Object, "headerView">(
+      objc::send<objc::Object, "view">(lockScreenPlayer()));
+}
+
 }  // namespace
 
 void addLockScreenCommands(CommandTable& table) {
   table.add({"lock", Stage::running, "lock", "lock",
              "The user locks the phone; the lock screen draws its date. A new host has no lock "
-             "screen before this.",
+             "screen before this. While it shows a player, $lockScreenNowPlaying and "
+             "$lockScreenHeader are the player's controller and its header.",
              lock});
+  addPhoneVariable("lockScreenNowPlaying", lockScreenPlayer);
+  addPhoneVariable("lockScreenHeader", lockScreenHeader);
   table.add({"unlock", Stage::running, "unlock", "unlock", "The user unlocks the phone.", unlock});
   table.add({"expect-lock-screen-date", Stage::running, "expect-lock-screen-date TEXT|none",
              "expect-lock-screen-date \"Friday, January 1\"",

@@ -106,6 +106,11 @@ Object NSBundle::pathForResource(Object name, Object type) {
   return found ? string(path + '/' + found->string()) : nullptr;
 }
 
+Object NSBundle::URLForResource(Object name, Object extension) {
+  const Object found = pathForResource(name, extension);
+  return found ? objc::send<Object, "fileURLWithPath:">(objc_getClass("NSURL"), found) : nullptr;
+}
+
 const StringsTable& NSBundle::table(const std::string& name) {
   const auto known = tables.find(name);
   if (known != tables.end()) return known->second;
@@ -142,6 +147,8 @@ void NSBundle::registerClass() {
       .partial<"localizations", &localizations>("those with a folder of their own")
       .partial<"preferredLocalizations", &preferredLocalizations>("the first of them")
       .partial<"pathForResource:ofType:", &NSBundle::pathForResource>(
+          "only the chosen language, Base and the development region are searched")
+      .partial<"URLForResource:withExtension:", &NSBundle::URLForResource>(
           "only the chosen language, Base and the development region are searched")
       .partial<"localizedStringForKey:value:table:", &NSBundle::localizedString>(
           "no plural rules (.stringsdict)")

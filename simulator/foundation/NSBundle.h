@@ -17,6 +17,7 @@ struct NSBundle : objc::Implementation<NSBundle> {
   BundleFiles files();
   objc::Object infoDictionary();
   objc::Object pathForResource(objc::Object name, objc::Object type);
+  objc::Object URLForResource(objc::Object name, objc::Object extension);
   objc::Object localizedString(objc::Object key, objc::Object otherwise, objc::Object table);
 
   static void registerClass();

@@ -1,9 +1,12 @@
 #include "simulator/foundation/NSStringContent.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSCharacterSet.h"
 #include "simulator/foundation/Unicode.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/foundation/Variadic.h"
@@ -120,6 +123,16 @@ Object componentsSeparatedByString(Object self, Object separator) {
   return array(parts);
 }
 
+Object trimmed(Object self, Object characters) {
+  const NSCharacterSet* set = stateOf<NSCharacterSet>(characters);
+  const auto& whole = units(self);
+  if (set == nullptr) return self;
+  const auto stays = [set](char16_t unit) { return !set->contains(unit); };
+  const auto first = std::find_if(whole.begin(), whole.end(), stays);
+  const auto last = std::find_if(whole.rbegin(), std::make_reverse_iterator(first), stays);
+  return stringOf(std::u16string(first, last.base()));
+}
+
 Object uppercaseString(Object self) {
   return stringOf(unicode::upperCase(units(self)));
 }
@@ -143,6 +156,7 @@ void addContentMethods(StandIn<NSString>& standIn) {
       .partial<"stringByReplacingOccurrencesOfString:withString:", &replaceOccurrences>(
           literalSearch)
       .partial<"componentsSeparatedByString:", &componentsSeparatedByString>(literalSearch)
+      .partial<"stringByTrimmingCharactersInSet:", &trimmed>("UTF-16 units")
       .partial<"uppercaseString", &uppercaseString>(simpleCase)
       .partial<"lowercaseString", &lowercaseString>(simpleCase);
   addVariadic({NSString::cls(), '-', "stringByAppendingFormat:", "@@:@"}, &stringByAppendingFormat);

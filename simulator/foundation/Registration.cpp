@@ -2,9 +2,11 @@
 #include "simulator/Frameworks.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/NSBundle.h"
+#include "simulator/foundation/NSCharacterSet.h"
 #include "simulator/foundation/NSData.h"
 #include "simulator/foundation/NSDate.h"
 #include "simulator/foundation/NSDictionary.h"
+#include "simulator/foundation/NSError.h"
 #include "simulator/foundation/NSFileManager.h"
 #include "simulator/foundation/NSLocale.h"
 #include "simulator/foundation/NSLog.h"
@@ -35,6 +37,7 @@ void registerFoundation() {
   NSValue::registerClass();
   NSNumber::registerClass();
   NSDate::registerClass();
+  NSCharacterSet::registerClass();
   NSData::registerClass();
   NSNull::registerClass();
   NSArray::registerClass();
@@ -44,6 +47,7 @@ void registerFoundation() {
   NSSet::registerClass();
   NSMutableSet::registerClass();
   NSThread::registerClass();
+  NSError::registerClass();
   NSLocale::registerClass();
   NSNumberFormatter::registerClass();
   NSFileManager::registerClass();

@@ -34,8 +34,16 @@ void AudioSystem::setVolume(float level, std::string_view category) {
   const float before = volume(category);
   const float after = held(level);
   volumes_.insert_or_assign(std::string(category), after);
-  if (after != before && !indicatorSuppressed_)
-    phone_.journal.record("HUD volume " + notation(after));
+  if (after == before) return;
+  if (!indicatorSuppressed_) phone_.journal.record("HUD volume " + notation(after));
+  if (category != mediaCategory) return;
+  const auto now = observers_;  // one of them may forget another
+  for (const auto& [number, observer] : now) observer();
+}
+
+long AudioSystem::observe(std::function<void()> observer) {
+  observers_.emplace(++lastObserver_, std::move(observer));
+  return lastObserver_;
 }
 
 nlohmann::json AudioSystem::save() const {

@@ -29,6 +29,10 @@ class AudioSystem {
   // Held to 0..1; not-a-number counts as 0. A change shows the indicator unless suppressed.
   void setVolume(float level, std::string_view category = mediaCategory);
 
+  // Called after every change of the media volume, until the observer is forgotten by its number.
+  long observe(std::function<void()> observer);
+  void forget(long number) { observers_.erase(number); }
+
   bool isIndicatorSuppressed() const { return indicatorSuppressed_; }
   void setIndicatorSuppressed(bool suppressed) { indicatorSuppressed_ = suppressed; }
 
@@ -38,6 +42,8 @@ class AudioSystem {
 
   Phone& phone_;
   std::map<std::string, float, std::less<>> volumes_;
+  std::map<long, std::function<void()>> observers_;
+  long lastObserver_ = 0;
   bool indicatorSuppressed_ = false;
 };
 

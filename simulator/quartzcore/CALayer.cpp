@@ -1,10 +1,16 @@
 #include "simulator/quartzcore/CALayer.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/quartzcore/LayerKeyPath.h"
+#include "simulator/quartzcore/states/CAState.h"
+#include "simulator/uikit/UIColor.h"
 
 namespace sim {
 namespace {
@@ -31,7 +37,10 @@ CGRect bounds(Object self) {
 }
 void setBounds(Object self, CGRect bounds) {
   const CGSize before = geometry(self).bounds.size;
-  geometry(self).bounds = bounds;
+  {
+    const LayerChange change(&CALayer::of(self));
+    geometry(self).bounds = bounds;
+  }
   sizeMayHaveChanged(self, before);
 }
 CGRect frame(Object self) {
@@ -39,13 +48,17 @@ CGRect frame(Object self) {
 }
 void setFrame(Object self, CGRect frame) {
   const CGSize before = geometry(self).bounds.size;
-  geometry(self).setFrame(frame);
+  {
+    const LayerChange change(&CALayer::of(self));
+    geometry(self).setFrame(frame);
+  }
   sizeMayHaveChanged(self, before);
 }
 CGPoint position(Object self) {
   return geometry(self).position;
 }
 void setPosition(Object self, CGPoint position) {
+  const LayerChange change(&CALayer::of(self));
   geometry(self).position = position;
 }
 CGPoint anchorPoint(Object self) {
@@ -58,12 +71,14 @@ CATransform3D transform(Object self) {
   return geometry(self).transform;
 }
 void setTransform(Object self, CATransform3D transform) {
+  const LayerChange change(&CALayer::of(self));
   geometry(self).transform = transform;
 }
 CGAffineTransform affineTransform(Object self) {
   return geometry(self).transform.affine();
 }
 void setAffineTransform(Object self, CGAffineTransform transform) {
+  const LayerChange change(&CALayer::of(self));
   geometry(self).transform = CATransform3D::ofAffine(transform);
 }
 
@@ -71,7 +86,17 @@ float layerOpacity(Object self) {
   return float(CALayer::of(self).opacity);
 }
 void setLayerOpacity(Object self, float opacity) {
+  const LayerChange change(&CALayer::of(self));
   CALayer::of(self).opacity = double(opacity);
+}
+
+void setBackgroundColor(Object self, Object color) {
+  const LayerChange change(&CALayer::of(self));
+  CALayer::of(self).backgroundColor = objc::retain(color);
+}
+void setCornerRadius(Object self, double radius) {
+  const LayerChange change(&CALayer::of(self));
+  CALayer::of(self).cornerRadius = radius;
 }
 
 Object sublayers(Object self) {
@@ -84,7 +109,89 @@ void addSublayer(Object self, Object layer) {
   state.insertSublayer(layer, unsigned(state.children.size()));
 }
 
+// A copy that stands where the layer is seen, without the layers below it.
+Object presentationLayer(Object self) {
+  const CALayer& model = CALayer::of(self);
+  const LayerValues seen = model.presentation(Phone::current().clock.uptime());
+  auto made = CALayer::make();
+  CALayer& copy = CALayer::of(made.get());
+  copy.geometry.bounds = seen.bounds;
+  copy.geometry.position = seen.position;
+  copy.geometry.anchorPoint = model.geometry.anchorPoint;
+  copy.geometry.transform = CATransform3D::ofAffine(seen.transform);
+  copy.opacity = seen.opacity;
+  copy.cornerRadius = seen.cornerRadius;
+  copy.hidden = model.hidden;
+  copy.masksToBounds = model.masksToBounds;
+  copy.backgroundColor = model.backgroundColor;
+  copy.contents = model.contents;
+  copy.name = model.name;
+  return autorelease(std::move(made));
+}
+
+std::array<double, 4> componentsOf(Object color) {
+  const CGColor* state = stateOf<CGColor>(color);
+  return state != nullptr ? state->color.values : std::array<double, 4>{};
+}
+
+unsigned long layersMade = 0;
+
+// The whole of what was there goes first.
+void setSublayers(Object self, Object layers) {
+  const auto before = CALayer::of(self).children;
+  for (const auto& child : before) CALayer::of(child.get()).removeFromSuperlayer();
+  const NSArray* list = stateOf<NSArray>(layers);
+  if (list == nullptr) return;
+  const auto kept = list->elements;
+  for (const auto& each : kept) addSublayer(self, each.get());
+}
+
+Object valueForUndefinedKey(Object self, Object key) {
+  const auto& values = CALayer::of(self).otherValues;
+  const auto found = values.find(text(key));
+  return found != values.end() ? found->second.get() : Object();
+}
+void setValueForUndefinedKey(Object self, Object value, Object key) {
+  CALayer::of(self).otherValues[text(key)] = objc::retain(value);
+}
+Object valueForKeyPath(Object self, Object path) {
+  if (const auto member = layerMember(self, text(path))) return number(*member);
+  return objc::sendSuper<Object, "valueForKeyPath:">(self.get(), CALayer::cls(), path);
+}
+void setValueForKeyPath(Object self, Object value, Object path) {
+  if (isLayerKeyPath(text(path))) {
+    setLayerMember(self, text(path), objc::send<double, "doubleValue">(value));
+    return;
+  }
+  objc::sendSuper<void, "setValue:forKeyPath:">(self.get(), CALayer::cls(), value, path);
+}
+
 }  // namespace
+
+CALayer::CALayer() : identity(++layersMade) {}
+
+LayerValues CALayer::values() const {
+  return {geometry.bounds,
+          geometry.position,
+          geometry.transform.affine(),
+          opacity,
+          componentsOf(backgroundColor),
+          cornerRadius};
+}
+
+LayerValues CALayer::presentation(Nanoseconds now) const {
+  auto seen = std::bit_cast<LayerNumbers>(values());
+  for (const LayerAnimation& animation : animations) {
+    const double toCome = 1 - animation.timing.progress(now);
+    for (std::size_t i = 0; i < seen.size(); ++i) seen[i] += animation.difference[i] * toCome;
+  }
+  return std::bit_cast<LayerValues>(seen);
+}
+
+void CALayer::removeAllAnimations() {
+  animations.clear();
+  transition = {};
+}
 
 CALayer::~CALayer() {
   for (const auto& child : children) of(child.get()).superlayer = nullptr;
@@ -107,6 +214,14 @@ void CALayer::removeFromSuperlayer() {
   siblings.erase(found);
 }
 
+Object CALayer::stateWithName(Object wanted) const {
+  const NSArray* list = stateOf<NSArray>(states);
+  if (list == nullptr) return nullptr;
+  for (const auto& state : list->elements)
+    if (text(CAState::of(state.get()).name) == text(wanted)) return state;
+  return nullptr;
+}
+
 void CALayer::registerClass() {
   StandIn<CALayer>("QuartzCore", "CALayer", "NSObject")
       .factory<"layer", &layer>()
@@ -126,9 +241,16 @@ void CALayer::registerClass() {
       .method<"setOpacity:", &setLayerOpacity>()
       .property<"hidden", &CALayer::hidden>()
       .readonlyProperty<"isHidden", &CALayer::hidden>()
-      .property<"cornerRadius", &CALayer::cornerRadius>()
+      .readonlyProperty<"cornerRadius", &CALayer::cornerRadius>()
+      .method<"setCornerRadius:", &setCornerRadius>()
+      .property<"borderWidth", &CALayer::borderWidth>()
+      .property<"borderColor", &CALayer::borderColor>()
       .property<"masksToBounds", &CALayer::masksToBounds>()
-      .property<"backgroundColor", &CALayer::backgroundColor>()
+      .property<"geometryFlipped", &CALayer::geometryFlipped>()
+      .readonlyProperty<"isGeometryFlipped", &CALayer::geometryFlipped>()
+      .property<"mask", &CALayer::mask>()
+      .readonlyProperty<"backgroundColor", &CALayer::backgroundColor>()
+      .method<"setBackgroundColor:", &setBackgroundColor>()
       .property<"contents", &CALayer::contents>()
       .property<"name", &CALayer::name>()
       .property<"delegate", &CALayer::delegate>()
@@ -137,6 +259,16 @@ void CALayer::registerClass() {
       .method<"addSublayer:", &addSublayer>()
       .method<"insertSublayer:atIndex:", &CALayer::insertSublayer>()
       .method<"removeFromSuperlayer", &CALayer::removeFromSuperlayer>()
+      .partial<"presentationLayer", &presentationLayer>("has no sublayers; colours as they end")
+      .method<"removeAllAnimations", &CALayer::removeAllAnimations>()
+      .method<"setSublayers:", &setSublayers>()
+      .property<"states", &CALayer::states>()
+      .property<"stateTransitions", &CALayer::stateTransitions>()
+      .method<"stateWithName:", &CALayer::stateWithName>()
+      .method<"valueForUndefinedKey:", &valueForUndefinedKey>()
+      .method<"setValue:forUndefinedKey:", &setValueForUndefinedKey>()
+      .method<"valueForKeyPath:", &valueForKeyPath>()
+      .partial<"setValue:forKeyPath:", &setValueForKeyPath>("of structures, what is in the plane")
       .finish();
 }
 

@@ -1,8 +1,5 @@
 // What lives in the host's process.
 #include "simulator/Frameworks.h"
-#include "simulator/springboard/CCUICAPackageDescription.h"
-#include "simulator/springboard/MRUNowPlayingHeaderView.h"
-#include "simulator/springboard/MRUNowPlayingRoutingButton.h"
 #include "simulator/springboard/SBApplication.h"
 #include "simulator/springboard/SBBacklightController.h"
 #include "simulator/springboard/SBMediaController.h"
@@ -16,9 +13,6 @@ void registerSpringBoard() {
   SBBacklightController::registerClass();
   SBVolumeControl::registerClass();
   SBMediaController::registerClass();
-  CCUICAPackageDescription::registerClass();
-  MRUNowPlayingRoutingButton::registerClass();
-  MRUNowPlayingHeaderView::registerClass();
   SpringBoard::registerClass();
 }
 

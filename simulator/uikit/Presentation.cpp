@@ -2,8 +2,11 @@
 #include "objc/Block.h"
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/quartzcore/CALayer.h"
+#include "simulator/uikit/Animation.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIViewController.h"
 #include "simulator/uikit/ViewTree.h"
@@ -53,7 +56,17 @@ void UIViewController::present(Object controller, bool animated, objc::Block<voi
   const Object view = objc::send<Object, "view">(controller);
   objc::send<void, "setFrame:">(view, UIView::of(place).geometry().bounds);
   insertSubview(place, view, std::size_t(-1));
+  if (animated && animationsAreEnabled()) objc::send<void, "_animateIn">(controller);
   completeLater(animated, completion);
+}
+
+void UIViewController::animateIn() {
+  CALayer* layer = stateOf<CALayer>(UIView::layerOf(objc::send<Object, "view">(self())));
+  if (layer == nullptr) return;
+  LayerValues start = layer->values();
+  start.position.y += start.bounds.size.height;
+  animateFrom(*layer, start,
+              timingOf({.duration = animationSeconds, .options = animation::curveEaseOut}));
 }
 
 void UIViewController::dismiss(bool animated, objc::Block<void()> completion) {

@@ -3,6 +3,7 @@
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/uikit/AlertView.h"
 #include "simulator/uikit/UIAlertAction.h"
 #include "simulator/uikit/UIViewController.h"
 #include "simulator/uikit/UIWindow.h"
@@ -48,6 +49,17 @@ Object UIAlertController::actionTitled(std::string_view title) const {
   return nullptr;
 }
 
+void UIAlertController::loadView() {
+  const auto made = AlertView::showing(*this);
+  if (!made) return super<void, "loadView">();
+  objc::send<void, "setView:">(self(), made.get());
+}
+
+void UIAlertController::animateIn() {
+  const Object view = objc::send<Object, "view">(self());
+  if (AlertView* state = stateOf<AlertView>(view)) state->animateIn();
+}
+
 void UIAlertController::press(Object action) {
   const auto kept = objc::retain(action);
   const auto gone = objc::block<void()>([kept] {
@@ -73,6 +85,8 @@ void UIAlertController::registerClass() {
       .method<"setTitle:", &setTitle>()
       .property<"message", &UIAlertController::message>()
       .readonlyProperty<"preferredStyle", &UIAlertController::preferredStyle>()
+      .partial<"loadView", &UIAlertController::loadView>("light; action sheets look like alerts")
+      .method<"_animateIn", &UIAlertController::animateIn>()
       .method<"addAction:", &UIAlertController::addAction>()
       .method<"actions", &UIAlertController::allActions>()
       .finish();

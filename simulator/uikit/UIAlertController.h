@@ -17,6 +17,8 @@ struct UIAlertController : objc::Implementation<UIAlertController> {
   static objc::Object make(id cls, objc::Object title, objc::Object message, long style);
   void addAction(objc::Object action);
   objc::Object allActions() const;
+  void loadView();
+  void animateIn();
 
   // The first of that title; nil for none.
   objc::Object actionTitled(std::string_view title) const;

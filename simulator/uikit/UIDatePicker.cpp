@@ -33,13 +33,16 @@ double UIDatePicker::countDownDuration() const {
 }
 
 void UIDatePicker::setCountDownDuration(double seconds) {
-  if (mode == countDownTimer) duration = onWheels(seconds);
+  if (mode != countDownTimer) return;
+  duration = onWheels(seconds);
+  turnWheels();
 }
 
 void UIDatePicker::setMinuteInterval(long minutes) {
   const bool works = minutes >= 1 && minutes <= 30 && 60 % minutes == 0;
   interval = works ? minutes : 1;
   duration = onWheels(duration);
+  removeWheels();
 }
 
 void UIDatePicker::registerClass() {
@@ -50,6 +53,7 @@ void UIDatePicker::registerClass() {
       .method<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>()
       .readonlyProperty<"minuteInterval", &UIDatePicker::interval>()
       .method<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>()
+      .method<"layoutSubviews", &UIDatePicker::layoutSubviews>()
       .readonlyProperty<"_textColor", &UIDatePicker::textColor>()
       .method<"_setTextColor:", &UIDatePicker::setTextColor>()
       .finish();

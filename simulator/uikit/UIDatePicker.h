@@ -2,6 +2,7 @@
 #pragma once
 
 #include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
 
 namespace sim {
 
@@ -24,13 +25,22 @@ struct UIDatePicker : objc::Implementation<UIDatePicker> {
   }
   // A divisor of 60 up to 30; others count as 1.
   void setMinuteInterval(long minutes);
-  void setMode(long chosen) { mode = chosen; }
-  void setTextColor(objc::Object color) { textColor = objc::retain(color); }
+  void setMode(long chosen);
+  void setTextColor(objc::Object color);  // nil: black
+  void layoutSubviews();
 
   static void registerClass();
 
  private:
   double onWheels(double seconds) const;
+  void removeWheels();
+  void makeWheels();
+  objc::Strong<objc::Object> makeWheel(long rows, long step);
+  void turnWheels();
+
+  objc::Strong<objc::Object> band_;                     // behind the selected rows
+  objc::Strong<objc::Object> hours_, minutes_;          // UIPickerColumnView
+  objc::Strong<objc::Object> hoursUnit_, minutesUnit_;  // UILabel
 };
 
 }  // namespace sim

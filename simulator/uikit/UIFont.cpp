@@ -13,12 +13,19 @@ using objc::Object;
 
 constexpr double bold = 0.4;
 
-Object weighted(double points, double weight) {
+Object styled(const FontStyle& style) {
   if (UIFont::cls() == nullptr) return nullptr;
   auto made = UIFont::make();
-  UIFont::of(made.get()).pointSize = points;
-  UIFont::of(made.get()).weight = weight;
+  UIFont::of(made.get()).style = style;
   return autorelease(std::move(made));
+}
+
+Object weighted(double points, double weight) {
+  return styled({points, weight, false});
+}
+
+Object monospacedDigits(double points, double weight) {
+  return styled({points, weight, true});
 }
 
 Object boldSystem(double points) {
@@ -39,14 +46,9 @@ constexpr NamedWeight names[] = {{0.5, "Heavy"},  {0.35, "Bold"},    {0.26, "Sem
 
 }  // namespace
 
-// The system font's ascent and descent.
-double UIFont::lineHeight() const {
-  return pointSize * 1.193359375;
-}
-
 Object UIFont::fontName() const {
   const NamedWeight* found = names;
-  while (weight < found->from && found->from > -2) ++found;
+  while (style.weight < found->from && found->from > -2) ++found;
   return string(std::string(".SFUI-") + found->name);
 }
 
@@ -54,15 +56,17 @@ Object UIFont::system(double points) {
   return weighted(points, 0);
 }
 Object UIFont::withSize(double points) const {
-  return weighted(points, weight);
+  FontStyle sized = style;
+  sized.pointSize = points;
+  return styled(sized);
 }
 
 bool UIFont::isEqual(Object other) const {
   const UIFont* font = stateOf<UIFont>(other);
-  return font != nullptr && font->pointSize == pointSize && font->weight == weight;
+  return font != nullptr && font->style == style;
 }
 unsigned long UIFont::hash() const {
-  return std::hash<double>()(pointSize) ^ std::hash<double>()(weight);
+  return std::hash<double>()(style.pointSize) ^ std::hash<double>()(style.weight);
 }
 
 void UIFont::registerClass() {
@@ -70,7 +74,10 @@ void UIFont::registerClass() {
       .classMethod<"systemFontOfSize:", &UIFont::system>()
       .classMethod<"systemFontOfSize:weight:", &weighted>()
       .classMethod<"boldSystemFontOfSize:", &boldSystem>()
-      .readonlyProperty<"pointSize", &UIFont::pointSize>()
+      .classMethod<"monospacedDigitSystemFontOfSize:weight:", &monospacedDigits>()
+      .method<"pointSize", &UIFont::pointSize>()
+      .method<"ascender", &UIFont::ascender>()
+      .method<"descender", &UIFont::descender>()
       .method<"lineHeight", &UIFont::lineHeight>()
       .method<"fontName", &UIFont::fontName>()
       .method<"fontWithSize:", &UIFont::withSize>()

@@ -1,14 +1,17 @@
 #pragma once
 
 #include "objc/Class.h"
+#include "simulator/coretext/FontStyle.h"
 
 namespace sim {
 
 struct UIFont : objc::Implementation<UIFont> {
-  double pointSize = 17;
-  double weight = 0;  // 0 regular, 0.3 semibold, 0.4 bold
+  FontStyle style;
 
-  double lineHeight() const;  // points
+  double pointSize() const { return style.pointSize; }
+  double lineHeight() const { return style.lineHeight(); }  // points
+  double ascender() const { return style.ascender(); }      // points
+  double descender() const { return style.descender(); }    // points, negative
   objc::Object fontName() const;
   objc::Object withSize(double points) const;
   bool isEqual(objc::Object other) const;

@@ -1,4 +1,6 @@
 #include "simulator/Frameworks.h"
+#include "simulator/uikit/AlertView.h"
+#include "simulator/uikit/GeometryValues.h"
 #include "simulator/uikit/NSLayoutConstraint.h"
 #include "simulator/uikit/NSURL.h"
 #include "simulator/uikit/UIAlertAction.h"
@@ -19,10 +21,12 @@
 #include "simulator/uikit/UIMotionEvent.h"
 #include "simulator/uikit/UINotificationFeedbackGenerator.h"
 #include "simulator/uikit/UIPasteboard.h"
+#include "simulator/uikit/UIPickerColumnView.h"
 #include "simulator/uikit/UIPickerView.h"
 #include "simulator/uikit/UIResponder.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UISelectionFeedbackGenerator.h"
+#include "simulator/uikit/UISlider.h"
 #include "simulator/uikit/UIStackView.h"
 #include "simulator/uikit/UITouch.h"
 #include "simulator/uikit/UIView.h"
@@ -57,14 +61,18 @@ void registerUIKit() {
   UILabel::registerClass();
   UIControl::registerClass();
   UIButton::registerClass();
+  UISlider::registerClass();
   UIStackView::registerClass();
+  UIPickerColumnView::registerClass();
   UIPickerView::registerClass();
   UIDatePicker::registerClass();
   NSLayoutConstraint::registerClass();
   UIViewController::registerClass();
   UIAlertAction::registerClass();
+  AlertView::registerClass();
   UIAlertController::registerClass();
   registerNibLoading();
+  addGeometryValues();
 }
 
 }  // namespace sim

@@ -1,13 +1,16 @@
 #include "simulator/uikit/UILabel.h"
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "simulator/StandIn.h"
+#include "simulator/coretext/Typesetter.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/uikit/TextMeasure.h"
 #include "simulator/uikit/UIColor.h"
 #include "simulator/uikit/UIFont.h"
+#include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UIView.h"
 
 namespace sim {
@@ -19,6 +22,10 @@ constexpr double unlimited = std::numeric_limits<double>::max();
 
 Object blackColor() {
   return objc::send<Object, "blackColor">(UIColor::cls());
+}
+
+double wholePixels(double points) {
+  return std::ceil(points * UIScreen::mainScale) / UIScreen::mainScale;
 }
 
 void sizeMayHaveChanged(id self) {
@@ -50,14 +57,26 @@ void UILabel::setFont(Object used) {
   sizeMayHaveChanged(self());
 }
 
+void UILabel::setNumberOfLines(long lines) {
+  if (numberOfLines == lines) return;
+  numberOfLines = lines;
+  sizeMayHaveChanged(self());
+}
+
+FontStyle UILabel::fontStyle() const {
+  const UIFont* its = stateOf<UIFont>(font.get());
+  return its != nullptr ? its->style : FontStyle();
+}
+
 CGSize UILabel::sizeThatFits(CGSize size) const {
-  TextStyle style;
-  style.lines = numberOfLines;
-  if (const UIFont* its = stateOf<UIFont>(font.get())) {
-    style.pointSize = its->pointSize;
-    style.lineHeight = its->lineHeight();
-  }
-  return textSize(sim::text(text), style, size.width > 0 ? size.width : unlimited);
+  const FontStyle style = fontStyle();
+  const double room = size.width > 0 ? size.width : unlimited;
+  const auto lines =
+      typeset(sim::text(text), style, numberOfLines == 1 ? unlimited : room, numberOfLines);
+  double width = 0;
+  for (const TextLine& line : lines) width = std::max(width, line.width);
+  return {wholePixels(std::min(width, room)),
+          wholePixels(double(lines.size()) * style.lineHeight())};
 }
 
 CGSize UILabel::intrinsicContentSize() const {
@@ -65,7 +84,7 @@ CGSize UILabel::intrinsicContentSize() const {
 }
 
 void UILabel::registerClass() {
-  constexpr const char* widths = "widths come from a table";
+  constexpr const char* widths = "the widths of a similar face; no kerning";
   StandIn<UILabel>("UIKit", "UILabel", "UIView")
       .method<"initWithFrame:", &UILabel::initWithFrame>()
       .readonlyProperty<"text", &UILabel::text>()
@@ -75,7 +94,8 @@ void UILabel::registerClass() {
       .readonlyProperty<"font", &UILabel::font>()
       .method<"setFont:", &UILabel::setFont>()
       .property<"textAlignment", &UILabel::textAlignment>()
-      .property<"numberOfLines", &UILabel::numberOfLines>()
+      .readonlyProperty<"numberOfLines", &UILabel::numberOfLines>()
+      .method<"setNumberOfLines:", &UILabel::setNumberOfLines>()
       .property<"adjustsFontSizeToFitWidth", &UILabel::adjustsFontSizeToFitWidth>()
       .property<"minimumScaleFactor", &UILabel::minimumScaleFactor>()
       .partial<"sizeThatFits:", &UILabel::sizeThatFits>(widths)

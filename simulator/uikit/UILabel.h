@@ -2,6 +2,7 @@
 #pragma once
 
 #include "objc/Class.h"
+#include "simulator/coretext/FontStyle.h"
 #include "simulator/uikit/Geometry.h"
 
 namespace sim {
@@ -19,6 +20,8 @@ struct UILabel : objc::Implementation<UILabel> {
   void setText(objc::Object shown);
   void setTextColor(objc::Object color);  // nil: black
   void setFont(objc::Object used);        // nil: the system's of 17 points
+  FontStyle fontStyle() const;
+  void setNumberOfLines(long lines);
   CGSize sizeThatFits(CGSize size) const;
   CGSize intrinsicContentSize() const;
 

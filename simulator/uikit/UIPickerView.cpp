@@ -4,6 +4,7 @@
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
+#include "simulator/uikit/UIPickerColumnView.h"
 
 namespace sim {
 
@@ -17,6 +18,7 @@ void UIPickerView::setDataSource(Object source) {
 void UIPickerView::setDelegate(Object listener) {
   delegate = objc::weak(listener);
   rowViews_.clear();
+  reloadColumns();
 }
 
 long UIPickerView::numberOfComponents() const {
@@ -36,13 +38,16 @@ void UIPickerView::countComponents() {
     selected[i] = numberOfRows(long(i)) > 0 ? 0 : -1;
 }
 
-void UIPickerView::selectRow(long row, long component, bool) {
+void UIPickerView::selectRow(long row, long component, bool animated) {
   countComponents();
   if (component < 0 || component >= long(selected.size()))
     raiseException("NSRangeException",
                    "there is no component " + std::to_string(component) + " in the picker view");
   const long last = numberOfRows(component) - 1;
   selected[std::size_t(component)] = last < 0 ? -1 : std::clamp(row, 0L, last);
+  if (std::size_t(component) < columns_.size())
+    UIPickerColumnView::of(columns_[std::size_t(component)].get())
+        .selectRow(selected[std::size_t(component)], animated);
 }
 
 long UIPickerView::selectedRow(long component) {
@@ -70,6 +75,7 @@ void UIPickerView::reloadComponent(long component) {
   long& row = selected[std::size_t(component)];
   const long last = numberOfRows(component) - 1;
   row = std::min(std::max(row, 0L), last);
+  reloadColumns();
 }
 
 void UIPickerView::reloadAllComponents() {
@@ -99,8 +105,8 @@ void UIPickerView::registerClass() {
       .method<"numberOfRowsInComponent:", &UIPickerView::numberOfRows>()
       .method<"selectRow:inComponent:animated:", &UIPickerView::selectRow>()
       .method<"selectedRowInComponent:", &UIPickerView::selectedRow>()
-      .partial<"viewForRow:forComponent:", &UIPickerView::viewForRow>(
-          "made when asked for, and no subview")
+      .partial<"viewForRow:forComponent:", &UIPickerView::viewForRow>("made when asked for or seen")
+      .partial<"layoutSubviews", &UIPickerView::layoutSubviews>("all wheels are equally wide")
       .method<"reloadComponent:", &UIPickerView::reloadComponent>()
       .method<"reloadAllComponents", &UIPickerView::reloadAllComponents>()
       .finish();

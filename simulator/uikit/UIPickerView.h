@@ -31,11 +31,20 @@ struct UIPickerView : objc::Implementation<UIPickerView> {
   // By touch: the delegate hears of it. False when there is no such row.
   bool userSelectsRow(long row, long component);
 
+  ~UIPickerView();
+  void layoutSubviews();
+
   static void registerClass();
 
  private:
   void countComponents();
+  double rowHeight(long component) const;
+  void makeColumns();
+  void reloadColumns();  // they are made anew when they are next laid out
+  objc::Strong<objc::Object> rowShown(long row, long component);
   std::map<std::pair<long, long>, objc::Strong<objc::Object>> rowViews_;
+  objc::Strong<objc::Object> band_;                  // behind the selected rows
+  std::vector<objc::Strong<objc::Object>> columns_;  // UIPickerColumnView
 };
 
 }  // namespace sim

@@ -5,21 +5,18 @@
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/uikit/UIView.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
 
 using objc::Object;
 
-void subviewDidChangeSize(Object self) {
-  objc::send<void, "setNeedsLayout">(self);
-}
-
 template <auto member>
 void setAndLayOut(Object self,
                   std::remove_reference_t<decltype(UIStackView::of(self).*member)> value) {
   UIStackView::of(self).*member = value;
-  objc::send<void, "setNeedsLayout">(self);
+  constraintsChanged(self);
 }
 
 }  // namespace
@@ -42,12 +39,20 @@ void UIStackView::insertArranged(Object view, unsigned long index) {
   std::erase_if(arranged, [view](const auto& each) { return each.get() == view; });
   arranged.insert(arranged.begin() + long(std::min<std::size_t>(index, arranged.size())), kept);
   if (UIView::of(view).parent.get() != self()) objc::send<void, "addSubview:">(self(), view);
-  objc::send<void, "setNeedsLayout">(self());
+  objc::send<void, "setTranslatesAutoresizingMaskIntoConstraints:">(view, false);
+  constraintsChanged(Object(self()));
 }
 
 void UIStackView::removeArranged(Object view) {
   std::erase_if(arranged, [view](const auto& each) { return each.get() == view; });
-  objc::send<void, "setNeedsLayout">(self());
+  constraintsChanged(Object(self()));
+}
+
+std::vector<Object> UIStackView::visible() const {
+  std::vector<Object> views;
+  for (const auto& each : arranged)
+    if (!UIView::of(each.get()).isHidden()) views.push_back(each);
+  return views;
 }
 
 void UIStackView::willRemoveSubview(Object view) {
@@ -63,20 +68,14 @@ void UIStackView::registerClass() {
       .method<"insertArrangedSubview:atIndex:", &UIStackView::insertArranged>()
       .method<"removeArrangedSubview:", &UIStackView::removeArranged>()
       .method<"willRemoveSubview:", &UIStackView::willRemoveSubview>()
-      .method<"_subviewDidChangeSize", &subviewDidChangeSize>()
       .readonlyProperty<"axis", &UIStackView::axis>()
       .method<"setAxis:", &setAndLayOut<&UIStackView::axis>>()
       .readonlyProperty<"distribution", &UIStackView::distribution>()
-      .partial<"setDistribution:", &setAndLayOut<&UIStackView::distribution>>(
-          "others than fill equally count as fill")
+      .method<"setDistribution:", &setAndLayOut<&UIStackView::distribution>>()
       .readonlyProperty<"alignment", &UIStackView::alignment>()
       .method<"setAlignment:", &setAndLayOut<&UIStackView::alignment>>()
       .readonlyProperty<"spacing", &UIStackView::spacing>()
       .method<"setSpacing:", &setAndLayOut<&UIStackView::spacing>>()
-      .partial<"layoutSubviews", &UIStackView::layoutSubviews>(
-          "no constraints: the last view takes what fill leaves over")
-      .partial<"intrinsicContentSize", &UIStackView::intrinsicContentSize>(
-          "what its constraints would give")
       .finish();
 }
 

@@ -1,17 +1,19 @@
-// A stack: subviews in a row or a column, without gaps where one is hidden.
+// A stack: subviews in a row or a column, without gaps where one is hidden. Constraints place them,
+// see autolayout/StackConstraints.cpp.
 #pragma once
 
 #include <vector>
 
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
 
 namespace sim {
 
 struct UIStackView : objc::Implementation<UIStackView> {
   static constexpr long horizontal = 0, vertical = 1;
-  static constexpr long fill = 0, fillEqually = 1;
-  static constexpr long alignFill = 0, alignLeading = 1, alignCenter = 3, alignTrailing = 4;
+  static constexpr long fill = 0, fillEqually = 1, fillProportionally = 2, equalSpacing = 3,
+                        equalCentering = 4;
+  static constexpr long alignFill = 0, alignLeading = 1, alignFirstBaseline = 2, alignCenter = 3,
+                        alignTrailing = 4, alignLastBaseline = 5;
 
   std::vector<objc::Strong<objc::Object>> arranged;
   long axis = horizontal;
@@ -25,14 +27,9 @@ struct UIStackView : objc::Implementation<UIStackView> {
   void addArranged(objc::Object view) { insertArranged(view, arranged.size()); }
   void removeArranged(objc::Object view);  // stays a subview
   void willRemoveSubview(objc::Object view);
-  void layoutSubviews();
-  CGSize intrinsicContentSize() const;
+  std::vector<objc::Object> visible() const;
 
   static void registerClass();
-
- private:
-  std::vector<objc::Object> visible() const;
-  std::vector<double> lengths(const std::vector<objc::Object>& views, double room) const;
 };
 
 }  // namespace sim

@@ -4,6 +4,7 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/ViewMethods.h"
+#include "simulator/uikit/autolayout/ViewConstraints.h"
 
 namespace sim {
 namespace {
@@ -37,6 +38,8 @@ Object nextResponder(Object self) {
 }
 
 }  // namespace
+
+UIView::UIView() = default;
 
 UIView::~UIView() {
   if (CALayer* state = stateOf<CALayer>(layer.get())) state->delegate = nullptr;
@@ -73,6 +76,7 @@ void UIView::registerClass() {
   addViewGeometry(view);
   addViewTree(view);
   addViewLayout(view);
+  addAutoLayout(view);
   addViewAppearance(view);
   addHitTesting(view);
   addViewAnimations(view);

@@ -2,6 +2,7 @@
 // animations have files of their own.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "objc/Class.h"
@@ -9,6 +10,8 @@
 #include "simulator/uikit/Geometry.h"
 
 namespace sim {
+
+struct ViewConstraints;
 
 struct UIView : objc::Implementation<UIView> {
   objc::Strong<objc::Object> layer;  // CALayer, which holds the geometry
@@ -26,7 +29,9 @@ struct UIView : objc::Implementation<UIView> {
   bool autoresizesSubviews = true;
   bool userInteractionEnabled = true;
   bool needsLayout = false;
+  std::unique_ptr<ViewConstraints> constraints;  // nullptr: nothing was ever said
 
+  UIView();
   ~UIView();
 
   objc::Object initWithFrame(CGRect frame);

@@ -113,6 +113,8 @@ void UIViewController::registerClass() {
       .readonlyProperty<"presentedViewController", &UIViewController::presented>()
       .readonlyProperty<"presentingViewController", &UIViewController::presenting>()
       .property<"modalPresentationStyle", &UIViewController::modalPresentationStyle>()
+      .property<"preferredContentSize", &UIViewController::preferredContentSize>()
+      .partial<"_animateIn", &UIViewController::animateIn>("the simulator's own")
       .partial<"presentViewController:animated:completion:", &UIViewController::present>(
           "in place at once; the completion waits for the animation")
       .partial<"dismissViewControllerAnimated:completion:", &UIViewController::dismiss>(

@@ -5,6 +5,7 @@
 
 #include "objc/Block.h"
 #include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
 
 namespace sim {
 
@@ -19,6 +20,7 @@ struct UIViewController : objc::Implementation<UIViewController> {
   objc::Object presenting;            // not owned: it owns this controller and clears it
   objc::Strong<objc::Object> window;  // kept while something is presented in it
   long modalPresentationStyle = -2;   // automatic
+  CGSize preferredContentSize;        // what containers may give its view; zero: anything
 
   ~UIViewController();
 
@@ -37,6 +39,8 @@ struct UIViewController : objc::Implementation<UIViewController> {
   // Refused, with the platform's words in the log, when the controller's view is in no window or
   // it presents another already.
   void present(objc::Object controller, bool animated, objc::Block<void()> completion);
+  // How its view is seen coming when it is presented: from below. It is in its place already.
+  void animateIn();
   // What it presents; when it presents nothing, itself.
   void dismiss(bool animated, objc::Block<void()> completion);
 

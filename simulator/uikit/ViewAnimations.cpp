@@ -6,36 +6,28 @@ namespace sim {
 namespace {
 
 void animateCompletion(double seconds, AnimationBlock changes, AnimationCompletion ended) {
-  changes();
-  finishAnimation(seconds, ended);
+  animateChanges({.duration = seconds}, changes, ended);
 }
 
 void animate(double seconds, AnimationBlock changes) {
   animateCompletion(seconds, changes, nullptr);
 }
 
-void animateDelayed(double seconds, double delay, unsigned long, AnimationBlock changes,
+void animateDelayed(double seconds, double delay, unsigned long options, AnimationBlock changes,
                     AnimationCompletion ended) {
-  animateCompletion(delay + seconds, changes, ended);
+  animateChanges({.duration = seconds, .delay = delay, .options = options}, changes, ended);
 }
 
-void animateSpring(double seconds, double delay, double, double, unsigned long,
-                   AnimationBlock changes, AnimationCompletion ended) {
-  animateCompletion(delay + seconds, changes, ended);
-}
-
-void performWithout(AnimationBlock changes) {
-  const bool before = animationsAreEnabled();
-  setAnimationsEnabled(false);
-  changes();
-  setAnimationsEnabled(before);
+void animateSpring(double seconds, double delay, double damping, double velocity,
+                   unsigned long options, AnimationBlock changes, AnimationCompletion ended) {
+  animateChanges({seconds, delay, options, damping, velocity}, changes, ended);
 }
 
 }  // namespace
 
 void addViewAnimations(StandIn<UIView>& view) {
   constexpr const char* difference =
-      "values are final at once; takes its time also when nothing changes";
+      "takes its time also when nothing changes; transforms change number by number";
   view.partialClassMethod<"animateWithDuration:animations:", &animate>(difference)
       .partialClassMethod<"animateWithDuration:animations:completion:", &animateCompletion>(
           difference)
@@ -45,7 +37,7 @@ void addViewAnimations(StandIn<UIView>& view) {
           "animateWithDuration:delay:usingSpringWithDamping:"
           "initialSpringVelocity:options:animations:completion:",
           &animateSpring>(difference)
-      .classMethod<"performWithoutAnimation:", &performWithout>()
+      .classMethod<"performWithoutAnimation:", &performWithoutAnimation>()
       .classMethod<"areAnimationsEnabled", &animationsAreEnabled>()
       .classMethod<"setAnimationsEnabled:", &setAnimationsEnabled>();
 }

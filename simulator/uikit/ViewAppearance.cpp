@@ -3,7 +3,9 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/UIColor.h"
+#include "simulator/uikit/UIStackView.h"
 #include "simulator/uikit/ViewMethods.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
@@ -15,6 +17,7 @@ CALayer* layerOf(Object self) {
 }
 
 void setAlpha(Object self, double alpha) {
+  const LayerChange change(layerOf(self));
   if (CALayer* layer = layerOf(self)) layer->opacity = alpha < 0 ? 0 : alpha > 1 ? 1 : alpha;
 }
 double alphaOf(Object self) {
@@ -28,10 +31,11 @@ void setHidden(Object self, bool hidden) {
   if (layer == nullptr || layer->hidden == hidden) return;
   layer->hidden = hidden;
   // A stack closes the gap.
-  if (UIView::of(self).parent) objc::send<void, "_subviewDidChangeSize">(UIView::of(self).parent);
+  if (isA<UIStackView>(UIView::of(self).parent)) constraintsChanged(self);
 }
 
 void setBackgroundColor(Object self, Object color) {
+  const LayerChange change(layerOf(self));
   UIView::of(self).backgroundColor = objc::retain(color);
   if (CALayer* layer = layerOf(self))
     layer->backgroundColor = objc::retain(objc::send<Object, "CGColor">(color));
@@ -64,6 +68,13 @@ void setTintColor(Object self, Object color) {
 }
 void tintColorDidChange(Object) {}
 
+// What is inside may run the other way now.
+void setSemanticContentAttribute(Object self, long attribute) {
+  if (UIView::of(self).semanticContentAttribute == attribute) return;
+  UIView::of(self).semanticContentAttribute = attribute;
+  constraintsChanged(self);
+}
+
 }  // namespace
 
 bool UIView::isHidden() const {
@@ -90,7 +101,8 @@ void addViewAppearance(StandIn<UIView>& view) {
       .method<"setTintColor:", &setTintColor>()
       .method<"tintColorDidChange", &tintColorDidChange>()
       .property<"contentMode", &UIView::contentMode>()
-      .property<"semanticContentAttribute", &UIView::semanticContentAttribute>()
+      .readonlyProperty<"semanticContentAttribute", &UIView::semanticContentAttribute>()
+      .method<"setSemanticContentAttribute:", &setSemanticContentAttribute>()
       .property<"accessibilityLabel", &UIView::accessibilityLabel>()
       .property<"accessibilityIdentifier", &UIView::accessibilityIdentifier>();
 }

@@ -1,7 +1,10 @@
 // UIView: where it stands.
 #include "objc/Message.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/ViewMethods.h"
 #include "simulator/uikit/ViewTree.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
@@ -12,33 +15,44 @@ LayerGeometry& geometry(Object self) {
   return UIView::of(self).geometry();
 }
 
+// Changes what a layer can animate.
+template <class Change>
+void change(Object self, Change make) {
+  const LayerChange recorded(stateOf<CALayer>(UIView::layerOf(self)));
+  make(geometry(self));
+}
+
 CGRect frame(Object self) {
   return geometry(self).frame();
 }
 void setFrame(Object self, CGRect frame) {
   const CGSize before = geometry(self).bounds.size;
-  geometry(self).setFrame(frame);
+  change(self, [frame](LayerGeometry& its) { its.setFrame(frame); });
   sizeChanged(self, before);
+  geometryChanged(self);
 }
 CGRect bounds(Object self) {
   return geometry(self).bounds;
 }
 void setBounds(Object self, CGRect bounds) {
   const CGSize before = geometry(self).bounds.size;
-  geometry(self).bounds = bounds;
+  change(self, [bounds](LayerGeometry& its) { its.bounds = bounds; });
   sizeChanged(self, before);
+  geometryChanged(self);
 }
 CGPoint center(Object self) {
   return geometry(self).position;
 }
 void setCenter(Object self, CGPoint center) {
-  geometry(self).position = center;
+  change(self, [center](LayerGeometry& its) { its.position = center; });
+  geometryChanged(self);
 }
 CGAffineTransform transform(Object self) {
   return geometry(self).transform.affine();
 }
 void setTransform(Object self, CGAffineTransform transform) {
-  geometry(self).transform = CATransform3D::ofAffine(transform);
+  change(self,
+         [transform](LayerGeometry& its) { its.transform = CATransform3D::ofAffine(transform); });
 }
 
 // nil stands for the window, or for the root of a tree that has none.

@@ -6,6 +6,7 @@
 #include "simulator/phone/Phone.h"
 #include "simulator/uikit/UIWindow.h"
 #include "simulator/uikit/ViewTree.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
@@ -24,6 +25,7 @@ void layOut(Object view) {
   const Strong<Object> controller = objc::retain(state.controller);
   state.needsLayout = false;
   objc::send<void, "viewWillLayoutSubviews">(controller.get());
+  solveIfNeeded(view);  // sizes that this depends on may just have changed
   objc::send<void, "layoutSubviews">(view);
   objc::send<void, "viewDidLayoutSubviews">(controller.get());
 }
@@ -39,7 +41,10 @@ bool layOutTree(Object view) {
 
 bool layOutWindows() {
   bool any = false;
-  for (const auto& window : UIWindow::visibleWindows()) any = layOutTree(window.get()) || any;
+  for (const auto& window : UIWindow::visibleWindows()) {
+    solveIfNeeded(window);
+    any = layOutTree(window) || any;
+  }
   return any;
 }
 
@@ -65,11 +70,15 @@ void queueLayoutPass() {
 }
 
 void layoutIfNeeded(Object view) {
+  solveIfNeeded(view);
   Object start = view;
   for (Object above = view; above; above = UIView::of(above).parent)
     if (UIView::of(above).needsLayout) start = above;
   constexpr int enoughRounds = 10;
-  for (int round = 0; round < enoughRounds && layOutTree(start); ++round) start = view;
+  for (int round = 0; round < enoughRounds && layOutTree(start); ++round) {
+    solveIfNeeded(view);
+    start = view;
+  }
 }
 
 }  // namespace sim

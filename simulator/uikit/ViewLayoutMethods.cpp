@@ -4,6 +4,7 @@
 #include "simulator/uikit/ViewLayout.h"
 #include "simulator/uikit/ViewMethods.h"
 #include "simulator/uikit/ViewTree.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
@@ -17,8 +18,6 @@ void setNeedsLayout(Object self) {
   if (windowOf(self)) queueLayoutPass();
 }
 
-void layoutSubviews(Object) {}
-
 CGSize sizeThatFits(Object self, CGSize) {
   return UIView::of(self).geometry().bounds.size;
 }
@@ -31,8 +30,9 @@ void sizeToFit(Object self) {
 CGSize intrinsicContentSize(Object) {
   return {noIntrinsicMetric, noIntrinsicMetric};
 }
-// Matters only to superviews that place their subviews by their sizes.
+// Superviews may place their subviews by their sizes without constraints, too.
 void invalidateIntrinsicContentSize(Object self) {
+  contentSizeChanged(self);
   if (UIView::of(self).parent) objc::send<void, "_subviewDidChangeSize">(UIView::of(self).parent);
 }
 void subviewDidChangeSize(Object) {}
@@ -42,13 +42,12 @@ void subviewDidChangeSize(Object) {}
 void addViewLayout(StandIn<UIView>& view) {
   view.method<"setNeedsLayout", &setNeedsLayout>()
       .method<"layoutIfNeeded", &layoutIfNeeded>()
-      .partial<"layoutSubviews", &layoutSubviews>("no constraints")
+      .method<"layoutSubviews", &placeSubviews>()
       .method<"sizeThatFits:", &sizeThatFits>()
       .method<"sizeToFit", &sizeToFit>()
       .method<"intrinsicContentSize", &intrinsicContentSize>()
       .method<"invalidateIntrinsicContentSize", &invalidateIntrinsicContentSize>()
-      .partial<"_subviewDidChangeSize", &subviewDidChangeSize>(
-          "the simulator's own, for stack views and buttons");
+      .partial<"_subviewDidChangeSize", &subviewDidChangeSize>("the simulator's own, for buttons");
 }
 
 }  // namespace sim

@@ -9,6 +9,7 @@ namespace sim {
 void addViewGeometry(StandIn<UIView>& view);    // frame, bounds, transform, converting points
 void addViewTree(StandIn<UIView>& view);        // superview, subviews, window
 void addViewLayout(StandIn<UIView>& view);      // setNeedsLayout, sizeToFit …
+void addAutoLayout(StandIn<UIView>& view);      // constraints
 void addViewAppearance(StandIn<UIView>& view);  // alpha, hidden, colours
 void addHitTesting(StandIn<UIView>& view);
 void addViewAnimations(StandIn<UIView>& view);

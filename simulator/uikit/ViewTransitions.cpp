@@ -1,5 +1,8 @@
 // UIView: transitions, which are animations between two states of a tree.
 #include "objc/Message.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/Animation.h"
 #include "simulator/uikit/ViewMethods.h"
 
@@ -8,12 +11,24 @@ namespace {
 
 using objc::Object;
 
-constexpr unsigned long showHideTransitionViews = 1 << 8;
+// The picture is taken before anything changes.
+AnimationTiming begin(Object view, double seconds, unsigned long options) {
+  const AnimationTiming timing = timingOf({.duration = seconds, .options = options});
+  CALayer* layer = view ? stateOf<CALayer>(UIView::layerOf(view)) : nullptr;
+  const bool isSeen = animationsAreEnabled() && timing.end() > Phone::current().clock.uptime() &&
+                      (options & animation::transitionMask) != 0;
+  if (layer != nullptr && isSeen) beginTransition(*layer, timing);
+  return timing;
+}
 
-void transitionWithView(Object, double seconds, unsigned long, AnimationBlock changes,
+void transitionWithView(Object view, double seconds, unsigned long options, AnimationBlock changes,
                         AnimationCompletion ended) {
-  changes();
-  finishAnimation(seconds, ended);
+  const AnimationTiming timing = begin(view, seconds, options);
+  if ((options & animation::allowAnimatedContent) != 0)
+    animateChanges({.duration = seconds, .options = options}, changes, nullptr);
+  else
+    changes();
+  finishAnimation(timing, ended);
 }
 
 // As the documentation spells it out: the container, the first view's superview, lets go of the
@@ -27,22 +42,25 @@ void exchange(Object from, Object to) {
 void transitionBetween(Object from, Object to, double seconds, unsigned long options,
                        AnimationCompletion ended) {
   const auto kept = objc::retain(from);
-  if ((options & showHideTransitionViews) != 0) {
+  const Object container = from ? UIView::of(from).parent : Object();
+  const AnimationTiming timing = begin(container, seconds, options);
+  if ((options & animation::showHideTransitionViews) != 0) {
     objc::send<void, "setHidden:">(from, true);
     objc::send<void, "setHidden:">(to, false);
   } else if (from) {
     exchange(from, to);
   }
-  finishAnimation(seconds, ended);
+  finishAnimation(timing, ended);
 }
 
 }  // namespace
 
 void addViewTransitions(StandIn<UIView>& view) {
+  constexpr const char* difference = "every kind is seen as a dissolve";
   view.partialClassMethod<"transitionWithView:duration:options:animations:completion:",
-                          &transitionWithView>("shows no picture in between")
+                          &transitionWithView>(difference)
       .partialClassMethod<"transitionFromView:toView:duration:options:completion:",
-                          &transitionBetween>("shows no picture in between");
+                          &transitionBetween>(difference);
 }
 
 }  // namespace sim

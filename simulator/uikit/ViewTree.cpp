@@ -7,6 +7,8 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/autolayout/Activation.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
 
 namespace sim {
 namespace {
@@ -60,6 +62,7 @@ void takeOut(Object view) {
   UIView& state = UIView::of(view);
   if (!state.parent) return;
   objc::send<void, "willRemoveSubview:">(state.parent, view);
+  dropConstraintsAcross(view);
   auto& siblings = UIView::of(std::exchange(state.parent, nullptr)).children;
   const auto isThis = [view](const auto& each) { return each.get() == view; };
   siblings.erase(std::find_if(siblings.begin(), siblings.end(), isThis));
@@ -72,6 +75,7 @@ void putIn(Object parent, const Strong<Object>& view, std::size_t index) {
   siblings.insert(siblings.begin() + long(index), view);
   UIView::of(view.get()).parent = parent;
   insertLayer(parent, view, index);
+  constraintsChanged(view);
 }
 
 void move(Object view, Object parent, std::size_t index) {
@@ -113,6 +117,11 @@ Object windowOf(Object view) {
 bool isDescendant(Object view, Object ancestor) {
   while (view && view != ancestor) view = UIView::of(view).parent;
   return bool(view);
+}
+
+Object commonAncestor(Object a, Object b) {
+  while (a && !isDescendant(b, a)) a = UIView::of(a).parent;
+  return a;
 }
 
 std::size_t indexOfSubview(Object parent, Object view) {

@@ -15,6 +15,9 @@ objc::Object windowOf(objc::Object view);
 // A view is a descendant of itself.
 bool isDescendant(objc::Object view, objc::Object ancestor);
 
+// The nearest view around both, which may be one of them. nil when they are in different trees.
+objc::Object commonAncestor(objc::Object a, objc::Object b);
+
 // Among the subviews; as many as there are for another's.
 std::size_t indexOfSubview(objc::Object parent, objc::Object view);
 // Moves the view from the superview that it has, telling everybody. An index past the end means

@@ -16,8 +16,12 @@ import tempfile
 
 # Nothing on the phone works without these: not the journal, not the scripts.
 ESSENTIAL = {
-    "NSObject", "NSString", "NSMutableString", "NSNumber", "NSDate", "NSDictionary", "NSArray",
+    "NSObject", "NSString", "NSMutableString", "NSNumber", "NSValue", "NSDate", "NSDictionary",
+    "NSArray", "NSMutableArray",
 }
+
+# Our layouts hold objects of these, and the platform ends a host that reads a layout without them.
+OF_LAYOUTS = {"UIButton", "UILabel", "UIStackView"}
 
 
 def classes(top):
@@ -27,7 +31,7 @@ def classes(top):
         found |= set(re.findall(r'objc_getClass\("(\w+)"\)', text))
         found |= set(re.findall(r'objc::hook<"(\w+)"', text))
     found.discard("DozewellButton")
-    return sorted(found - ESSENTIAL)
+    return sorted(found - ESSENTIAL - OF_LAYOUTS)
 
 
 def script_without(absent, template):

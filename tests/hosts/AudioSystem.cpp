@@ -36,6 +36,24 @@ TEST_F(AudioSystemTest, TheIndicatorShowsChangesOnly) {
   EXPECT_EQ(journal(), std::vector<std::string>{"HUD volume 0.25"});
 }
 
+TEST_F(AudioSystemTest, ObserversHearOfTheMediaVolumeUntilTheyAreForgotten) {
+  int first = 0, second = 0;
+  const long number = audio.observe([&] {
+    ++first;
+    EXPECT_EQ(audio.volume(), 0.25F);
+  });
+  audio.observe([&] { ++second; });
+  audio.setVolume(0.25F);
+  audio.setVolume(0.25F);
+  audio.setVolume(0.75F, "Ringtone");
+  EXPECT_EQ(first, 1);
+  EXPECT_EQ(second, 1);
+  audio.forget(number);
+  audio.setVolume(1);
+  EXPECT_EQ(first, 1);
+  EXPECT_EQ(second, 2);
+}
+
 TEST_F(AudioSystemTest, ASuppressedIndicatorShowsNothing) {
   audio.setIndicatorSuppressed(true);
   audio.setVolume(0.25F);

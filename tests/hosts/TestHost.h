@@ -32,6 +32,7 @@ class TestHost : public TestPhone {
     registerRunwright();
     registerBackBoard();
     registerSpringBoard();
+    registerMediaControls();
     registerCoverSheet();
     registerControlCenter();
   }

@@ -49,6 +49,14 @@ TABLE(Setup, Mistake{"Version", "ios x", "SCRIPT:1:5: expected a version such as
       Mistake{"Encoding", "declare f \"vz\"",
               "SCRIPT:1:11: the encoding \"vz\" has a type that no method passes by value: z"});
 
+TABLE(Blocks,
+      Mistake{"Name", "boot\nsend Sample.new setTitle: block",
+              "SCRIPT:2:32: expected a name for the block"},
+      Mistake{"Encoding", "boot\nsend Sample.new setTitle: block done \"v[\"",
+              "SCRIPT:2:38: the encoding \"v[\" has a type that no method passes by value: ["},
+      Mistake{"Traced", "trace NSObject +noSuchMethod\nboot",
+              "SCRIPT:2:1: there is no method +[NSObject noSuchMethod] to trace"});
+
 TABLE(Targets, Mistake{"Class", "boot\nget NoClass.x", "SCRIPT:2:5: there is no class NoClass"},
       Mistake{"Variable", "boot\nget $x", "SCRIPT:2:5: there is no variable $x"},
       Mistake{"Key", "boot\nget Sample.shared.nokey.x",

@@ -1,3 +1,5 @@
+#include "simulator/uikit/AlertView.h"
+#include "simulator/uikit/Touch.h"
 #include "simulator/uikit/UIAlertController.h"
 #include "tests/uikit/UIKitTest.h"
 
@@ -63,6 +65,54 @@ TEST_F(Alerts, HigherWindowsLieAboveLowerOnes) {
   for (const Object each : {alert, below})
     send<void, "dismissViewControllerAnimated:completion:">(each, false,
                                                             objc::Block<void()>(nullptr));
+}
+
+TEST_F(Alerts, AreCardsInTheMiddleOfTheScreen) {
+  const auto window = shownWindow();
+  const Object alert = show(window);
+  const AlertView& view = AlertView::of(send<Object, "view">(alert));
+  advance(0);
+  const CGRect card = frameOf(view.card);
+  EXPECT_EQ(card.size.width, 270);
+  EXPECT_DOUBLE_EQ(card.origin.x, 60);
+  EXPECT_DOUBLE_EQ(card.origin.y + card.size.height / 2, 422);
+  EXPECT_LT(frameOf(view.title).origin.y, frameOf(view.message).origin.y);
+  EXPECT_EQ(frameOf(view.buttons[1]), rect(135, card.size.height - 44, 135, 44));
+  send<void, "dismissViewControllerAnimated:completion:">(alert, false,
+                                                          objc::Block<void()>(nullptr));
+}
+
+TEST_F(Alerts, LongTitlesGoBelowEachOtherAndCancelLast) {
+  const auto window = shownWindow();
+  const auto root = objc::adopt(send<Object, "new">(cls("UIViewController")));
+  send<void, "setRootViewController:">(window.get(), root.get());
+  const Object alert = send<Object, "alertControllerWithTitle:message:preferredStyle:">(
+      cls("UIAlertController"), string("Title"), Object(), 1L);
+  long style = 1;  // cancel
+  for (const char* title : {"Later", "Create a shortcut"})
+    send<void, "addAction:">(
+        alert, send<Object, "actionWithTitle:style:handler:">(cls("UIAlertAction"), string(title),
+                                                              std::exchange(style, 0),
+                                                              objc::Block<void(Object)>(nullptr)));
+  send<void, "presentViewController:animated:completion:">(root.get(), alert, false,
+                                                           objc::Block<void()>(nullptr));
+  advance(0);
+  const AlertView& view = AlertView::of(send<Object, "view">(alert));
+  const double height = frameOf(view.card).size.height;
+  EXPECT_EQ(frameOf(view.buttons[0]).size, (CGSize{270, 44}));
+  EXPECT_DOUBLE_EQ(frameOf(view.buttons[0]).origin.y, height - 44);
+  EXPECT_DOUBLE_EQ(frameOf(view.buttons[1]).origin.y, height - 88);
+  send<void, "dismissViewControllerAnimated:completion:">(alert, false,
+                                                          objc::Block<void()>(nullptr));
+}
+
+TEST_F(Alerts, TheirButtonsCanBeTouched) {
+  const auto window = shownWindow();
+  const AlertView& view = AlertView::of(send<Object, "view">(show(window)));
+  advance(0);
+  tapControl(view.buttons[1].get());
+  advance(0);
+  EXPECT_EQ(pressed, "Later");
 }
 
 }  // namespace

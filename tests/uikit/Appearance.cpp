@@ -35,11 +35,11 @@ TEST_F(Appearance, LabelsMeasureTheirText) {
   EXPECT_EQ(size(), CGSize());
   send<void, "setText:">(label.get(), string("SONGS"));
   const CGSize five = size();
-  EXPECT_EQ(five.height, 21);
+  EXPECT_DOUBLE_EQ(five.height, 61.0 / 3);  // whole pixels
   send<void, "setText:">(label.get(), string("SONG"));
   EXPECT_LT(size().width, five.width);
   send<void, "setFont:">(label.get(), send<Object, "systemFontOfSize:">(cls("UIFont"), 34.0));
-  EXPECT_EQ(size().height, 41);
+  EXPECT_DOUBLE_EQ(size().height, 122.0 / 3);
   send<void, "sizeToFit">(label.get());
   EXPECT_EQ(frameOf(label).size, size());
 }
@@ -48,13 +48,13 @@ TEST_F(Appearance, LabelsBreakLinesWhereTheyMay) {
   const auto label = make("UILabel");
   send<void, "setText:">(label.get(), string("You first need to create a shortcut"));
   const CGSize room = {100, 1000};
-  EXPECT_EQ((send<CGSize, "sizeThatFits:">(label.get(), room).height), 21);
+  EXPECT_DOUBLE_EQ((send<CGSize, "sizeThatFits:">(label.get(), room).height), 61.0 / 3);
   send<void, "setNumberOfLines:">(label.get(), 0L);
   const CGSize broken = send<CGSize, "sizeThatFits:">(label.get(), room);
   EXPECT_GT(broken.height, 40);
   EXPECT_LE(broken.width, 100);
   send<void, "setNumberOfLines:">(label.get(), 2L);
-  EXPECT_EQ((send<CGSize, "sizeThatFits:">(label.get(), room).height), 41);
+  EXPECT_DOUBLE_EQ((send<CGSize, "sizeThatFits:">(label.get(), room).height), 122.0 / 3);
 }
 
 TEST_F(Appearance, ViewsPassTheirLooksToTheLayer) {

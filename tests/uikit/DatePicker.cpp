@@ -1,3 +1,7 @@
+#include <functional>
+
+#include "simulator/uikit/UILabel.h"
+#include "simulator/uikit/ViewTree.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {
@@ -62,6 +66,54 @@ TEST_F(DatePicker, HasPrivateColours) {
   EXPECT_STREQ(method_getTypeEncoding(class_getInstanceMethod(cls("UIDatePicker"), highlights)),
                "v@:B");
   send<Object, "performSelector:withObject:">(picker.get(), highlights, number(false));
+}
+
+// The texts of all labels below a view, from left to right, in the row of the wheels' selection.
+std::vector<std::string> selection(Object picker) {
+  std::map<double, std::string> byPlace;
+  const std::function<void(Object)> look = [&](Object view) {
+    if (UIView::of(view).alpha() < 1) return;
+    const double x = toRoot(view, {}).x;
+    if (UILabel::cls() == object_getClass(view.get()))
+      byPlace[x] = text(send<Object, "text">(view));
+    for (const auto& child : UIView::of(view).children) look(child.get());
+  };
+  look(picker);
+  std::vector<std::string> texts;
+  for (const auto& [x, its] : byPlace) texts.push_back(its);
+  return texts;
+}
+
+TEST_F(DatePicker, ShowsTheDurationOnItsWheels) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 320, 200));
+  add(window, picker);
+  set(2 * 3600 + 45 * 60);
+  advance(0);
+  EXPECT_EQ(selection(picker), (std::vector<std::string>{"2", "hours", "45", "min"}));
+  set(3600);
+  advance(0);
+  EXPECT_EQ(selection(picker), (std::vector<std::string>{"1", "hour", "0", "min"}));
+}
+
+TEST_F(DatePicker, SpeaksThePhonesLanguage) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 320, 200));
+  phone.setup.locale = "ar_SA";
+  add(window, picker);
+  set(45 * 60);
+  advance(0);
+  // From the right.
+  EXPECT_EQ(selection(picker), (std::vector<std::string>{"د", "٤٥", "ساعات", "٠"}));
+  phone.setup.locale = "en_US";
+}
+
+TEST_F(DatePicker, WithoutACountDownHasNoWheels) {
+  const auto window = shownWindow();
+  send<void, "setDatePickerMode:">(picker.get(), 1L);
+  add(window, picker);
+  advance(0);
+  EXPECT_TRUE(UIView::of(picker.get()).children.empty());
 }
 
 }  // namespace

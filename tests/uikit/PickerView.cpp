@@ -1,5 +1,6 @@
 #include "objc/Class.h"
 #include "simulator/uikit/UIPickerView.h"
+#include "simulator/uikit/UIView.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {
@@ -89,6 +90,74 @@ TEST_F(PickerView, MakesAViewForARowOnce) {
   EXPECT_TRUE(view());
   EXPECT_EQ(view(), view());
   EXPECT_EQ(viewsMade, 1);
+}
+
+// The wheel of an only component.
+std::vector<Strong<Object>> cells(Object wheel) {
+  return UIView::of(wheel).children;
+}
+Object wheelOf(Object picker) {
+  return UIView::of(picker).children.at(1).get();
+}
+double middle(Object cell) {
+  return send<CGPoint, "center">(cell).y;
+}
+
+TEST_F(PickerView, ShowsTheRowsAroundTheSelectedOne) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 320, 200));
+  select(50);
+  add(window, picker);
+  advance(0);
+  const auto shown = cells(wheelOf(picker));
+  ASSERT_EQ(shown.size(), 9U);
+  EXPECT_EQ(viewsMade, 9);
+  EXPECT_DOUBLE_EQ(middle(shown[4]), 100);
+  EXPECT_DOUBLE_EQ(UIView::of(shown[4].get()).alpha(), 1);
+  EXPECT_LT(UIView::of(shown[3].get()).alpha(), 0.6);
+  EXPECT_LT(UIView::of(shown[0].get()).alpha(), UIView::of(shown[3].get()).alpha());
+  EXPECT_LT(middle(shown[3]), 100 - 25);
+  EXPECT_DOUBLE_EQ(middle(shown[3]) + middle(shown[5]), 200);
+}
+
+TEST_F(PickerView, HasNoRowsBeyondItsEnds) {
+  const auto window = shownWindow();
+  add(window, picker);
+  advance(0);
+  EXPECT_EQ(cells(wheelOf(picker)).size(), 5U);
+  select(98);
+  advance(0);
+  EXPECT_EQ(cells(wheelOf(picker)).size(), 5U);
+}
+
+TEST_F(PickerView, WhatOthersAddLiesInFrontOfTheWheels) {
+  const auto window = shownWindow();
+  const auto label = make("UILabel");
+  add(picker, label);
+  add(window, picker);
+  advance(0);
+  EXPECT_EQ(UIView::of(picker.get()).children.back().get(), label.get());
+  EXPECT_EQ(UIView::of(picker.get()).children.size(), 3U);
+}
+
+TEST_F(PickerView, RollsToARow) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 320, 200));
+  add(window, picker);
+  advance(0);
+  const Object first = cells(wheelOf(picker)).front();
+  const auto seenAt = [first] {
+    return send<CGPoint, "position">(
+               send<Object, "presentationLayer">(send<Object, "layer">(first)))
+        .y;
+  };
+  send<void, "selectRow:inComponent:animated:">(picker.get(), 1L, 0L, true);
+  EXPECT_DOUBLE_EQ(seenAt(), 100);
+  advance(0.15);
+  EXPECT_LT(seenAt(), 95);
+  EXPECT_GT(seenAt(), middle(first));
+  advance(0.15);
+  EXPECT_DOUBLE_EQ(seenAt(), middle(first));
 }
 
 }  // namespace

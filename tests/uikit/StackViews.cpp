@@ -13,6 +13,26 @@ class StackViews : public UIKitTest {
     return made;
   }
   static void arrange(Object stack, Object view) { send<void, "addArrangedSubview:">(stack, view); }
+  // As constraints, which is what stacks go by.
+  static Strong<Object> sized(CGSize size) {
+    auto view = make("UIView");
+    const auto constrain = [&](long attribute, double points) {
+      const Object constraint =
+          send<Object,
+               "constraintWithItem:attribute:relatedBy:toItem:attribute:multiplier:constant:">(
+              cls("NSLayoutConstraint"), view.get(), attribute, 0L, nullptr, 0L, 1.0, points);
+      send<void, "setPriority:">(constraint, 999.0F);
+      send<void, "setActive:">(constraint, true);
+    };
+    constrain(7, size.width);
+    constrain(8, size.height);
+    return view;
+  }
+  static Strong<Object> label(const char* text) {
+    auto made = make("UILabel");
+    send<void, "setText:">(made.get(), string(text));
+    return made;
+  }
   static unsigned long arrangedCount(Object stack) {
     return send<unsigned long, "count">(send<Object, "arrangedSubviews">(stack));
   }
@@ -20,7 +40,7 @@ class StackViews : public UIKitTest {
 
 TEST_F(StackViews, FillEquallyInTheMiddle) {
   const auto bar = stack(rect(0, 0, 300, 50), 1, 3, 0);
-  const auto left = make("UIView", rect(0, 0, 10, 20)), right = make("UIView", rect(0, 0, 10, 30));
+  const auto left = sized({10, 20}), right = sized({10, 30});
   arrange(bar, left);
   arrange(bar, right);
   send<void, "layoutIfNeeded">(bar.get());
@@ -44,13 +64,14 @@ TEST_F(StackViews, AHiddenViewLeavesNoGap) {
 }
 
 TEST_F(StackViews, FillGivesTheRestToTheLast) {
-  const auto row = stack(rect(0, 0, 100, 20), 0, 1, 5);
-  const auto a = make("UIView", rect(0, 0, 30, 10)), b = make("UIView", rect(0, 0, 30, 10));
+  const auto row = stack(rect(0, 0, 200, 40), 0, 1, 5);
+  const auto a = label("Wide"), b = label("Wide");
   arrange(row, a);
   arrange(row, b);
   send<void, "layoutIfNeeded">(row.get());
-  EXPECT_EQ(frameOf(a), rect(0, 0, 30, 10));
-  EXPECT_EQ(frameOf(b), rect(35, 0, 65, 10));
+  const CGSize wanted = send<CGSize, "intrinsicContentSize">(a.get());
+  EXPECT_EQ(frameOf(a), (CGRect{{0, 0}, wanted}));
+  EXPECT_EQ(frameOf(b), rect(wanted.width + 5, 0, 195 - wanted.width, wanted.height));
 }
 
 TEST_F(StackViews, WhatLeavesTheTreeIsArrangedNoMore) {

@@ -144,6 +144,7 @@ Class ChooseSnoozeTimeView::registerClass() {
       .property<"topLeftCornerButton", &Page::topLeftCornerButton>()
       .property<"topRightCornerButton", &Page::topRightCornerButton>()
       .property<"musicLabel", &Page::musicLabel>()
+      .readonlyProperty<"musicLocalizedlabelText", &Page::musicLocalizedlabelText>()
       .property<"bottomButtonsStackView", &Page::bottomButtonsStackView>()
       .property<"timeSelectorPickerView", &Page::timeSelectorPickerView>()
       .property<"nbSongsPickerView", &Page::nbSongsPickerView>()

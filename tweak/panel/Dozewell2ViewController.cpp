@@ -49,10 +49,11 @@ void Dozewell2ViewController::viewDidLoad() {
 void Dozewell2ViewController::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
   const auto& settings = Dozewell2StorageManager::sharedInstance();
-  chooseTime().setPickerMinutesSteps(settings.timerMinutesSteps);
-  chooseTime().setDefaultTimerPickerValue(settings.timerDefaultValue);
-  chooseTime().setDefaultNbSongsPickerValue(settings.nbSongsDefaultValue);
-  chooseTime().setModeType(int(settings.enabledModes));
+  const UIView page = chooseSnoozeTimeView;
+  objc::send<void, "setPickerMinutesSteps:">(page, settings.timerMinutesSteps);
+  objc::send<void, "setDefaultTimerPickerValue:">(page, settings.timerDefaultValue);
+  objc::send<void, "setDefaultNbSongsPickerValue:">(page, settings.nbSongsDefaultValue);
+  objc::send<void, "setModeType:">(page, int(settings.enabledModes));
 }
 
 void Dozewell2ViewController::viewDidLayoutSubviews() {
@@ -86,34 +87,38 @@ void Dozewell2ViewController::initChooseSnoozeTimeView() {
   const auto size = view().frame().size;
   chooseSnoozeTimeView = objc::adopt(objc::send<UIView, "initWithFrame:">(
       objc_alloc(ChooseSnoozeTimeView::cls()), rect(0, 0, size.width, size.height)));
-  wireWithHaptics(chooseTime().leftButton, objc::selector<"backButtonClicked">());
+  const auto& page = ChooseSnoozeTimeView::of(chooseSnoozeTimeView);
+  wireWithHaptics(page.leftButton, objc::selector<"backButtonClicked">());
   // The button itself answers with a tap.
-  wire(chooseTime().topLeftCornerButton, objc::selector<"showOnTimerEndsSettingsView">());
-  wireWithHaptics(chooseTime().rightButton, objc::selector<"validateButtonClicked">());
+  wire(page.topLeftCornerButton, objc::selector<"showOnTimerEndsSettingsView">());
+  wireWithHaptics(page.rightButton, objc::selector<"validateButtonClicked">());
   addPage(chooseSnoozeTimeView);
 }
 
 void Dozewell2ViewController::initCurrentTimerView() {
   if (currentTimerView) return;
   currentTimerView = CurrentTimerView::make<UIView>();
-  wireWithHaptics(currentTimer().backButton.load(), objc::selector<"backButtonClicked">());
-  wireWithHaptics(currentTimer().cancelTimerButton.load(), objc::selector<"cancelButtonClicked">());
+  wireWithHaptics(objc::send<UIButton, "backButton">(currentTimerView),
+                  objc::selector<"backButtonClicked">());
+  wireWithHaptics(objc::send<UIButton, "cancelTimerButton">(currentTimerView),
+                  objc::selector<"cancelButtonClicked">());
   addPage(currentTimerView);
   Dozewell2TimeLeftIndicatorsManager::sharedInstance().dozewellVcTimeLeftLabel =
-      currentTimer().timerLabel.load();
+      objc::retain(objc::send<UILabel, "timerLabel">(currentTimerView));
 }
 
 void Dozewell2ViewController::initOnTimerEndsSettingsView() {
   if (onTimerEndsSettingsView) return;
   onTimerEndsSettingsView = OnTimerEndsSettingsView::make<UIView>();
-  wireWithHaptics(actions().backButton.load(), objc::selector<"hideOnTimerEndsSettingsView">());
+  wireWithHaptics(objc::send<UIButton, "backButton">(onTimerEndsSettingsView),
+                  objc::selector<"hideOnTimerEndsSettingsView">());
   addPage(onTimerEndsSettingsView);
 }
 
 // What the page shows decides, never the engine.
 long Dozewell2ViewController::selectedMode() {
-  return chooseTime().nbSongsPickerView->isHidden() ? Dozewell2Manager::durationMode
-                                                    : Dozewell2Manager::songCountMode;
+  const auto songs = objc::send<UIPickerView, "nbSongsPickerView">(chooseSnoozeTimeView);
+  return songs.isHidden() ? Dozewell2Manager::durationMode : Dozewell2Manager::songCountMode;
 }
 
 void Dozewell2ViewController::performHapticFeedback() {
@@ -132,6 +137,10 @@ Class Dozewell2ViewController::registerClass() {
       .property<"transitionViews", &Panel::transitionViews>()
       .readonlyProperty<"chooseSnoozeTimeViewShowed", &Panel::chooseSnoozeTimeViewShowed>()
       .readonlyProperty<"currentTimerViewShowed", &Panel::currentTimerViewShowed>()
+      .readonlyProperty<"containerFrame", &Panel::containerFrame>()
+      .readonlyProperty<"containerView", &Panel::containerView>()
+      .readonlyProperty<"transitionViewsOriginalFramesArray",
+                        &Panel::transitionViewsOriginalFramesArray>()
       .readonlyProperty<"hasBeenShownUsingSlideAnimation",
                         &Panel::hasBeenShownUsingSlideAnimation>()
       .classMethod<"preloadViewController", &Panel::preloadViewController>()

@@ -54,11 +54,10 @@ struct Dozewell2ViewController : objc::Implementation<Dozewell2ViewController> {
 
  private:
   UIView view() const { return UIViewController(self()).view(); }
-  ChooseSnoozeTimeView& chooseTime() { return ChooseSnoozeTimeView::of(chooseSnoozeTimeView); }
-  CurrentTimerView& currentTimer() { return CurrentTimerView::of(currentTimerView); }
-  OnTimerEndsSettingsView& actions() {
-    return OnTimerEndsSettingsView::of(onTimerEndsSettingsView);
-  }
+  // The pages are reached by messages alone, which nil takes: none exists before the view is
+  // loaded, and those that come from layouts never do without the resource bundle.
+  void setUpCurrentTimerView();
+  void hideBottomButtons(bool hide);
   void addPage(UIView page);
   void wire(UIButton button, SEL action);
   void wireWithHaptics(UIButton button, SEL action);

@@ -12,7 +12,25 @@ UIKit::Completion hideLater(UIView view) {
   return UIKit::completion([view = objc::retain(view)] { view->setHidden(true); });
 }
 
+// The extra second is deliberate: the first thing seen is the whole number that was picked.
+long pickedSeconds(UIView page) {
+  const auto picker = objc::send<UIDatePicker, "timeSelectorPickerView">(page);
+  return long(picker.countDownDuration() + 1.0);
+}
+
+long pickedSongs(UIView page) {
+  return objc::send<long, "nbSongsSelected">(page);
+}
+
 }  // namespace
+
+void Dozewell2ViewController::setUpCurrentTimerView() {
+  objc::send<void, "setupViewWithMode:">(currentTimerView, selectedMode());
+}
+
+void Dozewell2ViewController::hideBottomButtons(bool hide) {
+  objc::send<void, "hideBottomButtons:">(currentTimerView, hide);
+}
 
 void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(
     bool fromChooseTime) {
@@ -21,7 +39,7 @@ void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFrom
   const UIView target = fromChooseTime ? currentTimerView : chooseSnoozeTimeView;
   chooseSnoozeTimeViewShowed = !fromChooseTime;
   currentTimerViewShowed = fromChooseTime;
-  if (fromChooseTime) currentTimer().setupViewWithMode(selectedMode());
+  if (fromChooseTime) setUpCurrentTimerView();
   target.setFrame(source.frame());
   target.setHidden(false);
   UIKit::transition(source, target, seconds,
@@ -32,32 +50,32 @@ void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFrom
 // Without the option that shows and hides the two, the platform takes the first out of the panel
 // and puts the second in its place. The difference to the other transition is deliberate.
 void Dozewell2ViewController::showOnTimerEndsSettingsView() {
+  if (!onTimerEndsSettingsView) return;
   onTimerEndsSettingsView->setHidden(false);
-  actions().restoreSettings();
+  objc::send<void, "restoreSettings">(onTimerEndsSettingsView);
   UIKit::transition(chooseSnoozeTimeView, onTimerEndsSettingsView, seconds,
                     UIKit::transitionCrossDissolve, hideLater(chooseSnoozeTimeView));
 }
 
 void Dozewell2ViewController::hideOnTimerEndsSettingsView() {
+  if (!onTimerEndsSettingsView) return;
   chooseSnoozeTimeView->setHidden(false);
   UIKit::transition(onTimerEndsSettingsView, chooseSnoozeTimeView, seconds,
                     UIKit::transitionCrossDissolve, hideLater(onTimerEndsSettingsView));
   // At once, not when the transition has ended.
-  actions().saveSettingsToPrefsPlist();
+  objc::send<void, "saveSettingsToPrefsPlist">(onTimerEndsSettingsView);
 }
 
 void Dozewell2ViewController::validateButtonClicked() {
   auto& engine = Dozewell2Manager::sharedInstance();
   engine.cancelTimer();
   const long mode = selectedMode();
-  // The extra second is deliberate: the first thing seen is the whole number that was picked.
-  const long value = mode == Dozewell2Manager::durationMode
-                         ? long(chooseTime().timeSelectorPickerView->countDownDuration() + 1.0)
-                         : chooseTime().nbSongsSelected();
-  engine.startTimerWithMode_andValue(mode, value);
+  engine.startTimerWithMode_andValue(mode, mode == Dozewell2Manager::durationMode
+                                               ? pickedSeconds(chooseSnoozeTimeView)
+                                               : pickedSongs(chooseSnoozeTimeView));
   dispatch::onMain([this] {
     transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(true);
-    currentTimer().hideBottomButtons(true);
+    hideBottomButtons(true);
     // Never cancelled: it closes whatever the panel shows by then.
     NSObject(self()).performSelectorAfterDelay(
         objc::selector<"dismissDozewell">(),

@@ -54,8 +54,8 @@ void Dozewell2ViewController::showCurrentTimerView_transitionView_slideAnimated(
   chooseSnoozeTimeView->setHidden(true);
   if (show) {
     currentTimerView->setHidden(false);
-    currentTimer().setupViewWithMode(selectedMode());
-    currentTimer().hideBottomButtons(false);
+    setUpCurrentTimerView();
+    hideBottomButtons(false);
     containerFrame = view().frame();
     containerView = objc::retain(transition);
     currentTimerView->setFrame(rect(0, 0, containerFrame.size.width, containerFrame.size.height));

@@ -89,5 +89,6 @@ void addScreenCommands(CommandTable& table);       // springboard: screen
 void addLockScreenCommands(CommandTable& table);   // coversheet: lock, unlock …
 void addControlCenterCommands(CommandTable& table);  // controlcenter: module
 void addUIKitCommands(CommandTable& table);          // uikit: tap, select, expect-alert …
+void addDrawingCommands(CommandTable& table);        // drawing: snapshot, expect-snapshot
 
 }  // namespace sim

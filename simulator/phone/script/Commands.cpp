@@ -13,6 +13,8 @@ void addPhoneCommands(CommandTable& table) {
   addExpectCommands(table);
   addJournalCommands(table);
   addReflectionCommands(table);
+  addRepeatCommands(table);
+  addLiveObjectCommands(table);
 }
 
 CommandTable allCommands() {
@@ -27,6 +29,7 @@ CommandTable allCommands() {
   addLockScreenCommands(table);
   addControlCenterCommands(table);
   addUIKitCommands(table);
+  addDrawingCommands(table);
   return table;
 }
 

@@ -16,14 +16,7 @@ void* exportedSymbol(const Word& name) {
 }
 
 void call(Arguments& arguments) {
-  Session& session = Session::current();
-  const Word name = arguments.word("a function");
-  void* function = exportedSymbol(name);
-  const std::string* types = session.functions.types(name.text);
-  if (types == nullptr)
-    throw ScriptError(name.column, "the types of " + name.text + " are not known: declare them");
-  const Signature signature = parseFunctionTypes(*types);
-  session.last = callFunction(function, signature, readArguments(arguments, signature));
+  Session::current().last = readCall(arguments);
 }
 
 void declare(Arguments& arguments) {
@@ -58,6 +51,16 @@ void expectVariable(Arguments& arguments) {
 }
 
 }  // namespace
+
+Value readCall(Arguments& arguments) {
+  const Word name = arguments.word("a function");
+  void* function = exportedSymbol(name);
+  const std::string* types = Session::current().functions.types(name.text);
+  if (types == nullptr)
+    throw ScriptError(name.column, "the types of " + name.text + " are not known: declare them");
+  const Signature signature = parseFunctionTypes(*types);
+  return callFunction(function, signature, readArguments(arguments, signature));
+}
 
 void addFunctionCommands(CommandTable& table) {
   table.add({"call", Stage::running, "call FUNCTION [ARGUMENTS…]", "call timeFormatted 3725",

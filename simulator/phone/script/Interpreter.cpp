@@ -13,12 +13,14 @@ constexpr std::string_view endOfSetup = "boot";
 }  // namespace
 
 void Interpreter::play() {
+  acceptLines();
   requireKnownCommands();
   watchKillPoints();
   playFrom(0);
 }
 
 void Interpreter::resume(const RestartState& state) {
+  acceptLines();
   repeatSetup();
   restoreSession(session_, state);
   watchKillPoints();
@@ -34,6 +36,11 @@ void Interpreter::requireKnownCommands() const {
     if (name.quoted || table_.find(name.text) == nullptr)
       throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
   }
+}
+
+// For commands that are made of others.
+void Interpreter::acceptLines() {
+  session_.runLine = [this](const ScriptLine& line) { run(line); };
 }
 
 void Interpreter::playFrom(std::size_t lineNumber) {
@@ -66,6 +73,8 @@ void Interpreter::run(const ScriptLine& line) {
     arguments.finish();
     // A person cannot do two things within one turn of the phone's main queue.
     session_.phone.queue.runDue();
+  } catch (const ScriptParseError&) {
+    throw;  // of a line within this one
   } catch (const ScriptError& error) {
     throw ScriptParseError(line.number,
                            {error.column == 0 ? name.column : error.column, error.what()});

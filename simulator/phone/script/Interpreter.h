@@ -26,6 +26,7 @@ class Interpreter {
 
  private:
   void requireKnownCommands() const;
+  void acceptLines();
   void playFrom(std::size_t lineNumber);
   void repeatSetup();
   void run(const ScriptLine& line);

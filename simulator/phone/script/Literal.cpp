@@ -3,8 +3,10 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <stdexcept>
 
 #include "simulator/phone/Journal.h"
+#include "simulator/phone/script/ScriptBlock.h"
 #include "simulator/phone/script/Target.h"
 
 namespace sim {
@@ -63,6 +65,18 @@ class StructureReader {
   std::size_t at_ = 0;
 };
 
+// block NAME ENCODING
+Literal readBlock(std::size_t column, Arguments& arguments) {
+  const std::string name = arguments.text("a name for the block");
+  const Word types = arguments.word("an encoding such as \"v@\": result, arguments");
+  try {
+    const objc::Object made = scriptBlock(name, parseFunctionTypes(types.text));
+    return {column, "block " + name, Value::ofObject(made)};
+  } catch (const std::invalid_argument& error) {
+    throw ScriptError(types.column, error.what());
+  }
+}
+
 }  // namespace
 
 Literal readLiteral(Arguments& arguments, std::string_view what) {
@@ -77,6 +91,7 @@ Literal readLiteral(Arguments& arguments, std::string_view what) {
     const std::string name = arguments.text("a selector's name");
     return {word.column, "selector " + name, sel_registerName(name.c_str())};
   }
+  if (text == "block") return readBlock(word.column, arguments);
   return {word.column, text, evaluateTarget(word)};
 }
 

@@ -11,7 +11,8 @@
 
 namespace sim {
 
-// 3  0.5  YES  nil  "text"  {{x, y}, {w, h}}  selector NAME  $name.key  Class.key
+// 3  0.5  YES  nil  "text"  {{x, y}, {w, h}}  selector NAME  block NAME ENCODING  $name.key
+// Class.key
 struct Literal {
   struct Nil {};
   struct Number {

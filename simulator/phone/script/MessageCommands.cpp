@@ -56,13 +56,17 @@ void get(Arguments& arguments) {
   Session::current().last = std::move(value);
 }
 
+Value readValue(Arguments& arguments) {
+  if (arguments.takeKeyword("call")) return readCall(arguments);
+  const Word path = arguments.word("a class or a $variable");
+  return arguments.atEnd() ? evaluateTarget(path) : readMessage(path, arguments).send();
+}
+
 void let(Arguments& arguments) {
   const Word name = arguments.word("a variable's name");
   if (name.text.empty() || name.text.find_first_of("$. ") != std::string::npos)
     throw ScriptError(name.column, "expected a name without $ and dots, found " + name.text);
-  const Word path = arguments.word("a class or a $variable");
-  Value value = arguments.atEnd() ? evaluateTarget(path) : readMessage(path, arguments).send();
-  Session::current().variables.keep(name.text, std::move(value));
+  Session::current().variables.keep(name.text, readValue(arguments));
 }
 
 }  // namespace
@@ -85,9 +89,12 @@ void addMessageCommands(CommandTable& table) {
              "Sends a message on another thread and waits for its end.", background});
   table.add({"get", Stage::running, "get TARGET", "get UIDevice.currentDevice.systemVersion",
              "Prints a value; it is the last value, too.", get});
-  table.add({"let", Stage::running, "let NAME TARGET [SELECTOR ARGUMENTS…]",
+  table.add({"let", Stage::running,
+             "let NAME TARGET [SELECTOR ARGUMENTS…]|call FUNCTION [ARGUMENTS…]",
              "let defaults NSUserDefaults.standardUserDefaults",
-             "Keeps a value, or a message's result, under $NAME; objects are kept alive.", let});
+             "Keeps a value, or the result of a message or a call, under $NAME; objects are kept "
+             "alive.",
+             let});
 }
 
 }  // namespace sim

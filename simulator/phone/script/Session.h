@@ -11,6 +11,7 @@
 #include "simulator/phone/Host.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/phone/script/ExportedFunctions.h"
+#include "simulator/phone/script/Script.h"
 #include "simulator/phone/script/Value.h"
 #include "simulator/phone/script/Variables.h"
 
@@ -50,11 +51,12 @@ class Session {
   Variables variables;
   std::optional<Value> last;  // of send, call and get
   ExportedFunctions functions;
-  std::size_t journalStart = 0;             // expectations look at this entry and later ones
-  std::set<std::size_t> killPoints;         // counts of journal lines at which the host dies
-  std::vector<KillText> killTexts;          // lines of the journal at which the host dies
-  std::optional<Nanoseconds> advanceUntil;  // while `advance` runs
-  std::size_t lineNumber = 0;               // of the command that runs
+  std::size_t journalStart = 0;                    // expectations look at this entry and later ones
+  std::set<std::size_t> killPoints;                // counts of journal lines at which the host dies
+  std::vector<KillText> killTexts;                 // lines of the journal at which the host dies
+  std::optional<Nanoseconds> advanceUntil;         // while `advance` runs
+  std::size_t lineNumber = 0;                      // of the command that runs
+  std::function<void(const ScriptLine&)> runLine;  // as if it stood in the script
   // Begins the next host process from the recorded state; does not return. The program executes
   // itself again when there is none.
   std::function<void(const std::filesystem::path& stateFile)> relaunch;

@@ -94,13 +94,16 @@ void addSetupCommands(CommandTable& table) {
              "every kind of feedback.",
              haptics});
   table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]", "missing SBMediaController pause",
-             "Leaves a class of the system, or one of its methods, out of the phone.", missing});
+             "Leaves a class of the system, or one of its methods or properties, out of the phone.",
+             missing});
   table.add({"journal-class-changes", Stage::setup, "journal-class-changes",
              "journal-class-changes",
              "Journals every class, method, property and hook that the extension adds as it loads.",
              journalClassChanges});
   table.add({"trace", Stage::setup, "trace CLASS SELECTOR", "trace NSUserDefaults synchronize",
-             "Journals each call of an instance method of the system, with its arguments.", trace});
+             "Journals each call of a method of the system, with the receiver's class and the "
+             "arguments; `+` before the selector means a class method.",
+             trace});
   table.add({"file", Stage::any, "file PATH TEXT", R"(file "/var/mobile/note.txt" "two\nlines\n")",
              "Writes a file of the phone, with the folders on its way.", file});
 }

@@ -14,7 +14,6 @@ namespace {
 
 // One traced method, with all that libffi keeps pointers into.
 struct Trace {
-  std::string cls;
   SEL selector;
   Signature signature;
   IMP original = nullptr;
@@ -23,9 +22,17 @@ struct Trace {
   ffi_cif call{};
 };
 
-// "-[Class part:argument part:argument]"
+// "-[Class selector]"; a class method is named with a plus.
+std::string methodName(const std::string& cls, const std::string& selector) {
+  const bool ofClass = selector.starts_with('+');
+  return (ofClass ? "+[" : "-[") + cls + ' ' + selector.substr(ofClass ? 1 : 0) + ']';
+}
+
+// "call -[Class part:argument part:argument]", with the receiver's own class.
 std::string callText(const Trace& trace, void** arguments) {
-  std::string text = "call -[" + trace.cls + ' ';
+  const id receiver = *static_cast<id*>(arguments[0]);
+  std::string text = object_isClass(receiver) ? "call +[" : "call -[";
+  text += std::string(object_getClassName(receiver)) + ' ';
   std::string_view rest = sel_getName(trace.selector);
   std::size_t index = 2;  // behind self and _cmd
   for (const TypeEncoding& type : trace.signature.arguments) {
@@ -51,7 +58,7 @@ void prepare(Trace& trace) {
     trace.argumentTypes.push_back(trace.types.of(type));
   if (ffi_prep_cif(&trace.call, FFI_DEFAULT_ABI, unsigned(trace.argumentTypes.size()),
                    trace.types.of(trace.signature.result), trace.argumentTypes.data()) != FFI_OK)
-    throw HostError("-[" + trace.cls + ' ' + sel_getName(trace.selector) + "] cannot be traced");
+    throw HostError(std::string(sel_getName(trace.selector)) + " cannot be traced");
 }
 
 IMP makeEntry(Trace& trace) {
@@ -59,19 +66,19 @@ IMP makeEntry(Trace& trace) {
   auto* closure = static_cast<ffi_closure*>(ffi_closure_alloc(sizeof(ffi_closure), &code));
   if (closure == nullptr ||
       ffi_prep_closure_loc(closure, &trace.call, journalAndCall, &trace, code) != FFI_OK)
-    throw HostError("-[" + trace.cls + ' ' + sel_getName(trace.selector) + "] cannot be traced");
+    throw HostError(std::string(sel_getName(trace.selector)) + " cannot be traced");
   return reinterpret_cast<IMP>(code);
 }
 
 void traceMethod(const std::string& cls, const std::string& selector) {
   static std::deque<Trace> traces;  // the host calls into them as long as it lives
-  const SEL name = sel_registerName(selector.c_str());
-  const Class target = objc_getClass(cls.c_str());
+  const bool ofClass = selector.starts_with('+');
+  const SEL name = sel_registerName(selector.c_str() + (ofClass ? 1 : 0));
+  const Class target = ofClass ? objc_getMetaClass(cls.c_str()) : objc_getClass(cls.c_str());
   const Method method = class_getInstanceMethod(target, name);
   if (method == nullptr)
-    throw HostError("there is no method -[" + cls + ' ' + selector + "] to trace");
+    throw HostError("there is no method " + methodName(cls, selector) + " to trace");
   Trace& trace = traces.emplace_back();
-  trace.cls = cls;
   trace.selector = name;
   trace.signature = parseMethodTypes(method_getTypeEncoding(method));
   prepare(trace);

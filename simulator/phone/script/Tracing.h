@@ -7,8 +7,9 @@
 
 namespace sim {
 
-// Replaces each method, given as class and selector, by one that journals
-// "call -[Class selector:argument]" and goes on to the original; for the life of the process.
+// Replaces each method, given as class and selector (of a class method with a + before it), by one
+// that journals "call -[Class selector:argument]", where Class is the receiver's own, and goes on
+// to the original; for the life of the process.
 // Throws HostError for a class or method that does not exist or cannot be called.
 void traceMethods(const std::vector<std::pair<std::string, std::string>>& methods);
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "simulator/phone/script/Command.h"
+#include "simulator/phone/script/PhoneVariables.h"
 
 namespace sim {
 
@@ -11,8 +12,10 @@ void Variables::keep(const std::string& name, Value value) {
   values_.insert_or_assign(name, std::move(value));
 }
 
-const Value& Variables::value(const std::string& name, std::size_t column) const {
+Value Variables::value(const std::string& name, std::size_t column) const {
   if (const auto found = values_.find(name); found != values_.end()) return found->second;
+  if (const objc::Object current = phoneVariable(name)) return Value::ofObject(current);
+  if (isPhoneVariable(name)) throw ScriptError(column, "there is no $" + name + " just now");
   if (lost_.contains(name))
     throw ScriptError(column, "$" + name + " was an object of a host process that has ended");
   throw ScriptError(column, "there is no variable $" + name);

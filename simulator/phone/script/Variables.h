@@ -12,8 +12,9 @@ namespace sim {
 class Variables {
  public:
   void keep(const std::string& name, Value value);
-  // Throws ScriptError at the column, saying so, when the variable's object died with its host.
-  const Value& value(const std::string& name, std::size_t column) const;
+  // What the script has kept under the name, or else the phone's variable. Throws ScriptError at
+  // the column, saying so, when the variable's object died with its host or is not on the screen.
+  Value value(const std::string& name, std::size_t column) const;
 
   // Names of before a restart, whose objects are gone.
   std::set<std::string> names() const;

@@ -32,13 +32,6 @@ std::string text(const TagLib::String& tag) {
   return validUtf8Prefix(utf8) == utf8.size() ? utf8 : std::string();
 }
 
-// A file's name may be any bytes.
-std::string titleFrom(const std::filesystem::path& path) {
-  std::string title = path.stem().string();
-  title.resize(validUtf8Prefix(title));
-  return title.empty() ? "Untitled" : title;
-}
-
 // The library gives a WAVE file's tag of the one kind, where most have one of the other.
 const TagLib::Tag* tagOf(const TagLib::FileRef& file) {
   const auto* wave = dynamic_cast<const TagLib::RIFF::WAV::File*>(file.file());
@@ -55,7 +48,7 @@ Track describe(const TagLib::FileRef& file, const std::filesystem::path& path) {
     track.artist = text(tag->artist());
     track.album = text(tag->album());
   }
-  if (!track.title || track.title->empty()) track.title = titleFrom(path);
+  if (!track.title || track.title->empty()) track.title = path.stem().string();
   return track;
 }
 

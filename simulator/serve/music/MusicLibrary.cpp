@@ -2,13 +2,16 @@
 
 #include <algorithm>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 #include "simulator/phone/Journal.h"
+#include "simulator/phone/script/Utf8.h"
 #include "simulator/serve/Recording.h"
 
 namespace sim {
 
 namespace files = std::filesystem;
+using nlohmann::json;
 
 namespace {
 
@@ -36,6 +39,26 @@ std::vector<files::path> musicBelow(const files::path& folder) {
   return found;
 }
 
+std::optional<MusicFile> readInside(const files::path& folder, const files::path& path,
+                                    std::string& problem) {
+  problem = "it lies outside the folder";
+  if (!liesIn(folder, path)) return std::nullopt;
+  problem = "its name is not UTF-8";
+  const std::string name = path.string();
+  if (validUtf8Prefix(name) != name.size()) return std::nullopt;
+  return readMusicFile(path, problem);
+}
+
+MusicFile restored(const json& saved) {
+  Track track;
+  track.title = saved.at("title").get<std::string>();
+  saved.at("artist").get_to(track.artist);
+  saved.at("album").get_to(track.album);
+  saved.at("length").get_to(track.length);
+  return {saved.at("path").get<std::string>(), saved.at("type").get<std::string>(),
+          std::move(track), saved.at("cover").get<bool>()};
+}
+
 std::string words(const Track& track) {
   const std::string text = ' ' + sim::quoted(*track.title) + ' ' + secondsText(track.length);
   return track.artist.empty() ? text : text + " by " + sim::quoted(track.artist);
@@ -47,14 +70,29 @@ MusicLibrary::MusicLibrary(const files::path& folder) {
   const files::path root = files::canonical(folder);
   for (const files::path& named : musicBelow(root)) {
     const files::path path = files::canonical(named);
-    std::string problem = "it lies outside the folder";
-    std::optional<MusicFile> file;
-    if (liesIn(root, path)) file = readMusicFile(path, problem);
-    if (file)
+    std::string problem;
+    if (auto file = readInside(root, path, problem))
       files_.push_back(std::move(*file));
     else
       leaveOut(named, problem);
   }
+}
+
+MusicLibrary::MusicLibrary(const json& saved) {
+  for (const json& each : saved) files_.push_back(restored(each));
+}
+
+json MusicLibrary::save() const {
+  json all = json::array();
+  for (const MusicFile& file : files_)
+    all.push_back({{"path", file.path.string()},
+                   {"type", file.mimeType},
+                   {"title", *file.track.title},
+                   {"artist", file.track.artist},
+                   {"album", file.track.album},
+                   {"length", file.track.length},
+                   {"cover", file.hasCover}});
+  return all;
 }
 
 const MusicFile* MusicLibrary::find(const std::string& id) const {

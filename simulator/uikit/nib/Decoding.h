@@ -11,8 +11,6 @@ void addControlDecoding();  // and buttons
 void addImageViewDecoding();
 void addStackViewDecoding();
 void addConstraintDecoding();
-// Views' side of constraints, which these own and nothing solves yet.
-void addViewConstraints();
 
 // An initWithCoder: for a class that is there already. An empty difference grades it real.
 template <auto function>

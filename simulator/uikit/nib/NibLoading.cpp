@@ -9,7 +9,6 @@ namespace sim {
 void registerNibLoading() {
   UINibDecoder::registerClass();
   UINib::registerClass();
-  addViewConstraints();
   addViewDecoding();
   addLabelDecoding();
   addControlDecoding();

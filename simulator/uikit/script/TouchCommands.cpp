@@ -1,4 +1,4 @@
-// Script commands of a person's finger.
+// Script commands of a person's hand.
 #include <cmath>
 #include <string>
 
@@ -12,7 +12,9 @@
 #include "simulator/uikit/UIButton.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UIDatePicker.h"
+#include "simulator/uikit/UIMotionEvent.h"
 #include "simulator/uikit/UIPickerView.h"
+#include "simulator/uikit/UISlider.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/script/UIKitCommands.h"
 
@@ -96,6 +98,29 @@ void pick(Arguments& words) {
   UIControl::of(view).sendActionsForEvents(UIControl::valueChanged, nullptr);
 }
 
+void slide(Arguments& words) {
+  const Object view = readView<UISlider>(words, "UISlider");
+  const double value = words.number("a value of the slider");
+  words.finish();
+  reach(view, centreOf(view));
+  UISlider& slider = UISlider::of(view);
+  if (value < double(slider.minimumValue) || value > double(slider.maximumValue))
+    throw ScriptError(0, "the slider goes from " + notation(slider.minimumValue) + " to " +
+                             notation(slider.maximumValue));
+  record("slide " + notation(value));
+  slider.userSlides(float(value));
+}
+
+// Each shake ends with its state back at 0.
+void shake(Arguments& words) {
+  words.finish();
+  if (UIMotionEvent::cls() == nullptr) throw ScriptError(0, "this phone lacks UIMotionEvent");
+  record("shake");
+  const auto event = UIMotionEvent::make();
+  objc::send<void, "setShakeState:">(event.get(), 1);
+  objc::send<void, "setShakeState:">(event.get(), 0);
+}
+
 }  // namespace
 
 void addTouchCommands(CommandTable& table) {
@@ -107,6 +132,11 @@ void addTouchCommands(CommandTable& table) {
              "The user turns the wheel of a picker view to a row; rows and components count from "
              "0.",
              select});
+  table.add({"shake", Stage::running, "shake", "shake",
+             "The user shakes the phone: the shake state of a motion event becomes 1, then 0.",
+             shake});
+  table.add({"slide", Stage::running, "slide TARGET VALUE", "slide $slider 0.25",
+             "The user drags the knob of a slider to a value.", slide});
   table.add({"pick", Stage::running, "pick TARGET DURATION", "pick $datePicker 45m",
              "The user turns the wheels of a count-down date picker to a duration.", pick});
 }

@@ -45,7 +45,7 @@ std::optional<std::string> Element::text(const char* attribute) {
 
 std::string Element::requiredText(const char* attribute) {
   if (!has(attribute)) fail("<" + std::string(name()) + "> has no " + nib::quoted(attribute));
-  const std::string found = *text(attribute);
+  std::string found = *text(attribute);
   if (found.empty()) failAt(attribute, nib::quoted(attribute) + " is empty");
   return found;
 }

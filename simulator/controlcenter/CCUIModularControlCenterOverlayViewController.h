@@ -1,0 +1,37 @@
+// ControlCenterUI: the whole of Control Center, modules in a grid over what is behind it.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "objc/Class.h"
+#include "simulator/controlcenter/ModuleGrid.h"
+
+namespace sim {
+
+struct CCUIModularControlCenterOverlayViewController
+    : objc::Implementation<CCUIModularControlCenterOverlayViewController> {
+  objc::Strong<objc::Object> backgroundView;  // UIControl: a tap outside of the modules
+  // CCUIContentModuleContainerViewController of the music's module
+  objc::Strong<objc::Object> mediaContainer;
+  // UIView of each place of the grid that no container fills: they only look like modules.
+  std::vector<objc::Strong<objc::Object>> tiles;
+
+  objc::Object tileViews() const;  // NSArray
+  void viewDidLoad();
+  void viewWillLayoutSubviews();
+  // Collapses the expanded module, or else leaves Control Center.
+  void didTapBackground(objc::Object sender);
+  void collapseModules();
+  // nil when it has no such module.
+  objc::Object container(std::string_view identifier) const;
+
+  static void registerClass();
+
+ private:
+  void addTile(const ModulePlace& place);
+  void placeMedia(const ModuleGrid& grid);
+  bool isExpanded() const;
+};
+
+}  // namespace sim

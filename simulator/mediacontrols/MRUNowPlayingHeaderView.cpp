@@ -1,0 +1,84 @@
+#include "simulator/mediacontrols/MRUNowPlayingHeaderView.h"
+
+#include <algorithm>
+
+#include "simulator/StandIn.h"
+#include "simulator/mediacontrols/MRULayout.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+// Points.
+constexpr double button = 36, artwork = 48, gap = 10;
+
+}  // namespace
+
+Object MRUNowPlayingHeaderView::initWithFrame(CGRect frame) {
+  const auto made = super<Object, "initWithFrame:">(frame);
+  artworkView = addView(made, "UIView");
+  fill(artworkView, whiteColor(0.12), 6);
+  labelView = addView(made, "MRUNowPlayingLabelView");
+  routingButton = addView(made, "MRUNowPlayingRoutingButton");
+  return made;
+}
+
+void MRUNowPlayingHeaderView::setLayout(long chosen) {
+  layout = chosen;
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+void MRUNowPlayingHeaderView::setShowRoutingButton(bool show) {
+  showRoutingButton = show;
+  objc::send<void, "setHidden:">(routingButton.get(), !show);
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+void MRUNowPlayingHeaderView::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  const CGSize size = sizeOf(Object(self()));
+  objc::send<void, "setHidden:">(routingButton.get(), !showRoutingButton);
+  setAlpha(artworkView, layout == minimizedLayout ? 0 : 1);
+  if (layout == minimizedLayout)
+    placeMinimized(size);
+  else
+    placeInARow(size);
+}
+
+// The text has a row of its own below the buttons.
+void MRUNowPlayingHeaderView::placeMinimized(CGSize size) {
+  setFrame(routingButton, {{size.width - button, 0}, {button, button}});
+  const double height = sizeThatFits(labelView, size).height;
+  setFrame(labelView, {{0, button + 2}, {size.width, height}});
+}
+
+// The text leaves room for a second button beside that of the routes.
+void MRUNowPlayingHeaderView::placeInARow(CGSize size) {
+  const auto centred = [&size](double height) { return (size.height - height) / 2; };
+  setFrame(artworkView, {{0, centred(artwork)}, {artwork, artwork}});
+  setFrame(routingButton, {{size.width - button, centred(button)}, {button, button}});
+  const double left = artwork + gap;
+  const double room = std::max(size.width - button - (button + gap) - left, 0.0);
+  const double height = sizeThatFits(labelView, {room, size.height}).height;
+  setFrame(labelView, {{left, centred(height)}, {room, height}});
+}
+
+void MRUNowPlayingHeaderView::registerClass() {
+  StandIn<MRUNowPlayingHeaderView>("MediaControls", "MRUNowPlayingHeaderView", "UIView")
+      .method<"initWithFrame:", &MRUNowPlayingHeaderView::initWithFrame>()
+      .readonlyProperty<"artworkView", &MRUNowPlayingHeaderView::artworkView>()
+      .readonlyProperty<"labelView", &MRUNowPlayingHeaderView::labelView>()
+      .property<"routingButton", &MRUNowPlayingHeaderView::routingButton>()
+      .readonlyProperty<"layout", &MRUNowPlayingHeaderView::layout>()
+      .partial<"setLayout:", &MRUNowPlayingHeaderView::setLayout>(
+          "layouts 0 to 3 only; another looks like the full player")
+      .readonlyProperty<"showRoutingButton", &MRUNowPlayingHeaderView::showRoutingButton>()
+      .method<"setShowRoutingButton:", &MRUNowPlayingHeaderView::setShowRoutingButton>()
+      .partial<"layoutSubviews", &MRUNowPlayingHeaderView::layoutSubviews>(
+          "measures of the simulator's own")
+      .finish();
+}
+
+}  // namespace sim

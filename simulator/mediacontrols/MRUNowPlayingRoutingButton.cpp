@@ -1,0 +1,59 @@
+#include "simulator/mediacontrols/MRUNowPlayingRoutingButton.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/mediacontrols/Glyphs.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+
+using objc::Object;
+
+Object MRUNowPlayingRoutingButton::initWithFrame(CGRect frame) {
+  const auto made = super<Object, "initWithFrame:">(frame);
+  objc::send<void, "updatePackage">(made);
+  return made;
+}
+
+void MRUNowPlayingRoutingButton::setActive(bool isActive) {
+  active = isActive;
+  tintGlyph();
+}
+
+void MRUNowPlayingRoutingButton::updatePackage() {
+  objc::send<void, "removeFromSuperview">(packageView.get());
+  packageView = addView(Object(self()), "UIView");
+  objc::send<void, "setUserInteractionEnabled:">(packageView.get(), false);
+  setFrame(packageView, {{0, 0}, {glyphSize, glyphSize}});
+  triangle = addShape(packageView, routingTriangle());
+  waves = addShape(packageView, routingWaves(), 1.8);
+  tintGlyph();
+}
+
+// A subclass with a glyph of its own keeps that one's colours.
+void MRUNowPlayingRoutingButton::tintGlyph() {
+  const Object color = active ? rgbColor(0.04, 0.52, 1) : whiteColor(0.95);
+  tint(triangle, color);
+  tint(waves, color);
+}
+
+void MRUNowPlayingRoutingButton::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  const CGSize size = sizeOf(Object(self()));
+  const CGSize glyph = sizeOf(packageView);
+  setFrame(packageView,
+           {{(size.width - glyph.width) / 2, (size.height - glyph.height) / 2}, glyph});
+}
+
+void MRUNowPlayingRoutingButton::registerClass() {
+  StandIn<MRUNowPlayingRoutingButton>("MediaControls", "MRUNowPlayingRoutingButton", "UIControl")
+      .method<"initWithFrame:", &MRUNowPlayingRoutingButton::initWithFrame>()
+      .property<"packageView", &MRUNowPlayingRoutingButton::packageView>()
+      .readonlyProperty<"active", &MRUNowPlayingRoutingButton::active>()
+      .method<"setActive:", &MRUNowPlayingRoutingButton::setActive>()
+      .partial<"updatePackage", &MRUNowPlayingRoutingButton::updatePackage>(
+          "a glyph of the simulator's own, from no package")
+      .method<"layoutSubviews", &MRUNowPlayingRoutingButton::layoutSubviews>()
+      .finish();
+}
+
+}  // namespace sim

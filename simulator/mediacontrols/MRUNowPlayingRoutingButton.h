@@ -1,0 +1,28 @@
+// The round button of the Now Playing header that opens the audio routes.
+#pragma once
+
+#include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+struct MRUNowPlayingRoutingButton : objc::Implementation<MRUNowPlayingRoutingButton> {
+  objc::Strong<objc::Object> packageView;
+  objc::Strong<objc::Object> triangle;  // CAShapeLayer; nil where no glyph is loaded
+  objc::Strong<objc::Object> waves;     // CAShapeLayer
+  bool active = false;
+
+  objc::Object initWithFrame(CGRect frame);
+  // Whether sound goes elsewhere than to the phone's own speaker.
+  void setActive(bool isActive);
+  // Loads the routing glyph into the package view.
+  void updatePackage();
+  void layoutSubviews();
+
+  static void registerClass();
+
+ private:
+  void tintGlyph();
+};
+
+}  // namespace sim

@@ -1,0 +1,62 @@
+#include "simulator/mediacontrols/MRUNowPlayingTransportControlsView.h"
+
+#include <algorithm>
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/mediacontrols/MRUTransportButton.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+void show(Object button, TransportSymbol symbol, const char* name) {
+  if (auto* state = stateOf<MRUTransportButton>(button)) state->show(symbol, name);
+}
+
+}  // namespace
+
+Object MRUNowPlayingTransportControlsView::initWithFrame(CGRect frame) {
+  const auto made = super<Object, "initWithFrame:">(frame);
+  previousButton = addView(made, "MRUTransportButton");
+  playPauseButton = addView(made, "MRUTransportButton");
+  nextButton = addView(made, "MRUTransportButton");
+  show(previousButton, TransportSymbol::previous, "previous track");
+  show(nextButton, TransportSymbol::next, "next track");
+  setPlaying(false);
+  return made;
+}
+
+void MRUNowPlayingTransportControlsView::setPlaying(bool isPlaying) {
+  if (isPlaying)
+    show(playPauseButton, TransportSymbol::pause, "pause");
+  else
+    show(playPauseButton, TransportSymbol::play, "play");
+}
+
+void MRUNowPlayingTransportControlsView::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  constexpr double widest = 60;  // points
+  const CGSize size = sizeOf(Object(self()));
+  const double width = std::min(size.width / 3, widest);
+  double x = (size.width - 3 * width) / 2;
+  for (const Object button : {previousButton.get(), playPauseButton.get(), nextButton.get()}) {
+    setFrame(button, {{x, 0}, {width, size.height}});
+    x += width;
+  }
+}
+
+void MRUNowPlayingTransportControlsView::registerClass() {
+  using View = MRUNowPlayingTransportControlsView;
+  StandIn<View>("MediaControls", "MRUNowPlayingTransportControlsView", "UIView")
+      .method<"initWithFrame:", &View::initWithFrame>()
+      .readonlyProperty<"previousButton", &View::previousButton>()
+      .readonlyProperty<"playPauseButton", &View::playPauseButton>()
+      .readonlyProperty<"nextButton", &View::nextButton>()
+      .method<"layoutSubviews", &View::layoutSubviews>()
+      .finish();
+}
+
+}  // namespace sim

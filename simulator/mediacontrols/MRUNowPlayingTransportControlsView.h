@@ -1,0 +1,22 @@
+// The buttons of the player: previous track, play or pause, next track.
+#pragma once
+
+#include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+struct MRUNowPlayingTransportControlsView
+    : objc::Implementation<MRUNowPlayingTransportControlsView> {
+  objc::Strong<objc::Object> previousButton;   // MRUTransportButton
+  objc::Strong<objc::Object> playPauseButton;  // MRUTransportButton
+  objc::Strong<objc::Object> nextButton;       // MRUTransportButton
+
+  objc::Object initWithFrame(CGRect frame);
+  void setPlaying(bool isPlaying);
+  void layoutSubviews();
+
+  static void registerClass();
+};
+
+}  // namespace sim

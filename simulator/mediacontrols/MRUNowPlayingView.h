@@ -1,0 +1,30 @@
+// The whole Now Playing module, in whatever layout it has.
+#pragma once
+
+#include "objc/Class.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+struct MRUNowPlayingView : objc::Implementation<MRUNowPlayingView> {
+  objc::Strong<objc::Object> headerView;              // MRUNowPlayingHeaderView
+  objc::Strong<objc::Object> timeControl;             // MRUNowPlayingTimeControl
+  objc::Strong<objc::Object> transportControlsView;   // MRUNowPlayingTransportControlsView
+  objc::Strong<objc::Object> volumeSlider;            // UISlider
+  objc::Strong<objc::Object> collapsedEmbeddingView;  // MRUEmbeddingView
+  long layout = 0;                                    // MRULayout
+
+  objc::Object initWithFrame(CGRect frame);
+  void setLayout(long chosen);
+  void layoutSubviews();
+
+  static void registerClass();
+
+ private:
+  void showParts();
+  void placeMinimized(CGSize size);
+  void placePlayer(CGSize size);
+  void placeEmbedding(CGSize size);
+};
+
+}  // namespace sim

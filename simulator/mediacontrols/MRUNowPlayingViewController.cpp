@@ -1,0 +1,215 @@
+#include "simulator/mediacontrols/MRUNowPlayingViewController.h"
+
+#include <cmath>
+#include <utility>
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/mediacontrols/MRUEmbeddingView.h"
+#include "simulator/mediacontrols/MRUNowPlayingTimeControl.h"
+#include "simulator/mediacontrols/MRUNowPlayingTransportControlsView.h"
+#include "simulator/mediacontrols/MRUNowPlayingView.h"
+#include "simulator/mediaremote/AudioSystem.h"
+#include "simulator/mediaremote/NowPlaying.h"
+#include "simulator/mediaremote/Player.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+using Controller = MRUNowPlayingViewController;
+
+Object notificationCenter() {
+  return objc::send<Object, "defaultCenter">(objc_getClass("NSNotificationCenter"));
+}
+
+void showTrack(Object labels) {
+  const Track* track = Player::current().track();
+  const Object title = track == nullptr ? string("Not Playing")
+                       : track->title   ? string(*track->title)
+                                        : Object();
+  const bool hasArtist = track != nullptr && !track->artist.empty();
+  objc::send<void, "setTitle:">(labels, title);
+  objc::send<void, "setArtist:">(labels, hasArtist ? string(track->artist) : Object());
+}
+
+void previousTrack(Object, Object) {
+  Player::current().previousTrack();
+}
+void togglePlayPause(Object, Object) {
+  Player::current().togglePlayPause();
+}
+void nextTrack(Object, Object) {
+  Player::current().nextTrack();
+}
+
+// Whoever drags the slider sees the volume there and needs no indicator.
+void changeVolume(Object, Object slider) {
+  AudioSystem& sound = AudioSystem::current();
+  const bool wasSuppressed = sound.isIndicatorSuppressed();
+  sound.setIndicatorSuppressed(true);
+  sound.setVolume(objc::send<float, "value">(slider));
+  sound.setIndicatorSuppressed(wasSuppressed);
+}
+
+void nowPlayingInfoDidChange(Object self, Object) {
+  Controller::of(self).update();
+}
+
+}  // namespace
+
+Object Controller::initWithNibName_bundle(Object name, Object bundle) {
+  routingViewController =
+      objc::adopt(objc::send<Object, "new">(objc_getClass("MRURoutingViewController")));
+  return super<Object, "initWithNibName:bundle:">(name, bundle);
+}
+
+void Controller::loadView() {
+  const auto made = objc::adopt(objc::send<Object, "new">(objc_getClass("MRUNowPlayingView")));
+  objc::send<void, "setLayout:">(made.get(), layout);
+  objc::send<void, "setView:">(self(), made.get());
+}
+
+void Controller::viewDidLoad() {
+  super<void, "viewDidLoad">();
+  connectControls();
+  objc::send<void, "setEmbeddedViewController:">(
+      objc::send<Object, "collapsedEmbeddingView">(moduleView()), routingViewController.get());
+  update();
+}
+
+void Controller::connectControls() {
+  const MRUNowPlayingView* view = stateOf<MRUNowPlayingView>(moduleView());
+  if (view == nullptr) return;
+  const Object me(self());
+  addTapTarget(objc::send<Object, "routingButton">(view->headerView.get()), me,
+               objc::selector<"didSelectRoutingButton:">());
+  const Object transport = view->transportControlsView;
+  addTapTarget(objc::send<Object, "previousButton">(transport), me,
+               objc::selector<"_didSelectPreviousButton:">());
+  addTapTarget(objc::send<Object, "playPauseButton">(transport), me,
+               objc::selector<"_didSelectPlayPauseButton:">());
+  addTapTarget(objc::send<Object, "nextButton">(transport), me,
+               objc::selector<"_didSelectNextButton:">());
+  constexpr unsigned long valueChanged = 1 << 12;
+  objc::send<void, "addTarget:action:forControlEvents:">(
+      view->volumeSlider.get(), me, objc::selector<"_volumeSliderValueChanged:">(), valueChanged);
+}
+
+// Off the screen nobody needs to know what plays.
+void Controller::viewWillAppear(bool animated) {
+  super<void, "viewWillAppear:">(animated);
+  objc::send<void, "addObserver:selector:name:object:">(
+      notificationCenter(), Object(self()), objc::selector<"_nowPlayingInfoDidChange:">(),
+      Object(kMRMediaRemoteNowPlayingInfoDidChangeNotification), nullptr);
+  if (volumeObserver == 0)
+    volumeObserver = AudioSystem::current().observe([this] { showVolume(); });
+  update();
+}
+
+// Only now it is in a window, and its time goes by.
+void Controller::viewDidAppear(bool animated) {
+  super<void, "viewDidAppear:">(animated);
+  showTime();
+}
+
+void Controller::viewDidDisappear(bool animated) {
+  super<void, "viewDidDisappear:">(animated);
+  objc::send<void, "removeObserver:">(notificationCenter(), Object(self()));
+  stopWatching();
+}
+
+Object Controller::moduleView() const {
+  return objc::send<Object, "viewIfLoaded">(self());
+}
+
+void Controller::setLayout(long chosen) {
+  layout = chosen;
+  const Object view = moduleView();
+  objc::send<void, "setLayout:">(view, chosen);
+  animateLayout(view);
+}
+
+void Controller::didSelectRoutingButton(Object) {
+  const bool opens = layout != routingLayout;
+  if (opens) layoutBeforeRouting = layout;
+  if (opens) showEmbedded();
+  objc::send<void, "setLayout:">(self(), opens ? routingLayout : layoutBeforeRouting);
+  objc::send<void, "nowPlayingViewControllerDidChangeLayout:">(itsDelegate(), Object(self()));
+}
+
+// What was shown before, and what somebody has shown there already, stays as it is.
+void Controller::showEmbedded() {
+  const Object embedding = objc::send<Object, "collapsedEmbeddingView">(moduleView());
+  const MRUEmbeddingView* state = stateOf<MRUEmbeddingView>(embedding);
+  if (state != nullptr && !state->isShowing()) objc::send<void, "showViewController">(embedding);
+}
+
+void Controller::update() {
+  const MRUNowPlayingView* view = stateOf<MRUNowPlayingView>(moduleView());
+  if (view == nullptr) return;
+  const Object header = view->headerView;
+  showTrack(objc::send<Object, "labelView">(header));
+  objc::send<void, "setNeedsLayout">(header);
+  if (auto* transport =
+          stateOf<MRUNowPlayingTransportControlsView>(view->transportControlsView.get()))
+    transport->setPlaying(Player::current().isPlaying());
+  showVolume();
+  showTime();
+}
+
+void Controller::showVolume() {
+  objc::send<void, "setValue:">(MRUNowPlayingView::of(moduleView()).volumeSlider.get(),
+                                AudioSystem::current().volume());
+}
+
+void Controller::showTime() {
+  stopClock();
+  const Player& player = Player::current();
+  const Track* track = player.track();
+  const MRUNowPlayingView& view = MRUNowPlayingView::of(moduleView());
+  if (auto* line = stateOf<MRUNowPlayingTimeControl>(view.timeControl.get()))
+    line->show(player.position(), track != nullptr ? seconds(track->length) : 0);
+  if (!player.isPlaying() || !objc::send<Object, "window">(moduleView())) return;
+  Phone& phone = Phone::current();
+  const double untilNext = std::floor(player.position()) + 1 - player.position();
+  nextSecond = phone.queue.add(phone.clock.uptime() + nanoseconds(untilNext), [this] {
+    nextSecond = 0;
+    showTime();
+  });
+}
+
+void Controller::stopClock() {
+  if (nextSecond != 0) Phone::current().queue.cancel(std::exchange(nextSecond, 0));
+}
+
+void Controller::stopWatching() {
+  stopClock();
+  if (volumeObserver != 0) AudioSystem::current().forget(std::exchange(volumeObserver, 0));
+}
+
+void Controller::registerClass() {
+  StandIn<Controller>("MediaControls", "MRUNowPlayingViewController", "UIViewController")
+      .method<"initWithNibName:bundle:", &Controller::initWithNibName_bundle>()
+      .readonlyProperty<"routingViewController", &Controller::routingViewController>()
+      .method<"delegate", &Controller::itsDelegate>()
+      .method<"setDelegate:", &Controller::setDelegate>()
+      .method<"loadView", &Controller::loadView>()
+      .method<"viewDidLoad", &Controller::viewDidLoad>()
+      .method<"viewWillAppear:", &Controller::viewWillAppear>()
+      .method<"viewDidAppear:", &Controller::viewDidAppear>()
+      .method<"viewDidDisappear:", &Controller::viewDidDisappear>()
+      .readonlyProperty<"layout", &Controller::layout>()
+      .method<"setLayout:", &Controller::setLayout>()
+      .method<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>()
+      .method<"_didSelectPreviousButton:", &previousTrack>()
+      .method<"_didSelectPlayPauseButton:", &togglePlayPause>()
+      .method<"_didSelectNextButton:", &nextTrack>()
+      .method<"_volumeSliderValueChanged:", &changeVolume>()
+      .method<"_nowPlayingInfoDidChange:", &nowPlayingInfoDidChange>()
+      .finish();
+}
+
+}  // namespace sim

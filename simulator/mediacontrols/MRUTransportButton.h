@@ -1,0 +1,20 @@
+// One button of the player.
+#pragma once
+
+#include "objc/Class.h"
+#include "simulator/mediacontrols/Glyphs.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+struct MRUTransportButton : objc::Implementation<MRUTransportButton> {
+  objc::Strong<objc::Object> shape;  // CAShapeLayer
+
+  objc::Object initWithFrame(CGRect frame);
+  void show(TransportSymbol symbol, const char* name);
+  void layoutSubviews();
+
+  static void registerClass();
+};
+
+}  // namespace sim

@@ -1,0 +1,33 @@
+// What the Now Playing module is made of.
+#include "simulator/Frameworks.h"
+#include "simulator/mediacontrols/MRUControlCenterViewController.h"
+#include "simulator/mediacontrols/MRUEmbeddingView.h"
+#include "simulator/mediacontrols/MRUMediaControlsModule.h"
+#include "simulator/mediacontrols/MRUNowPlayingHeaderView.h"
+#include "simulator/mediacontrols/MRUNowPlayingLabelView.h"
+#include "simulator/mediacontrols/MRUNowPlayingRoutingButton.h"
+#include "simulator/mediacontrols/MRUNowPlayingTimeControl.h"
+#include "simulator/mediacontrols/MRUNowPlayingTransportControlsView.h"
+#include "simulator/mediacontrols/MRUNowPlayingView.h"
+#include "simulator/mediacontrols/MRUNowPlayingViewController.h"
+#include "simulator/mediacontrols/MRURoutingViewController.h"
+#include "simulator/mediacontrols/MRUTransportButton.h"
+
+namespace sim {
+
+void registerMediaControls() {
+  MRUNowPlayingRoutingButton::registerClass();
+  MRUNowPlayingLabelView::registerClass();
+  MRUNowPlayingHeaderView::registerClass();
+  MRUNowPlayingTimeControl::registerClass();
+  MRUTransportButton::registerClass();
+  MRUNowPlayingTransportControlsView::registerClass();
+  MRUEmbeddingView::registerClass();
+  MRUNowPlayingView::registerClass();
+  MRURoutingViewController::registerClass();
+  MRUNowPlayingViewController::registerClass();
+  MRUControlCenterViewController::registerClass();
+  MRUMediaControlsModule::registerClass();
+}
+
+}  // namespace sim

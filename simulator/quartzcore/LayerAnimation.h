@@ -1,0 +1,56 @@
+// Changes of layers that take time. A layer's own values are final at once; what is seen in the
+// meantime is these values plus the part of each change that is still to come. So changes that
+// overlap add up, and one that turns another back does it without a jump.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "simulator/phone/Clock.h"
+#include "simulator/quartzcore/LayerValues.h"
+#include "simulator/quartzcore/TimingCurve.h"
+
+namespace sim {
+
+struct CALayer;
+
+struct AnimationTiming {
+  unsigned long group = 0;  // the same for all that one call animates
+  Nanoseconds begin = 0;    // uptime, after the delay
+  double duration = 0;      // seconds, of one way
+  TimingCurve curve;
+  bool repeats = false;       // for ever
+  bool autoreverses = false;  // and back again
+  bool fromCurrentState = false;
+
+  double progress(Nanoseconds now) const;  // 0: at the start
+  Nanoseconds end() const;                 // uptime; never, when it repeats
+};
+
+struct LayerAnimation {
+  LayerNumbers difference;  // start less end
+  AnimationTiming timing;
+};
+
+// What changes of layers are animated by at present; nothing: they are seen at once.
+const std::optional<AnimationTiming>& currentAnimation();
+void setCurrentAnimation(std::optional<AnimationTiming> timing);
+
+// The layer is seen going from those values to the ones that it has.
+void animateFrom(CALayer& layer, const LayerValues& start, const AnimationTiming& timing);
+
+// Lives while a layer's values change, and animates the change.
+class LayerChange {
+ public:
+  explicit LayerChange(CALayer* layer);  // nullptr: there is nothing to animate
+  ~LayerChange();
+  LayerChange(const LayerChange&) = delete;
+  LayerChange& operator=(const LayerChange&) = delete;
+
+ private:
+  CALayer* layer_;
+  LayerValues before_;
+  LayerValues seen_;  // where the animation starts
+};
+
+}  // namespace sim

@@ -1,0 +1,71 @@
+#include "simulator/uikit/UISlider.h"
+
+#include <algorithm>
+
+#include "simulator/StandIn.h"
+#include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+constexpr double lineHeight = 6;  // points
+
+objc::Strong<Object> addLine(Object slider, double alpha) {
+  auto line = addView(slider, "UIView");
+  fill(line, whiteColor(alpha), lineHeight / 2);
+  objc::send<void, "setUserInteractionEnabled:">(line.get(), false);
+  return line;
+}
+
+}  // namespace
+
+Object UISlider::initWithFrame(CGRect frame) {
+  const Object made = super<Object, "initWithFrame:">(frame);
+  if (!made) return nullptr;
+  track = addLine(made, 0.25);
+  filled = addLine(made, 0.9);
+  return made;
+}
+
+void UISlider::setValue(float to) {
+  value = std::max(minimumValue, std::min(to, maximumValue));
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+void UISlider::setValueAnimated(float to, bool) {
+  objc::send<void, "setValue:">(self(), to);
+}
+
+void UISlider::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  const CGSize size = UIView::of(self()).geometry().bounds.size;
+  const double range = double(maximumValue) - double(minimumValue);
+  const double part = range > 0 ? (double(value) - double(minimumValue)) / range : 0;
+  const double y = (size.height - lineHeight) / 2;
+  setFrame(track, {{0, y}, {size.width, lineHeight}});
+  setFrame(filled, {{0, y}, {size.width * part, lineHeight}});
+}
+
+void UISlider::userSlides(float to) {
+  const auto kept = objc::retain(Object(self()));
+  objc::send<void, "setValue:">(self(), to);
+  UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
+}
+
+void UISlider::registerClass() {
+  StandIn<UISlider>("UIKit", "UISlider", "UIControl")
+      .method<"initWithFrame:", &UISlider::initWithFrame>()
+      .property<"minimumValue", &UISlider::minimumValue>()
+      .property<"maximumValue", &UISlider::maximumValue>()
+      .readonlyProperty<"value", &UISlider::value>()
+      .method<"setValue:", &UISlider::setValue>()
+      .partial<"setValue:animated:", &UISlider::setValueAnimated>("in place at once")
+      .method<"layoutSubviews", &UISlider::layoutSubviews>()
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,78 @@
+#include "simulator/uikit/autolayout/Activation.h"
+
+#include <algorithm>
+
+#include "objc/Message.h"
+#include "simulator/foundation/Exception.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/uikit/NSLayoutConstraint.h"
+#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/ViewTree.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
+#include "simulator/uikit/autolayout/ViewConstraints.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+unsigned long activations = 0;
+
+}  // namespace
+
+void addConstraint(Object view, Object constraint) {
+  if (!constraint) return;
+  NSLayoutConstraint& state = NSLayoutConstraint::of(constraint);
+  const auto kept = objc::retain(constraint);
+  const Object before = state.owner.load();
+  if (before == view) return;
+  if (before) removeConstraint(before, constraint);
+  constraintsOf(view).owned.push_back(kept);
+  state.owner = objc::weak(view);
+  state.activation = ++activations;
+  constraintsChanged(view);
+}
+
+void removeConstraint(Object view, Object constraint) {
+  ViewConstraints* its = view ? existingConstraintsOf(view) : nullptr;
+  if (its == nullptr) return;
+  const auto kept = objc::retain(constraint);  // the view may own it alone
+  const auto isThis = [&](const auto& each) { return each.get() == constraint; };
+  if (std::erase_if(its->owned, isThis) == 0) return;
+  NSLayoutConstraint::of(constraint).owner = objc::Weak<Object>();
+  constraintsChanged(view);
+}
+
+void setConstraintActive(Object constraint, bool active) {
+  NSLayoutConstraint& state = NSLayoutConstraint::of(constraint);
+  if (state.isActive() == active) return;
+  if (!active) return removeConstraint(state.owner.load(), constraint);
+  const Object first = state.firstItem.load(), second = state.secondItem.load();
+  const Object owner = second ? commonAncestor(first, second) : first;
+  if (!owner)
+    raiseException("NSGenericException",
+                   "Unable to activate constraint with items " + description(first) + " and " +
+                       description(second) +
+                       " because they have no common ancestor. Does the constraint or its items "
+                       "reference items in different view hierarchies?");
+  addConstraint(owner, constraint);
+}
+
+void dropConstraintsAcross(Object view) {
+  const auto isInside = [view](const objc::Weak<Object>& item) {
+    const Object loaded = item.load();
+    return loaded && isDescendant(loaded, view);
+  };
+  for (Object above = UIView::of(view).parent; above; above = UIView::of(above).parent) {
+    const ViewConstraints* its = existingConstraintsOf(above);
+    if (its == nullptr) continue;
+    const auto owned = its->owned;
+    for (const auto& each : owned) {
+      const NSLayoutConstraint& state = NSLayoutConstraint::of(each.get());
+      if (isInside(state.firstItem) || isInside(state.secondItem))
+        removeConstraint(above, each.get());
+    }
+  }
+}
+
+}  // namespace sim

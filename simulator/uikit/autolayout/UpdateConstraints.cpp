@@ -1,0 +1,33 @@
+#include "simulator/uikit/autolayout/UpdateConstraints.h"
+
+#include <utility>
+
+#include "objc/Message.h"
+#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/autolayout/LayoutEngine.h"
+#include "simulator/uikit/autolayout/ViewConstraints.h"
+
+namespace sim {
+
+using objc::Object;
+
+void setNeedsUpdateConstraints(Object view) {
+  constraintsOf(view).needsUpdate = true;
+  constraintsChanged(view);
+}
+
+bool needsUpdateConstraints(Object view) {
+  const ViewConstraints* its = existingConstraintsOf(view);
+  return its != nullptr && its->needsUpdate;
+}
+
+void updateConstraintsIfNeeded(Object view) {
+  const auto kept = objc::retain(view);
+  const auto children = UIView::of(view).children;
+  for (const auto& child : children) updateConstraintsIfNeeded(child);
+  ViewConstraints* its = existingConstraintsOf(view);
+  if (its != nullptr && std::exchange(its->needsUpdate, false))
+    objc::send<void, "updateConstraints">(view);
+}
+
+}  // namespace sim

@@ -1,0 +1,13 @@
+// -updateConstraints: before layout, views that asked for it change their constraints.
+#pragma once
+
+#include "objc/Object.h"
+
+namespace sim {
+
+void setNeedsUpdateConstraints(objc::Object view);
+bool needsUpdateConstraints(objc::Object view);
+// In the view's tree below it, subviews first.
+void updateConstraintsIfNeeded(objc::Object view);
+
+}  // namespace sim

@@ -1,4 +1,5 @@
 // The script commands of the person who listens: what plays, how loud, and what is heard.
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -78,6 +79,17 @@ float takeLevel(Arguments& words) {
 void volume(Arguments& words) {
   const float level = takeLevel(words);
   words.finish();
+  Phone::current().journal.record("user volume " + notation(level));
+  AudioSystem::current().setVolume(level);
+}
+
+// A press of the key, as the phone counts them.
+template <int direction>
+void volumeKey(Arguments& words) {
+  constexpr float presses = 16;  // from silent to full
+  words.finish();
+  const float pressed = AudioSystem::current().volume() * presses + direction;
+  const float level = std::clamp(std::round(pressed) / presses, 0.0F, 1.0F);
   Phone::current().journal.record("user volume " + notation(level));
   AudioSystem::current().setVolume(level);
 }
@@ -172,6 +184,11 @@ void addPlayerCommands(CommandTable& table) {
              }});
   table.add({"volume", Stage::any, "volume LEVEL", "volume 0.5",
              "The user sets the media volume, from 0 to 1.", volume});
+  table.add({"volume-up", Stage::any, "volume-up", "volume-up",
+             "The user presses the key that makes the music louder by a sixteenth.", volumeKey<1>});
+  table.add({"volume-down", Stage::any, "volume-down", "volume-down",
+             "The user presses the key that makes the music quieter by a sixteenth.",
+             volumeKey<-1>});
   addControls(table);
   addExpectations(table);
 }

@@ -1,15 +1,15 @@
 #include "simulator/program/Options.h"
 
+#include <charconv>
 #include <map>
 
 namespace sim {
 namespace {
 
 const std::map<std::string, Action> actions = {
-    {"play", Action::play},
-    {"resume", Action::resume},
-    {"fidelity", Action::fidelity},
-    {"commands", Action::commands},
+    {"play", Action::play},         {"resume", Action::resume},
+    {"serve", Action::serve},       {"serve-on", Action::goOnServing},
+    {"fidelity", Action::fidelity}, {"commands", Action::commands},
 };
 
 // Beside the program: where the build and the installation put it.
@@ -39,39 +39,74 @@ class Parser {
 
  private:
   void read(const std::string& word) {
-    if (options_.action == Action::play && word.starts_with("--"))
+    const bool takesOptions = options_.action == Action::play || options_.action == Action::serve;
+    if (takesOptions && word.starts_with("--"))
       readOption(word);
     else
       options_.files.emplace_back(word);
   }
 
   void readOption(const std::string& word) {
-    if (word == "--quiet")
-      options_.quiet = true;
-    else if (word == "--no-tweak")
+    const bool isKnown =
+        readCommonOption(word) ||
+        (options_.action == Action::play ? readPlayOption(word) : readServeOption(word));
+    if (!isKnown) throw UsageError("there is no option " + word);
+  }
+
+  bool readCommonOption(const std::string& word) {
+    if (word == "--no-tweak")
       withoutExtension_ = true;
     else if (word == "--tweak")
       options_.extensions.emplace_back(valueOf(word));
     else if (word == "--package")
       options_.package = valueOf(word);
+    else
+      return false;
+    return true;
+  }
+
+  bool readPlayOption(const std::string& word) {
+    if (word == "--quiet")
+      options_.quiet = true;
     else if (word == "--root")
       options_.root = valueOf(word);
     else if (word == "--playlist")
       options_.playlist = valueOf(word);
     else
-      throw UsageError("there is no option " + word);
+      return false;
+    return true;
+  }
+
+  bool readServeOption(const std::string& word) {
+    if (word == "--port")
+      options_.port = portFrom(valueOf(word));
+    else if (word == "--web")
+      options_.web = valueOf(word);
+    else if (word == "--script")
+      options_.script = valueOf(word);
+    else if (word == "--paused")
+      options_.paused = true;
+    else
+      return false;
+    return true;
+  }
+
+  static int portFrom(const std::string& word) {
+    int port = -1;
+    const char* end = word.data() + word.size();
+    const auto result = std::from_chars(word.data(), end, port);
+    if (result.ec != std::errc() || result.ptr != end || port < 0 || port > 65535)
+      throw UsageError("--port needs a number from 0 to 65535, found " + word);
+    return port;
   }
 
   const std::string& valueOf(const std::string& option) {
-    if (++at_ == words_.size()) throw UsageError(option + " needs a path");
+    if (++at_ == words_.size()) throw UsageError(option + " needs a value");
     return words_[at_];
   }
 
   void complete() {
-    const bool takesFiles = options_.action == Action::play || options_.action == Action::resume;
-    if (takesFiles && options_.files.empty()) throw UsageError("which script?");
-    if (!takesFiles && !options_.files.empty())
-      throw UsageError("nothing may follow, found " + options_.files.front().string());
+    requireFiles();
     if (options_.root && options_.files.size() > 1)
       throw UsageError("--root is for one script: each needs a phone of its own");
     if (withoutExtension_ && !options_.extensions.empty())
@@ -79,6 +114,25 @@ class Parser {
     if (!options_.extensions.empty() || withoutExtension_) return;
     options_.extensions.push_back(ownFolder() / "Dozewell2.so");
     if (!options_.package) options_.package = ownFolder().parent_path() / "package";
+  }
+
+  void requireFiles() const {
+    const std::size_t count = options_.files.size();
+    switch (options_.action) {
+      case Action::play:
+      case Action::resume:
+      case Action::goOnServing:
+        if (count == 0) throw UsageError("which script?");
+        return;
+      case Action::serve:
+        if (count > 1)
+          throw UsageError("one folder of music only, found " + options_.files[1].string() +
+                           ", too");
+        return;
+      default:
+        if (count > 0)
+          throw UsageError("nothing may follow, found " + options_.files.front().string());
+    }
   }
 
   const std::vector<std::string>& words_;
@@ -95,9 +149,12 @@ Options parseOptions(const std::vector<std::string>& words) {
 }
 
 std::string usageText() {
-  return R"(usage: dozewell-simulator play [OPTIONS] FILE...
+  return R"(usage: dozewell-simulator serve [OPTIONS] [FOLDER]
+       dozewell-simulator play [OPTIONS] FILE...
        dozewell-simulator fidelity | commands | --help
 
+serve     a phone in the browser, on this machine only, that plays the music of the folder; prints
+          its address
 play      plays phone scripts, each against a fresh phone in virtual time, and prints what the
           phone does; docs/phone-scripts.md describes the language
 fidelity  prints how faithful the simulated phone is, as Markdown
@@ -108,6 +165,14 @@ commands  prints the reference of the script language, as Markdown
   --no-tweak       a phone without extensions
   --package DIR    the files to install on the phone, as they lie there; without it, and without
                    the options above, the extension's own
+
+To serve:
+  --port N         listen there; without it, at 8420 or the next one that is free
+  --script FILE    begin with this phone script, to be played step by step
+  --paused         time stands still until somebody starts it
+  --web DIR        the page's files; without it, those beside this program
+
+To play:
   --root DIR       keep the phone's files there; without it, a temporary folder
   --playlist PATH  an M3U file that is played instead of those that scripts name
   --quiet          do not print the journal

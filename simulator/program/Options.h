@@ -18,6 +18,8 @@ enum class Action {
   help,
   play,
   resume,  // not for people: what a restarting host calls itself with
+  serve,
+  goOnServing,  // not for people, either
   fidelity,
   commands,
 };
@@ -30,6 +32,11 @@ struct Options {
   std::optional<std::filesystem::path> root;     // none: a temporary folder
   std::optional<std::filesystem::path> playlist;  // instead of the scripts' own
   bool quiet = false;
+
+  std::optional<int> port;                      // none: a usual one that is free
+  std::optional<std::filesystem::path> web;     // the page's files; none: its own
+  std::optional<std::filesystem::path> script;  // to be played step by step
+  bool paused = false;                          // time waits for somebody to start it
 };
 
 // Throws UsageError.

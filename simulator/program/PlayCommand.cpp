@@ -12,6 +12,7 @@
 #include "simulator/phone/script/Commands.h"
 #include "simulator/phone/script/Interpreter.h"
 #include "simulator/program/CrashNote.h"
+#include "simulator/program/PhonePackage.h"
 #include "simulator/program/TemporaryFolder.h"
 
 namespace sim {
@@ -42,12 +43,6 @@ int playOne(const SessionOptions& options, const RestartState* state) {
     std::cerr << error.what() << '\n';
   }
   return 1;
-}
-
-// Over what an earlier version has left on a phone that is kept.
-void installPackage(const std::filesystem::path& package, const std::filesystem::path& root) {
-  using std::filesystem::copy_options;
-  std::filesystem::copy(package, root, copy_options::recursive | copy_options::overwrite_existing);
 }
 
 int waitFor(pid_t child, const std::filesystem::path& script) {

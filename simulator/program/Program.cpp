@@ -7,6 +7,7 @@
 #include "simulator/program/Options.h"
 #include "simulator/program/PlayCommand.h"
 #include "simulator/program/ReferenceCommand.h"
+#include "simulator/program/ServeCommand.h"
 
 namespace sim {
 
@@ -23,6 +24,10 @@ int runProgram(const std::vector<std::string>& words) {
         return playScripts(options);
       case Action::resume:
         return resumeScript(options.files.front());
+      case Action::serve:
+        return servePhone(options);
+      case Action::goOnServing:
+        return goOnServing(options.files.front());
       case Action::fidelity:
         return printFidelity();
       case Action::commands:

@@ -12,17 +12,19 @@ namespace sim {
 
 using objc::Object;
 
+Object viewOnScreenAt(CGPoint point) {
+  const auto windows = UIWindow::visibleWindows();
+  for (auto window = windows.rbegin(); window != windows.rend(); ++window)
+    if (const Object hit = objc::send<Object, "hitTest:withEvent:">(window->get(), point, nullptr))
+      return hit;
+  return nullptr;
+}
+
 Object viewTouchedAt(Object view, CGPoint point) {
   const Object root = rootOf(view);
   const CGPoint onScreen = toRoot(view, point);
-  if (!isA<UIWindow>(root))
-    return objc::send<Object, "hitTest:withEvent:">(root, onScreen, nullptr);
-  const auto windows = UIWindow::visibleWindows();
-  for (auto window = windows.rbegin(); window != windows.rend(); ++window)
-    if (const Object hit =
-            objc::send<Object, "hitTest:withEvent:">(window->get(), onScreen, nullptr))
-      return hit;
-  return nullptr;
+  if (isA<UIWindow>(root)) return viewOnScreenAt(onScreen);
+  return objc::send<Object, "hitTest:withEvent:">(root, onScreen, nullptr);
 }
 
 bool touchIsFor(Object view, Object hit) {

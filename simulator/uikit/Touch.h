@@ -6,6 +6,10 @@
 
 namespace sim {
 
+// The view that a touch at that point of the screen is for: the uppermost window's that takes it;
+// nil for none.
+objc::Object viewOnScreenAt(CGPoint point);
+
 // The view that a touch at that point of the view's coordinates is for: in the uppermost window
 // that takes it, or, where the view is in no window, in the view's own tree. nil for none.
 objc::Object viewTouchedAt(objc::Object view, CGPoint point);

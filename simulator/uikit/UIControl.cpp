@@ -6,6 +6,7 @@
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/uikit/Actions.h"
+#include "simulator/uikit/ControlTracking.h"
 
 namespace sim {
 namespace {
@@ -72,8 +73,9 @@ unsigned long UIControl::state() const {
 }
 
 void UIControl::registerClass() {
-  StandIn<UIControl>("UIKit", "UIControl", "UIView")
-      .method<"addTarget:action:forControlEvents:", &UIControl::addTarget>()
+  StandIn<UIControl> control("UIKit", "UIControl", "UIView");
+  addControlTracking(control);
+  control.method<"addTarget:action:forControlEvents:", &UIControl::addTarget>()
       .method<"removeTarget:action:forControlEvents:", &UIControl::removeTarget>()
       .method<"actionsForTarget:forControlEvent:", &UIControl::actionsForTarget>()
       .method<"allControlEvents", &UIControl::allControlEvents>()

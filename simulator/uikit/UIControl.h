@@ -17,7 +17,10 @@ struct ControlAction {
 
 struct UIControl : objc::Implementation<UIControl> {
   static constexpr unsigned long touchDown = 1 << 0;
+  static constexpr unsigned long touchDragInside = 1 << 2, touchDragOutside = 1 << 3,
+                                 touchDragEnter = 1 << 4, touchDragExit = 1 << 5;
   static constexpr unsigned long touchUpInside = 1 << 6;
+  static constexpr unsigned long touchUpOutside = 1 << 7, touchCancel = 1 << 8;
   static constexpr unsigned long valueChanged = 1 << 12;
   static constexpr unsigned long normal = 0, highlightedState = 1, disabledState = 2,
                                  selectedState = 4;
@@ -26,6 +29,8 @@ struct UIControl : objc::Implementation<UIControl> {
   bool enabled = true;
   bool selected = false;
   bool highlighted = false;
+  bool tracking = false;     // a finger that has begun in it
+  bool touchInside = false;  // and whether it is in it or near
 
   // The same target and action again only adds events.
   void addTarget(objc::Object target, SEL action, unsigned long events);

@@ -28,6 +28,7 @@
 #include "simulator/uikit/UISelectionFeedbackGenerator.h"
 #include "simulator/uikit/UISlider.h"
 #include "simulator/uikit/UIStackView.h"
+#include "simulator/uikit/UITouch.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIViewController.h"
 #include "simulator/uikit/UIWindow.h"
@@ -46,6 +47,7 @@ void registerUIKit() {
   UINotificationFeedbackGenerator::registerClass();
   UISelectionFeedbackGenerator::registerClass();
   UIEvent::registerClass();
+  UITouch::registerClass();
   UIMotionEvent::registerClass();
   NSURL::registerClass();
   UIPasteboard::registerClass();

@@ -55,6 +55,7 @@ class Arguments {
 enum class Stage {
   setup,    // before boot only
   running,  // after boot only
+  booted,   // after boot, also while the host is dead
   any,
 };
 

@@ -119,9 +119,9 @@ void addHostCommands(CommandTable& table) {
   table.add({"boot", Stage::setup, "boot", "boot",
              "Ends the set-up, loads the extension, launches the home screen and runs what is due.",
              boot});
-  table.add({"advance", Stage::running, "advance DURATION", "advance 90s",
+  table.add({"advance", Stage::booted, "advance DURATION", "advance 90s",
              "Lets virtual time pass, with everything that falls due on the way.", advance});
-  table.add({"advance-to", Stage::running, "advance-to SECONDS", "advance-to 2701.5",
+  table.add({"advance-to", Stage::booted, "advance-to SECONDS", "advance-to 2701.5",
              "Lets virtual time pass up to this many seconds since the phone's start.",
              advanceToUptime});
   table.add({"wall-clock", Stage::any, "wall-clock +DURATION|-DURATION", "wall-clock -1h",

@@ -87,7 +87,8 @@ void Interpreter::requireStage(const Command& command) const {
   const HostState state = session_.state;
   if (command.stage == Stage::setup && state != HostState::off)
     throw ScriptError(0, command.name + " belongs before boot");
-  if (command.stage == Stage::running && state == HostState::off)
+  const bool needsBoot = command.stage == Stage::running || command.stage == Stage::booted;
+  if (needsBoot && state == HostState::off)
     throw ScriptError(0, command.name + " belongs after boot");
   if (command.stage == Stage::running && state == HostState::dead)
     throw ScriptError(0, command.name + " needs a running host: it has died, respring first");

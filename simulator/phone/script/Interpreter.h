@@ -20,6 +20,9 @@ class Interpreter {
   void play();
   // Goes on after a restart of the host.
   void resume(const RestartState& state);
+  // One line more than the script has, after one of those: for whoever types as the phone goes.
+  // Throws ScriptParseError.
+  void perform(const ScriptLine& line) { run(line); }
 
  private:
   void requireKnownCommands() const;

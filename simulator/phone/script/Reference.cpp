@@ -9,6 +9,8 @@ const char* when(Stage stage) {
       return " Before `boot` only.";
     case Stage::running:
       return " While the host runs.";
+    case Stage::booted:
+      return " After `boot`, also while the host is dead.";
     case Stage::any:
       return " At any time.";
   }

@@ -4,6 +4,7 @@ namespace sim {
 
 void addUIKitCommands(CommandTable& table) {
   addTouchCommands(table);
+  addFingerCommands(table);
   addAlertCommands(table);
   addScreenViewCommands(table);
 }

@@ -6,6 +6,7 @@
 namespace sim {
 
 void addTouchCommands(CommandTable& table);       // tap, select, pick
+void addFingerCommands(CommandTable& table);      // touch
 void addAlertCommands(CommandTable& table);       // press-alert, expect-alert
 void addScreenViewCommands(CommandTable& table);  // tree, rotate
 

@@ -1,0 +1,116 @@
+#include "simulator/program/ServeCommand.h"
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+#include <random>
+#include <system_error>
+
+#include "simulator/program/EndSignals.h"
+#include "simulator/program/ServingProcess.h"
+#include "simulator/program/TemporaryFolder.h"
+#include "simulator/serve/http/Listener.h"
+
+namespace sim {
+
+namespace files = std::filesystem;
+
+namespace {
+
+files::path beside(const char* folder) {
+  return files::read_symlink("/proc/self/exe").parent_path().parent_path() / folder;
+}
+
+// Pages recognise by it that it is another phone than the one they knew.
+std::string newEpoch() {
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::random_device random;
+  std::string epoch;
+  for (int count = 0; count < 8; ++count) epoch += digits[random() % digits.size()];
+  return epoch;
+}
+
+std::string contentOf(const files::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) throw std::system_error(errno, std::generic_category(), file.string());
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+ServeState stateFrom(const Options& options, const Listener& listener, const files::path& root) {
+  ServeState state;
+  state.listener = listener.descriptor();
+  state.root = root;
+  state.extensions = options.extensions;
+  state.package = options.package;
+  state.music = files::canonical(options.files.empty() ? beside("music") : options.files.front());
+  state.web = files::canonical(options.web.value_or(beside("web")));
+  state.epoch = newEpoch();
+  state.paused = options.paused;
+  if (options.script) {
+    state.script.emplace();
+    state.script->name = options.script->filename().string();
+    state.script->text = contentOf(*options.script);
+  }
+  return state;
+}
+
+pid_t served = 0;
+
+void passOn(int signal) {
+  kill(served, signal);
+}
+
+void passOnSignals() {
+  struct sigaction action {};
+  action.sa_handler = passOn;
+  sigaction(SIGINT, &action, nullptr);
+  sigaction(SIGTERM, &action, nullptr);
+  EndSignals::unblock();
+}
+
+int waitForEnd() {
+  int status = 0;
+  while (waitpid(served, &status, 0) < 0) {
+    if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "waitpid");
+  }
+  if (WIFEXITED(status)) return WEXITSTATUS(status);
+  std::cerr << "dozewell-simulator: the phone stopped: " << strsignal(WTERMSIG(status)) << '\n';
+  return 1;
+}
+
+}  // namespace
+
+int servePhone(const Options& options) {
+  const TemporaryFolder temporary;
+  const Listener listener = Listener::open(options.port);
+  const ServeState state = stateFrom(options, listener, temporary.path() / "phone");
+  std::cout.flush();
+  EndSignals::block();  // none is lost between the two processes' beginnings
+  served = fork();
+  if (served < 0) throw std::system_error(errno, std::generic_category(), "fork");
+  if (served > 0) {
+    passOnSignals();
+    return waitForEnd();
+  }
+  prctl(PR_SET_PDEATHSIG, SIGTERM);
+  _exit(beginServing(state));
+}
+
+int goOnServing(const files::path& stateFile) {
+  const auto saved = nlohmann::json::parse(contentOf(stateFile));
+  if (const auto fresh = saved.find("fresh"); fresh != saved.end()) {
+    files::remove(stateFile);
+    return beginServing(serveStateFrom(*fresh));
+  }
+  return continueServing(takeRestartState(stateFile));
+}
+
+}  // namespace sim

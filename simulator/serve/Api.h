@@ -1,0 +1,35 @@
+// Everything that pages can ask for over HTTP. docs/serve.md describes it.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "simulator/serve/Inbox.h"
+#include "simulator/serve/http/HttpServer.h"
+#include "simulator/serve/http/Router.h"
+#include "simulator/serve/music/MusicLibrary.h"
+
+namespace sim {
+
+// What answers need that is not the phone's. Any thread.
+struct ApiParts {
+  Inbox& inbox;
+  HttpServer& server;
+  const MusicLibrary& library;
+  std::filesystem::path web;  // folder of the page
+  // Plays the set-up on another phone; throws RequestError when it is wrong.
+  std::function<void(const std::vector<std::string>& setup)> checkSetup;
+};
+
+// The parts must outlive the router.
+void addApi(Router& router, const ApiParts& parts);
+
+// The pieces of it, one for each subject.
+void addPhoneRoutes(Router& router, const ApiParts& parts);   // command, time, set-up, settings
+void addScriptRoutes(Router& router, const ApiParts& parts);  // recording, script
+void addEventRoutes(Router& router, const ApiParts& parts);   // events, audio-owner
+void addFileRoutes(Router& router, const ApiParts& parts);    // music, cover, page
+
+}  // namespace sim

@@ -1,0 +1,101 @@
+#include <atomic>
+
+#include "simulator/serve/Api.h"
+#include "simulator/serve/JsonBody.h"
+#include "simulator/serve/ServedPhone.h"
+
+namespace sim {
+
+using nlohmann::json;
+
+namespace {
+
+constexpr std::size_t longestPage = 40;
+
+void requirePage(const std::string& page) {
+  const auto isAllowed = [](char letter) {
+    return std::isalnum(static_cast<unsigned char>(letter)) || letter == '-';
+  };
+  if (page.empty() || page.size() > longestPage ||
+      !std::all_of(page.begin(), page.end(), isAllowed))
+    throw RequestError(400, "expected page to be up to 40 letters, digits and -");
+}
+
+// Pages that do not name themselves.
+std::string newPage() {
+  static std::atomic<long> count = 0;
+  return "page-" + std::to_string(++count);
+}
+
+// One piece of the stream; false when it is over.
+bool sendNews(const Watchers::Watcher& watcher, Inbox& inbox, int socket, httplib::DataSink& sink) {
+  switch (watcher->wait(socket)) {
+    case EventQueue::News::events: {
+      const std::string events = watcher->take();
+      return sink.write(events.data(), events.size());
+    }
+    case EventQueue::News::behind:
+      inbox.ask([&watcher](ServedPhone& phone) {
+        phone.watch(watcher);
+        return json();
+      });
+      return true;
+    case EventQueue::News::closed:
+    case EventQueue::News::readerGone:
+      return false;
+  }
+  return false;
+}
+
+void stream(const Router::Visit& visit, Inbox& inbox, HttpServer& server) {
+  std::string page = visit.request.get_param_value("page");
+  if (visit.request.has_param("page"))
+    requirePage(page);
+  else
+    page = newPage();
+  const auto watcher = std::make_shared<EventQueue>(page);
+  inbox.ask([&watcher](ServedPhone& phone) {
+    phone.watch(watcher);
+    return json();
+  });
+  server.leaveAnswering();
+  visit.response.set_chunked_content_provider(
+      "text/event-stream",
+      [watcher, &inbox, socket = HttpServer::connection()](std::size_t, httplib::DataSink& sink) {
+        try {
+          return sendNews(watcher, inbox, socket, sink);
+        } catch (const RequestError&) {
+          return false;  // the phone begins anew: so does the page
+        }
+      },
+      [watcher, &inbox](bool) {
+        inbox.tell([watcher](ServedPhone& phone) { phone.unwatch(watcher); });
+      });
+}
+
+ServedPhone::Sound soundFrom(const JsonBody& body) {
+  const bool takes = body.flag("take").value_or(false);
+  const bool releases = body.flag("release").value_or(false);
+  if (takes && releases) throw RequestError(400, "expected either take or release");
+  if (takes) return ServedPhone::Sound::take;
+  return releases ? ServedPhone::Sound::release : ServedPhone::Sound::ask;
+}
+
+}  // namespace
+
+void addEventRoutes(Router& router, const ApiParts& parts) {
+  Inbox& inbox = parts.inbox;
+  router.add("GET", "/api/events", [&inbox, &server = parts.server](const Router::Visit& visit) {
+    if (visit.request.method == "HEAD") throw RequestError(405, "expected GET, found HEAD");
+    stream(visit, inbox, server);
+  });
+  router.addJson("POST", "/api/audio-owner", [&inbox](const Router::Visit& visit) {
+    const JsonBody body(visit.request.body, {"page", "take", "release"});
+    const std::string page = body.text("page", longestPage);
+    requirePage(page);
+    const ServedPhone::Sound how = soundFrom(body);
+    return inbox.ask([&page, how](ServedPhone& phone) { return phone.chooseSound(page, how); });
+  });
+}
+
+}  // namespace sim

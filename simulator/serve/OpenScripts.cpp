@@ -1,0 +1,111 @@
+// Scripts that pages open, played step by step.
+#include "simulator/phone/script/Script.h"
+#include "simulator/serve/RequestError.h"
+#include "simulator/serve/ServedPhone.h"
+
+namespace sim {
+
+using nlohmann::json;
+
+namespace {
+
+std::vector<std::string> linesOf(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) {
+    std::string_view line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines.emplace_back(line);
+  }
+  return lines;
+}
+
+bool isBlank(const std::string& line) {
+  const auto first = line.find_first_not_of(" \t");
+  return first == std::string::npos || line[first] == '#';
+}
+
+// The first line from `line` on that says something; past the end when none does.
+std::size_t nextLine(const std::vector<std::string>& lines, std::size_t line) {
+  while (line <= lines.size() && isBlank(lines[line - 1])) ++line;
+  return line;
+}
+
+}  // namespace
+
+json ServedPhone::openScript(std::string name, std::string text) {
+  try {
+    for (const ScriptLine& line : parseScript(text)) {
+      const Word& command = line.words.front();
+      if (command.quoted || table_.find(command.text) == nullptr)
+        throw ScriptParseError(line.number,
+                               {command.column, "expected a command, found " + command.text});
+    }
+  } catch (const ScriptParseError& error) {
+    throw RequestError(400, error.what(), {{"line", error.line}, {"column", error.column}});
+  }
+  ServeState fresh = state_;
+  fresh.setup.clear();
+  fresh.settings.clear();
+  fresh.script = OpenScript{std::move(name), std::move(text), 1, OpenScript::State::ready, {}};
+  leaveForFreshPhone(std::move(fresh));
+  return {};
+}
+
+json ServedPhone::stepScript(std::optional<long> lines) {
+  if (!state_.script) throw RequestError(409, "no script is open");
+  using State = OpenScript::State;
+  if (state_.script->state == State::finished || state_.script->state == State::failed)
+    throw RequestError(409, "the script is at its end");
+  catchUp();
+  state_.script->state = lines ? State::ready : State::running;
+  for (long left = lines.value_or(0); left > 0 && state_.script->state == State::ready; --left)
+    playScriptLine();
+  return scriptPart();
+}
+
+void ServedPhone::playScriptLine() {
+  changed_ = true;
+  OpenScript& script = *state_.script;
+  const auto lines = linesOf(script.text);
+  const std::size_t number = nextLine(lines, script.line);
+  if (number > lines.size()) {
+    script.state = OpenScript::State::finished;
+    return;
+  }
+  // Before it runs: after a line that ends the process, the next one goes on behind it.
+  script.line = nextLine(lines, number + 1);
+  try {
+    play(lines[number - 1]);
+    if (script.line > lines.size()) script.state = OpenScript::State::finished;
+    return;
+  } catch (const ScriptParseError& error) {
+    script.failure = {number, error.column, error.what()};
+  } catch (const ScriptError& error) {
+    script.failure = {number, error.column, error.what()};
+  }
+  script.line = number;
+  script.state = OpenScript::State::failed;
+}
+
+bool ServedPhone::isScriptRunning() const {
+  return state_.script && state_.script->state == OpenScript::State::running;
+}
+
+json ServedPhone::closeScript() {
+  state_.script.reset();
+  return nullptr;
+}
+
+json ServedPhone::scriptPart() const {
+  return state_.script ? overview(*state_.script) : json();
+}
+
+json ServedPhone::script() const {
+  if (!state_.script) return nullptr;
+  json whole = overview(*state_.script);
+  whole["text"] = state_.script->text;
+  return whole;
+}
+
+}  // namespace sim

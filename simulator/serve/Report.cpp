@@ -1,0 +1,111 @@
+#include "simulator/serve/Report.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace sim {
+
+using nlohmann::json;
+
+namespace {
+
+// Older entries are in GET /api/journal.
+constexpr std::size_t entriesInSnapshot = 1000;
+
+json scenesDifference(const json& before, const json& now) {
+  const json& known = before.at("nodes");
+  const json& nodes = now.at("nodes");
+  json gone = json::array();
+  for (const auto& [id, node] : known.items()) {
+    if (!nodes.contains(id)) gone.push_back(id);
+  }
+  json difference = {{"nodes", changedMembers(known, nodes)}, {"gone", std::move(gone)}};
+  if (before.at("root") != now.at("root")) difference["root"] = now.at("root");
+  return difference;
+}
+
+bool isEmpty(const json& difference) {
+  return difference.at("nodes").empty() && difference.at("gone").empty() &&
+         !difference.contains("root");
+}
+
+}  // namespace
+
+json changedMembers(const json& before, const json& now) {
+  json changed = json::object();
+  for (const auto& [key, value] : now.items()) {
+    const auto known = before.find(key);
+    if (known == before.end() || *known != value) changed[key] = value;
+  }
+  return changed;
+}
+
+void Report::addPart(const std::string& name, std::function<Json()> whole) {
+  parts_[name] = {Way::whole, std::move(whole), {}};
+}
+
+void Report::addMemberwisePart(const std::string& name, std::function<Json()> whole) {
+  parts_[name] = {Way::memberwise, std::move(whole), {}};
+}
+
+void Report::addOnDemandPart(const std::string& name, std::function<Json()> whole) {
+  parts_[name] = {Way::onDemand, std::move(whole), {}};
+}
+
+void Report::tell(const Watchers& watchers) {
+  if (watchers.isEmpty()) return;
+  for (auto& [name, part] : parts_) tellPart(watchers, name, part);
+  tellJournal(watchers);
+  tellScene(watchers);
+}
+
+void Report::tellPart(const Watchers& watchers, const std::string& name, Part& part) {
+  if (part.way == Way::onDemand) {
+    if (std::exchange(part.isDemanded, false)) watchers.send(name, part.whole());
+    return;
+  }
+  Json now = part.whole();
+  if (now == part.known) return;
+  watchers.send(name, part.way == Way::memberwise ? changedMembers(part.known, now) : now);
+  part.known = std::move(now);
+}
+
+void Report::tellJournal(const Watchers& watchers) {
+  const std::size_t count = journal_.entries().size();
+  if (count == journalKnown_) return;
+  watchers.send("journal", {{"entries", entriesFrom(journalKnown_)}});
+  journalKnown_ = count;
+}
+
+void Report::tellScene(const Watchers& watchers) {
+  Json now = scene_->scene();
+  Json difference = scenesDifference(sceneKnown_, now);
+  if (isEmpty(difference)) return;
+  watchers.send("scene", difference);
+  sceneKnown_ = std::move(now);
+}
+
+json Report::snapshot() {
+  Json whole;
+  for (auto& [name, part] : parts_) {
+    part.known = part.whole();
+    part.isDemanded = false;
+    whole[name] = part.known;
+  }
+  journalKnown_ = journal_.entries().size();
+  whole["journal"] = entriesFrom(journalKnown_ - std::min(journalKnown_, entriesInSnapshot));
+  sceneKnown_ = scene_->scene();
+  whole["scene"] = sceneKnown_;
+  return whole;
+}
+
+json Report::entriesFrom(std::size_t index) const {
+  Json entries = Json::array();
+  for (; index < journal_.entries().size(); ++index) {
+    const JournalEntry& entry = journal_.entries()[index];
+    entries.push_back({{"n", index + 1}, {"time", seconds(entry.time)}, {"text", entry.text}});
+  }
+  return entries;
+}
+
+}  // namespace sim

@@ -1,0 +1,64 @@
+// What pages know of the phone, and what has changed since they were last told.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "simulator/phone/Journal.h"
+#include "simulator/serve/SceneSource.h"
+#include "simulator/serve/Watchers.h"
+
+namespace sim {
+
+// A part is an event's name and its whole data. The phone's thread only.
+class Report {
+ public:
+  using Json = nlohmann::json;
+
+  Report(const Journal& journal, std::unique_ptr<SceneSource> scene)
+      : journal_(journal), scene_(std::move(scene)) {}
+
+  // Sent whole when it differs.
+  void addPart(const std::string& name, std::function<Json()> whole);
+  // Sent as those members that differ.
+  void addMemberwisePart(const std::string& name, std::function<Json()> whole);
+  // Sent when somebody says so.
+  void addOnDemandPart(const std::string& name, std::function<Json()> whole);
+  void demand(const std::string& name) { parts_.at(name).isDemanded = true; }
+
+  // Sends what has changed. Costs nothing without watchers.
+  void tell(const Watchers& watchers);
+  // Takes the present state for known to everybody; its whole, as an event's data.
+  Json snapshot();
+
+  bool isAnimating() const { return scene_->isAnimating(); }
+
+ private:
+  enum class Way { whole, memberwise, onDemand };
+  struct Part {
+    Way way;
+    std::function<Json()> whole;
+    Json known;
+    bool isDemanded = false;
+  };
+
+  void tellPart(const Watchers& watchers, const std::string& name, Part& part);
+  void tellJournal(const Watchers& watchers);
+  void tellScene(const Watchers& watchers);
+  Json entriesFrom(std::size_t index) const;
+
+  const Journal& journal_;
+  std::unique_ptr<SceneSource> scene_;
+  std::map<std::string, Part> parts_;
+  std::size_t journalKnown_ = 0;
+  Json sceneKnown_;
+};
+
+// Members of `now` that are not in `before` or different there.
+nlohmann::json changedMembers(const nlohmann::json& before, const nlohmann::json& now);
+
+}  // namespace sim

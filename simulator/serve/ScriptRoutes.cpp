@@ -1,0 +1,51 @@
+#include "simulator/serve/Api.h"
+#include "simulator/serve/JsonBody.h"
+#include "simulator/serve/ServedPhone.h"
+#include "simulator/serve/http/Guard.h"
+
+namespace sim {
+
+using nlohmann::json;
+
+namespace {
+
+constexpr std::size_t longestName = 200;
+constexpr double mostSteps = 10'000;
+
+// Nothing: to the end.
+std::optional<long> stepsFrom(const std::string& text) {
+  const JsonBody body(text, {"lines", "run"});
+  const auto lines = body.number("lines", 1, mostSteps);
+  const bool runs = body.flag("run").value_or(false);
+  if (lines.has_value() == runs) throw RequestError(400, "expected either lines or run");
+  return lines ? std::optional<long>(long(*lines)) : std::nullopt;
+}
+
+}  // namespace
+
+void addScriptRoutes(Router& router, const ApiParts& parts) {
+  Inbox& inbox = parts.inbox;
+  router.add("GET", "/api/recording.phone", [&inbox](const Router::Visit& visit) {
+    const json text = inbox.ask([](ServedPhone& phone) { return json(phone.recording()); });
+    visit.response.set_header("Content-Disposition", "attachment; filename=\"recording.phone\"");
+    visit.response.set_content(text.get<std::string>(), "text/plain; charset=utf-8");
+  });
+  router.addJson("GET", "/api/script", [&inbox](const Router::Visit&) {
+    return inbox.ask([](ServedPhone& phone) { return phone.script(); });
+  });
+  router.addJson("POST", "/api/script", [&inbox](const Router::Visit& visit) {
+    const JsonBody body(visit.request.body, {"name", "text"});
+    const std::string name = body.text("name", longestName);
+    const std::string text = body.text("text", largestBody);
+    return inbox.ask([&](ServedPhone& phone) { return phone.openScript(name, text); });
+  });
+  router.addJson("DELETE", "/api/script", [&inbox](const Router::Visit&) {
+    return inbox.ask([](ServedPhone& phone) { return phone.closeScript(); });
+  });
+  router.addJson("POST", "/api/script/step", [&inbox](const Router::Visit& visit) {
+    const auto lines = stepsFrom(visit.request.body);
+    return inbox.ask([lines](ServedPhone& phone) { return phone.stepScript(lines); });
+  });
+}
+
+}  // namespace sim

@@ -1,0 +1,56 @@
+// What a served phone is, apart from the phone itself: it goes on through every restart of the
+// process.
+#pragma once
+
+#include <filesystem>
+#include <nlohmann/json_fwd.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "simulator/serve/Recording.h"
+
+namespace sim {
+
+// A script that a page has opened, to be played step by step.
+struct OpenScript {
+  enum class State { ready, running, finished, failed };
+  struct Failure {
+    std::size_t line, column;
+    std::string text;
+  };
+
+  std::string name, text;
+  std::size_t line = 1;  // the next to be played, from 1
+  State state = State::ready;
+  std::optional<Failure> failure;
+};
+
+struct ServeState {
+  int listener = -1;  // descriptor
+  std::filesystem::path root;
+  std::vector<std::filesystem::path> extensions;
+  std::optional<std::filesystem::path> package;
+  std::filesystem::path music;  // folder
+  std::filesystem::path web;    // folder
+
+  std::string epoch;  // of this server
+  long restarts = 0;  // of its process
+  double speed = 1;
+  bool paused = false;
+  std::string audioPage;  // empty: none plays sound
+
+  std::vector<std::string> setup;     // lines that pages have chosen
+  std::vector<std::string> settings;  // `set` lines kept from the phone before
+  Recording recording;
+  std::optional<OpenScript> script;
+};
+
+nlohmann::json asJson(const ServeState& state);
+// Throws nlohmann::json::exception when something is missing or of another type.
+ServeState serveStateFrom(const nlohmann::json& saved);
+
+// As pages see it, without its text.
+nlohmann::json overview(const OpenScript& script);
+
+}  // namespace sim

@@ -1,0 +1,35 @@
+#include "simulator/serve/Watchers.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace sim {
+
+bool Watchers::has(const std::string& page) const {
+  return std::any_of(watchers_.begin(), watchers_.end(),
+                     [&page](const Watcher& each) { return each->page() == page; });
+}
+
+void Watchers::remove(const Watcher& watcher) {
+  std::erase(watchers_, watcher);
+}
+
+void Watchers::send(const std::string& event, const nlohmann::json& data) const {
+  if (watchers_.empty()) return;
+  const std::string text = eventText(event, data);
+  for (const Watcher& each : watchers_) each->put(text);
+}
+
+void Watchers::close() const {
+  for (const Watcher& each : watchers_) each->close();
+}
+
+std::string jsonText(const nlohmann::json& data) {
+  return data.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+std::string eventText(const std::string& event, const nlohmann::json& data) {
+  return "event: " + event + "\ndata: " + jsonText(data) + "\n\n";
+}
+
+}  // namespace sim

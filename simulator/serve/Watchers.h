@@ -1,0 +1,36 @@
+// The pages that watch the phone.
+#pragma once
+
+#include <memory>
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <vector>
+
+#include "simulator/serve/EventQueue.h"
+
+namespace sim {
+
+// The phone's thread only.
+class Watchers {
+ public:
+  using Watcher = std::shared_ptr<EventQueue>;
+
+  bool isEmpty() const { return watchers_.empty(); }
+  bool has(const std::string& page) const;
+
+  void add(Watcher watcher) { watchers_.push_back(std::move(watcher)); }
+  void remove(const Watcher& watcher);
+  // To all of them.
+  void send(const std::string& event, const nlohmann::json& data) const;
+  void close() const;
+
+ private:
+  std::vector<Watcher> watchers_;
+};
+
+// The text of a server-sent event.
+std::string eventText(const std::string& event, const nlohmann::json& data);
+// What is not UTF-8, such as a damaged tag of a file, becomes the replacement character.
+std::string jsonText(const nlohmann::json& data);
+
+}  // namespace sim

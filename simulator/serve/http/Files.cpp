@@ -1,0 +1,105 @@
+#include "simulator/serve/http/Files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "simulator/serve/RequestError.h"
+
+namespace sim {
+
+namespace files = std::filesystem;
+
+namespace {
+
+const std::map<std::string, std::string, std::less<>> mimeTypes = {
+    {".html", "text/html; charset=utf-8"},
+    {".css", "text/css; charset=utf-8"},
+    {".js", "text/javascript; charset=utf-8"},
+    {".json", "application/json"},
+    {".svg", "image/svg+xml"},
+    {".png", "image/png"},
+    {".ico", "image/x-icon"},
+    {".woff2", "font/woff2"},
+    {".txt", "text/plain; charset=utf-8"},
+    {".webmanifest", "application/manifest+json"}};
+
+[[noreturn]] void failToFind(const std::string& name) {
+  throw RequestError(404, "there is no " + name);
+}
+
+class OpenFile {
+ public:
+  explicit OpenFile(const files::path& path)
+      : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (descriptor_ < 0 || fstat(descriptor_, &status_) != 0 || !S_ISREG(status_.st_mode))
+      failToFind(path.filename().string());
+  }
+  ~OpenFile() {
+    if (descriptor_ >= 0) close(descriptor_);
+  }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  std::size_t size() const { return std::size_t(status_.st_size); }
+  // Different after every change.
+  std::string tag() const {
+    return '"' + std::to_string(status_.st_size) + '-' + std::to_string(status_.st_mtim.tv_sec) +
+           '.' + std::to_string(status_.st_mtim.tv_nsec) + '"';
+  }
+  bool send(std::size_t offset, std::size_t length, httplib::DataSink& sink) const {
+    std::array<char, 65536> piece;
+    const ssize_t count =
+        pread(descriptor_, piece.data(), std::min(length, piece.size()), off_t(offset));
+    return count > 0 && sink.write(piece.data(), std::size_t(count));
+  }
+
+ private:
+  int descriptor_;
+  struct stat status_ {};
+};
+
+bool liesIn(const files::path& folder, const files::path& path) {
+  return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first ==
+         folder.end();
+}
+
+}  // namespace
+
+void answerFile(const httplib::Request& request, httplib::Response& response,
+                const files::path& file, const std::string& mimeType) {
+  const auto open = std::make_shared<OpenFile>(file);
+  response.set_header("ETag", open->tag());
+  if (request.get_header_value("If-None-Match") == open->tag()) {
+    response.status = 304;
+  } else if (open->size() == 0) {
+    response.set_content("", mimeType);
+  } else {
+    response.set_header("Accept-Ranges", "bytes");
+    response.set_content_provider(
+        open->size(), mimeType,
+        [open](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
+          return open->send(offset, length, sink);
+        });
+  }
+}
+
+void answerFileOf(const files::path& folder, const std::string& name,
+                  const httplib::Request& request, httplib::Response& response) {
+  std::error_code missing;
+  const files::path root = files::canonical(folder, missing);
+  const files::path path = files::canonical(root / files::path(name).relative_path(), missing);
+  const auto type = mimeTypes.find(path.extension().string());
+  if (missing || name.find('\0') != std::string::npos || !liesIn(root, path) ||
+      type == mimeTypes.end())
+    failToFind('/' + name);
+  answerFile(request, response, path, type->second);
+}
+
+}  // namespace sim

@@ -1,0 +1,80 @@
+#include "simulator/serve/http/Guard.h"
+
+#include <string>
+
+#include "simulator/serve/http/Router.h"
+
+namespace sim {
+
+using httplib::Request;
+using httplib::Response;
+using HandlerResponse = httplib::Server::HandlerResponse;
+
+namespace {
+
+bool isOwnHost(const std::string& host, int port) {
+  const std::string suffix = ':' + std::to_string(port);
+  return host == "127.0.0.1" + suffix || host == "localhost" + suffix;
+}
+
+bool isOwnOrigin(const std::string& origin, int port) {
+  constexpr std::string_view scheme = "http://";
+  return origin.starts_with(scheme) && isOwnHost(origin.substr(scheme.size()), port);
+}
+
+void check(const Request& request, int port) {
+  const std::string address = "127.0.0.1:" + std::to_string(port);
+  if (request.get_header_value_count("Host") != 1 ||
+      !isOwnHost(request.get_header_value("Host"), port))
+    throw RequestError(403, "expected the Host " + address);
+  if (request.has_header("Origin") && !isOwnOrigin(request.get_header_value("Origin"), port))
+    throw RequestError(403, "expected the Origin http://" + address);
+  if (request.method == "POST" &&
+      !request.get_header_value("Content-Type").starts_with("application/json"))
+    throw RequestError(415, "expected the Content-Type application/json");
+}
+
+// What the library itself finds wrong.
+void explain(Response& response) {
+  switch (response.status) {
+    case 413:
+      return answerError(response,
+                         {413, "expected at most " + std::to_string(largestBody) + " bytes"});
+    case 414:
+      return answerError(response, {414, "expected a shorter address"});
+    case 416:
+      return answerError(response, {416, "expected a range of bytes within the file"});
+    default:
+      return answerError(response, {response.status, "expected an HTTP request"});
+  }
+}
+
+}  // namespace
+
+void guard(httplib::Server& server, int port) {
+  server.set_default_headers({
+      {"Content-Security-Policy",
+       "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data: blob:; "
+       "media-src 'self'; font-src 'self'; connect-src 'self'; base-uri 'none'; "
+       "form-action 'none'; frame-ancestors 'none'"},
+      {"Cross-Origin-Resource-Policy", "same-origin"},
+      {"Referrer-Policy", "no-referrer"},
+      {"X-Content-Type-Options", "nosniff"},
+      {"Cache-Control", "no-cache"},
+  });
+  server.set_payload_max_length(largestBody);
+  server.set_pre_routing_handler([port](const Request& request, Response& response) {
+    try {
+      check(request, port);
+      return HandlerResponse::Unhandled;
+    } catch (const RequestError& error) {
+      answerError(response, error);
+      return HandlerResponse::Handled;
+    }
+  });
+  server.set_error_handler([](const Request&, Response& response) {
+    if (response.body.empty()) explain(response);
+  });
+}
+
+}  // namespace sim

@@ -1,0 +1,41 @@
+// One connection, as the HTTP library reads and writes it.
+#pragma once
+
+#include <httplib.h>
+
+#include <array>
+#include <chrono>
+#include <cstddef>
+#include <string>
+
+namespace sim {
+
+// Waits without waking up in between: an idle connection costs nothing. Does not own the socket.
+class SocketStream final : public httplib::Stream {
+ public:
+  explicit SocketStream(int descriptor) : descriptor_(descriptor) {}
+
+  // Whether a request begins within that time; false also when the other side is gone.
+  bool waitForRequest(std::chrono::milliseconds patience);
+
+  // What one request may have in all: a sender without end is cut off.
+  void allow(std::size_t bytes) { allowed_ = bytes; }
+
+  bool is_readable() const override;
+  bool is_writable() const override;
+  ssize_t read(char* place, size_t size) override;
+  ssize_t write(const char* bytes, size_t size) override;
+  void get_remote_ip_and_port(std::string& ip, int& port) const override;
+  void get_local_ip_and_port(std::string& ip, int& port) const override;
+  socket_t socket() const override { return descriptor_; }
+
+ private:
+  bool fill();
+
+  int descriptor_;
+  std::array<char, 4096> buffer_;
+  std::size_t at_ = 0, end_ = 0;  // what has been received and not yet read
+  std::size_t allowed_ = 0;
+};
+
+}  // namespace sim

@@ -1,0 +1,125 @@
+#include "simulator/serve/music/MusicLibrary.h"
+
+#include <algorithm>
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "simulator/phone/Journal.h"
+#include "simulator/phone/script/Utf8.h"
+#include "simulator/serve/Recording.h"
+
+namespace sim {
+
+namespace files = std::filesystem;
+using nlohmann::json;
+
+namespace {
+
+constexpr std::size_t longestLine = 60 * std::size_t(1024);  // scripts have a limit
+
+void leaveOut(const files::path& path, const std::string& problem) {
+  std::cerr << path.string() << ": left out: " << problem << '\n';
+}
+
+bool liesIn(const files::path& folder, const files::path& path) {
+  return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first ==
+         folder.end();
+}
+
+// Folders that are links are not entered, so there is no way round in circles.
+std::vector<files::path> musicBelow(const files::path& folder) {
+  std::vector<files::path> found;
+  const auto options = files::directory_options::skip_permission_denied;
+  for (const auto& entry : files::recursive_directory_iterator(folder, options)) {
+    std::error_code ignored;  // a dangling link is no file
+    if (isNamedAsMusic(entry.path()) && entry.is_regular_file(ignored))
+      found.push_back(entry.path());
+  }
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::optional<MusicFile> readInside(const files::path& folder, const files::path& path,
+                                    std::string& problem) {
+  problem = "it lies outside the folder";
+  if (!liesIn(folder, path)) return std::nullopt;
+  problem = "its name is not UTF-8";
+  const std::string name = path.string();
+  if (validUtf8Prefix(name) != name.size()) return std::nullopt;
+  return readMusicFile(path, problem);
+}
+
+MusicFile restored(const json& saved) {
+  Track track;
+  track.title = saved.at("title").get<std::string>();
+  saved.at("artist").get_to(track.artist);
+  saved.at("album").get_to(track.album);
+  saved.at("length").get_to(track.length);
+  return {saved.at("path").get<std::string>(), saved.at("type").get<std::string>(),
+          std::move(track), saved.at("cover").get<bool>()};
+}
+
+std::string words(const Track& track) {
+  const std::string text = ' ' + sim::quoted(*track.title) + ' ' + secondsText(track.length);
+  return track.artist.empty() ? text : text + " by " + sim::quoted(track.artist);
+}
+
+}  // namespace
+
+MusicLibrary::MusicLibrary(const files::path& folder) {
+  const files::path root = files::canonical(folder);
+  for (const files::path& named : musicBelow(root)) {
+    const files::path path = files::canonical(named);
+    std::string problem;
+    if (auto file = readInside(root, path, problem))
+      files_.push_back(std::move(*file));
+    else
+      leaveOut(named, problem);
+  }
+}
+
+MusicLibrary::MusicLibrary(const json& saved) {
+  for (const json& each : saved) files_.push_back(restored(each));
+}
+
+json MusicLibrary::save() const {
+  json all = json::array();
+  for (const MusicFile& file : files_)
+    all.push_back({{"path", file.path.string()},
+                   {"type", file.mimeType},
+                   {"title", *file.track.title},
+                   {"artist", file.track.artist},
+                   {"album", file.track.album},
+                   {"length", file.track.length},
+                   {"cover", file.hasCover}});
+  return all;
+}
+
+const MusicFile* MusicLibrary::find(const std::string& id) const {
+  for (std::size_t index = 0; index < files_.size(); ++index) {
+    if (idAt(index) == id) return &files_[index];
+  }
+  return nullptr;
+}
+
+std::string MusicLibrary::idOf(const Track& track) const {
+  const auto found = std::find_if(files_.begin(), files_.end(), [&track](const MusicFile& file) {
+    return file.track.title == track.title && file.track.artist == track.artist &&
+           file.track.length == track.length;
+  });
+  return found == files_.end() ? "" : idAt(std::size_t(found - files_.begin()));
+}
+
+std::string MusicLibrary::playlistLine() const {
+  std::string line;
+  for (const MusicFile& file : files_) {
+    const std::string next = words(file.track);
+    if (line.size() + next.size() > longestLine)
+      leaveOut(file.path, "the playlist is full");
+    else
+      line += next;
+  }
+  return line.empty() ? line : "playlist" + line;
+}
+
+}  // namespace sim

@@ -1,0 +1,63 @@
+// The script command of a finger that is followed: for drags, and for pages that only know points.
+#include <cmath>
+#include <string>
+
+#include "simulator/phone/Phone.h"
+#include "simulator/uikit/Finger.h"
+#include "simulator/uikit/Touch.h"
+#include "simulator/uikit/script/UIKitCommands.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+constexpr double farthest = 1e5;  // points: no screen is larger
+
+double coordinate(Arguments& words, const char* what) {
+  const double value = words.number(what);
+  if (!(std::abs(value) <= farthest)) words.failHere("there is no such point on the screen");
+  return value;
+}
+
+CGPoint point(Arguments& words) {
+  const double x = coordinate(words, "points from the left of the screen");
+  const double y = coordinate(words, "points from the top of the screen");
+  words.finish();
+  return {x, y};
+}
+
+void begin(CGPoint place) {
+  if (Finger::current().isDown()) throw ScriptError(0, "a finger is on the screen already");
+  const Object view = viewOnScreenAt(place);
+  if (!view) throw ScriptError(0, "nothing on the screen takes a touch there");
+  const Object control = controlTracking(view);
+  Phone::current().journal.record(
+      "user touch " + std::string(object_getClassName((control ? control : view).get())));
+  Finger::current().began(place);
+}
+
+void touch(Arguments& words) {
+  Finger& finger = Finger::current();
+  if (words.takeKeyword("began")) return begin(point(words));
+  const bool moves = words.takeKeyword("moved");
+  const bool ends = !moves && words.takeKeyword("ended");
+  const bool isCancelled = !moves && !ends && words.takeKeyword("cancelled");
+  if (!moves && !ends && !isCancelled) words.failHere("expected began, moved, ended or cancelled");
+  const CGPoint place = isCancelled ? CGPoint{} : point(words);
+  words.finish();
+  if (!finger.isDown()) throw ScriptError(0, "no finger is on the screen");
+  if (moves) finger.moved(place);
+  if (ends) finger.ended(place);
+  if (isCancelled) finger.cancelled();
+}
+
+}  // namespace
+
+void addFingerCommands(CommandTable& table) {
+  table.add({"touch", Stage::running, "touch began|moved|ended X Y, touch cancelled",
+             "touch began 195 400",
+             "A finger comes down on a point of the screen, moves over it, or leaves it.", touch});
+}
+
+}  // namespace sim

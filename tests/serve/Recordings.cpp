@@ -1,0 +1,59 @@
+// What is done by hand is a script: played headless, it has the same journal.
+#include <gtest/gtest.h>
+
+#include "tests/serve/EventReader.h"
+#include "tests/serve/ServedProgram.h"
+
+namespace sim {
+namespace {
+
+TEST(Recordings, HoldWhatWasDoneAndWhen) {
+  const ServedProgram program;
+  program.command({"playlist \"A\" 180", "advance 10s", "volume 0.25"});
+  program.command("volume loud");
+  program.value("UIDevice.currentDevice.systemVersion");
+  program.post("/api/time", {{"advance", 0.5}});
+  program.command("next-track");
+  EXPECT_EQ(program.get("/api/recording.phone").body,
+            "boot\nplaylist \"A\" 180\nadvance 10s\nvolume 0.25\nadvance-to 10.5\nnext-track\n");
+}
+
+TEST(Recordings, PlayHeadlessWithTheSameJournal) {
+  const ServedProgram program;
+  program.command({"playlist \"A\" 30 \"B\" 47.25", "set letTheSongFinishEnabled NO"});
+  program.post("/api/time", {{"advance", 0.123456789}});
+  program.command("send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 0 60");
+  program.post("/api/time", {{"step", true}});
+  program.command({"touch began 100 200", "touch moved 120 210"});
+  program.command({"touch ended 120 210", "volume 0.8", "lock"});
+  program.post("/api/time", {{"beforeEnd", 10}});
+  program.command("respring");
+  program.post("/api/time", {{"speed", 3600}, {"paused", false}});
+  EventReader page(program.port());
+  const auto hasEnded = [](const json& journal) {
+    for (const json& entry : journal.at("entries")) {
+      if (entry.at("text") == "-[SBVolumeControl setVolume:0.8 forCategory:\"Audio/Video\"]")
+        return true;
+    }
+    return false;
+  };
+  const json all = page.next("snapshot").data;
+  if (!hasEnded({{"entries", all.at("journal")}})) page.next("journal", hasEnded);
+  program.post("/api/time", {{"paused", true}, {"speed", 1}});
+  program.command("kill");
+  program.post("/api/time", {{"advance", 5}});
+  program.command({"volume 0.1", "respring", "unlock"});
+  const std::string journal = program.journal();
+  EXPECT_NE(journal.find("-[SBMediaController pause]"), std::string::npos);
+  EXPECT_EQ(playHeadless(program.get("/api/recording.phone").body), journal);
+}
+
+TEST(Recordings, BeginWithTheMusic) {
+  const ServedProgram program({"--no-tweak"});
+  EXPECT_EQ(program.get("/api/recording.phone")
+                .body.find("playlist \"Harbour Lights\" 45 by \"Corvane\" \"Paper Moon\""),
+            0u);
+}
+
+}  // namespace
+}  // namespace sim

@@ -1,0 +1,150 @@
+// The phone's process begins anew; pages and what they know go on.
+#include <gtest/gtest.h>
+
+#include "tests/serve/EventReader.h"
+#include "tests/serve/ServedProgram.h"
+
+namespace sim {
+namespace {
+
+constexpr const char* timerOfOneMinute =
+    "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 0 60";
+
+TEST(Restarts, OfTheHostKeepThePortTheTimerAndTheJournal) {
+  const ServedProgram program;
+  std::string epoch;
+  {
+    EventReader page(program.port(), "me");
+    epoch = page.next("snapshot").data.at("epoch");
+    program.command({timerOfOneMinute, "advance 20s"});
+    const std::string before = program.journal();
+    const json answer = program.command("respring").asJson();
+    EXPECT_EQ(answer, (json{{"ok", true}, {"restarts", true}, {"uptime", 20.0}, {"ran", 1}}));
+    EXPECT_TRUE(page.isOver());
+    EXPECT_EQ(program.journal().rfind(before, 0), 0u);
+  }
+  EventReader page(program.port(), "me");
+  const json all = page.next("snapshot").data;
+  EXPECT_NE(all.at("epoch"), epoch);
+  EXPECT_EQ(all.at("clock").at("uptime"), 20.0);
+  EXPECT_EQ(all.at("clock").at("paused"), true);
+  EXPECT_EQ(program.value("Dozewell2Manager.sharedInstance.getTimerRemainingTime"), "40");
+}
+
+TEST(Restarts, KeepSpeedSoundAndMusic) {
+  const ServedProgram program({"--no-tweak"});
+  program.post("/api/time", {{"speed", 60}});
+  program.post("/api/audio-owner", {{"page", "me"}});
+  program.command({"volume 0.25", "advance 10s", "respring"});
+  EventReader page(program.port(), "me");
+  const json all = page.next("snapshot").data;
+  EXPECT_EQ(all.at("clock").at("speed"), 60.0);
+  EXPECT_EQ(all.at("audio").at("page"), "me");
+  EXPECT_EQ(all.at("player").at("title"), "Harbour Lights");
+  EXPECT_EQ(all.at("player").at("position"), 10.0);
+  EXPECT_EQ(all.at("player").at("volume"), 0.25);
+}
+
+TEST(Restarts, BringADeadHostBack) {
+  const ServedProgram program;
+  EXPECT_EQ(program.command("kill").asJson().at("restarts"), true);
+  EventReader page(program.port());
+  EXPECT_EQ(page.next("snapshot").data.at("phone").at("host"), "dead");
+  EXPECT_EQ(program.command("lock").error(),
+            "lock needs a running host: it has died, respring first");
+  EXPECT_EQ(program.command("respring").status, 200);
+  EXPECT_EQ(page.next("phone").data.at("host"), "running");
+  EXPECT_EQ(program.command("lock").status, 200);
+}
+
+TEST(Restarts, HappenWhereTheHostIsToDie) {
+  const ServedProgram program;
+  program.command(
+      {"set volumeFadeOutEnabled NO", "kill-at \"-[SBMediaController pause]\"", timerOfOneMinute});
+  EXPECT_EQ(program.command("advance 100s").asJson().at("restarts"), true);
+  EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 100.0);
+}
+
+TEST(Restarts, AnswerThoseWhoAskMeanwhile) {
+  const ServedProgram program;
+  std::vector<std::thread> askers;
+  std::atomic<int> lost = 0;
+  for (int count = 0; count < 8; ++count)
+    askers.emplace_back([&program, &lost] {
+      for (int times = 0; times < 20; ++times) {
+        const int status = program.get("/api/settings").status;
+        if (status != 200 && status != 503) ++lost;
+      }
+    });
+  for (int times = 0; times < 4; ++times) program.command("respring");
+  for (std::thread& asker : askers) asker.join();
+  // A connection that is accepted in the last moment is cut off: pages try again.
+  EXPECT_LE(lost, 8);
+}
+
+TEST(SetUp, MakesAFreshPhone) {
+  const ServedProgram program;
+  program.command({"set volumeFadeOutTime 7", "advance 10s"});
+  EXPECT_EQ(
+      program.post("/api/setup", {{"lines", {"ios 16.1", "locale ar_SA"}}}).asJson().at("restarts"),
+      true);
+  EXPECT_EQ(program.value("UIDevice.currentDevice.systemVersion"), "\"16.1\"");
+  const json setup = program.get("/api/setup").asJson();
+  EXPECT_EQ(setup.at("ios"), "16.1");
+  EXPECT_EQ(setup.at("locale"), "ar_SA");
+  EXPECT_EQ(setup.at("lines"), (json{"ios 16.1", "locale ar_SA"}));
+  EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 0.0);
+  const std::string recording = program.get("/api/recording.phone").body;
+  EXPECT_EQ(recording, "set volumeFadeOutTime 7\nios 16.1\nlocale ar_SA\nboot\n");
+  program.post("/api/setup", {{"lines", json::array()}, {"settings", "default"}});
+  EXPECT_EQ(program.get("/api/recording.phone").body, "boot\n");
+}
+
+TEST(SetUp, OutlivesARespring) {
+  const ServedProgram program;
+  program.post("/api/setup", {{"lines", {"ios 16.1", "missing SBVolumeControl"}}});
+  program.command("respring");
+  EXPECT_EQ(program.value("UIDevice.currentDevice.systemVersion"), "\"16.1\"");
+  EXPECT_EQ(program.command("get SBVolumeControl.class").status, 400);
+}
+
+TEST(SetUp, IsTriedOnAnotherPhoneFirst) {
+  const ServedProgram program;
+  program.command("advance 10s");
+  const Answer wrong = program.post("/api/setup", {{"lines", {"ios 16.1", "haptics 3"}}});
+  EXPECT_EQ(wrong.status, 400);
+  EXPECT_EQ(wrong.asJson(),
+            (json{{"error", "expected a level from 0 to 2, found 3"}, {"line", 2}, {"column", 9}}));
+  EXPECT_EQ(program.post("/api/setup", {{"lines", {"# no harm", " boot"}}}).asJson(),
+            (json{{"error", "expected the lines before boot"}, {"line", 2}, {"column", 1}}));
+  EXPECT_EQ(program.post("/api/setup", {{"lines", {"lock"}}}).error(), "lock belongs after boot");
+  EXPECT_EQ(program.post("/api/setup", {{"lines", json::array()}, {"settings", "mine"}}).error(),
+            "expected settings to be \"keep\" or \"default\"");
+  EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 10.0);
+}
+
+bool suits(const json& value, const std::string& type) {
+  if (type == "bool") return value.is_boolean();
+  if (type == "integer") return value.is_number_integer();
+  if (type == "real") return value.is_number_float();
+  return type == "text" && value.is_null();
+}
+
+TEST(Settings, AreWordedForPeople) {
+  const ServedProgram program;
+  program.command({"set enabledModes 2", "set onTimerEndsBluetoothDeviceName \"Pillow\""});
+  const json all = program.get("/api/settings").asJson();
+  EXPECT_EQ(all.size(), 24u);
+  std::map<std::string, json> values;
+  for (const json& each : all) {
+    EXPECT_FALSE(each.at("label").get<std::string>().empty()) << each;
+    EXPECT_FALSE(each.at("group").get<std::string>().empty()) << each;
+    EXPECT_TRUE(suits(each.at("default"), each.at("type"))) << each;
+    values[each.at("key")] = each.at("value");
+  }
+  EXPECT_EQ(values.at("enabledModes"), 2);
+  EXPECT_EQ(values.at("onTimerEndsBluetoothDeviceName"), "Pillow");
+}
+
+}  // namespace
+}  // namespace sim

@@ -1,0 +1,155 @@
+#include "tests/serve/ServedProgram.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace sim {
+
+namespace files = std::filesystem;
+
+namespace {
+
+std::string contentOf(const files::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// Its standard output is the other end of the pipe, its standard error the file.
+pid_t start(std::vector<std::string> words, int output, const files::path& errors) {
+  std::vector<char*> pointers;
+  for (std::string& word : words) pointers.push_back(word.data());
+  pointers.push_back(nullptr);
+  const pid_t child = fork();
+  if (child != 0) return child;
+  dup2(output, STDOUT_FILENO);
+  dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
+  execv(SIMULATOR, pointers.data());
+  _exit(127);
+}
+
+// "The phone is at http://127.0.0.1:8420/"
+int readPort(int input) {
+  FILE* stream = fdopen(input, "r");
+  int port = 0;
+  if (std::fscanf(stream, "The phone is at http://127.0.0.1:%d/", &port) != 1) port = 0;
+  std::fclose(stream);
+  return port;
+}
+
+Answer answerFrom(const httplib::Result& result) {
+  if (!result) return {};
+  return {result->status, result->body, result->headers};
+}
+
+}  // namespace
+
+TestFolder::TestFolder() {
+  std::string name = files::temp_directory_path() / "serve-XXXXXX";
+  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error(name);
+  path_ = name;
+}
+
+TestFolder::~TestFolder() {
+  files::remove_all(path_);
+}
+
+std::string TestFolder::write(const std::string& name, const std::string& content) const {
+  files::create_directories((path_ / name).parent_path());
+  std::ofstream(path_ / name, std::ios::binary) << content;
+  return (path_ / name).string();
+}
+
+std::string Answer::header(const std::string& name) const {
+  const auto found = headers.find(name);
+  return found == headers.end() ? "" : found->second;
+}
+
+ServedProgram::ServedProgram(std::vector<std::string> words) {
+  files::create_directory(folder_.path() / "music");
+  std::vector<std::string> all = {"dozewell-simulator", "serve", "--paused", "--port", "0"};
+  all.insert(all.end(), words.begin(), words.end());
+  if (words.empty()) all.push_back((folder_.path() / "music").string());
+  int pipeEnds[2];
+  if (pipe2(pipeEnds, O_CLOEXEC) != 0) throw std::runtime_error("pipe2");
+  process_ = start(all, pipeEnds[1], folder_.path() / "errors");
+  close(pipeEnds[1]);
+  port_ = readPort(pipeEnds[0]);
+  if (port_ == 0) {
+    wait();
+    throw std::runtime_error("it does not serve: " + errors());
+  }
+}
+
+ServedProgram::~ServedProgram() {
+  if (process_ != 0) end(SIGTERM);
+}
+
+int ServedProgram::wait() {
+  int status = 0;
+  waitpid(process_, &status, 0);
+  process_ = 0;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+int ServedProgram::end(int signal) {
+  kill(process_, signal);
+  return wait();
+}
+
+std::string ServedProgram::errors() const {
+  return contentOf(folder_.path() / "errors");
+}
+
+httplib::Client ServedProgram::client() const {
+  httplib::Client client("127.0.0.1", port_);
+  client.set_read_timeout(30);
+  return client;
+}
+
+Answer ServedProgram::get(const std::string& path, const httplib::Headers& headers) const {
+  return answerFrom(client().Get(path, headers));
+}
+
+Answer ServedProgram::post(const std::string& path, const json& body) const {
+  return answerFrom(client().Post(path, body.dump(), "application/json"));
+}
+
+Answer ServedProgram::command(const json& lines) const {
+  return post("/api/command", lines.is_array() ? json{{"lines", lines}} : json{{"line", lines}});
+}
+
+std::string ServedProgram::value(const std::string& target) const {
+  const Answer answer = command("get " + target);
+  if (answer.status != 200) return answer.body;
+  std::string output = answer.asJson().at("output");
+  if (output.ends_with('\n')) output.pop_back();
+  return output;
+}
+
+std::string ServedProgram::journal() const {
+  std::string text;
+  for (const json& entry : get("/api/journal").asJson()) {
+    char time[32];
+    std::snprintf(time, sizeof time, "%10.3f  ", entry.at("time").get<double>());
+    text += time + entry.at("text").get<std::string>() + '\n';
+  }
+  return text;
+}
+
+std::string playHeadless(const std::string& script) {
+  const TestFolder folder;
+  const std::string file = folder.write("recording.phone", script);
+  const std::string output = (folder.path() / "output").string();
+  const std::string command = "'" SIMULATOR "' play '" + file + "' > '" + output + "' 2>&1";
+  if (std::system(command.c_str()) != 0) return "it fails: " + contentOf(output);
+  return contentOf(output);
+}
+
+}  // namespace sim

@@ -1,0 +1,79 @@
+// Runs dozewell-simulator serve as a user does, and asks it as a page does.
+#pragma once
+
+#include <httplib.h>
+#include <sys/types.h>
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+using nlohmann::json;
+
+// A folder that is gone at the end of the test.
+class TestFolder {
+ public:
+  TestFolder();
+  ~TestFolder();
+  TestFolder(const TestFolder&) = delete;
+  TestFolder& operator=(const TestFolder&) = delete;
+
+  const std::filesystem::path& path() const { return path_; }
+  std::string write(const std::string& name, const std::string& content) const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+struct Answer {
+  int status = 0;  // 0: the connection failed
+  std::string body;
+  httplib::Headers headers;
+
+  json asJson() const { return json::parse(body); }
+  std::string error() const { return asJson().at("error"); }
+  std::string header(const std::string& name) const;
+};
+
+class ServedProgram {
+ public:
+  // Time stands still unless a test moves it. Without music, unless the words name some. Throws
+  // std::runtime_error when the program ends instead of serving.
+  explicit ServedProgram(std::vector<std::string> words = {});
+  ~ServedProgram();
+  ServedProgram(const ServedProgram&) = delete;
+  ServedProgram& operator=(const ServedProgram&) = delete;
+
+  int port() const { return port_; }
+  std::string host() const { return "127.0.0.1:" + std::to_string(port_); }
+  httplib::Client client() const;
+
+  Answer get(const std::string& path, const httplib::Headers& headers = {}) const;
+  Answer post(const std::string& path, const json& body) const;
+  // Of one or several lines.
+  Answer command(const json& lines) const;
+  // What `get TARGET` prints.
+  std::string value(const std::string& target) const;
+  // As the program prints journals.
+  std::string journal() const;
+
+  // Has it end, and gives its exit status; -1 when a signal ended it.
+  int end(int signal);
+  // What it has said on standard error.
+  std::string errors() const;
+
+ private:
+  int wait();
+
+  TestFolder folder_;
+  pid_t process_ = 0;
+  int port_ = 0;
+};
+
+// Plays a script headless; the journal that is printed.
+std::string playHeadless(const std::string& script);
+
+}  // namespace sim

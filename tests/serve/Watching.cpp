@@ -1,0 +1,218 @@
+// GET /api/events: everything once, then what changes.
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <memory>
+#include <set>
+
+#include "tests/serve/EventReader.h"
+#include "tests/serve/ServedProgram.h"
+
+namespace sim {
+namespace {
+
+TEST(Watching, BeginsWithEverything) {
+  const ServedProgram program;
+  EventReader page(program.port(), "bedroom");
+  const json all = page.next("snapshot").data;
+  for (const char* part : {"epoch", "clock", "phone", "player", "setup", "settings", "audio",
+                           "script", "journal", "scene"})
+    EXPECT_TRUE(all.contains(part)) << part;
+  EXPECT_EQ(all.at("page"), "bedroom");
+  EXPECT_EQ(all.at("clock").at("paused"), true);
+  EXPECT_EQ(all.at("phone"), (json{{"host", "running"},
+                                   {"screenOn", true},
+                                   {"locked", false},
+                                   {"orientation", "portrait"}}));
+  EXPECT_EQ(all.at("settings").size(), 24u);
+  EXPECT_TRUE(all.at("scene").at("nodes").contains(all.at("scene").at("root")));
+}
+
+TEST(Watching, TellsWhatChanges) {
+  const ServedProgram program;
+  EventReader page(program.port());
+  page.next("snapshot");
+  program.command("volume 0.25");
+  EXPECT_EQ(page.next("player").data.at("volume"), 0.25);
+  program.command("lock");
+  EXPECT_EQ(page.next("phone").data.at("locked"), true);
+  program.command("screen off");
+  EXPECT_EQ(page.next("phone").data.at("screenOn"), false);
+  program.command("set volumeFadeOutTime 7");
+  EXPECT_EQ(page.next("settings").data, (json{{"volumeFadeOutTime", 7}}));
+  program.command("set volumeFadeOutTime none");
+  EXPECT_EQ(page.next("settings").data, (json{{"volumeFadeOutTime", 15}}));
+}
+
+TEST(Watching, TellsNewJournalEntriesOnce) {
+  const ServedProgram program;
+  EventReader page(program.port());
+  std::size_t n = page.next("snapshot").data.at("journal").size();
+  for (int times = 0; times < 5; ++times) {
+    program.command("lock");
+    const json entries = page.next("journal").data.at("entries");
+    ASSERT_GE(entries.size(), 1u);
+    for (const json& entry : entries) EXPECT_EQ(entry.at("n"), ++n);
+    EXPECT_EQ(entries.front().at("text"), "user lock");
+  }
+}
+
+TEST(Watching, TellsOfTheClockOnlyWhenItLeavesItsCourse) {
+  const ServedProgram program;
+  EventReader page(program.port());
+  page.next("snapshot");
+  program.post("/api/time", {{"speed", 60}});
+  EXPECT_EQ(page.next("clock").data.at("speed"), 60.0);
+  program.command("volume 0.1");
+  program.command("advance 10s");
+  const auto jumped = page.next("clock").data;
+  EXPECT_EQ(jumped.at("uptime"), 10.0);
+  EXPECT_EQ(jumped.at("speed"), 60.0);
+  program.command("wall-clock +1h");
+  EXPECT_NEAR(page.next("clock").data.at("wall").get<double>(),
+              jumped.at("wall").get<double>() + 3600, 1e-6);
+}
+
+TEST(Watching, SendsThoseNodesOfTheSceneThatChange) {
+  const ServedProgram program;
+  EventReader page(program.port());
+  const auto known = page.next("snapshot").data.at("scene").at("nodes").size();
+  program.command({"let window UIApplication.sharedApplication.keyWindow", "let view UIView.new",
+                   "send $window addSubview: $view"});
+  const json added = page.next("scene").data;
+  EXPECT_EQ(added.at("gone").size(), 0u);
+  EXPECT_LT(added.at("nodes").size(), known + 1);
+  program.command("send $view removeFromSuperview");
+  EXPECT_EQ(page.next("scene").data.at("gone").size(), 1u);
+}
+
+TEST(Watching, SaysNothingWhenNothingHappens) {
+  const ServedProgram program;
+  EventReader page(program.port());
+  page.next("snapshot");
+  // Requests that change nothing, of which the last does: nothing else has come in between.
+  for (int times = 0; times < 20; ++times) program.get("/api/settings");
+  program.value("UIDevice.currentDevice.systemVersion");
+  const std::size_t before = page.bytes();
+  program.command("expect-playing NO");
+  program.post("/api/audio-owner", {{"page", "me"}});
+  const json audio = page.next("audio").data;
+  EXPECT_EQ(audio, (json{{"page", "me"}}));
+  EXPECT_LE(page.bytes() - before, std::string("event: audio\ndata: {\"page\":\"me\"}\n\n").size());
+}
+
+TEST(Watching, RefusesWrongNamesOfPages) {
+  const ServedProgram program;
+  EXPECT_EQ(program.get("/api/events?page=").status, 400);
+  EXPECT_EQ(program.get("/api/events?page=a%0Ab").error(),
+            "expected page to be up to 40 letters, digits and -");
+  EXPECT_EQ(program.get("/api/events?page=" + std::string(41, 'a')).status, 400);
+}
+
+TEST(Watching, SuitsAHundredPages) {
+  const ServedProgram program;
+  std::vector<std::unique_ptr<EventReader>> pages;
+  for (int count = 0; count < 100; ++count)
+    pages.push_back(std::make_unique<EventReader>(program.port()));
+  std::set<std::string> names;
+  for (const auto& page : pages) names.insert(page->next("snapshot").data.at("page"));
+  EXPECT_EQ(names.size(), 100u);
+  program.command("volume 0.75");
+  for (const auto& page : pages) EXPECT_EQ(page->next("player").data.at("volume"), 0.75);
+  pages.clear();
+  EXPECT_EQ(program.command("volume 0.5").status, 200);
+}
+
+// Connects and asks, but reads only when the test says so.
+class IdleReader {
+ public:
+  explicit IdleReader(const ServedProgram& program) : socket_(socket(AF_INET, SOCK_STREAM, 0)) {
+    const int small = 4096;
+    setsockopt(socket_, SOL_SOCKET, SO_RCVBUF, &small, sizeof small);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(std::uint16_t(program.port()));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address);
+    const std::string request = "GET /api/events HTTP/1.1\r\nHost: " + program.host() + "\r\n\r\n";
+    send(socket_, request.data(), request.size(), 0);
+  }
+  ~IdleReader() { close(socket_); }
+  IdleReader(const IdleReader&) = delete;
+  IdleReader& operator=(const IdleReader&) = delete;
+
+  // Reads on until this text has come so often.
+  bool reads(const std::string& text, int times) {
+    std::string tail;
+    char piece[4096];
+    while (times > 0) {
+      const ssize_t count = recv(socket_, piece, sizeof piece, 0);
+      if (count <= 0) return false;
+      tail.append(piece, std::size_t(count));
+      for (auto at = tail.find(text); at != std::string::npos; at = tail.find(text)) {
+        tail.erase(0, at + text.size());
+        --times;
+      }
+      if (tail.size() > text.size()) tail.erase(0, tail.size() - text.size());
+    }
+    return true;
+  }
+
+ private:
+  int socket_;
+};
+
+TEST(Watching, DoesNotWaitForAPageThatDoesNotRead) {
+  const ServedProgram program;
+  IdleReader slow(program);
+  EventReader page(program.port());
+  page.next("snapshot");
+  // Much more than the connection and its queue hold.
+  const std::string title(20'000, 'x');
+  for (int count = 0; count < 400; ++count) {
+    const std::string track = title + std::to_string(count);
+    ASSERT_EQ(program.command("playlist \"" + track + "\" 10").status, 200);
+    if (count % 50 == 0)
+      page.next("player", [&track](const json& player) { return player.at("title") == track; });
+  }
+  // What it has missed comes as another whole.
+  EXPECT_TRUE(slow.reads("event: snapshot", 2));
+  EXPECT_TRUE(slow.reads("\"title\":\"" + title + "399\"", 1));
+}
+
+TEST(Sound, IsPlayedByOnePage) {
+  const ServedProgram program;
+  EventReader first(program.port(), "first");
+  EXPECT_EQ(first.next("snapshot").data.at("audio"), (json{{"page", nullptr}}));
+  EventReader second(program.port(), "second");
+  second.next("snapshot");
+  EXPECT_EQ(program.post("/api/audio-owner", {{"page", "first"}}).asJson().at("page"), "first");
+  EXPECT_EQ(program.post("/api/audio-owner", {{"page", "second"}}).asJson().at("page"), "first");
+  EXPECT_EQ(second.next("audio").data.at("page"), "first");
+  program.post("/api/audio-owner", {{"page", "second"}, {"take", true}});
+  EXPECT_EQ(first.next("audio", [](const json& audio) { return audio.at("page") == "second"; })
+                .data.at("page"),
+            "second");
+  program.post("/api/audio-owner", {{"page", "first"}, {"release", true}});
+  EXPECT_EQ(program.post("/api/audio-owner", {{"page", "first"}}).asJson().at("page"), "second");
+  program.post("/api/audio-owner", {{"page", "second"}, {"release", true}});
+  EXPECT_TRUE(first.next("audio").data.at("page").is_null());
+}
+
+TEST(Sound, IsGivenUpByAPageThatGoesAway) {
+  const ServedProgram program;
+  EventReader staying(program.port(), "staying");
+  staying.next("snapshot");
+  {
+    EventReader leaving(program.port(), "leaving");
+    leaving.next("snapshot");
+    program.post("/api/audio-owner", {{"page", "leaving"}});
+    EXPECT_EQ(staying.next("audio").data.at("page"), "leaving");
+  }
+  EXPECT_TRUE(staying.next("audio").data.at("page").is_null());
+}
+
+}  // namespace
+}  // namespace sim

@@ -134,7 +134,7 @@ TEST(Music, ThatCannotBeReadIsNamedAndLeftOut) {
   EXPECT_EQ(music.at(0).at("title"), "5 good");
   const std::string path = std::filesystem::canonical(folder.path() / "music").string();
   EXPECT_EQ(program.errors(), path + "/1 text.mp3: left out: it has no length\n" + path +
-                                  "/2 empty.flac: left out: it has no length\n" + path +
+                                  "/2 empty.flac: left out: it cannot be read as music\n" + path +
                                   "/3 short.wav: left out: it has no length\n" + path +
                                   "/4 link.wav: left out: it lies outside the folder\n");
 }
@@ -159,9 +159,14 @@ TEST(Music, IsSentInRanges) {
   EXPECT_EQ(part.header("Content-Range"), "bytes 8-11/" + std::to_string(bytes.size()));
   const Answer rest = program.get("/music/1", {{"Range", "bytes=100-"}});
   EXPECT_EQ(rest.body, bytes.substr(100));
+  EXPECT_EQ(program.get("/music/1", {{"Range", "bytes=100-99999999"}}).body, bytes.substr(100));
+  EXPECT_EQ(program.get("/music/1", {{"Range", "bytes=-5"}}).body, bytes.substr(bytes.size() - 5));
+  EXPECT_EQ(program.get("/music/1", {{"Range", "bytes=-99999999"}}).body, bytes);
+  EXPECT_EQ(program.get("/music/1", {{"Range", "bytes=0-1,4-5"}}).body, bytes);
+  EXPECT_EQ(program.get("/music/1", {{"Range", "bytes=0-1"}, {"If-Range", "\"old\""}}).body, bytes);
   const Answer beyond = program.get("/music/1", {{"Range", "bytes=99999999-"}});
   EXPECT_EQ(beyond.status, 416);
-  EXPECT_EQ(beyond.error(), "expected a range of bytes within the file");
+  EXPECT_EQ(beyond.error(), "expected a range of the file's 16044 bytes");
 }
 
 TEST(Music, IsNotSentAgainToThoseWhoHaveIt) {

@@ -43,7 +43,7 @@ std::string mp3(int seconds) {
 }
 
 std::string flac(int seconds) {
-  const std::uint64_t layout = rate << 44 | 0U << 41 | 15ULL << 36 | rate * std::uint64_t(seconds);
+  const std::uint64_t layout = rate << 44 | std::uint64_t(15) << 36 | rate * std::uint64_t(seconds);
   const std::string information =
       big(4096, 2) + big(4096, 2) + big(0, 3) + big(0, 3) + big(layout, 8) + std::string(16, '\0');
   return "fLaC" + big(0x80, 1) + big(information.size(), 3) + information + std::string(100, '\0');

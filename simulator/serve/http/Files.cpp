@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "simulator/serve/RequestError.h"
+#include "simulator/serve/http/ByteRange.h"
 
 namespace sim {
 
@@ -78,16 +79,21 @@ void answerFile(const httplib::Request& request, httplib::Response& response,
   response.set_header("ETag", open->tag());
   if (request.get_header_value("If-None-Match") == open->tag()) {
     response.status = 304;
-  } else if (open->size() == 0) {
-    response.set_content("", mimeType);
-  } else {
-    response.set_header("Accept-Ranges", "bytes");
-    response.set_content_provider(
-        open->size(), mimeType,
-        [open](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
-          return open->send(offset, length, sink);
-        });
+    return;
   }
+  response.set_header("Accept-Ranges", "bytes");
+  const auto range = requestedRange(request, open->tag(), open->size());
+  if (range) {
+    response.status = 206;
+    response.set_header("Content-Range", range->text(open->size()));
+  }
+  const ByteRange part = range.value_or(ByteRange{0, open->size()});
+  if (part.length == 0) return response.set_content("", mimeType);
+  response.set_content_provider(
+      part.length, mimeType,
+      [open, part](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
+        return open->send(part.first + offset, length, sink);
+      });
 }
 
 void answerFileOf(const files::path& folder, const std::string& name,

@@ -110,7 +110,9 @@ bool HttpServer::processRequest(httplib::Stream& stream, bool isLast) {
   const Answering answering(*this);
   lastAnswerWasError = false;
   bool closed = false;
-  const bool processed = process_request(stream, isLast, closed, [](httplib::Request&) {});
+  // The library's own ranges may reach beyond a file's end: see ByteRange.
+  const auto withoutRanges = [](httplib::Request& request) { request.ranges.clear(); };
+  const bool processed = process_request(stream, isLast, closed, withoutRanges);
   // After an error the rest of the request may be unread: it must not be taken for the next one.
   return processed && !closed && !lastAnswerWasError;
 }

@@ -39,6 +39,20 @@ void drawPadlock(Object layer) {
                 {nullptr, coreColor({255, 255, 255}), 2});
 }
 
+Object light(double points) {
+  constexpr double weight = -0.4;
+  return objc::send<Object, "systemFontOfSize:weight:">(objc_getClass("UIFont"), points, weight);
+}
+
+// "1:05:09", or "5:09" for less than an hour.
+std::string countdownText(double secondsLeft) {
+  const long left = std::lround(std::ceil(secondsLeft));
+  const auto twoDigits = [](long value) { return (value < 10 ? "0" : "") + std::to_string(value); };
+  const std::string seconds = twoDigits(left % 60);
+  if (left < 3600) return std::to_string(left / 60) + ':' + seconds;
+  return std::to_string(left / 3600) + ':' + twoDigits(left / 60 % 60) + ':' + seconds;
+}
+
 }  // namespace
 
 void Controller::viewDidLoad() {
@@ -49,7 +63,9 @@ void Controller::viewDidLoad() {
   fill(view, blackColor(1));
   padlock = addView(view, "UIView");
   drawPadlock(objc::send<Object, "layer">(padlock.get()));
-  timeLabel = addLabel(view, {.points = 76, .alignment = centred});
+  timeLabel = addLabel(view, {.points = 80, .alignment = centred});
+  objc::send<void, "setFont:">(timeLabel.get(), light(80));
+  countdownLabel = addLabel(view, {.points = 17, .alignment = centred});
   objc::send<void, "addSubview:">(view, dateView.get());
 }
 
@@ -90,10 +106,11 @@ void Controller::viewWillLayoutSubviews() {
   const CGSize size = sizeOf(viewOf(Object(self())));
   const double clockTop = std::min(top, size.height / 8);
   setFrame(wallpaper, {{}, size});
-  setFrame(padlock, {{(size.width - padlockSize.width) / 2, clockTop - 14}, padlockSize});
+  setFrame(padlock, {{(size.width - padlockSize.width) / 2, clockTop - 18}, padlockSize});
   setFrame(timeLabel, {{0, clockTop}, {size.width, clockHeight}});
   const CGSize line = sizeOf(dateView);
   setFrame(dateView, {{(size.width - line.width) / 2, clockTop + clockHeight}, line});
+  setFrame(countdownLabel, {{0, clockTop + clockHeight + line.height + 6}, {size.width, 22}});
   const double width = std::min(size.width, 390.0) - 2 * margin;
   if (mediaControlsViewController)
     setFrame(viewOf(mediaControlsViewController),
@@ -113,6 +130,10 @@ void Controller::showTime() {
     nextMinute = 0;
     showTime();
   });
+}
+
+void Controller::showCountdown(std::optional<double> secondsLeft) {
+  setText(countdownLabel, secondsLeft ? string(countdownText(*secondsLeft)) : Object());
 }
 
 void Controller::stopClock() {

@@ -10,6 +10,7 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/springboard/StatusBar.h"
+#include "simulator/uikit/Looking.h"
 
 namespace sim {
 namespace {
@@ -53,6 +54,16 @@ void LockScreen::showCoverSheet() {
   objc::send<void, "setRootViewController:">(window_, sheet.get());
   objc::send<void, "setHidden:">(window_, false);
   setStatusBarShowsTime(false);
+  followCountdown();
+}
+
+// As long as the process lives: there is a cover sheet at times.
+void LockScreen::followCountdown() {
+  if (std::exchange(followsCountdown_, true)) return;
+  beforeLooking([this] {
+    if (const objc::Object sheet = coverSheet())
+      CSCoverSheetViewController::of(sheet).showCountdown(countdown());
+  });
 }
 
 objc::Object LockScreen::coverSheet() const {

@@ -28,6 +28,7 @@ class LockScreen {
  private:
   void makeParts();
   void showCoverSheet();
+  void followCountdown();
   // Both in seconds since the reference date.
   void drawDate(double moment);
   void redrawAt(double midnight);
@@ -38,6 +39,7 @@ class LockScreen {
   objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView
   objc::Object window_;           // UIWindow; owned, nil while the phone is not locked
   bool hasParts_ = false;
+  bool followsCountdown_ = false;
   MainQueue::Ticket nextDrawing_ = 0;
 };
 

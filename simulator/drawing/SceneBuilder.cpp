@@ -123,6 +123,7 @@ Node screenScene() {
   screen.attributes.bounds = {{}, UIScreen::size()};
   screen.attributes.background = scene::Color{0, 0, 0, 1};
   screen.attributes.clips = true;
+  if (!UIScreen::isLit()) return screen;
   for (const auto& window : UIWindow::visibleWindows()) {
     const CALayer* layer = stateOf<CALayer>(UIView::layerOf(window.get()));
     if (layer == nullptr) continue;

@@ -1,5 +1,7 @@
 #include "simulator/springboard/SBFWallpaperView.h"
 
+#include <algorithm>
+
 #include "simulator/StandIn.h"
 #include "simulator/quartzcore/CAGradientLayer.h"
 #include "simulator/springboard/Shapes.h"
@@ -10,7 +12,7 @@ namespace {
 
 using objc::Object;
 
-// In a screen of 390 x 844 points, which is stretched to the view.
+// In a screen of 390 x 844 points.
 constexpr CGSize designed = {390, 844};
 constexpr const char* starsText =
     "O 34 62 1.2 O 120 60 1 O 152 330 0.7 O 205 38 1.3 O 231 290 0.9 "
@@ -20,6 +22,7 @@ constexpr const char* starsText =
 constexpr const char* moonText =
     "M 300 566 C 286 570 277 582 277 597 C 277 615 292 630 310 630 C 325 630 337 621 341 607 "
     "C 336 610 331 611 325 611 C 308 611 295 598 295 581 C 295 575 297 570 300 566 Z";
+constexpr CGPoint moonCentre = {309, 598};
 constexpr const char* farHillsText =
     "M 0 700 C 50 668 96 662 148 690 C 190 712 220 716 262 690 C 300 666 342 664 390 692 "
     "L 390 844 L 0 844 Z";
@@ -51,13 +54,18 @@ Object SBFWallpaperView::initWithFrame(CGRect frame) {
   return made;
 }
 
+// The hills are stretched; stars and moon stay round.
 void SBFWallpaperView::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize size = sizeOf(Object(self()));
-  const CGAffineTransform stretched = {size.width / designed.width,   0, 0,
-                                       size.height / designed.height, 0, 0};
-  for (const auto* shape : {&stars, &moon, &farHills, &nearHills})
-    objc::send<void, "setAffineTransform:">(shape->get(), stretched);
+  const double wide = size.width / designed.width, high = size.height / designed.height;
+  const double filling = std::max(wide, high);
+  const auto transform = [](const Object& shape, const CGAffineTransform& to) {
+    objc::send<void, "setAffineTransform:">(shape, to);
+  };
+  transform(stars, {filling, 0, 0, filling, 0, 0});
+  transform(moon, {1, 0, 0, 1, moonCentre.x * (wide - 1), moonCentre.y * (high - 1)});
+  for (const auto* hills : {&farHills, &nearHills}) transform(*hills, {wide, 0, 0, high, 0, 0});
 }
 
 void SBFWallpaperView::registerClass() {

@@ -5,6 +5,7 @@
 #include "simulator/phone/Phone.h"
 #include "simulator/springboard/ClockText.h"
 #include "simulator/springboard/Shapes.h"
+#include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {
@@ -45,6 +46,8 @@ Object StatusBarView::initWithFrame(CGRect frame) {
 void StatusBarView::layoutSubviews() {
   super<void, "layoutSubviews">();
   const double width = sizeOf(Object(self())).width;
+  // A phone that lies on its side has none.
+  setAlpha(Object(self()), width > UIScreen::mainSize.width ? 0 : 1);
   setFrame(time, {{timeLeft, top}, timeSize});
   setFrame(symbols, {{width - symbolsRight - symbolsSize.width, top + 4}, symbolsSize});
 }

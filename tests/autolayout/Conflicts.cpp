@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "tests/autolayout/LayoutTest.h"
 
 namespace sim {
@@ -95,6 +97,20 @@ TEST_F(Conflicts, APlaceNeedsAnotherToBeComparedWith) {
                "NSInvalidArgumentException.*Location attributes must be specified in pairs");
   EXPECT_DEATH(constraint({view, left, equal, window, left, 0, 10}),
                "NSInvalidArgumentException.*Location attributes must be specified in pairs");
+}
+
+TEST_F(Conflicts, NumbersMustBeFinite) {
+  const Object wide = width(view, 10);
+  constexpr double none_ = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_DEATH((send<void, "setConstant:">(wide, none_)),
+               "NSInvalidArgumentException.*Constant is not finite!  That's illegal.");
+  EXPECT_DEATH(constraint({view, attribute::width, equal, window, attribute::width, none_, 0}),
+               "NSInvalidArgumentException.*Multiplier is not finite!  That's illegal.");
+}
+
+TEST_F(Conflicts, NoPriorityIsNoConstraint) {
+  width(view, 50, 0);
+  EXPECT_EQ(laidOut(view), rect(0, 0, 0, 10));
 }
 
 TEST_F(Conflicts, ItemsMustBeOfOneTree) {

@@ -74,6 +74,7 @@ void LayoutProblem::makeVariables(Object view) {
 
 void LayoutProblem::add(LinearExpression left, Relation relation, double priority,
                         const Origin& origin) {
+  if (priority <= 0) return;
   problem_.add(std::move(left), relation, priority);
   origins_.push_back(origin);
 }

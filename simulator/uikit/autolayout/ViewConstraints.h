@@ -18,7 +18,8 @@ struct ViewConstraints {
   std::array<float, 2> hugging{250, 250};         // priorities, horizontal and vertical
   std::array<float, 2> resistance{750, 750};
   UIEdgeInsets margins{8, 8, 8, 8};
-  bool needsUpdate = false;  // updateConstraints is due
+  bool needsUpdate = false;      // updateConstraints is due
+  bool hasBeenInWindow = false;  // of classes with an updateConstraints of their own
 
   // Of a tree's root: the solution does not fit the tree any more.
   bool isStale = false;

@@ -47,6 +47,19 @@ TEST_F(Conflicts, BreakTheNewestOfRequiredConstraints) {
   EXPECT_EQ(frameOf(view), rect(0, 0, 50, 10));
 }
 
+// The gaps alone are wider than the stack.
+TEST_F(Conflicts, StacksNameTheirOwn) {
+  const auto stack = make("UIStackView", rect(0, 100, 15, 10));
+  send<void, "setSpacing:">(stack.get(), 10.0);
+  add(window, stack);
+  for (int i = 0; i < 3; ++i) send<void, "addArrangedSubview:">(stack.get(), make("UIView").get());
+  advance(0);
+  EXPECT_EQ(journal(), Lines{breaking("<NSLayoutConstraint 'UISV-spacing' of UIStackView>")});
+  send<void, "setFrame:">(stack.get(), rect(0, 100, 12, 10));
+  advance(0);
+  EXPECT_EQ(journal().size(), 1U);
+}
+
 TEST_F(Conflicts, EndWithTheirReason) {
   const Object first = width(view, 50);
   width(view, 60);

@@ -25,6 +25,8 @@ struct ViewConstraints {
   bool isStale = false;
   // The view stands where it is, and the last solution was made from that.
   bool isRead = false;
+  // One of the system's own constraints for the view broke, and the log said so.
+  bool isReportedBroken = false;
   // What -intrinsicContentSize answered, until it is invalidated.
   std::optional<CGSize> contentSize;
   // Points, whole pixels, in the superview's coordinates; none before there is a solution.

@@ -181,6 +181,16 @@ TEST_F(PanelLayouts, TimerPageInAPanelThatIsTooLow) {
   EXPECT_TRUE(isAbout(inside(parts.subtitleLabel, page), rect(16, 62, 289, 18)));
 }
 
+// On its way onto the screen the panel has any size: TearDown looks for complaints.
+TEST_F(PanelLayouts, NoPageComplainsOfASize) {
+  for (const char* name : {"CurrentTimerView", "OnTimerEndsSettingsView"}) {
+    const Object page = this->page(name, 0, 0);
+    for (const CGSize size : {CGSize{321, 20}, CGSize{20, 250}, CGSize{10, 10}, CGSize{321, 250}})
+      resize(page, size.width, size.height);
+    EXPECT_EQ(journal(), std::vector<std::string>()) << name;
+  }
+}
+
 TEST_F(PanelLayouts, TimerPageInLandscape) {
   const Object page = this->page("CurrentTimerView", 568, 250);
   const TimerPage& parts = TimerPage::of(page);
@@ -366,6 +376,13 @@ TEST_F(ImageButtonLayout, TheIconIsSquareAndNoHigherThanTheButton) {
 TEST_F(ImageButtonLayout, ALongTextLeavesTheIconItsRoom) {
   setText(parts().textLabel, "A text that is much too long for a button");
   expect(rect(0, 12, 20, 20), rect(26, 13, 134, 18));
+}
+
+TEST_F(ImageButtonLayout, ComplainsOfNoSize) {
+  for (const CGRect frame : {rect(0, 0, 0, 0), rect(0, 0, 5, 5), rect(0, 0, 160, 0)}) {
+    send<void, "setFrame:">(button.get(), frame);
+    advance(0);
+  }
 }
 
 TEST_F(ImageButtonLayout, FromRightToLeftTheIconIsOnTheRight) {

@@ -29,6 +29,7 @@ LockScreen& LockScreen::current() {
 
 void LockScreen::lock() {
   locked_ = true;
+  for (const auto& told : told_) told();
   if (!hasParts_) makeParts();
   const double now = Phone::current().clock.wall();
   drawDate(now);

@@ -76,6 +76,18 @@ struct Border {
   bool operator==(const Border&) const = default;
 };
 
+// What a control is for somebody who does not see it.
+struct Accessibility {
+  // A group is a button that others lie in.
+  enum class Role { button, group, slider, picker };
+  Role role;
+  std::string label;
+  std::string value;  // of what is turned; empty for buttons
+  bool isEnabled = true;
+  bool isSelected = false;
+  bool operator==(const Accessibility&) const = default;
+};
+
 using Content = std::variant<std::monostate, Text, Image, Shape, Gradient>;
 
 // One layer: its background, its content, the nodes below it, its border; all of that cut to its
@@ -90,6 +102,7 @@ struct Attributes {
   std::optional<Color> background;
   std::optional<Border> border;
   Content content;
+  std::optional<Accessibility> accessibility;
   bool operator==(const Attributes&) const = default;
 };
 

@@ -1,5 +1,6 @@
 #include "simulator/drawing/SceneBuilder.h"
 
+#include "simulator/drawing/Accessibility.h"
 #include "simulator/drawing/NodeContent.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/phone/Phone.h"
@@ -62,6 +63,7 @@ scene::Attributes attributesOf(const CALayer& layer, const LayerValues& seen, Ob
   if (const auto color = sceneColor(layer.borderColor); color && layer.borderWidth > 0)
     made.border = scene::Border{layer.borderWidth, *color};
   made.content = contentOf(view, layer, seen.bounds);
+  made.accessibility = accessibilityOf(view);
   return made;
 }
 

@@ -91,6 +91,15 @@ json matrix(const CGAffineTransform& transform) {
           rounded(transform.d), rounded(transform.tx), rounded(transform.ty)};
 }
 
+void addAccessibility(json& made, const scene::Accessibility& its) {
+  constexpr const char* roles[] = {"button", "group", "slider", "picker"};
+  made["role"] = roles[int(its.role)];
+  made["label"] = its.label;
+  if (!its.value.empty()) made["value"] = its.value;
+  if (!its.isEnabled) made["enabled"] = false;
+  if (its.isSelected) made["selected"] = true;
+}
+
 void addLooks(json& made, const scene::Attributes& attributes) {
   if (attributes.opacity != 1) made["opacity"] = rounded(attributes.opacity);
   if (attributes.cornerRadius != 0) made["radius"] = rounded(cornerRadius(attributes));
@@ -111,6 +120,7 @@ json nodeJson(const FlatNode& node) {
                {"transform", matrix(node.attributes.toParent)},
                {"children", node.children}};
   addLooks(made, node.attributes);
+  if (node.attributes.accessibility) addAccessibility(made, *node.attributes.accessibility);
   if (!node.before.empty()) {
     made["before"] = node.before;
     made["beforeOpacity"] = rounded(node.beforeOpacity);

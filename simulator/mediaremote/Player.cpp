@@ -117,6 +117,7 @@ Nanoseconds Player::elapsed() const {
 }
 
 void Player::begin(std::size_t index, Nanoseconds when) {
+  if (repeatsAll_ && index == tracks_.size()) index = 0;
   if (index >= tracks_.size()) {
     stop();
     return;

@@ -39,7 +39,7 @@ class Player {
   void hostDidBoot();
   void pause();
   void togglePlayPause();
-  // After the last track nothing plays. A paused player stays paused.
+  // After the last track nothing plays, unless all are repeated. A paused player stays paused.
   void nextTrack();
   // The track before; the first track begins again.
   void previousTrack();
@@ -49,6 +49,9 @@ class Player {
   void seek(double position);
   // At its end the track begins again. nextTrack() still goes on.
   void setRepeatsOne(bool repeats) { repeatsOne_ = repeats; }
+
+  // The first track follows the last.
+  void setRepeatsAll(bool repeats) { repeatsAll_ = repeats; }
 
   bool isPlaying() const { return playing_; }
   // nullptr when nothing plays. A paused track is still the track.
@@ -78,6 +81,7 @@ class Player {
   std::size_t index_ = nothing;
   bool playing_ = false;
   bool repeatsOne_ = false;
+  bool repeatsAll_ = false;
   bool booted_ = false;
   bool waitsForBoot_ = false;
   Nanoseconds startedAt_ = 0;  // playing: uptime at which the track was at its start

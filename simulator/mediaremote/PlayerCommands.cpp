@@ -182,6 +182,12 @@ void addPlayerCommands(CommandTable& table) {
                words.finish();
                Player::current().setRepeatsOne(repeats);
              }});
+  table.add({"repeat-all", Stage::any, "repeat-all YES|NO", "repeat-all YES",
+             "Whether the first track follows the last.", [](Arguments& words) {
+               const bool repeats = words.yesOrNo("whether to repeat");
+               words.finish();
+               Player::current().setRepeatsAll(repeats);
+             }});
   table.add({"volume", Stage::any, "volume LEVEL", "volume 0.5",
              "The user sets the media volume, from 0 to 1.", volume});
   table.add({"volume-up", Stage::any, "volume-up", "volume-up",

@@ -27,10 +27,10 @@ static Track restored(const nlohmann::json& saved) {
 nlohmann::json Player::save() const {
   auto tracks = nlohmann::json::array();
   for (const Track& each : tracks_) tracks.push_back(saved(each));
-  nlohmann::json state = {{"application", application_},   {"tracks", std::move(tracks)},
-                          {"playing", playing_},           {"repeatsOne", repeatsOne_},
-                          {"waitsForBoot", waitsForBoot_}, {"startedAt", startedAt_},
-                          {"pausedAt", pausedAt_},         {"index", nullptr}};
+  nlohmann::json state = {
+      {"application", application_}, {"tracks", std::move(tracks)}, {"playing", playing_},
+      {"repeatsOne", repeatsOne_},   {"repeatsAll", repeatsAll_},   {"waitsForBoot", waitsForBoot_},
+      {"startedAt", startedAt_},     {"pausedAt", pausedAt_},       {"index", nullptr}};
   if (track() != nullptr) state["index"] = index_;
   return state;
 }
@@ -43,6 +43,7 @@ void Player::restore(const nlohmann::json& state) {
   index_ = index.is_null() ? nothing : index.get<std::size_t>();
   playing_ = state.at("playing").get<bool>();
   repeatsOne_ = state.at("repeatsOne").get<bool>();
+  repeatsAll_ = state.at("repeatsAll").get<bool>();
   waitsForBoot_ = state.at("waitsForBoot").get<bool>();
   startedAt_ = state.at("startedAt").get<Nanoseconds>();
   pausedAt_ = state.at("pausedAt").get<Nanoseconds>();

@@ -6,6 +6,7 @@ void addApi(Router& router, const ApiParts& parts) {
   addPhoneRoutes(router, parts);
   addScriptRoutes(router, parts);
   addEventRoutes(router, parts);
+  addImageRoutes(router, parts);
   addFileRoutes(router, parts);
 }
 

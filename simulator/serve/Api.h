@@ -30,6 +30,7 @@ void addApi(Router& router, const ApiParts& parts);
 void addPhoneRoutes(Router& router, const ApiParts& parts);   // command, time, set-up, settings
 void addScriptRoutes(Router& router, const ApiParts& parts);  // recording, script
 void addEventRoutes(Router& router, const ApiParts& parts);   // events, audio-owner
+void addImageRoutes(Router& router, const ApiParts& parts);   // image, fonts
 void addFileRoutes(Router& router, const ApiParts& parts);    // music, cover, page
 
 }  // namespace sim

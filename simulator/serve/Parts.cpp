@@ -1,4 +1,5 @@
 // What pages are told of the phone.
+#include "simulator/controlcenter/ControlCenter.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/serve/ServedPhone.h"
@@ -79,6 +80,7 @@ json ServedPhone::phonePart() const {
   return {{"host", nameOf(session_.state)},
           {"screenOn", isScreenOn(session_)},
           {"locked", isLocked(session_)},
+          {"controlCenter", session_.state == HostState::running && bool(openedControlCenter())},
           {"orientation", session_.state == HostState::running ? orientation() : "portrait"}};
 }
 

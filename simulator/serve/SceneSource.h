@@ -17,7 +17,7 @@ class SceneSource {
   virtual bool isAnimating() const { return false; }
 };
 
-// The tree of views: class, frame, text.
-std::unique_ptr<SceneSource> viewTreeScene();
+// As the screen is drawn.
+std::unique_ptr<SceneSource> drawnScene();
 
 }  // namespace sim

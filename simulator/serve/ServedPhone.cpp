@@ -38,7 +38,7 @@ ServedPhone::ServedPhone(ServeState state, const MusicLibrary& library, Inbox& i
       session_(optionsOf(state_)),
       table_(allCommands()),
       player_(library),
-      report_(session_.phone.journal, viewTreeScene()) {
+      report_(session_.phone.journal, drawnScene()) {
   session_.relaunch = [this](const std::filesystem::path& file) { leaveInMiddle(file); };
   session_.phone.survives("serve", {[this] { return asJson(state_); }, [](const json&) {}});
   pace_.setSpeed(state_.speed, steady_clock::now());
@@ -55,8 +55,10 @@ std::vector<std::string> ServedPhone::firstLines() const {
   std::vector<std::string> lines = state_.settings;
   lines.insert(lines.end(), state_.setup.begin(), state_.setup.end());
   const std::string music = library_.playlistLine();
-  if (!music.empty() && std::none_of(lines.begin(), lines.end(), isPlaylist))
+  if (!music.empty() && std::none_of(lines.begin(), lines.end(), isPlaylist)) {
     lines.push_back(music);
+    lines.emplace_back("repeat-all YES");  // music that ends by itself would need no timer
+  }
   lines.emplace_back("boot");
   return lines;
 }

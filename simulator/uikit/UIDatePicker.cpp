@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "simulator/StandIn.h"
+#include "simulator/uikit/PickerTouches.h"
 
 namespace sim {
 namespace {
@@ -46,8 +47,9 @@ void UIDatePicker::setMinuteInterval(long minutes) {
 }
 
 void UIDatePicker::registerClass() {
-  StandIn<UIDatePicker>("UIKit", "UIDatePicker", "UIControl")
-      .readonlyProperty<"datePickerMode", &UIDatePicker::mode>()
+  StandIn<UIDatePicker> picker("UIKit", "UIDatePicker", "UIControl");
+  addPickerTouches(picker);
+  picker.readonlyProperty<"datePickerMode", &UIDatePicker::mode>()
       .partial<"setDatePickerMode:", &UIDatePicker::setMode>("only the count-down has wheels")
       .method<"countDownDuration", &UIDatePicker::countDownDuration>()
       .method<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>()

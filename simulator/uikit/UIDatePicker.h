@@ -36,7 +36,8 @@ struct UIDatePicker : objc::Implementation<UIDatePicker> {
   void removeWheels();
   void makeWheels();
   objc::Strong<objc::Object> makeWheel(long rows, long step);
-  void turnWheels();
+  void turnWheels(bool animated = false);
+  void turnedTo();
 
   objc::Strong<objc::Object> band_;                     // behind the selected rows
   objc::Strong<objc::Object> hours_, minutes_;          // UIPickerColumnView

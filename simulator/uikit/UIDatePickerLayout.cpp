@@ -4,11 +4,13 @@
 #include <string>
 
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/uikit/DurationUnits.h"
 #include "simulator/uikit/LayoutDirection.h"
 #include "simulator/uikit/PickerLook.h"
+#include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UIDatePicker.h"
 #include "simulator/uikit/UIPickerColumnView.h"
 #include "simulator/uikit/UIView.h"
@@ -67,6 +69,7 @@ void UIDatePicker::setTextColor(Object color) {
 
 void UIDatePicker::removeWheels() {
   for (auto* part : {&band_, &hours_, &minutes_, &hoursUnit_, &minutesUnit_}) {
+    if (auto* wheel = stateOf<UIPickerColumnView>(part->get())) wheel->turned = nullptr;
     if (*part) removeFromSuperview(part->get());
     *part = nullptr;
   }
@@ -101,14 +104,26 @@ void UIDatePicker::makeWheels() {
   std::size_t index = 0;
   for (const auto* part : {&band_, &hours_, &hoursUnit_, &minutes_, &minutesUnit_})
     insertSubview(Object(self()), part->get(), index++);
+  for (const auto* wheel : {&hours_, &minutes_})
+    UIPickerColumnView::of(wheel->get()).turned = [this](long) { turnedTo(); };
   turnWheels();
 }
 
-void UIDatePicker::turnWheels() {
+// By hand. The wheels do not rest at nothing: they go on to the first step.
+void UIDatePicker::turnedTo() {
+  const long hours = UIPickerColumnView::of(hours_.get()).selectedRow;
+  const long minutes = UIPickerColumnView::of(minutes_.get()).selectedRow * interval;
+  const auto kept = objc::retain(Object(self()));
+  duration = onWheels(double(hours * 60 + minutes) * 60);
+  turnWheels(minutes == 0 && hours == 0);
+  UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
+}
+
+void UIDatePicker::turnWheels(bool animated) {
   if (!hours_) return;
   const long shown = std::lround(countDownDuration() / 60);
-  UIPickerColumnView::of(hours_.get()).selectRow(shown / 60, false);
-  UIPickerColumnView::of(minutes_.get()).selectRow(shown % 60 / interval, false);
+  UIPickerColumnView::of(hours_.get()).selectRow(shown / 60, animated);
+  UIPickerColumnView::of(minutes_.get()).selectRow(shown % 60 / interval, animated);
   const DurationUnits units = durationUnits(Phone::current().setup.locale);
   objc::send<void, "setText:">(hoursUnit_.get(),
                                string(shown / 60 == 1 ? units.hour : units.hours));

@@ -37,6 +37,7 @@ long UIPickerColumnView::rowAt(long place) const {
 }
 
 void UIPickerColumnView::selectRow(long row, bool animated) {
+  wheel_.reset();
   long way = row - rowAt(place_);
   if (isEndless && numberOfRows > 0) {
     way = (way % numberOfRows + numberOfRows) % numberOfRows;
@@ -54,6 +55,7 @@ void UIPickerColumnView::reload() {
   for (const auto& [place, its] : cells_) objc::send<void, "removeFromSuperview">(its.get());
   cells_.clear();
   place_ = selectedRow;
+  wheel_.reset();
   arranged_.reset();
   objc::send<void, "setNeedsLayout">(self());
 }
@@ -74,6 +76,11 @@ Object UIPickerColumnView::cell(long at) {
   return (cells_[at] = std::move(made)).get();
 }
 
+Object UIPickerColumnView::selectedCell() const {
+  const auto found = cells_.find(place_);
+  return found == cells_.end() ? Object() : Object(found->second);
+}
+
 void UIPickerColumnView::stand(Object its, double rowsFromMiddle) {
   const CGSize size = UIView::of(self()).geometry().bounds.size;
   const double radius = std::max(size.height / 2, rowHeight);
@@ -86,19 +93,21 @@ void UIPickerColumnView::stand(Object its, double rowsFromMiddle) {
 
 // Rows that come in begin where they would have stood before.
 void UIPickerColumnView::arrange() {
-  const long before = arranged_.value_or(place_);
-  for (long at = place_ - cellsEachWay; at <= place_ + cellsEachWay; ++at) {
+  const double here = position();
+  const long middle = std::lround(here);
+  const double before = arranged_.value_or(here);
+  for (long at = middle - cellsEachWay; at <= middle + cellsEachWay; ++at) {
     if (!cells_.contains(at)) {
       const auto begin = objc::block<void()>([&] {
-        if (const Object made = cell(at)) stand(made, double(at - before));
+        if (const Object made = cell(at)) stand(made, double(at) - before);
       });
       performWithoutAnimation(begin.get());
     }
-    if (const Object its = cell(at)) stand(its, double(at - place_));
+    if (const Object its = cell(at)) stand(its, double(at) - here);
   }
-  arranged_ = place_;
-  std::erase_if(cells_, [this](const auto& each) {
-    if (std::abs(each.first - place_) <= cellsEachWay) return false;
+  arranged_ = here;
+  std::erase_if(cells_, [middle](const auto& each) {
+    if (std::abs(each.first - middle) <= cellsEachWay) return false;
     objc::send<void, "removeFromSuperview">(each.second.get());
     return true;
   });
@@ -111,7 +120,7 @@ void UIPickerColumnView::layoutSubviews() {
 
 void UIPickerColumnView::registerClass() {
   StandIn<UIPickerColumnView>("UIKit", "UIPickerColumnView", "UIView")
-      .partial<"layoutSubviews", &UIPickerColumnView::layoutSubviews>("rows stand, none spins")
+      .method<"layoutSubviews", &UIPickerColumnView::layoutSubviews>()
       .finish();
 }
 

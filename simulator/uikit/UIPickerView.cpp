@@ -4,6 +4,7 @@
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
+#include "simulator/uikit/PickerTouches.h"
 #include "simulator/uikit/UIPickerColumnView.h"
 
 namespace sim {
@@ -88,16 +89,22 @@ bool UIPickerView::userSelectsRow(long row, long component) {
   if (component < 0 || component >= numberOfComponents()) return false;
   if (row < 0 || row >= numberOfRows(component)) return false;
   selectRow(row, component, true);
+  turnedTo(row, component);
+  return true;
+}
+
+void UIPickerView::turnedTo(long row, long component) {
+  selected[std::size_t(component)] = row;
   const auto listener = delegate.load();
   if (objc::respondsTo<"pickerView:didSelectRow:inComponent:">(listener.get()))
     objc::send<void, "pickerView:didSelectRow:inComponent:">(listener.get(), Object(self()), row,
                                                              component);
-  return true;
 }
 
 void UIPickerView::registerClass() {
-  StandIn<UIPickerView>("UIKit", "UIPickerView", "UIView")
-      .method<"dataSource", &UIPickerView::itsDataSource>()
+  StandIn<UIPickerView> picker("UIKit", "UIPickerView", "UIView");
+  addPickerTouches(picker);
+  picker.method<"dataSource", &UIPickerView::itsDataSource>()
       .method<"setDataSource:", &UIPickerView::setDataSource>()
       .method<"delegate", &UIPickerView::itsDelegate>()
       .method<"setDelegate:", &UIPickerView::setDelegate>()

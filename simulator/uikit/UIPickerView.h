@@ -38,6 +38,8 @@ struct UIPickerView : objc::Implementation<UIPickerView> {
 
  private:
   void countComponents();
+  void turnedTo(long row, long component);
+  static void leave(objc::Object column);
   double rowHeight(long component) const;
   void makeColumns();
   void reloadColumns();  // they are made anew when they are next laid out

@@ -11,7 +11,13 @@ namespace sim {
 using objc::Object;
 
 UIPickerView::~UIPickerView() {
-  for (const auto& column : columns_) UIPickerColumnView::of(column.get()).makeRow = nullptr;
+  for (const auto& column : columns_) leave(column.get());
+}
+
+// The column may outlive the picker.
+void UIPickerView::leave(Object column) {
+  UIPickerColumnView::of(column).makeRow = nullptr;
+  UIPickerColumnView::of(column).turned = nullptr;
 }
 
 double UIPickerView::rowHeight(long component) const {
@@ -34,7 +40,7 @@ objc::Strong<Object> UIPickerView::rowShown(long row, long component) {
 
 void UIPickerView::reloadColumns() {
   for (const auto& column : columns_) {
-    UIPickerColumnView::of(column.get()).makeRow = nullptr;
+    leave(column.get());
     removeFromSuperview(column.get());
   }
   columns_.clear();
@@ -55,6 +61,7 @@ void UIPickerView::makeColumns() {
     column.rowHeight = rowHeight(component);
     column.numberOfRows = numberOfRows(component);
     column.makeRow = [this, component](long row) { return rowShown(row, component); };
+    column.turned = [this, component](long row) { turnedTo(row, component); };
     column.selectRow(selected[std::size_t(component)], false);
     // Behind what others have added.
     insertSubview(Object(self()), made.get(), std::size_t(component) + 1);

@@ -4,6 +4,7 @@
 
 #include "simulator/StandIn.h"
 #include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/UITouch.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/ViewBuilding.h"
 
@@ -56,6 +57,28 @@ void UISlider::userSlides(float to) {
   UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
 }
 
+bool UISlider::beginTracking(Object touch, Object) {
+  heldFrom_ = value;
+  fingerFrom_ = UITouch::of(touch).locationInView(Object(self())).x;
+  return true;
+}
+
+bool UISlider::continueTracking(Object touch, Object) {
+  const double width = UIView::of(self()).geometry().bounds.size.width;
+  const double range = double(maximumValue) - double(minimumValue);
+  const double way = UITouch::of(touch).locationInView(Object(self())).x - fingerFrom_;
+  if (width <= 0) return true;
+  const auto to = float(double(heldFrom_) + way / width * range);
+  if (std::clamp(to, minimumValue, maximumValue) != value) userSlides(to);
+  return true;
+}
+
+void UISlider::turnBy(long steps) {
+  constexpr double step = 0.05;
+  const double range = double(maximumValue) - double(minimumValue);
+  userSlides(float(double(value) - double(steps) * step * range));
+}
+
 void UISlider::registerClass() {
   StandIn<UISlider>("UIKit", "UISlider", "UIControl")
       .method<"initWithFrame:", &UISlider::initWithFrame>()
@@ -65,6 +88,8 @@ void UISlider::registerClass() {
       .method<"setValue:", &UISlider::setValue>()
       .partial<"setValue:animated:", &UISlider::setValueAnimated>("in place at once")
       .method<"layoutSubviews", &UISlider::layoutSubviews>()
+      .method<"beginTrackingWithTouch:withEvent:", &UISlider::beginTracking>()
+      .method<"continueTrackingWithTouch:withEvent:", &UISlider::continueTracking>()
       .finish();
 }
 

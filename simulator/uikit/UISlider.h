@@ -16,10 +16,19 @@ struct UISlider : objc::Implementation<UISlider> {
   void setValue(float to);  // held to the limits; no action is sent
   void setValueAnimated(float to, bool animated);
   void layoutSubviews();
+  // The knob follows the finger's way, wherever on the slider it came down.
+  bool beginTracking(objc::Object touch, objc::Object event);
+  bool continueTracking(objc::Object touch, objc::Object event);
+  // By a mouse's wheel or a key: so many twentieths of the way down.
+  void turnBy(long steps);
   // A finger drags the knob there: its actions are sent.
   void userSlides(float to);
 
   static void registerClass();
+
+ private:
+  float heldFrom_ = 0;     // the value when a finger came down
+  double fingerFrom_ = 0;  // and where that was, x
 };
 
 }  // namespace sim

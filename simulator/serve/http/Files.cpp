@@ -27,6 +27,7 @@ const std::map<std::string, std::string, std::less<>> mimeTypes = {
     {".svg", "image/svg+xml"},
     {".png", "image/png"},
     {".ico", "image/x-icon"},
+    {".otf", "font/otf"},
     {".woff2", "font/woff2"},
     {".txt", "text/plain; charset=utf-8"},
     {".webmanifest", "application/manifest+json"}};

@@ -2,9 +2,15 @@
 #include <cmath>
 #include <string>
 
+#include "simulator/foundation/Kind.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/uikit/Finger.h"
+#include "simulator/uikit/PickerTouches.h"
 #include "simulator/uikit/Touch.h"
+#include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/UIPickerColumnView.h"
+#include "simulator/uikit/UISlider.h"
+#include "simulator/uikit/UIView.h"
 #include "simulator/uikit/script/UIKitCommands.h"
 
 namespace sim {
@@ -52,12 +58,29 @@ void touch(Arguments& words) {
   if (isCancelled) finger.cancelled();
 }
 
+void scroll(Arguments& words) {
+  const double x = coordinate(words, "points from the left of the screen");
+  const double y = coordinate(words, "points from the top of the screen");
+  const long rows = words.integer("a number of rows");
+  words.finish();
+  const Object view = viewOnScreenAt({x, y});
+  Object slider = view;
+  while (slider && !isA<UISlider>(slider)) slider = UIView::of(slider).parent;
+  if (UIPickerColumnView* wheel = wheelTouchedAt(view, {x, y})) return wheel->turnBy(rows);
+  if (slider && UIControl::of(slider).enabled) return UISlider::of(slider).turnBy(rows);
+  throw ScriptError(0, "there is no wheel and no slider");
+}
+
 }  // namespace
 
 void addFingerCommands(CommandTable& table) {
   table.add({"touch", Stage::running, "touch began|moved|ended X Y, touch cancelled",
              "touch began 195 400",
              "A finger comes down on a point of the screen, moves over it, or leaves it.", touch});
+  table.add({"scroll", Stage::running, "scroll X Y ROWS", "scroll 195 430 -1",
+             "Turns the wheel of the picker at a point of the screen by so many rows, as the wheel "
+             "of a mouse or a key does, or moves the slider there down by as many twentieths.",
+             scroll});
 }
 
 }  // namespace sim

@@ -1,0 +1,147 @@
+#include "simulator/drawing/Accessibility.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+
+#include "objc/Message.h"
+#include "simulator/foundation/Kind.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/uikit/Touch.h"
+#include "simulator/uikit/UIButton.h"
+#include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/UIDatePicker.h"
+#include "simulator/uikit/UIImage.h"
+#include "simulator/uikit/UIImageView.h"
+#include "simulator/uikit/UILabel.h"
+#include "simulator/uikit/UIPickerColumnView.h"
+#include "simulator/uikit/UISlider.h"
+#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/ViewTree.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+// "hourglassStartIcon" becomes "Hourglass start", "MRUNowPlayingRoutingButton" "Routing": what a
+// name says beyond what every name of its kind says.
+std::string inWords(std::string_view name) {
+  for (const std::string_view common : {"MRUNowPlaying", "MRU", "UI", "CC", "nb"})
+    if (name.starts_with(common)) {
+      name.remove_prefix(common.size());
+      break;
+    }
+  for (const std::string_view common : {"Icon", "Button", "View"})
+    if (name.size() > common.size() && name.ends_with(common)) name.remove_suffix(common.size());
+  std::string words;
+  for (const char letter : name) {
+    const auto byte = static_cast<unsigned char>(letter);
+    if (std::isupper(byte) && !words.empty()) words += ' ';
+    words += char(words.empty() ? std::toupper(byte) : std::tolower(byte));
+  }
+  return words;
+}
+
+// "/var/…/backIcon@3x.png" gives "backIcon".
+std::string_view nameOfFile(std::string_view path) {
+  path.remove_prefix(path.find_last_of('/') + 1);
+  return path.substr(0, path.find_first_of("@."));
+}
+
+std::string nameOfImage(Object view) {
+  if (const UIImageView* shown = stateOf<UIImageView>(view))
+    if (const UIImage* image = stateOf<UIImage>(shown->image))
+      return inWords(nameOfFile(image->file));
+  for (const auto& child : UIView::of(view).children)
+    if (std::string name = nameOfImage(child.get()); !name.empty()) return name;
+  return {};
+}
+
+// What the view, or the first label in it that is seen, says.
+std::string textIn(Object view) {
+  if (UIView::of(view).isHidden() || UIView::of(view).alpha() <= 0) return {};
+  if (const UILabel* label = stateOf<UILabel>(view); label != nullptr && label->text)
+    return text(label->text);
+  for (const auto& child : UIView::of(view).children)
+    if (std::string found = textIn(child.get()); !found.empty()) return found;
+  return {};
+}
+
+std::string labelOf(Object view) {
+  if (const Object given = UIView::of(view).accessibilityLabel) return text(given);
+  if (std::string said = textIn(view); !said.empty()) return said;
+  if (std::string name = nameOfImage(view); !name.empty()) return name;
+  // What the class is called says something of particular ones only.
+  return object_getClass(view.get()) == UIControl::cls() ? std::string()
+                                                         : inWords(object_getClassName(view.get()));
+}
+
+// A touch in its middle would be for it.
+bool isReachable(Object view) {
+  const CGRect bounds = UIView::of(view).geometry().bounds;
+  const CGPoint middle = {bounds.origin.x + bounds.size.width / 2,
+                          bounds.origin.y + bounds.size.height / 2};
+  const Object hit = viewTouchedAt(view, middle);
+  if (!hit) return false;
+  return isA<UIPickerColumnView>(view) ? isDescendant(hit, UIView::of(view).parent)
+                                       : touchIsFor(view, hit);
+}
+
+// The unit that stands on the picker beside the wheel: the first text in front of it.
+std::string unitOf(Object wheel) {
+  const auto& views = UIView::of(UIView::of(wheel).parent).children;
+  auto view = std::find_if(views.begin(), views.end(),
+                           [wheel](const auto& each) { return each.get() == wheel; });
+  while (view != views.end() && ++view != views.end() && !isA<UIPickerColumnView>(view->get()))
+    if (std::string said = textIn(view->get()); !said.empty()) return said;
+  return "Wheel";
+}
+
+scene::Accessibility wheelOf(Object view) {
+  const Object given = UIView::of(UIView::of(view).parent).accessibilityLabel;
+  return {scene::Accessibility::Role::picker, given ? text(given) : unitOf(view),
+          textIn(UIPickerColumnView::of(view).selectedCell())};
+}
+
+scene::Accessibility sliderOf(Object view) {
+  const UISlider& slider = UISlider::of(view);
+  const double range = double(slider.maximumValue) - double(slider.minimumValue);
+  const double part = range > 0 ? (double(slider.value) - double(slider.minimumValue)) / range : 0;
+  return {scene::Accessibility::Role::slider, labelOf(view),
+          std::to_string(std::lround(part * 100)) + " %"};
+}
+
+bool holdsControls(Object view) {
+  const auto& children = UIView::of(view).children;
+  return std::any_of(children.begin(), children.end(), [](const auto& child) {
+    return isA<UIControl>(child.get()) || holdsControls(child.get());
+  });
+}
+
+std::optional<scene::Accessibility> roleOf(Object view) {
+  using Role = scene::Accessibility::Role;
+  if (isA<UIPickerColumnView>(view)) return wheelOf(view);
+  if (isA<UISlider>(view)) return sliderOf(view);
+  if (!isA<UIControl>(view) || isA<UIDatePicker>(view)) return std::nullopt;
+  if ((UIControl::of(view).allControlEvents() & UIControl::touchUpInside) == 0) return std::nullopt;
+  std::string label = labelOf(view);
+  if (label.empty()) return std::nullopt;
+  return scene::Accessibility{
+      holdsControls(view) ? Role::group : Role::button, std::move(label), {}};
+}
+
+}  // namespace
+
+std::optional<scene::Accessibility> accessibilityOf(Object view) {
+  if (!view) return std::nullopt;
+  auto made = roleOf(view);
+  if (!made || !isReachable(view)) return std::nullopt;
+  if (const UIControl* control = stateOf<UIControl>(view)) {
+    made->isEnabled = control->enabled;
+    made->isSelected = control->selected;
+  }
+  return made;
+}
+
+}  // namespace sim

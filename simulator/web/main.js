@@ -1,0 +1,50 @@
+// Puts the page together.
+import { Connection } from "./server/connection.js";
+import { onRestart } from "./server/commands.js";
+import { pageId } from "./server/page.js";
+import { PhoneState } from "./server/state.js";
+import { Device } from "./phone/device.js";
+import { Handset } from "./phone/handset.js";
+import { Hint } from "./phone/hint.js";
+import { Keyboard } from "./phone/keyboard.js";
+import { Screen } from "./phone/screen.js";
+import { Touch } from "./phone/touch.js";
+import { JournalPanel } from "./journal/panel.js";
+import { MusicPanel } from "./player/panel.js";
+import { ScriptPanel } from "./script/panel.js";
+import { SettingsPanel } from "./settings/panel.js";
+import { SetupPanel } from "./setup/panel.js";
+import { SoundFollower } from "./sound/follow.js";
+import { SoundOutput } from "./sound/output.js";
+import { SoundStart } from "./sound/start.js";
+import { TimePanel } from "./time/panel.js";
+import { byId } from "./ui/dom.js";
+import { Tabs } from "./ui/tabs.js";
+import { Veil } from "./ui/veil.js";
+
+const state = new PhoneState();
+const page = await pageId();
+
+const screen = new Screen(state);
+const device = new Device(state, screen, byId("device"));
+const handset = new Handset(state, byId("phone-stand"), screen, device);
+new Touch(state, handset, device);
+new Keyboard(handset, screen, device);
+new Hint(state, screen);
+
+new TimePanel(state);
+new MusicPanel(state);
+new JournalPanel(state);
+new SettingsPanel(state);
+new SetupPanel(state);
+new ScriptPanel(state);
+const tabs = new Tabs();
+
+export const output = new SoundOutput();
+const follower = new SoundFollower(state, page, output);
+new SoundStart(state, page, output, follower, handset.glass, byId("top-state"));
+
+const connection = new Connection(state, page);
+new Veil(connection, handset.glass);
+onRestart(() => connection.expectRestart());
+if (new URLSearchParams(location.search).has("script")) tabs.show("script");

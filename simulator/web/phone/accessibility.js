@@ -1,0 +1,23 @@
+// What a screen reader and the keyboard find on the phone's screen. The nodes say what they are;
+// they are pressed where a finger would press them.
+
+const roles = { button: "button", group: "group", slider: "slider", picker: "spinbutton" };
+
+export const turns = (role) => role === "slider" || role === "picker";
+export const presses = (role) => role === "button" || role === "group";
+
+function set(element, name, value) {
+  if (value === undefined || value === null) element.removeAttribute(name);
+  else element.setAttribute(name, value);
+}
+
+export function describe(element, { role, label, value, enabled, selected }) {
+  const known = role && roles[role];
+  element.dataset.role = role ?? "";
+  set(element, "role", known);
+  set(element, "aria-label", label);
+  set(element, "tabindex", presses(role) || turns(role) ? 0 : null);
+  set(element, "aria-valuetext", turns(role) ? value : null);
+  set(element, "aria-disabled", enabled === false ? "true" : null);
+  set(element, "aria-pressed", role === "button" && selected ? "true" : null);
+}

@@ -1,0 +1,82 @@
+// The phone's body: bezel, screen and side keys, scaled to the room there is and turned as the
+// phone is held.
+import { h } from "../ui/dom.js";
+
+const bezel = 13; // points around the screen
+const key = 4; // how far keys stick out
+const upright = { width: 390 + 2 * bezel + 2 * key, height: 844 + 2 * bezel };
+
+// How far the phone is turned clockwise. The names say where the interface's lower edge, the
+// phone's own one, has gone.
+const turns = { portrait: 0, "landscape-left": 90, "upside-down": 180, "landscape-right": -90 };
+
+export class Handset {
+  #state;
+  #stand;
+  #body;
+  #screen;
+  glass;
+  turn = 0; // degrees
+
+  constructor(state, stand, screen, device) {
+    this.#state = state;
+    this.#stand = stand;
+    this.#screen = screen;
+    this.glass = h("div", { class: "glass", id: "glass" }, screen.element, h("div", { class: "island", "aria-hidden": "true" }),
+      h("div", { class: "dark", "aria-hidden": "true" }));
+    this.#body = h("div", { class: "handset", id: "handset" }, ...device.keys, h("div", { class: "shell", "aria-hidden": "true" }), this.glass);
+    stand.append(h("div", { class: "handset-box" }, this.#body));
+    new ResizeObserver(() => this.#fit()).observe(stand);
+    for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());
+    screen.addEventListener("change", () => this.#turnContent());
+    this.#show();
+  }
+
+  get #sideways() {
+    return Math.abs(this.turn) === 90;
+  }
+
+  #show() {
+    const { orientation, screenOn, host } = this.#state.phone;
+    this.turn = turns[orientation] ?? 0;
+    this.#body.classList.toggle("off", !screenOn || host !== "running");
+    this.#fit();
+    this.#turnContent();
+  }
+
+  #fit() {
+    const width = this.#sideways ? upright.height : upright.width;
+    const height = this.#sideways ? upright.width : upright.height;
+    const room = this.#stand.getBoundingClientRect();
+    const scale = Math.max(0.2, Math.min(1.15, room.width / width, room.height / height));
+    this.#body.style.setProperty("--scale", scale);
+    this.#body.style.setProperty("--turn", `${this.turn}deg`);
+    const box = this.#body.parentElement.style;
+    box.width = `${width * scale}px`;
+    box.height = `${height * scale}px`;
+  }
+
+  // The scene comes as the interface is turned, the glass is turned with the phone.
+  #turnContent() {
+    const { width, height } = this.#screen.size;
+    const { style } = this.#screen.element;
+    style.width = `${width}px`;
+    style.height = `${height}px`;
+    const turned = width > height ? this.turn || 90 : this.turn === 180 ? 180 : 0;
+    style.transform = `translate(-50%, -50%) rotate(${-turned}deg)`;
+  }
+
+  get size() {
+    return this.#screen.size;
+  }
+
+  // A point of the interface, in its points, for one of the browser's window.
+  pointAt(clientX, clientY) {
+    const box = this.#screen.element.getBoundingClientRect();
+    const { width, height } = this.#screen.size;
+    return {
+      x: ((clientX - box.left) / box.width) * width,
+      y: ((clientY - box.top) / box.height) * height,
+    };
+  }
+}

@@ -1,0 +1,78 @@
+// The phone's screen by keyboard: Enter and the space bar press what has the focus, arrow keys turn
+// it, and a ring above everything shows where the focus is.
+import { perform } from "../server/commands.js";
+import { h } from "../ui/dom.js";
+import { presses, turns } from "./accessibility.js";
+
+const steps = { ArrowUp: -1, ArrowLeft: -1, ArrowDown: 1, ArrowRight: 1, PageUp: -5, PageDown: 5 };
+const sliderSteps = { ...steps, ArrowLeft: 1, ArrowRight: -1 }; // down is less
+
+export class Keyboard {
+  #handset;
+  #device;
+  #ring = h("div", { class: "focus-ring", hidden: true });
+
+  constructor(handset, screen, device) {
+    this.#handset = handset;
+    this.#device = device;
+    handset.glass.append(this.#ring);
+    handset.glass.addEventListener("keydown", (event) => this.#key(event));
+    handset.glass.addEventListener("click", (event) => this.#click(event));
+    handset.glass.addEventListener("focusin", () => this.#place());
+    handset.glass.addEventListener("focusout", () => this.#place());
+    screen.addEventListener("change", () => this.#place());
+  }
+
+  get #focused() {
+    const element = document.activeElement?.closest(".node[tabindex]");
+    return element && this.#handset.glass.contains(element) ? element : null;
+  }
+
+  #centre(element) {
+    const box = element.getBoundingClientRect();
+    const { x, y } = this.#handset.pointAt(box.left + box.width / 2, box.top + box.height / 2);
+    return `${x.toFixed(1)} ${y.toFixed(1)}`;
+  }
+
+  #key(event) {
+    if (event.key === "Escape") return this.#device.home();
+    const element = this.#focused;
+    if (!element || event.ctrlKey || event.metaKey || event.altKey) return;
+    const { role } = element.dataset;
+    const step = (role === "slider" ? sliderSteps : steps)[event.key];
+    if (presses(role) && (event.key === "Enter" || event.key === " ")) this.#press(element);
+    else if (turns(role) && step !== undefined) perform(`scroll ${this.#centre(element)} ${step}`);
+    else return;
+    event.preventDefault();
+  }
+
+  // Screen readers click without a pointer.
+  #click(event) {
+    const element = event.target.closest(".node[tabindex]");
+    if (element && event.detail === 0 && presses(element.dataset.role)) this.#press(element);
+  }
+
+  #press(element) {
+    const point = this.#centre(element);
+    perform(`touch began ${point}`);
+    perform(`touch ended ${point}`);
+  }
+
+  #place() {
+    const element = this.#focused;
+    this.#ring.hidden = !element || !element.matches(":focus-visible");
+    if (this.#ring.hidden) return;
+    const { glass } = this.#handset;
+    const scale = glass.getBoundingClientRect().width / glass.offsetWidth || 1;
+    const sideways = Math.abs(this.#handset.turn) === 90;
+    const ratio = sideways ? glass.getBoundingClientRect().width / glass.offsetHeight : scale;
+    const box = element.getBoundingClientRect();
+    const mid = glass.getBoundingClientRect();
+    const dx = (box.left + box.width / 2 - mid.left - mid.width / 2) / ratio;
+    const dy = (box.top + box.height / 2 - mid.top - mid.height / 2) / ratio;
+    const { style } = this.#ring;
+    style.width = `${box.width / ratio + 8}px`;
+    style.height = `${box.height / ratio + 8}px`;
+    style.transform = `rotate(${-this.#handset.turn}deg) translate(${dx}px, ${dy}px) translate(-50%, -50%)`;
+  }
+}

@@ -1,0 +1,106 @@
+// What plays, and the list of all that could.
+import { read } from "../server/requests.js";
+import { perform } from "../server/commands.js";
+import { byId, h } from "../ui/dom.js";
+import { duration } from "../ui/format.js";
+import { icon } from "../ui/icons.js";
+import { toast } from "../ui/toast.js";
+import { MusicList } from "./list.js";
+
+export class MusicPanel {
+  #state;
+  #parts = {};
+  #list;
+
+  constructor(state) {
+    this.#state = state;
+    byId("panel-music").append(this.#makePlayer(), this.#makeListPlace());
+    this.#list = new MusicList(state, byId("tracks"));
+    for (const name of ["player", "snapshot"]) state.on(name, () => this.#show());
+    this.#load();
+    setInterval(() => this.#showPosition(), 250);
+  }
+
+  async #load() {
+    try {
+      this.#list.fill(await read("/music"));
+    } catch (error) {
+      toast(error.message, "problem");
+    }
+  }
+
+  #button(name, label, line) {
+    return h("button", { class: `round ${name}`, type: "button", "aria-label": label, onclick: () => perform(line()) }, icon(name));
+  }
+
+  #makePlayer() {
+    const p = this.#parts;
+    p.cover = h("div", { class: "cover" }, icon("music"));
+    p.title = h("p", { class: "track-title" });
+    p.artist = h("p", { class: "track-artist" });
+    p.seek = h("input", { type: "range", class: "seek", min: 0, max: 1, step: 1, value: 0, "aria-label": "Position in the track",
+      onchange: () => perform(`seek ${p.seek.value}`) });
+    p.at = h("span", { class: "at" });
+    p.left = h("span", { class: "left" });
+    p.toggle = h("button", { class: "round toggle", id: "play-pause", type: "button",
+      onclick: () => perform(this.#state.player?.playing ? "pause" : "play") });
+    p.volume = h("input", { type: "range", class: "volume", id: "volume", min: 0, max: 1, step: 0.01, value: 0, "aria-label": "Volume",
+      oninput: () => this.#turn(p.volume.value) });
+    return h("div", { class: "now-playing" },
+      h("div", { class: "now-line" }, p.cover, h("div", { class: "now-words" }, p.title, p.artist)),
+      h("div", { class: "seek-line" }, p.seek, h("div", { class: "seek-times" }, p.at, p.left)),
+      h("div", { class: "transport" }, this.#button("previous", "Previous track", () => "previous-track"), p.toggle,
+        this.#button("next", "Next track", () => "next-track")),
+      h("label", { class: "volume-line" }, icon("sound"), p.volume));
+  }
+
+  #makeListPlace() {
+    return h("div", { class: "track-list" }, h("h2", { text: "Music" }), h("ol", { id: "tracks", class: "tracks" }));
+  }
+
+  // One request at a time: a slider speaks faster than it matters.
+  #turning = false;
+  async #turn(level) {
+    if (this.#turning) return;
+    this.#turning = true;
+    await perform(`volume ${level}`);
+    this.#turning = false;
+    if (document.activeElement === this.#parts.volume && this.#parts.volume.value !== level) this.#turn(this.#parts.volume.value);
+  }
+
+  #show() {
+    const { player } = this.#state;
+    const p = this.#parts;
+    p.title.textContent = player?.title ?? "Nothing is playing";
+    p.artist.textContent = [player?.artist, player?.album].filter(Boolean).join(" — ");
+    p.toggle.replaceChildren(icon(player?.playing ? "pause" : "play"));
+    p.toggle.setAttribute("aria-label", player?.playing ? "Pause" : "Play");
+    p.seek.max = Math.max(1, Math.floor(player?.length ?? 1));
+    p.seek.disabled = !player?.length;
+    if (!p.volume.matches(":active")) p.volume.value = player?.volume ?? 0;
+    p.volume.style.setProperty("--part", player?.volume ?? 0);
+    this.#showCover(player?.file ?? null);
+    this.#list.show();
+    this.#showPosition();
+  }
+
+  #showCover(file) {
+    const { cover } = this.#parts;
+    const known = file !== null && this.#list.hasCover(file);
+    const source = known ? `/cover/${encodeURIComponent(file)}` : "";
+    if (cover.dataset.source === source) return;
+    cover.dataset.source = source;
+    cover.replaceChildren(known ? h("img", { src: source, alt: "" }) : icon("music"));
+  }
+
+  #showPosition() {
+    const { player } = this.#state;
+    const position = this.#state.position();
+    const p = this.#parts;
+    const known = position !== null && player?.length;
+    if (!p.seek.matches(":active")) p.seek.value = known ? position : 0;
+    p.seek.style.setProperty("--part", known ? position / player.length : 0);
+    p.at.textContent = known ? duration(position) : "";
+    p.left.textContent = known ? `-${duration(player.length - position)}` : "";
+  }
+}

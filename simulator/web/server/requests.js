@@ -1,0 +1,36 @@
+// What the page asks of the server. A refusal is an Error with the server's own words.
+
+export class Refusal extends Error {
+  constructor(status, body) {
+    super(body.error ?? `The server answered ${status}.`);
+    this.status = status;
+    this.body = body;
+  }
+}
+
+async function answered(response) {
+  const body = await response.json().catch(() => ({}));
+  if (!response.ok) throw new Refusal(response.status, body);
+  return body;
+}
+
+async function reach(path, options) {
+  try {
+    return await fetch(path, options);
+  } catch {
+    throw new Error("The simulator does not answer.");
+  }
+}
+
+export async function read(path) {
+  return answered(await reach(path));
+}
+
+export async function post(path, body = {}) {
+  const options = { method: "POST", headers: { "Content-Type": "application/json" }, body: JSON.stringify(body) };
+  return answered(await reach(path, options));
+}
+
+export async function forget(path) {
+  return answered(await reach(path, { method: "DELETE" }));
+}

@@ -1,0 +1,59 @@
+// What the server has told of the phone. Parts of the page listen to the event of the part's name;
+// its detail is what came: whole, if `event.whole`.
+
+export class PhoneState extends EventTarget {
+  epoch = null;
+  clock = { uptime: 0, wall: 0, speed: 1, paused: true };
+  clockAt = performance.now();
+  phone = { host: "off", screenOn: true, locked: false, orientation: "portrait" };
+  player = null;
+  setup = { lines: [] };
+  settings = {};
+  audio = { page: null };
+  script = null;
+  journal = [];
+
+  #tell(name, detail, whole) {
+    const event = new CustomEvent(name, { detail });
+    event.whole = whole;
+    this.dispatchEvent(event);
+  }
+
+  on(name, listener) {
+    this.addEventListener(name, listener);
+  }
+
+  take(name, data, whole = false) {
+    if (name === "clock") this.clockAt = performance.now();
+    if (name === "journal") this.journal = whole ? data : this.journal.concat(data.entries);
+    else if (name === "settings") this.settings = whole ? data : { ...this.settings, ...data };
+    else if (name !== "scene") this[name] = data;
+    this.#tell(name, name === "journal" && !whole ? data.entries : data, whole);
+  }
+
+  takeSnapshot(snapshot) {
+    const fresh = this.epoch !== snapshot.epoch;
+    this.epoch = snapshot.epoch;
+    for (const name of ["clock", "phone", "player", "setup", "settings", "audio", "script", "journal", "scene"])
+      this.take(name, snapshot[name], true);
+    this.#tell("snapshot", snapshot, fresh);
+  }
+
+  // Seconds since the phone's start, now.
+  uptime() {
+    const { uptime, speed, paused } = this.clock;
+    return paused ? uptime : uptime + ((performance.now() - this.clockAt) / 1000) * speed;
+  }
+
+  wall() {
+    return this.clock.wall + this.uptime() - this.clock.uptime;
+  }
+
+  // Seconds into the track; null without one.
+  position() {
+    const { player } = this;
+    if (!player || player.position === null || player.position === undefined) return null;
+    const moved = player.playing ? Math.max(0, this.uptime() - player.at) : 0;
+    return player.length ? Math.min(player.position + moved, player.length) : player.position + moved;
+  }
+}

@@ -1,0 +1,27 @@
+// How times are written for people.
+
+const two = (number) => String(number).padStart(2, "0");
+
+// 65 -> "1:05", 3725 -> "1:02:05"
+export function duration(seconds) {
+  const whole = Math.max(0, Math.floor(seconds));
+  const hours = Math.floor(whole / 3600);
+  const minutes = Math.floor(whole / 60) % 60;
+  return hours > 0 ? `${hours}:${two(minutes)}:${two(whole % 60)}` : `${minutes}:${two(whole % 60)}`;
+}
+
+// As the journal prints it: "1215.100"
+export const uptime = (seconds) => seconds.toFixed(3);
+
+// The phone's clock counts in its own date; it is shown in UTC, as the phone has it.
+export function clockTime(wall) {
+  const date = new Date(wall * 1000);
+  return `${two(date.getUTCHours())}:${two(date.getUTCMinutes())}`;
+}
+
+export const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
+
+export function clockDate(wall) {
+  return new Intl.DateTimeFormat("en-GB", { weekday: "long", day: "numeric", month: "long", timeZone: "UTC" })
+    .format(new Date(wall * 1000));
+}

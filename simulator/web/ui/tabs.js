@@ -1,0 +1,55 @@
+// The panels' tabs. Where there is room, music, phone and time are always to be seen and have no tab.
+import { byId, h } from "./dom.js";
+import { icon } from "./icons.js";
+
+const tabs = [
+  { name: "phone", label: "Phone", narrow: true }, { name: "music", label: "Music", narrow: true }, { name: "time", label: "Time", narrow: true },
+  { name: "journal", label: "Journal" }, { name: "settings", label: "Settings" }, { name: "setup", label: "Set-up" },
+  { name: "script", label: "Script" },
+];
+const narrow = matchMedia("(max-width: 819px)");
+const key = "dozewell.tab";
+
+export class Tabs {
+  #buttons = new Map();
+
+  constructor() {
+    for (const { name, label, narrow: only } of tabs) {
+      const button = h("button", { role: "tab", type: "button", id: `tab-${name}`, class: only ? "narrow-only" : "", "aria-controls": only && name === "phone" ? "phone" : `panel-${name}`,
+        onclick: () => this.show(name) }, icon(name), h("span", { text: label }));
+      this.#buttons.set(name, button);
+      byId("tabs").append(button);
+    }
+    byId("tabs").addEventListener("keydown", (event) => this.#arrow(event));
+    narrow.addEventListener("change", () => this.#settle());
+    this.#settle();
+  }
+
+  #visible() {
+    return tabs.filter((tab) => narrow.matches || !tab.narrow).map((tab) => tab.name);
+  }
+
+  #settle() {
+    const kept = sessionStorage.getItem(key);
+    const names = this.#visible();
+    this.show(names.includes(kept) ? kept : narrow.matches ? "phone" : "journal");
+  }
+
+  show(name) {
+    sessionStorage.setItem(key, name);
+    document.body.dataset.view = name;
+    for (const [each, button] of this.#buttons) {
+      button.setAttribute("aria-selected", String(each === name));
+      button.tabIndex = each === name ? 0 : -1;
+    }
+  }
+
+  #arrow(event) {
+    const move = { ArrowRight: 1, ArrowLeft: -1 }[event.key];
+    if (move === undefined) return;
+    const names = this.#visible();
+    const next = names[(names.indexOf(document.body.dataset.view) + move + names.length) % names.length];
+    this.show(next);
+    this.#buttons.get(next).focus();
+  }
+}

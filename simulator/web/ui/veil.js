@@ -1,0 +1,29 @@
+// A calm veil over the phone while the server restarts or is gone.
+import { h } from "./dom.js";
+
+const words = {
+  connecting: ["Waking the phone…", ""],
+  restarting: ["Restarting…", "The home screen begins anew."],
+  gone: ["The simulator is not there", "Start it again with ./run — this page goes on by itself."],
+};
+
+export class Veil {
+  #connection;
+  #title = h("p", { class: "veil-title" });
+  #more = h("p", { class: "veil-more" });
+  #element = h("div", { class: "veil", id: "veil", role: "status" }, h("div", { class: "veil-moon", "aria-hidden": "true" }), this.#title, this.#more);
+
+  constructor(connection, place) {
+    this.#connection = connection;
+    place.append(this.#element);
+    connection.addEventListener("status", () => this.#show());
+    this.#show();
+  }
+
+  #show() {
+    const { status } = this.#connection;
+    this.#element.hidden = status === "open";
+    document.body.dataset.server = status;
+    [this.#title.textContent, this.#more.textContent] = words[status] ?? ["", ""];
+  }
+}

@@ -12,7 +12,6 @@ import socket
 import statistics
 import subprocess
 import sys
-import tempfile
 import time
 
 TOUCHES = 500
@@ -20,9 +19,9 @@ IDLE_SECONDS = 10
 
 
 class Server:
-    def __init__(self, program, music):
+    def __init__(self, program):
         self.process = subprocess.Popen(
-            [program, "serve", "--port", "0", music], stdout=subprocess.PIPE, text=True)
+            [program, "serve", "--port", "0"], stdout=subprocess.PIPE, text=True)
         self.port = int(self.process.stdout.readline().rsplit(":", 1)[1].strip("/\n"))
         self.connection = http.client.HTTPConnection("127.0.0.1", self.port)
         self.connection.connect()
@@ -124,14 +123,13 @@ def measure_touches(server, page):
 def main():
     if len(sys.argv) != 2:
         sys.exit(__doc__)
-    with tempfile.TemporaryDirectory() as music:
-        server = Server(sys.argv[1], music)
-        try:
-            page = Page(server.port)
-            measure_idle(server, page)
-            measure_touches(server, page)
-        finally:
-            server.end()
+    server = Server(sys.argv[1])
+    try:
+        page = Page(server.port)
+        measure_idle(server, page)
+        measure_touches(server, page)
+    finally:
+        server.end()
 
 
 if __name__ == "__main__":

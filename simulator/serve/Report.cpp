@@ -12,23 +12,6 @@ namespace {
 // Older entries are in GET /api/journal.
 constexpr std::size_t entriesInSnapshot = 1000;
 
-json scenesDifference(const json& before, const json& now) {
-  const json& known = before.at("nodes");
-  const json& nodes = now.at("nodes");
-  json gone = json::array();
-  for (const auto& [id, node] : known.items()) {
-    if (!nodes.contains(id)) gone.push_back(id);
-  }
-  json difference = {{"nodes", changedMembers(known, nodes)}, {"gone", std::move(gone)}};
-  if (before.at("root") != now.at("root")) difference["root"] = now.at("root");
-  return difference;
-}
-
-bool isEmpty(const json& difference) {
-  return difference.at("nodes").empty() && difference.at("gone").empty() &&
-         !difference.contains("root");
-}
-
 }  // namespace
 
 json changedMembers(const json& before, const json& now) {
@@ -78,11 +61,7 @@ void Report::tellJournal(const Watchers& watchers) {
 }
 
 void Report::tellScene(const Watchers& watchers) {
-  Json now = scene_->scene();
-  Json difference = scenesDifference(sceneKnown_, now);
-  if (isEmpty(difference)) return;
-  watchers.send("scene", difference);
-  sceneKnown_ = std::move(now);
+  if (const Json changes = scene_.changes(); !changes.is_null()) watchers.send("scene", changes);
 }
 
 json Report::snapshot() {
@@ -94,8 +73,7 @@ json Report::snapshot() {
   }
   journalKnown_ = journal_.entries().size();
   whole["journal"] = entriesFrom(journalKnown_ - std::min(journalKnown_, entriesInSnapshot));
-  sceneKnown_ = scene_->scene();
-  whole["scene"] = sceneKnown_;
+  whole["scene"] = scene_.whole();
   return whole;
 }
 

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
@@ -19,8 +18,7 @@ class Report {
  public:
   using Json = nlohmann::json;
 
-  Report(const Journal& journal, std::unique_ptr<SceneSource> scene)
-      : journal_(journal), scene_(std::move(scene)) {}
+  explicit Report(const Journal& journal) : journal_(journal) {}
 
   // Sent whole when it differs.
   void addPart(const std::string& name, std::function<Json()> whole);
@@ -35,7 +33,7 @@ class Report {
   // Takes the present state for known to everybody; its whole, as an event's data.
   Json snapshot();
 
-  bool isAnimating() const { return scene_->isAnimating(); }
+  bool isAnimating() const { return scene_.isAnimating(); }
 
  private:
   enum class Way { whole, memberwise, onDemand };
@@ -52,10 +50,9 @@ class Report {
   Json entriesFrom(std::size_t index) const;
 
   const Journal& journal_;
-  std::unique_ptr<SceneSource> scene_;
+  SceneSource scene_;
   std::map<std::string, Part> parts_;
   std::size_t journalKnown_ = 0;
-  Json sceneKnown_;
 };
 
 // Members of `now` that are not in `before` or different there.

@@ -38,7 +38,7 @@ ServedPhone::ServedPhone(ServeState state, const MusicLibrary& library, Inbox& i
       session_(optionsOf(state_)),
       table_(allCommands()),
       player_(library),
-      report_(session_.phone.journal, drawnScene()) {
+      report_(session_.phone.journal) {
   session_.relaunch = [this](const std::filesystem::path& file) { leaveInMiddle(file); };
   session_.phone.survives("serve", {[this] { return asJson(state_); }, [](const json&) {}});
   pace_.setSpeed(state_.speed, steady_clock::now());

@@ -45,7 +45,7 @@ TEST(Timing, GoesByItself) {
 TEST(Timing, StepsToWhatIsDueNext) {
   const ServedProgram program({"--no-tweak"});
   EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 45.0);
-  program.command("playlist \"A\" 10.25 \"B\" 20");
+  program.command({"repeat-all NO", "playlist \"A\" 10.25 \"B\" 20"});
   EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 55.25);
   EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 75.25);
   const Answer answer = program.post("/api/time", {{"step", true}});

@@ -1,5 +1,7 @@
 #include "simulator/serve/http/HttpServer.h"
 
+#include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <sys/socket.h>
@@ -143,6 +145,9 @@ void HttpServer::take(int descriptor) {
     close(descriptor);
     return;
   }
+  // Events are small and wanted now: the network must not wait for more to send with them.
+  const int on = 1;
+  setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
   connections_.insert(descriptor);
   std::thread([this, descriptor] { serve(descriptor); }).detach();
 }

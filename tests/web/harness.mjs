@@ -7,7 +7,11 @@ import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, test } from "node:test";
 
-const { DOZEWELL_SIMULATOR: simulator, DOZEWELL_NODE_MODULES: modules, DOZEWELL_CHROMIUM: chromiumPath } = process.env;
+const {
+  DOZEWELL_SIMULATOR: simulator,
+  DOZEWELL_NODE_MODULES: modules,
+  DOZEWELL_CHROMIUM: chromiumPath,
+} = process.env;
 const { chromium } = createRequire(join(modules, "needed-by-tests.js"))("playwright-core");
 
 export { simulator };
@@ -42,9 +46,14 @@ export class Served {
   // Resolves when it has said where it is.
   start(...more) {
     return new Promise((resolve, reject) => {
-      this.#process = spawn(simulator, ["serve", ...this.options, ...more], { stdio: ["ignore", "pipe", "inherit"] });
+      this.#process = spawn(simulator, ["serve", ...this.options, ...more], {
+        stdio: ["ignore", "pipe", "inherit"],
+      });
       this.#ended = new Promise((ended) => this.#process.once("exit", ended));
-      const late = setTimeout(() => reject(new Error("the server did not say where it is")), startedWithin);
+      const late = setTimeout(
+        () => reject(new Error("the server did not say where it is")),
+        startedWithin,
+      );
       let said = "";
       this.#process.stdout.on("data", (bytes) => {
         said += bytes;
@@ -54,7 +63,9 @@ export class Served {
         this.address = found[0];
         resolve(this);
       });
-      this.#process.once("exit", (code) => reject(new Error(`the server ended with ${code}: ${said}`)));
+      this.#process.once("exit", (code) =>
+        reject(new Error(`the server ended with ${code}: ${said}`)),
+      );
     });
   }
 
@@ -84,7 +95,11 @@ export class Served {
   }
 
   async post(path, body) {
-    const options = { method: "POST", headers: { "Content-Type": "application/json" }, body: JSON.stringify(body) };
+    const options = {
+      method: "POST",
+      headers: { "Content-Type": "application/json" },
+      body: JSON.stringify(body),
+    };
     return JSON.parse(await this.#ask(path, options));
   }
 
@@ -106,17 +121,21 @@ export class Served {
 
 // A page on the phone, past the question for sound unless it is what is tested.
 export async function openPage(served, { path = "", silent = true, ...context } = {}) {
-  const browsing = await (await launched()).newContext({ viewport: { width: 1280, height: 860 }, ...context });
+  const browsing = await (
+    await launched()
+  ).newContext({ viewport: { width: 1280, height: 860 }, ...context });
   browsing.setDefaultTimeout(10_000);
   const page = await browsing.newPage();
   page.problems = [];
   page.on("pageerror", (error) => page.problems.push(error.message));
   // What could not be loaded is noted by its answer: while the server restarts nothing can be.
   page.on("console", (message) => {
-    if (message.type() === "error" && !message.text().startsWith("Failed to load resource")) page.problems.push(message.text());
+    if (message.type() === "error" && !message.text().startsWith("Failed to load resource"))
+      page.problems.push(message.text());
   });
   page.on("response", (response) => {
-    if (response.status() === 404 || response.status() >= 500) page.problems.push(`${response.status()} ${response.url()}`);
+    if (response.status() === 404 || response.status() >= 500)
+      page.problems.push(`${response.status()} ${response.url()}`);
   });
   await page.goto(served.address + path);
   await page.locator('body[data-server="open"]').waitFor();
@@ -132,7 +151,8 @@ export function phoneTest(name, options, body) {
     try {
       const page = options.page === false ? null : await openPage(served, options.page);
       await body(served, page);
-      if (page && page.problems.length > 0) throw new Error(`the page had problems: ${page.problems.join("; ")}`);
+      if (page && page.problems.length > 0)
+        throw new Error(`the page had problems: ${page.problems.join("; ")}`);
       if (page) await page.context().close();
     } finally {
       await served.close();
@@ -144,7 +164,8 @@ export function phoneTest(name, options, body) {
 phoneTest.withoutPhone = (name, body) => test(name, body);
 
 // The element of the phone's screen with that name for screen readers.
-export const onScreen = (page, role, name) => page.locator("#glass").getByRole(role, { name, exact: true });
+export const onScreen = (page, role, name) =>
+  page.locator("#glass").getByRole(role, { name, exact: true });
 
 export const journalOf = (page) => page.locator("#entries");
 
@@ -153,12 +174,15 @@ export const pass = (served, seconds) => served.post("/api/time", { advance: sec
 
 // Until the phone's journal has that line.
 // `text` may be a part of the line.
-export const journalHas = (page, text) => page.locator("#entries code", { hasText: text }).first().waitFor({ state: "attached" });
+export const journalHas = (page, text) =>
+  page.locator("#entries code", { hasText: text }).first().waitFor({ state: "attached" });
 
 // Does something on the page, and waits until the server has answered a command that has that text.
 export async function andCommand(page, text, act) {
-  const answered = page.waitForResponse((response) =>
-    response.url().endsWith("/api/command") && response.request().postData().includes(text));
+  const answered = page.waitForResponse(
+    (response) =>
+      response.url().endsWith("/api/command") && response.request().postData().includes(text),
+  );
   await act();
   await answered;
 }

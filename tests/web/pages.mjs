@@ -15,11 +15,19 @@ phoneTest("what one page does, the other shows", {}, async (served, page) => {
   await andCommand(page, "control-center close", () => page.click("#device-home"));
 });
 
-phoneTest("a duplicated tab, which has a copy of the first one's name, takes a name of its own", {}, async (served, page) => {
-  const other = await page.context().newPage();
-  const name = await page.evaluate(() => sessionStorage.getItem("dozewell.page"));
-  await other.addInitScript((copied) => sessionStorage.getItem("dozewell.page") ?? sessionStorage.setItem("dozewell.page", copied), name);
-  await other.goto(served.address);
-  await other.locator('body[data-server="open"]').waitFor();
-  assert.notEqual(await other.evaluate(() => sessionStorage.getItem("dozewell.page")), name);
-});
+phoneTest(
+  "a duplicated tab, which has a copy of the first one's name, takes a name of its own",
+  {},
+  async (served, page) => {
+    const other = await page.context().newPage();
+    const name = await page.evaluate(() => sessionStorage.getItem("dozewell.page"));
+    await other.addInitScript(
+      (copied) =>
+        sessionStorage.getItem("dozewell.page") ?? sessionStorage.setItem("dozewell.page", copied),
+      name,
+    );
+    await other.goto(served.address);
+    await other.locator('body[data-server="open"]').waitFor();
+    assert.notEqual(await other.evaluate(() => sessionStorage.getItem("dozewell.page")), name);
+  },
+);

@@ -20,12 +20,13 @@ phoneTest("a timer is set with tab, arrows and enter", {}, async (served, page) 
   await pass(served, 1);
   await tabTo(page, onScreen(page, "spinbutton", "min"));
   assert.ok(await page.locator(".focus-ring").isVisible());
-  for (const key of ["ArrowDown", "ArrowDown", "ArrowUp"]) await andCommand(page, "scroll", () => page.keyboard.press(key));
+  for (const key of ["ArrowDown", "ArrowDown", "ArrowUp"])
+    await andCommand(page, "scroll", () => page.keyboard.press(key));
   await page.locator('#glass [aria-label="min"][aria-valuetext="10"]').waitFor();
   await tabTo(page, onScreen(page, "button", "Confirm"));
   await andCommand(page, "touch ended", () => page.keyboard.press(" "));
   await journalHas(page, 'post "DozewellDidStartNotification"');
-  assert.match(await page.locator("#announcer").textContent(), /timer set/i);
+  assert.match(await page.locator("#announcer").textContent(), /timer is set/i);
 });
 
 phoneTest("escape leaves Control Center", {}, async (served, page) => {

@@ -11,20 +11,26 @@ phoneTest("a timer is set and its end pauses the music", {}, async (served, page
   assert.ok((await served.journal()).includes('post "DozewellDidStopNotification"'));
 });
 
-phoneTest("a swipe from the upper right corner opens Control Center, one from below leaves it", {}, async (served, page) => {
-  const glass = await page.locator("#glass").boundingBox();
-  const swipe = async (fromX, fromY, toY) => {
-    await page.mouse.move(glass.x + glass.width * fromX, glass.y + glass.height * fromY);
-    await page.mouse.down();
-    await page.mouse.move(glass.x + glass.width * fromX, glass.y + glass.height * toY, { steps: 5 });
-    await page.mouse.up();
-  };
-  await swipe(0.9, 0.01, 0.4);
-  await journalHas(page, "user control-center open");
-  await page.locator('#device-controls[aria-pressed="true"]').waitFor();
-  await swipe(0.5, 0.985, 0.5);
-  await journalHas(page, "user control-center close");
-});
+phoneTest(
+  "a swipe from the upper right corner opens Control Center, one from below leaves it",
+  {},
+  async (served, page) => {
+    const glass = await page.locator("#glass").boundingBox();
+    const swipe = async (fromX, fromY, toY) => {
+      await page.mouse.move(glass.x + glass.width * fromX, glass.y + glass.height * fromY);
+      await page.mouse.down();
+      await page.mouse.move(glass.x + glass.width * fromX, glass.y + glass.height * toY, {
+        steps: 5,
+      });
+      await page.mouse.up();
+    };
+    await swipe(0.9, 0.01, 0.4);
+    await journalHas(page, "user control-center open");
+    await page.locator('#device-controls[aria-pressed="true"]').waitFor();
+    await swipe(0.5, 0.985, 0.5);
+    await journalHas(page, "user control-center close");
+  },
+);
 
 phoneTest("a drag turns the wheels one to one", {}, async (served, page) => {
   await openPanel(served, page);
@@ -43,7 +49,9 @@ phoneTest("the wheel of the mouse turns the wheel under it", {}, async (served, 
   await openPanel(served, page);
   await onScreen(page, "spinbutton", "hours").hover();
   await page.mouse.wheel(0, 80);
-  await page.locator('#glass [role="spinbutton"][aria-label="hours"][aria-valuetext="2"]').waitFor();
+  await page
+    .locator('#glass [role="spinbutton"][aria-label="hours"][aria-valuetext="2"]')
+    .waitFor();
   await press(page, onScreen(page, "button", "Confirm"));
   await journalHas(page, "persistedTimerDate");
   const { uptime, wall } = await served.post("/api/time", { beforeEnd: 10 });

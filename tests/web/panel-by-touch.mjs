@@ -6,10 +6,13 @@ const small = { page: { viewport: { width: 375, height: 740 }, hasTouch: true, i
 // A finger's way from the browser itself, not made by the page.
 async function drag(page, from, to) {
   const client = await page.context().newCDPSession(page);
-  const touch = (type, points) => client.send("Input.dispatchTouchEvent", { type, touchPoints: points });
+  const touch = (type, points) =>
+    client.send("Input.dispatchTouchEvent", { type, touchPoints: points });
   await touch("touchStart", [from]);
   for (const part of [0.25, 0.5, 0.75, 1])
-    await touch("touchMove", [{ x: from.x + (to.x - from.x) * part, y: from.y + (to.y - from.y) * part }]);
+    await touch("touchMove", [
+      { x: from.x + (to.x - from.x) * part, y: from.y + (to.y - from.y) * part },
+    ]);
   await andCommand(page, "touch ended", () => touch("touchEnd", []));
 }
 
@@ -29,14 +32,19 @@ phoneTest("a finger opens the panel, turns a wheel and confirms", small, async (
   await journalHas(page, 'post "DozewellDidStartNotification"');
 });
 
-phoneTest("a tap on a row beside the chosen one turns the wheel to it", small, async (served, page) => {
-  await andCommand(page, "control-center open", () => page.tap("#device-controls"));
-  await pass(served, 1);
-  await tap(page, onScreen(page, "button", "Dozewell"));
-  await pass(served, 1);
-  const box = await onScreen(page, "spinbutton", "hours").boundingBox();
-  await andCommand(page, "touch ended", () =>
-    page.touchscreen.tap(box.x + box.width / 2, box.y + box.height / 2 + (32 / 200) * box.height));
-  await pass(served, 3);
-  await page.locator('#glass [aria-label="hour"][aria-valuetext="1"]').waitFor();
-});
+phoneTest(
+  "a tap on a row beside the chosen one turns the wheel to it",
+  small,
+  async (served, page) => {
+    await andCommand(page, "control-center open", () => page.tap("#device-controls"));
+    await pass(served, 1);
+    await tap(page, onScreen(page, "button", "Dozewell"));
+    await pass(served, 1);
+    const box = await onScreen(page, "spinbutton", "hours").boundingBox();
+    await andCommand(page, "touch ended", () =>
+      page.touchscreen.tap(box.x + box.width / 2, box.y + box.height / 2 + (32 / 200) * box.height),
+    );
+    await pass(served, 3);
+    await page.locator('#glass [aria-label="hour"][aria-valuetext="1"]').waitFor();
+  },
+);

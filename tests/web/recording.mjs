@@ -1,7 +1,16 @@
 // What is done by hand is a script: played headless it gives the same journal.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
-import { andCommand, journalHas, onScreen, openPanel, pass, phoneTest, press, simulator } from "./harness.mjs";
+import {
+  andCommand,
+  journalHas,
+  onScreen,
+  openPanel,
+  pass,
+  phoneTest,
+  press,
+  simulator,
+} from "./harness.mjs";
 
 // Addresses of objects differ from process to process; the time stands in a column before each line.
 const plain = (line) => line.replace(/0x[0-9a-f]+/g, "0x");
@@ -22,10 +31,15 @@ phoneTest("a night by hand, replayed", {}, async (served, page) => {
   await pass(served, 4000);
   await journalHas(page, "-[SBMediaController pause]");
 
-  const [download] = await Promise.all([page.waitForEvent("download"), page.click("#download-recording")]);
+  const [download] = await Promise.all([
+    page.waitForEvent("download"),
+    page.click("#download-recording"),
+  ]);
   const file = `${served.folder}/recording.phone`;
   await download.saveAs(file);
-  const replayed = execFileSync(simulator, ["play", file], { encoding: "utf8" }).trimEnd().split("\n")
+  const replayed = execFileSync(simulator, ["play", file], { encoding: "utf8" })
+    .trimEnd()
+    .split("\n")
     .map((line) => plain(line.replace(/^ *[\d.]+ {2}/, "")));
   assert.deepEqual(replayed, (await served.journal()).map(plain));
 });

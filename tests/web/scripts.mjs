@@ -27,6 +27,16 @@ phoneTest("a script is played line by line up to the line that fails", {}, async
   await page.locator(".script-empty").waitFor();
 });
 
+phoneTest("what was done is opened as a script, by its address", {}, async (served, page) => {
+  await served.run("volume 0.7", "advance 5s");
+  await page.goto(`${served.address}?script=/api/recording.phone`);
+  await page.locator(".script-status", { hasText: "recording.phone: Ready" }).waitFor();
+  await page.locator("#script-text code", { hasText: "volume 0.7" }).waitFor();
+  await page.click("#script-run");
+  await page.locator(".script-status", { hasText: "to its end" }).waitFor();
+  assert.ok((await served.journal()).includes("user volume 0.7"));
+});
+
 phoneTest("a line typed by hand is done, and a wrong one explained", {}, async (served, page) => {
   await page.click("#tab-script");
   await page.fill("#command-line", "get UIDevice.currentDevice.systemVersion");

@@ -2,8 +2,11 @@
 import assert from "node:assert/strict";
 import { journalHas, openPanel, onScreen, phoneTest, press } from "./harness.mjs";
 
-const timeAnswer = (page, act) => Promise.all([page.waitForResponse((response) => response.url().endsWith("/api/time")), act()])
-  .then(([response]) => response.json());
+const timeAnswer = (page, act) =>
+  Promise.all([
+    page.waitForResponse((response) => response.url().endsWith("/api/time")),
+    act(),
+  ]).then(([response]) => response.json());
 
 phoneTest("time runs, stands and jumps as it is told", {}, async (served, page) => {
   await page.locator("#panel-time.stands").waitFor();
@@ -33,7 +36,11 @@ phoneTest("ten seconds before the end, then event by event", {}, async (served, 
   assert.fail("the fade did not begin");
 });
 
-phoneTest("there is no end to go to without a timer, and the page says so", {}, async (served, page) => {
-  await timeAnswer(page, () => page.click("#time-end"));
-  await page.locator(".toast.problem").waitFor();
-});
+phoneTest(
+  "there is no end to go to without a timer, and the page says so",
+  {},
+  async (served, page) => {
+    await timeAnswer(page, () => page.click("#time-end"));
+    await page.locator(".toast.problem").waitFor();
+  },
+);

@@ -1,6 +1,15 @@
 // usage: pictures.mjs FOLDER, with the environment of the browser tests: takes the README's pictures.
 import { join } from "node:path";
-import { andCommand, closeBrowser, journalHas, onScreen, openPage, pass, press, Served } from "../harness.mjs";
+import {
+  andCommand,
+  closeBrowser,
+  journalHas,
+  onScreen,
+  openPage,
+  pass,
+  press,
+  Served,
+} from "../harness.mjs";
 
 const folder = process.argv[2];
 const wide = { viewport: { width: 1440, height: 900 } };
@@ -11,7 +20,12 @@ async function take(page, name, options = {}) {
   await page.evaluate(async () => {
     await document.fonts.ready;
     await Promise.all([...document.images].map((image) => image.decode().catch(() => {})));
-    await Promise.all(document.getAnimations().filter((each) => each.effect.getComputedTiming().endTime !== Infinity).map((each) => each.finished));
+    await Promise.all(
+      document
+        .getAnimations()
+        .filter((each) => each.effect.getComputedTiming().endTime !== Infinity)
+        .map((each) => each.finished),
+    );
   });
   await page.screenshot({ path: join(folder, `${name}.png`), ...options });
 }
@@ -39,7 +53,8 @@ async function openPanel(served, page) {
 
 async function turnMinutes(served, page, rows) {
   await onScreen(page, "spinbutton", "min").focus();
-  for (let row = 0; row < rows; ++row) await andCommand(page, "scroll", () => page.keyboard.press("ArrowDown"));
+  for (let row = 0; row < rows; ++row)
+    await andCommand(page, "scroll", () => page.keyboard.press("ArrowDown"));
   await page.evaluate(() => document.activeElement.blur());
   await pass(served, 1);
 }
@@ -65,9 +80,12 @@ await withPhone({ ...wide, colorScheme: "light" }, async (served, page) => {
   await take(page, "settings");
 });
 
-await withPhone({ viewport: { width: 375, height: 740 }, colorScheme: "dark", deviceScaleFactor: 2 }, async (served, page) => {
-  await openPanel(served, page);
-  await take(page, "narrow");
-});
+await withPhone(
+  { viewport: { width: 375, height: 740 }, colorScheme: "dark", deviceScaleFactor: 2 },
+  async (served, page) => {
+    await openPanel(served, page);
+    await take(page, "narrow");
+  },
+);
 
 await closeBrowser();

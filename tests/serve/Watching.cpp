@@ -25,6 +25,7 @@ TEST(Watching, BeginsWithEverything) {
   EXPECT_EQ(all.at("phone"), (json{{"host", "running"},
                                    {"screenOn", true},
                                    {"locked", false},
+                                   {"controlCenter", false},
                                    {"orientation", "portrait"}}));
   EXPECT_EQ(all.at("settings").size(), 24u);
   EXPECT_TRUE(all.at("scene").at("nodes").contains(all.at("scene").at("root")));

@@ -1,11 +1,18 @@
 // What is done by hand is a script: played headless, it has the same journal.
 #include <gtest/gtest.h>
 
+#include <regex>
+
 #include "tests/serve/EventReader.h"
 #include "tests/serve/ServedProgram.h"
 
 namespace sim {
 namespace {
+
+// Descriptions of objects that are logged have them: another process, other addresses.
+std::string withoutAddresses(const std::string& journal) {
+  return std::regex_replace(journal, std::regex("0x[0-9a-f]+"), "0x");
+}
 
 TEST(Recordings, HoldWhatWasDoneAndWhen) {
   const ServedProgram program;
@@ -45,7 +52,8 @@ TEST(Recordings, PlayHeadlessWithTheSameJournal) {
   program.command({"volume 0.1", "respring", "unlock"});
   const std::string journal = program.journal();
   EXPECT_NE(journal.find("-[SBMediaController pause]"), std::string::npos);
-  EXPECT_EQ(playHeadless(program.get("/api/recording.phone").body), journal);
+  const std::string again = playHeadless(program.get("/api/recording.phone").body);
+  EXPECT_EQ(withoutAddresses(again), withoutAddresses(journal));
 }
 
 TEST(Recordings, BeginWithTheMusic) {

@@ -52,8 +52,9 @@ void SBHomeScreenView::layoutSubviews() {
   for (std::size_t i = 0; i < icons.size(); ++i) {
     const double x = columnX(i % columns, size.width);
     const bool isInDock = i >= homeIconCount;
+    const std::size_t row = i / columns;
     const double y = isInDock ? dockTop + (dockHeight - iconSize) / 2
-                              : std::min(top, size.height / 11) + rowHeight * double(i / columns);
+                              : std::min(top, size.height / 11) + rowHeight * double(row);
     setFrame(icons[i], {{x, y}, {iconSize, iconSize}});
     if (!isInDock)
       setFrame(titles[i],

@@ -40,7 +40,8 @@ void openControlCenter() {
   objc::send<void, "setWindowLevel:">(shown, windowLevel);
   objc::send<void, "_setBackdropBlur:">(objc::send<Object, "layer">(shown), backdropBlur);
   objc::send<void, "setRootViewController:">(shown, overlay.get());
-  objc::send<void, "setHidden:">(shown, false);
+  // Key, so that what is presented over everything lies over Control Center, too.
+  objc::send<void, "makeKeyAndVisible">(shown);
 }
 
 void closeControlCenter() {

@@ -3,10 +3,14 @@
 namespace sim {
 namespace {
 
-constexpr long fill = 0, fillEqually = 1, fillProportionally = 2, equalSpacing = 3,
-               equalCentering = 4;
-constexpr long alignFill = 0, alignLeading = 1, alignFirstBaseline = 2, alignCenter = 3,
-               alignTrailing = 4;
+enum Distribution : long { fill, fillEqually, fillProportionally, equalSpacing, equalCentering };
+enum Alignment : long {
+  alignFill,
+  alignLeading,
+  alignFirstBaseline,
+  alignCenter,
+  alignTrailing
+};
 
 // Three views of 30, 60 and 10 points in a row of 200, 10 apart.
 class Stacks : public LayoutTest {

@@ -73,11 +73,12 @@ def source(name, path, blocks):
                          subsequent_indent="    ")
     ranges = ", ".join(f"{{{first:#x}, {last:#x}}}" for first, last in blocks)
     listed = textwrap.fill(ranges, width=100, initial_indent="    ", subsequent_indent="    ")
+    none = "constexpr std::uint16_t none = FontTable::none;\n" if "none" in numbers else ""
     return (f"// Written by scripts/font-widths.py from {path.name}.\n"
             "#include \"simulator/coretext/FontTable.h\"\n\n"
             "namespace sim {\nnamespace {\n\n"
             "// clang-format off\n"
-            "constexpr std::uint16_t none = FontTable::none;\n"
+            f"{none}"
             f"constexpr FontTable::Block blocks[] = {{\n{listed}}};\n"
             f"constexpr std::uint16_t advances[] = {{\n{body}}};\n"
             "// clang-format on\n\n"

@@ -16,9 +16,11 @@ wanted() {
     done
 }
 
+# Node.js from elsewhere brings its npm along, and cannot be there together with the package of it.
 installed() {
     dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' |
         awk '$2 == "installed" { print $1 }'
+    ! command -v npm >/dev/null || echo npm
 }
 
 if ! command -v apt-get >/dev/null; then

@@ -3,6 +3,7 @@
 #include "simulator/StandIn.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/ControlCenter.h"
+#include "simulator/controlcenter/ModuleSymbols.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/uikit/ViewBuilding.h"
 
@@ -30,29 +31,54 @@ objc::Strong<Object> makeContainer() {
       module.get()));
 }
 
-void addCircle(Object tile, CGPoint origin, double size, Object color) {
+void addCircle(Object tile, CGPoint origin, Object color, ModuleSymbol symbol) {
+  constexpr double size = 54;
   const auto circle = addView(tile, "UIView");
   setFrame(circle, {origin, {size, size}});
   fill(circle, color, size / 2);
+  addModuleSymbol(circle, symbol, {size / 2, size / 2}, whiteColor(1));
 }
 
-// Airplane mode, mobile data, Wi-Fi and Bluetooth.
 void addRadios(Object tile) {
-  constexpr double size = 54, left = 15, right = 84;
-  addCircle(tile, {left, left}, size, whiteColor(0.15));
-  addCircle(tile, {right, left}, size, rgbColor(0.2, 0.78, 0.35));
-  addCircle(tile, {left, right}, size, rgbColor(0.04, 0.52, 1));
-  addCircle(tile, {right, right}, size, rgbColor(0.04, 0.52, 1));
+  constexpr double left = 15, right = 84;
+  addCircle(tile, {left, left}, whiteColor(0.15), ModuleSymbol::airplane);
+  addCircle(tile, {right, left}, rgbColor(0.2, 0.78, 0.35), ModuleSymbol::mobileData);
+  addCircle(tile, {left, right}, rgbColor(0.04, 0.52, 1), ModuleSymbol::wifi);
+  addCircle(tile, {right, right}, rgbColor(0.04, 0.52, 1), ModuleSymbol::bluetooth);
 }
 
-void decorate(Object tile, ModuleKind kind, CGSize size) {
-  if (kind == ModuleKind::connectivity) return addRadios(tile);
-  if (kind == ModuleKind::slider) {
-    const auto level = addView(tile, "UIView");
-    setFrame(level, {{0, size.height / 2}, {size.width, size.height / 2}});
-    return fill(level, whiteColor(0.9));
+void addLevel(Object tile, ModuleSymbol symbol, CGSize size) {
+  const auto level = addView(tile, "UIView");
+  setFrame(level, {{0, size.height / 2}, {size.width, size.height / 2}});
+  fill(level, whiteColor(0.9));
+  addModuleSymbol(tile, symbol, {size.width / 2, size.height - 30}, rgbColor(0.4, 0.4, 0.43));
+}
+
+void addFocus(Object tile, CGSize size) {
+  const double middle = size.height / 2;
+  const auto circle = addView(tile, "UIView");
+  setFrame(circle, {{15, middle - 20}, {40, 40}});
+  fill(circle, whiteColor(0.15), 20);
+  addModuleSymbol(circle, ModuleSymbol::focus, {20, 20}, whiteColor(1));
+  const auto title = addLabel(tile, {.points = 15, .isBold = true});
+  setText(title, string("Focus"));
+  setFrame(title, {{65, middle - 10}, {size.width - 75, 20}});
+}
+
+void decorate(Object tile, const ModulePlace& place, CGSize size) {
+  const auto symbol = ModuleSymbol(&place - modulePlaces().data());
+  switch (place.kind) {
+    case ModuleKind::connectivity:
+      return addRadios(tile);
+    case ModuleKind::slider:
+      return addLevel(tile, symbol, size);
+    case ModuleKind::wide:
+      return addFocus(tile, size);
+    case ModuleKind::button:
+      return addModuleSymbol(tile, symbol, {size.width / 2, size.height / 2}, whiteColor(1));
+    case ModuleKind::media:
+      return;
   }
-  addCircle(tile, {20, 20}, size.height - 40, whiteColor(0.85));
 }
 
 }  // namespace
@@ -73,7 +99,7 @@ void Overlay::addTile(const ModulePlace& place) {
   const ModuleGrid grid(sizeOf(viewOf(Object(self()))));
   fill(tile, tileColor(), tileRadius);
   objc::send<void, "setClipsToBounds:">(tile.get(), true);
-  decorate(tile, place.kind, grid.frame(place).size);
+  decorate(tile, place, grid.frame(place).size);
   tiles.push_back(std::move(tile));
 }
 

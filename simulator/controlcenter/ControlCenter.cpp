@@ -9,6 +9,7 @@
 #include "simulator/controlcenter/CCUICAPackageView.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
+#include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Values.h"
 
 namespace sim {
@@ -17,6 +18,7 @@ namespace {
 using objc::Object;
 
 constexpr double windowLevel = 1090;  // above the lock screen, below alerts
+constexpr double backdropBlur = 20;   // points
 
 Object shown;  // UIWindow; owned, nil while Control Center is closed
 
@@ -27,6 +29,7 @@ void registerControlCenter() {
   CCUICAPackageView::registerClass();
   CCUIContentModuleContainerViewController::registerClass();
   CCUIModularControlCenterOverlayViewController::registerClass();
+  LockScreen::current().whenLocked(closeControlCenter);
 }
 
 void openControlCenter() {
@@ -35,6 +38,7 @@ void openControlCenter() {
   const auto overlay = objc::adopt(Object(objc_alloc_init(overlayClass)));
   shown = objc::send<Object, "new">(objc_getClass("UIWindow"));
   objc::send<void, "setWindowLevel:">(shown, windowLevel);
+  objc::send<void, "_setBackdropBlur:">(objc::send<Object, "layer">(shown), backdropBlur);
   objc::send<void, "setRootViewController:">(shown, overlay.get());
   objc::send<void, "setHidden:">(shown, false);
 }

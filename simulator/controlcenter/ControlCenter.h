@@ -14,7 +14,7 @@ inline constexpr std::string_view nowPlayingModule =
 // Over everything but alerts, with controllers of its own each time; they go when it is closed.
 // Nothing happens when it is open (closed) already, or where its classes are missing.
 void openControlCenter();
-// An expanded module collapses first.
+// An expanded module collapses first. Locking the phone does the same.
 void closeControlCenter();
 // CCUIModularControlCenterOverlayViewController; nil while Control Center is closed.
 objc::Object openedControlCenter();

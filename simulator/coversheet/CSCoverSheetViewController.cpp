@@ -1,9 +1,7 @@
 #include "simulator/coversheet/CSCoverSheetViewController.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdio>
 #include <utility>
 
 #include "simulator/StandIn.h"
@@ -11,6 +9,8 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
+#include "simulator/springboard/ClockText.h"
+#include "simulator/springboard/Shapes.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {
@@ -31,12 +31,26 @@ void nowPlayingInfoDidChange(Object self, Object) {
   Controller::of(self).updateMediaControls();
 }
 
-Object clockTime(double wall) {
-  constexpr double day = 86400;
-  const long minute = long(std::floor((wall - std::floor(wall / day) * day) / 60));
-  std::array<char, 16> text;
-  std::snprintf(text.data(), text.size(), "%ld:%02ld", minute / 60, minute % 60);
-  return string(text.data());
+constexpr CGSize padlockSize = {18, 26};  // points
+
+void drawPadlock(Object layer) {
+  addShapeLayer(layer, "R 0 11 18 14 3", {coreColor({255, 255, 255}), nullptr});
+  addShapeLayer(layer, "M 4 12 L 4 7 C 4 -0.5 14 -0.5 14 7 L 14 12",
+                {nullptr, coreColor({255, 255, 255}), 2});
+}
+
+Object light(double points) {
+  constexpr double weight = -0.4;
+  return objc::send<Object, "systemFontOfSize:weight:">(objc_getClass("UIFont"), points, weight);
+}
+
+// "1:05:09", or "5:09" for less than an hour.
+std::string countdownText(double secondsLeft) {
+  const long left = std::lround(std::ceil(secondsLeft));
+  const auto twoDigits = [](long value) { return (value < 10 ? "0" : "") + std::to_string(value); };
+  const std::string seconds = twoDigits(left % 60);
+  if (left < 3600) return std::to_string(left / 60) + ':' + seconds;
+  return std::to_string(left / 3600) + ':' + twoDigits(left / 60 % 60) + ':' + seconds;
 }
 
 }  // namespace
@@ -45,8 +59,13 @@ void Controller::viewDidLoad() {
   constexpr long centred = 1;
   super<void, "viewDidLoad">();
   const Object view = viewOf(Object(self()));
-  fill(view, rgbColor(0.07, 0.09, 0.2));
-  timeLabel = addLabel(view, {.points = 76, .alignment = centred});
+  wallpaper = addView(view, "SBFWallpaperView");
+  fill(view, blackColor(1));
+  padlock = addView(view, "UIView");
+  drawPadlock(objc::send<Object, "layer">(padlock.get()));
+  timeLabel = addLabel(view, {.points = 80, .alignment = centred});
+  objc::send<void, "setFont:">(timeLabel.get(), light(80));
+  countdownLabel = addLabel(view, {.points = 17, .alignment = centred});
   objc::send<void, "addSubview:">(view, dateView.get());
 }
 
@@ -86,9 +105,12 @@ void Controller::viewWillLayoutSubviews() {
   constexpr double top = 70, clockHeight = 92, margin = 16, playerTop = 250, playerHeight = 236;
   const CGSize size = sizeOf(viewOf(Object(self())));
   const double clockTop = std::min(top, size.height / 8);
+  setFrame(wallpaper, {{}, size});
+  setFrame(padlock, {{(size.width - padlockSize.width) / 2, clockTop - 18}, padlockSize});
   setFrame(timeLabel, {{0, clockTop}, {size.width, clockHeight}});
   const CGSize line = sizeOf(dateView);
   setFrame(dateView, {{(size.width - line.width) / 2, clockTop + clockHeight}, line});
+  setFrame(countdownLabel, {{0, clockTop + clockHeight + line.height + 6}, {size.width, 22}});
   const double width = std::min(size.width, 390.0) - 2 * margin;
   if (mediaControlsViewController)
     setFrame(viewOf(mediaControlsViewController),
@@ -100,7 +122,7 @@ void Controller::showTime() {
   stopClock();
   Phone& phone = Phone::current();
   const double wall = phone.clock.wall();
-  setText(timeLabel, clockTime(wall));
+  setText(timeLabel, string(clockText(wall, phone.setup.locale)));
   // The line below may have changed its length meanwhile.
   objc::send<void, "setNeedsLayout">(viewOf(Object(self())));
   const double untilNext = (std::floor(wall / 60) + 1) * 60 - wall;
@@ -108,6 +130,10 @@ void Controller::showTime() {
     nextMinute = 0;
     showTime();
   });
+}
+
+void Controller::showCountdown(std::optional<double> secondsLeft) {
+  setText(countdownLabel, secondsLeft ? string(countdownText(*secondsLeft)) : Object());
 }
 
 void Controller::stopClock() {

@@ -9,6 +9,8 @@
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/springboard/StatusBar.h"
+#include "simulator/uikit/Looking.h"
 
 namespace sim {
 namespace {
@@ -27,6 +29,7 @@ LockScreen& LockScreen::current() {
 
 void LockScreen::lock() {
   locked_ = true;
+  for (const auto& told : told_) told();
   if (!hasParts_) makeParts();
   const double now = Phone::current().clock.wall();
   drawDate(now);
@@ -36,6 +39,7 @@ void LockScreen::lock() {
 
 void LockScreen::unlock() {
   locked_ = false;
+  setStatusBarShowsTime(true);
   const auto window = objc::adopt(std::exchange(window_, nullptr));
   objc::send<void, "setRootViewController:">(window.get(), nullptr);
   objc::send<void, "setHidden:">(window.get(), true);
@@ -50,6 +54,17 @@ void LockScreen::showCoverSheet() {
   objc::send<void, "setWindowLevel:">(window_, windowLevel);
   objc::send<void, "setRootViewController:">(window_, sheet.get());
   objc::send<void, "setHidden:">(window_, false);
+  setStatusBarShowsTime(false);
+  followCountdown();
+}
+
+// As long as the process lives: there is a cover sheet at times.
+void LockScreen::followCountdown() {
+  if (std::exchange(followsCountdown_, true)) return;
+  beforeLooking([this] {
+    if (const objc::Object sheet = coverSheet())
+      CSCoverSheetViewController::of(sheet).showCountdown(countdown());
+  });
 }
 
 objc::Object LockScreen::coverSheet() const {

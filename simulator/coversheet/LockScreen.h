@@ -1,8 +1,11 @@
 // The host's lock screen: makes its parts when it is first shown, and keeps its date right.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "objc/Ownership.h"
 #include "simulator/phone/MainQueue.h"
@@ -17,6 +20,8 @@ class LockScreen {
   bool isLocked() const { return locked_; }
   void lock();
   void unlock();
+  // Called whenever the phone is locked, before the lock screen is there.
+  void whenLocked(std::function<void()> told) { told_.push_back(std::move(told)); }
   // CSCoverSheetViewController; nil while the phone is not locked.
   objc::Object coverSheet() const;
 
@@ -28,16 +33,19 @@ class LockScreen {
  private:
   void makeParts();
   void showCoverSheet();
+  void followCountdown();
   // Both in seconds since the reference date.
   void drawDate(double moment);
   void redrawAt(double midnight);
 
   bool locked_ = false;
+  std::vector<std::function<void()>> told_;
   // Owned, and never given up. nil before the phone was first locked, or without the class.
   objc::Object timerController_;  // CSTimerViewController
   objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView
   objc::Object window_;           // UIWindow; owned, nil while the phone is not locked
   bool hasParts_ = false;
+  bool followsCountdown_ = false;
   MainQueue::Ticket nextDrawing_ = 0;
 };
 

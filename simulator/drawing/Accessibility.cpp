@@ -58,9 +58,9 @@ std::string nameOfImage(Object view) {
   return {};
 }
 
-// What the view, or the first label in it that is seen, says.
+// What the view, or the first label in it that is seen, says; nothing for nil.
 std::string textIn(Object view) {
-  if (UIView::of(view).isHidden() || UIView::of(view).alpha() <= 0) return {};
+  if (!view || UIView::of(view).isHidden() || UIView::of(view).alpha() <= 0) return {};
   if (const UILabel* label = stateOf<UILabel>(view); label != nullptr && label->text)
     return text(label->text);
   for (const auto& child : UIView::of(view).children)

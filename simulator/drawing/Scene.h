@@ -98,6 +98,7 @@ struct Attributes {
   CGAffineTransform toParent;  // from the bounds' coordinates into the parent's
   double opacity = 1;
   double cornerRadius = 0;
+  double backdropBlur = 0;  // how blurred the parent's earlier children are: that of a Gaussian
   bool clips = false;
   std::optional<Color> background;
   std::optional<Border> border;

@@ -4,6 +4,7 @@
 #include "simulator/drawing/NodeContent.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/uikit/Looking.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIWindow.h"
@@ -58,6 +59,7 @@ scene::Attributes attributesOf(const CALayer& layer, const LayerValues& seen, Ob
   made.toParent = toSuperlayer(seen, layer.geometry.anchorPoint);
   made.opacity = seen.opacity;
   made.cornerRadius = seen.cornerRadius;
+  made.backdropBlur = seen.backdropBlur;
   made.clips = layer.masksToBounds;
   made.background = visible(seen.backgroundColor);
   if (const auto color = sceneColor(layer.borderColor); color && layer.borderWidth > 0)
@@ -114,12 +116,14 @@ Node sceneOf(const CALayer& layer, Nanoseconds now) {
 
 Node screenScene() {
   const objc::AutoreleasePool pool;
+  prepareForLooking();
   const Nanoseconds now = Phone::current().clock.uptime();
   Node screen;
   screen.attributes.kind = "screen";
   screen.attributes.bounds = {{}, UIScreen::size()};
   screen.attributes.background = scene::Color{0, 0, 0, 1};
   screen.attributes.clips = true;
+  if (!UIScreen::isLit()) return screen;
   for (const auto& window : UIWindow::visibleWindows()) {
     const CALayer* layer = stateOf<CALayer>(UIView::layerOf(window.get()));
     if (layer == nullptr) continue;

@@ -103,6 +103,7 @@ void addAccessibility(json& made, const scene::Accessibility& its) {
 void addLooks(json& made, const scene::Attributes& attributes) {
   if (attributes.opacity != 1) made["opacity"] = rounded(attributes.opacity);
   if (attributes.cornerRadius != 0) made["radius"] = rounded(cornerRadius(attributes));
+  if (attributes.backdropBlur != 0) made["backdropBlur"] = rounded(attributes.backdropBlur);
   if (attributes.clips) made["clips"] = true;
   if (attributes.background) made["background"] = written(*attributes.background);
   if (const auto& border = attributes.border)

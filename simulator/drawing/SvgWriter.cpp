@@ -84,12 +84,40 @@ class SvgWriter {
     const bool clips = attributes.clips && !(node.children.empty() && !hasContent(attributes));
     if (clips) beginClip(attributes);
     content_.add(attributes, isStretched_);
-    for (const Node& child : node.children) add(child);
+    addChildren(node);
     if (clips) lines_.end("g");
     if (attributes.border) addBorder(attributes);
   }
 
   static bool hasContent(const Attributes& attributes) { return attributes.content.index() != 0; }
+
+  // The last child that blurs decides; what lies behind it is seen blurred only.
+  void addChildren(const Node& node) {
+    const auto blurs = [](const Node& child) { return child.attributes.backdropBlur > 0; };
+    const auto blurring = std::find_if(node.children.rbegin(), node.children.rend(), blurs);
+    auto next = node.children.begin();
+    if (blurring != node.children.rend()) {
+      const auto end = blurring.base() - 1;
+      const std::string name = std::to_string(++blurs_);
+      lines_.begin(SvgElement("g").text("id", "behind" + name).open());
+      for (; next != end; ++next) add(*next);
+      lines_.end("g");
+      addBlurred(name, blurring->attributes.backdropBlur);
+    }
+    for (; next != node.children.end(); ++next) add(*next);
+  }
+
+  // Twice, over what lies behind as it is: a blurred picture fades at its edges.
+  void addBlurred(const std::string& name, double radius) {
+    lines_.add(SvgElement("filter")
+                   .text("id", "blur" + name)
+                   .text("color-interpolation-filters", "sRGB")
+                   .open() +
+               SvgElement("feGaussianBlur").number("stdDeviation", radius).empty() + "</filter>");
+    SvgElement again("use");
+    again.text("href", "#behind" + name).text("filter", "url(#blur" + name + ")");
+    for (int i = 0; i < 2; ++i) lines_.add(again.empty());
+  }
 
   void beginClip(const Attributes& attributes) {
     const std::string name = "clip" + std::to_string(++clips_);
@@ -126,6 +154,7 @@ class SvgWriter {
   SvgContent content_;
   int clips_ = 0;
   int masks_ = 0;
+  int blurs_ = 0;
   bool isStretched_ = false;
 };
 

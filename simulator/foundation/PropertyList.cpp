@@ -100,6 +100,13 @@ PropertyListNode nodeOfNumber(const NSNumber& number) {
   return makeInteger({number.integer, number.isUnsigned()});
 }
 
+// libplist takes texts that end with a zero: the rest would be lost without a word.
+PropertyListNode nodeOfText(const std::string& text, std::string* error) {
+  if (text.find('\0') == text.npos) return PropertyListNode(plist_new_string(text.c_str()));
+  *error = "a text with a zero character cannot be written to a property list";
+  return nullptr;
+}
+
 PropertyListNode nodeOfArray(const NSArray& array, int depth, std::string* error) {
   PropertyListNode list(plist_new_array());
   for (const auto& element : array.elements) {
@@ -118,9 +125,10 @@ PropertyListNode nodeOfDictionary(const NSDictionary& dictionary, int depth, std
                " is no property list key";
       return nullptr;
     }
+    const std::string key = text(entry.key);
     PropertyListNode item = nodeOf(entry.value, depth, error);
-    if (!item) return nullptr;
-    plist_dict_set_item(list.get(), text(entry.key).c_str(), item.release());
+    if (!item || !nodeOfText(key, error)) return nullptr;
+    plist_dict_set_item(list.get(), key.c_str(), item.release());
   }
   return list;
 }
@@ -131,7 +139,7 @@ PropertyListNode nodeOf(Object object, int depth, std::string* error) {
     *error = "containers are nested too deep for a property list";
     return nullptr;
   }
-  if (isA<NSString>(object)) return PropertyListNode(plist_new_string(text(object).c_str()));
+  if (isA<NSString>(object)) return nodeOfText(text(object), error);
   if (const NSNumber* number = stateOf<NSNumber>(object)) return nodeOfNumber(*number);
   if (const NSDate* date = stateOf<NSDate>(object)) return makeDate(date->reference);
   if (const NSData* data = stateOf<NSData>(object))

@@ -32,7 +32,7 @@ class BinaryList {
 
  private:
   // How many objects there are below this one, itself included; more than `largest` when the list
-  // is out of bounds or goes round in circles.
+  // is out of bounds, goes round in circles or has a key with a zero.
   std::uint64_t weigh(std::uint64_t object, int depth) {
     constexpr std::uint64_t tooMuch = largest + 1;
     if (object >= count_) return 1;
@@ -41,7 +41,10 @@ class BinaryList {
     weights_[object] = tooMuch;  // should it be met again on the way down
     std::uint64_t weight = 1;
     std::size_t at = number(offsetTable_ + object * offsetSize_, offsetSize_);
+    const bool isDictionary = number(at, 1) >> 4 == 0xd;
     const std::uint64_t references = takeReferences(at);
+    for (std::uint64_t i = 0; isDictionary && i < references / 2; ++i)
+      if (hasZero(number(at + i * referenceSize_, referenceSize_))) return tooMuch;
     for (std::uint64_t i = 0; i < references && weight <= largest; ++i)
       weight += weigh(number(at + i * referenceSize_, referenceSize_), depth + 1);
     return weights_[object] = weight;
@@ -52,14 +55,31 @@ class BinaryList {
     const std::uint64_t marker = number(at++, 1);
     const std::uint64_t kind = marker >> 4;
     if (kind != 0xa && kind != 0xc && kind != 0xd) return 0;
+    const std::uint64_t size = takeSize(marker, at);
+    return kind == 0xd ? 2 * size : size;
+  }
+
+  // The count in a marker, or in the number behind it; 0 when the parser will refuse it.
+  std::uint64_t takeSize(std::uint64_t marker, std::size_t& at) const {
     std::uint64_t size = marker & 0xf;
     if (size == 0xf) {
       const std::size_t width = std::size_t(1) << (number(at++, 1) & 3);
       size = number(at, width);
       at += width;
     }
-    if (size > bytes_.size()) return 0;  // the parser refuses it
-    return kind == 0xd ? 2 * size : size;
+    return size > bytes_.size() ? 0 : size;
+  }
+
+  // Whether an object is a text with a zero character.
+  bool hasZero(std::uint64_t object) const {
+    if (object >= count_) return false;
+    std::size_t at = number(offsetTable_ + object * offsetSize_, offsetSize_);
+    const std::uint64_t marker = number(at++, 1);
+    const std::size_t width = marker >> 4 == 0x5 ? 1 : marker >> 4 == 0x6 ? 2 : 0;
+    const std::uint64_t size = width == 0 ? 0 : takeSize(marker, at);
+    for (std::uint64_t i = 0; i < size; ++i)
+      if (number(at + i * width, width) == 0) return true;
+    return false;
   }
 
   std::uint64_t number(std::size_t at, std::size_t width) const {
@@ -95,7 +115,7 @@ bool isXmlBounded(std::string_view bytes) {
 
 bool isWithinBounds(std::string_view bytes) {
   if (bytes.size() > UINT32_MAX) return false;
-  if (!bytes.starts_with(magic)) return isXmlBounded(bytes);
+  if (!bytes.starts_with(magic)) return bytes.find('\0') == bytes.npos && isXmlBounded(bytes);
   if (bytes.size() < magic.size() + trailerSize) return true;
   return BinaryList(bytes).isBounded();
 }

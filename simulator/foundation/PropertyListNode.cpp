@@ -69,8 +69,9 @@ PropertyListNode loadNode(const std::filesystem::path& path, std::string* error)
   const bool bounded = isWithinBounds(bytes);
   if (bounded) plist_from_memory(bytes.data(), std::uint32_t(bytes.size()), &node);
   if (node == nullptr) {
-    *error =
-        path.string() + (bounded ? ": is no property list" : ": is nested too deep, or too large");
+    *error = path.string() +
+             (bounded ? ": is no property list"
+                      : ": is nested too deep, too large, or has a zero character in a key");
   }
   return PropertyListNode(node);
 }

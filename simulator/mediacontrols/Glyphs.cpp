@@ -81,6 +81,19 @@ Path routingTriangle() {
   return path;
 }
 
+Path notePath() {
+  using std::numbers::pi;
+  Path path;
+  for (const double x : {12.5, 23.5}) {
+    addArc(path, {x, 25}, 3.2, 0, 2 * pi);
+    path.push_back({Kind::close});
+  }
+  addPolygon(path, {{13.7, 11}, {15.7, 11}, {15.7, 25}, {13.7, 25}});
+  addPolygon(path, {{24.7, 9}, {26.7, 9}, {26.7, 25}, {24.7, 25}});
+  addPolygon(path, {{13.7, 10}, {26.7, 7}, {26.7, 11}, {13.7, 14}});
+  return path;
+}
+
 // Open at the bottom, where the triangle is.
 Path routingWaves() {
   using std::numbers::pi;

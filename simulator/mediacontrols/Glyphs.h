@@ -19,6 +19,9 @@ Path transportPath(TransportSymbol symbol);
 Path routingTriangle();
 Path routingWaves();
 
+// What stands for a track's artwork.
+Path notePath();
+
 // A new CAShapeLayer as large as the glyph on top of the view's layer; nil without the class. The
 // path is filled, or drawn as a line of that width.
 objc::Strong<objc::Object> addShape(objc::Object view, Path path, double lineWidth = 0);

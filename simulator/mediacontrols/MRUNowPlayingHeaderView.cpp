@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "simulator/StandIn.h"
+#include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/mediacontrols/MRULayout.h"
 #include "simulator/uikit/ViewBuilding.h"
 
@@ -20,6 +21,10 @@ Object MRUNowPlayingHeaderView::initWithFrame(CGRect frame) {
   const auto made = super<Object, "initWithFrame:">(frame);
   artworkView = addView(made, "UIView");
   fill(artworkView, whiteColor(0.12), 6);
+  const auto note = addShape(artworkView, notePath());
+  tint(note, whiteColor(0.4));
+  constexpr double inset = (artwork - glyphSize) / 2;
+  objc::send<void, "setFrame:">(note.get(), CGRect{{inset, inset}, {glyphSize, glyphSize}});
   labelView = addView(made, "MRUNowPlayingLabelView");
   routingButton = addView(made, "MRUNowPlayingRoutingButton");
   return made;

@@ -13,6 +13,7 @@
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
+#include "simulator/radios/Radios.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {
@@ -33,6 +34,13 @@ void showTrack(Object labels) {
   const bool hasArtist = track != nullptr && !track->artist.empty();
   objc::send<void, "setTitle:">(labels, title);
   objc::send<void, "setArtist:">(labels, hasArtist ? string(track->artist) : Object());
+}
+
+// Active while sound goes to another device.
+void showRoute(Object routingButton) {
+  const bool isElsewhere = !Radios::current().peers().empty();
+  if (objc::send<bool, "active">(routingButton) != isElsewhere)
+    objc::send<void, "setActive:">(routingButton, isElsewhere);
 }
 
 void previousTrack(Object, Object) {
@@ -156,6 +164,7 @@ void Controller::update() {
   if (auto* transport =
           stateOf<MRUNowPlayingTransportControlsView>(view->transportControlsView.get()))
     transport->setPlaying(Player::current().isPlaying());
+  showRoute(objc::send<Object, "routingButton">(header));
   showVolume();
   showTime();
 }

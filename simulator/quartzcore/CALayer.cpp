@@ -99,6 +99,11 @@ void setCornerRadius(Object self, double radius) {
   CALayer::of(self).cornerRadius = radius;
 }
 
+void setBackdropBlur(Object self, double radius) {
+  const LayerChange change(&CALayer::of(self));
+  CALayer::of(self).backdropBlur = radius;
+}
+
 Object sublayers(Object self) {
   const auto& children = CALayer::of(self).children;
   if (children.empty()) return nullptr;
@@ -176,7 +181,8 @@ LayerValues CALayer::values() const {
           geometry.transform.affine(),
           opacity,
           componentsOf(backgroundColor),
-          cornerRadius};
+          cornerRadius,
+          backdropBlur};
 }
 
 LayerValues CALayer::presentation(Nanoseconds now) const {
@@ -243,6 +249,7 @@ void CALayer::registerClass() {
       .readonlyProperty<"isHidden", &CALayer::hidden>()
       .readonlyProperty<"cornerRadius", &CALayer::cornerRadius>()
       .method<"setCornerRadius:", &setCornerRadius>()
+      .partial<"_setBackdropBlur:", &setBackdropBlur>("the simulator's own")
       .property<"borderWidth", &CALayer::borderWidth>()
       .property<"borderColor", &CALayer::borderColor>()
       .property<"masksToBounds", &CALayer::masksToBounds>()

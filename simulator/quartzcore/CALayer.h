@@ -31,6 +31,9 @@ struct CALayer : objc::Implementation<CALayer> {
   std::vector<LayerAnimation> animations;  // the newest last; also such as have ended
   LayerTransition transition;
   const unsigned long identity;  // counts up as layers are made; never used again
+  // How blurred what lies behind the layer is seen, in points: that of a Gaussian. Private on the
+  // platform, where it is a filter.
+  double backdropBlur = 0;
   bool hidden = false;
   bool masksToBounds = false;
   // Within the bounds, y grows upwards from the lower edge: for the layer's own drawing and for

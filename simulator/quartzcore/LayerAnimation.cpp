@@ -29,8 +29,8 @@ void removeEnded(std::vector<LayerAnimation>& animations, Nanoseconds now) {
 const std::optional<AnimationTiming>& currentAnimation() {
   return current;
 }
-void setCurrentAnimation(std::optional<AnimationTiming> timing) {
-  current = std::move(timing);
+void setCurrentAnimation(const std::optional<AnimationTiming>& timing) {
+  current = timing;
 }
 
 double AnimationTiming::progress(Nanoseconds now) const {

@@ -34,7 +34,7 @@ struct LayerAnimation {
 
 // What changes of layers are animated by at present; nothing: they are seen at once.
 const std::optional<AnimationTiming>& currentAnimation();
-void setCurrentAnimation(std::optional<AnimationTiming> timing);
+void setCurrentAnimation(const std::optional<AnimationTiming>& timing);
 
 // The layer is seen going from those values to the ones that it has.
 void animateFrom(CALayer& layer, const LayerValues& start, const AnimationTiming& timing);

@@ -14,6 +14,7 @@ struct LayerValues {
   double opacity = 1;
   std::array<double, 4> backgroundColor{};  // red, green, blue, alpha
   double cornerRadius = 0;                  // points
+  double backdropBlur = 0;                  // points
   bool operator==(const LayerValues&) const = default;
 };
 

@@ -3,7 +3,7 @@
 
 namespace sim {
 
-// The application's key window, as large as the screen, with an empty root controller. Once a
+// The application's key window, as large as the screen, with wallpaper and icons. Once a
 // process; it is never closed. Nothing on a phone that has no windows.
 void showHomeScreen();
 

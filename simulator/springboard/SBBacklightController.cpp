@@ -1,25 +1,20 @@
 #include "simulator/springboard/SBBacklightController.h"
 
 #include "simulator/StandIn.h"
+#include "simulator/uikit/UIScreen.h"
 
 namespace sim {
-namespace {
-
-// Outside the object: the screen exists where the class is missing, too.
-bool isLit = true;
-
-}  // namespace
 
 objc::Object SBBacklightController::sharedInstance() {
   return objc::Object(shared().self());
 }
 
 bool SBBacklightController::screenIsOn() {
-  return isLit;
+  return UIScreen::isLit();
 }
 
 void SBBacklightController::setScreenIsOn(bool on) {
-  isLit = on;
+  UIScreen::setLit(on);
 }
 
 void SBBacklightController::registerClass() {

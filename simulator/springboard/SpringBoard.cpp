@@ -4,6 +4,7 @@
 #include "simulator/StandIn.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/springboard/HomeScreen.h"
+#include "simulator/springboard/StatusBar.h"
 
 namespace sim {
 
@@ -14,7 +15,7 @@ void SpringBoard::applicationDidFinishLaunching(objc::Object) {
 void SpringBoard::registerClass() {
   StandIn<SpringBoard>("SpringBoard", "SpringBoard", "UIApplication")
       .partial<"applicationDidFinishLaunching:", &SpringBoard::applicationDidFinishLaunching>(
-          "the home screen is empty")
+          "no application can be opened")
       .finish();
 }
 
@@ -22,6 +23,7 @@ void launchSpringBoard() {
   const objc::AutoreleasePool pool;
   const auto application = SpringBoard::make();  // becomes the shared application, which lives on
   showHomeScreen();
+  showStatusBar();
   objc::send<void, "applicationDidFinishLaunching:">(application.get(), application.get());
 }
 

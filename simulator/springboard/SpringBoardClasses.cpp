@@ -2,9 +2,12 @@
 #include "simulator/Frameworks.h"
 #include "simulator/springboard/SBApplication.h"
 #include "simulator/springboard/SBBacklightController.h"
+#include "simulator/springboard/SBFWallpaperView.h"
+#include "simulator/springboard/SBHomeScreenView.h"
 #include "simulator/springboard/SBMediaController.h"
 #include "simulator/springboard/SBVolumeControl.h"
 #include "simulator/springboard/SpringBoard.h"
+#include "simulator/springboard/StatusBarView.h"
 
 namespace sim {
 
@@ -13,6 +16,9 @@ void registerSpringBoard() {
   SBBacklightController::registerClass();
   SBVolumeControl::registerClass();
   SBMediaController::registerClass();
+  SBFWallpaperView::registerClass();
+  SBHomeScreenView::registerClass();
+  StatusBarView::registerClass();
   SpringBoard::registerClass();
 }
 

@@ -17,8 +17,9 @@ TimingCurve curveOf(const AnimationParameters& parameters) {
 // For the time of the changes.
 class CurrentAnimation {
  public:
-  explicit CurrentAnimation(std::optional<AnimationTiming> timing) : outer_(currentAnimation()) {
-    setCurrentAnimation(std::move(timing));
+  explicit CurrentAnimation(const std::optional<AnimationTiming>& timing)
+      : outer_(currentAnimation()) {
+    setCurrentAnimation(timing);
   }
   ~CurrentAnimation() { setCurrentAnimation(outer_); }
   CurrentAnimation(const CurrentAnimation&) = delete;

@@ -1,5 +1,7 @@
 #include "simulator/uikit/NSLayoutConstraint.h"
 
+#include <cmath>
+
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
@@ -45,6 +47,17 @@ std::string itemAndAttribute(Object item, long attribute) {
   return std::string(object_getClassName(item.get())) + '.' + attribute::name(attribute);
 }
 
+void checkFinite(const char* what, double value) {
+  if (std::isfinite(value)) return;
+  raiseException(
+      "NSInvalidArgumentException",
+      std::string(what) + " is not finite!  That's illegal.  " + what + ':' + shortNumber(value));
+}
+
+const char* relationName(long relation) {
+  return relation < 0 ? " <= " : relation > 0 ? " >= " : " == ";
+}
+
 // What is a coordinate needs another one to be compared with.
 void checkPair(Object second, long firstAttribute, double multiplier) {
   if ((second && multiplier != 0) || attribute::isLength(firstAttribute)) return;
@@ -61,6 +74,8 @@ Object NSLayoutConstraint::make(id cls, Object first, long firstAttribute, long 
                                 Object second, long secondAttribute, double multiplier,
                                 double constant) {
   checkPair(second, firstAttribute, multiplier);
+  checkFinite("Multiplier", multiplier);
+  checkFinite("Constant", constant);
   auto made = makeOf(cls);
   NSLayoutConstraint& state = of(made.get());
   state.firstItem = objc::weak(first);
@@ -79,6 +94,7 @@ void NSLayoutConstraint::changed() {
 }
 
 void NSLayoutConstraint::setConstant(double points) {
+  checkFinite("Constant", points);
   if (constant == points) return;
   constant = points;
   changed();
@@ -98,12 +114,11 @@ void NSLayoutConstraint::setPriority(float value) {
 
 // "<NSLayoutConstraint 'gap' UILabel.leading >= UIImageView.trailing * 0.5 + 6 @ 250>"
 std::string NSLayoutConstraint::description() const {
-  constexpr const char* relations[] = {" <= ", " == ", " >= "};
   const auto first = firstItem.load(), second = secondItem.load();
   std::string all = "<NSLayoutConstraint ";
   if (identifier) all += '\'' + text(identifier) + "' ";
   all += first ? itemAndAttribute(first, firstAttribute) : "(gone)";
-  all += relations[relation + 1];
+  all += relationName(relation);
   if (second) all += itemAndAttribute(second, secondAttribute);
   if (second && multiplier != 1) all += " * " + shortNumber(multiplier);
   if (!second) all += shortNumber(constant);
@@ -132,7 +147,9 @@ void NSLayoutConstraint::registerClass() {
       .property<"identifier", &NSLayoutConstraint::identifier>()
       .method<"isActive", &NSLayoutConstraint::isActive>()
       .method<"active", &NSLayoutConstraint::isActive>()
-      .method<"setActive:", &setConstraintActive>()
+      .partial<"setActive:", &setConstraintActive>(
+          "of contradictory ones the newest breaks, and what is ambiguous is as small as possible: "
+          "the platform's own choices are not known")
       .partial<"description", &descriptionOf>("no addresses: alike in every run")
       .finish();
 }

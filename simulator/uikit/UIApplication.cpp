@@ -31,7 +31,7 @@ Object UIApplication::init() {
 }
 
 Object UIApplication::windows() const {
-  const auto visible = UIWindow::visibleWindows();
+  const auto visible = UIWindow::applicationWindows();
   return array(std::vector<Object>(visible.begin(), visible.end()));
 }
 

@@ -32,6 +32,7 @@
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIViewController.h"
 #include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/autolayout/NSLayoutAnchor.h"
 #include "simulator/uikit/nib/NibLoading.h"
 
 namespace sim {
@@ -67,6 +68,7 @@ void registerUIKit() {
   UIPickerView::registerClass();
   UIDatePicker::registerClass();
   NSLayoutConstraint::registerClass();
+  NSLayoutAnchor::registerClasses();
   UIViewController::registerClass();
   UIAlertAction::registerClass();
   AlertView::registerClass();

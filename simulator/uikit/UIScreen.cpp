@@ -5,6 +5,18 @@
 #include "simulator/uikit/UIApplication.h"
 
 namespace sim {
+namespace {
+
+bool lit = true;
+
+}  // namespace
+
+bool UIScreen::isLit() {
+  return lit;
+}
+void UIScreen::setLit(bool isOn) {
+  lit = isOn;
+}
 
 objc::Object UIScreen::mainScreen() {
   if (cls() == nullptr) return nullptr;  // left out of the phone

@@ -11,6 +11,9 @@ struct UIScreen : objc::Implementation<UIScreen> {
 
   static objc::Object mainScreen();  // the one object, never freed; nil without the class
   static CGSize size();              // points, as the interface is turned
+  // Also where the class is missing there is a screen.
+  static bool isLit();
+  static void setLit(bool isOn);
   CGRect bounds() { return {{0, 0}, size()}; }
   CGRect nativeBounds() {  // pixels
     return {{0, 0}, {mainSize.width * mainScale, mainSize.height * mainScale}};

@@ -1,6 +1,7 @@
 #include "simulator/uikit/UIStackView.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
@@ -55,6 +56,23 @@ std::vector<Object> UIStackView::visible() const {
   return views;
 }
 
+double UIStackView::spacingAfter(Object view) const {
+  for (const auto& [each, points] : customSpacings)
+    if (each.load() == view) return points;
+  return spacing;
+}
+
+// The greatest number stands for the stack's own.
+void UIStackView::setCustomSpacing(double points, Object view) {
+  std::erase_if(customSpacings, [view](const auto& each) {
+    const auto kept = each.first.load();
+    return !kept || kept == view;
+  });
+  if (points != std::numeric_limits<float>::max())
+    customSpacings.emplace_back(objc::weak(view), points);
+  constraintsChanged(Object(self()));
+}
+
 void UIStackView::willRemoveSubview(Object view) {
   super<void, "willRemoveSubview:">(view);
   removeArranged(view);
@@ -76,6 +94,11 @@ void UIStackView::registerClass() {
       .method<"setAlignment:", &setAndLayOut<&UIStackView::alignment>>()
       .readonlyProperty<"spacing", &UIStackView::spacing>()
       .method<"setSpacing:", &setAndLayOut<&UIStackView::spacing>>()
+      .method<"customSpacingAfterView:", &UIStackView::spacingAfter>()
+      .method<"setCustomSpacing:afterView:", &UIStackView::setCustomSpacing>()
+      .readonlyProperty<"isLayoutMarginsRelativeArrangement", &UIStackView::isArrangedInMargins>()
+      .method<"setLayoutMarginsRelativeArrangement:",
+              &setAndLayOut<&UIStackView::isArrangedInMargins>>()
       .finish();
 }
 

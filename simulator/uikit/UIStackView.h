@@ -2,6 +2,7 @@
 // see autolayout/StackConstraints.cpp.
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "objc/Class.h"
@@ -20,6 +21,9 @@ struct UIStackView : objc::Implementation<UIStackView> {
   long distribution = fill;
   long alignment = alignFill;
   double spacing = 0;  // points
+  bool isArrangedInMargins = false;
+  // Points, after views of their own; of views that have gone, too.
+  std::vector<std::pair<objc::Weak<objc::Object>, double>> customSpacings;
 
   objc::Object initWithArrangedSubviews(objc::Object views);
   objc::Object arrangedSubviews() const;
@@ -28,6 +32,8 @@ struct UIStackView : objc::Implementation<UIStackView> {
   void removeArranged(objc::Object view);  // stays a subview
   void willRemoveSubview(objc::Object view);
   std::vector<objc::Object> visible() const;
+  double spacingAfter(objc::Object view) const;
+  void setCustomSpacing(double points, objc::Object view);
 
   static void registerClass();
 };

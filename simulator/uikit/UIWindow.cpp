@@ -98,10 +98,16 @@ std::vector<objc::Strong<Object>> UIWindow::visibleWindows() {
   return kept;
 }
 
+std::vector<objc::Strong<Object>> UIWindow::applicationWindows() {
+  auto shown = visibleWindows();
+  std::erase_if(shown, [](const auto& window) { return of(window.get()).isOfTheSystem; });
+  return shown;
+}
+
 // When the key window goes the uppermost of those that remain takes its place.
 Object UIWindow::keyWindow() {
   if (key != nullptr) return Object(key->self());
-  const auto visible = visibleWindows();
+  const auto visible = applicationWindows();
   return visible.empty() ? Object() : autorelease(visible.back());
 }
 

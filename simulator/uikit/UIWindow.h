@@ -10,8 +10,9 @@ namespace sim {
 
 struct UIWindow : objc::Implementation<UIWindow> {
   objc::Strong<objc::Object> rootViewController;
-  double windowLevel = 0;     // 0 normal, 2000 alerts
-  unsigned long shownAs = 0;  // counts up as windows are shown: later ones lie above
+  double windowLevel = 0;      // 0 normal, 2000 alerts
+  bool isOfTheSystem = false;  // as the status bar's: drawn, but in no list of windows
+  unsigned long shownAs = 0;   // counts up as windows are shown: later ones lie above
 
   UIWindow();
   ~UIWindow();
@@ -27,6 +28,8 @@ struct UIWindow : objc::Implementation<UIWindow> {
 
   // Those on the screen, from the lowest to the uppermost.
   static std::vector<objc::Strong<objc::Object>> visibleWindows();
+  // Those of them that are the application's own.
+  static std::vector<objc::Strong<objc::Object>> applicationWindows();
   static objc::Object keyWindow();  // nil without one
 
   static void registerClass();

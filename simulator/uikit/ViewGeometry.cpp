@@ -18,8 +18,13 @@ LayerGeometry& geometry(Object self) {
 // Changes what a layer can animate.
 template <class Change>
 void change(Object self, Change make) {
-  const LayerChange recorded(stateOf<CALayer>(UIView::layerOf(self)));
-  make(geometry(self));
+  LayerGeometry& its = geometry(self);
+  const LayerGeometry before = its;
+  {
+    const LayerChange recorded(stateOf<CALayer>(UIView::layerOf(self)));
+    make(its);
+  }
+  if (its.bounds != before.bounds || its.position != before.position) geometryChanged(self);
 }
 
 CGRect frame(Object self) {
@@ -29,7 +34,6 @@ void setFrame(Object self, CGRect frame) {
   const CGSize before = geometry(self).bounds.size;
   change(self, [frame](LayerGeometry& its) { its.setFrame(frame); });
   sizeChanged(self, before);
-  geometryChanged(self);
 }
 CGRect bounds(Object self) {
   return geometry(self).bounds;
@@ -38,14 +42,12 @@ void setBounds(Object self, CGRect bounds) {
   const CGSize before = geometry(self).bounds.size;
   change(self, [bounds](LayerGeometry& its) { its.bounds = bounds; });
   sizeChanged(self, before);
-  geometryChanged(self);
 }
 CGPoint center(Object self) {
   return geometry(self).position;
 }
 void setCenter(Object self, CGPoint center) {
   change(self, [center](LayerGeometry& its) { its.position = center; });
-  geometryChanged(self);
 }
 CGAffineTransform transform(Object self) {
   return geometry(self).transform.affine();

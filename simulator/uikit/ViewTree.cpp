@@ -9,6 +9,7 @@
 #include "simulator/uikit/UIWindow.h"
 #include "simulator/uikit/autolayout/Activation.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
+#include "simulator/uikit/autolayout/UpdateConstraints.h"
 
 namespace sim {
 namespace {
@@ -49,6 +50,7 @@ void didMoveToWindow(Object view, Object before) {
   UIView& state = UIView::of(view);
   const bool isInWindow = bool(windowOf(view));
   state.needsLayout = isInWindow || state.needsLayout;
+  if (isInWindow) viewCameIntoWindow(view);
   objc::send<void, "didMoveToWindow">(view);
   const auto children = state.children;
   for (const auto& child : children) didMoveToWindow(child.get(), before);

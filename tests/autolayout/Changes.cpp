@@ -185,6 +185,8 @@ TEST_F(Changes, UpdateConstraintsComesBeforeLayout) {
   changed = gap;
   const auto view = make("UpdatingView");
   add(outer, view);
+  EXPECT_EQ(laidOut(inner).origin.x, 77);  // due in its first window
+  send<void, "setConstant:">(gap, 10.0);
   EXPECT_EQ(laidOut(inner).origin.x, 10);
   send<void, "setNeedsUpdateConstraints">(view.get());
   EXPECT_TRUE((send<bool, "needsUpdateConstraints">(view.get())));

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "tests/autolayout/LayoutTest.h"
 
 namespace sim {
@@ -43,6 +45,19 @@ TEST_F(Conflicts, BreakTheNewestOfRequiredConstraints) {
   advance(1);
   EXPECT_EQ(journal().size(), 2U);
   EXPECT_EQ(frameOf(view), rect(0, 0, 50, 10));
+}
+
+// The gaps alone are wider than the stack.
+TEST_F(Conflicts, StacksNameTheirOwn) {
+  const auto stack = make("UIStackView", rect(0, 100, 15, 10));
+  send<void, "setSpacing:">(stack.get(), 10.0);
+  add(window, stack);
+  for (int i = 0; i < 3; ++i) send<void, "addArrangedSubview:">(stack.get(), make("UIView").get());
+  advance(0);
+  EXPECT_EQ(journal(), Lines{breaking("<NSLayoutConstraint 'UISV-spacing' of UIStackView>")});
+  send<void, "setFrame:">(stack.get(), rect(0, 100, 12, 10));
+  advance(0);
+  EXPECT_EQ(journal().size(), 1U);
 }
 
 TEST_F(Conflicts, EndWithTheirReason) {
@@ -95,6 +110,20 @@ TEST_F(Conflicts, APlaceNeedsAnotherToBeComparedWith) {
                "NSInvalidArgumentException.*Location attributes must be specified in pairs");
   EXPECT_DEATH(constraint({view, left, equal, window, left, 0, 10}),
                "NSInvalidArgumentException.*Location attributes must be specified in pairs");
+}
+
+TEST_F(Conflicts, NumbersMustBeFinite) {
+  const Object wide = width(view, 10);
+  constexpr double none_ = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_DEATH((send<void, "setConstant:">(wide, none_)),
+               "NSInvalidArgumentException.*Constant is not finite!  That's illegal.");
+  EXPECT_DEATH(constraint({view, attribute::width, equal, window, attribute::width, none_, 0}),
+               "NSInvalidArgumentException.*Multiplier is not finite!  That's illegal.");
+}
+
+TEST_F(Conflicts, NoPriorityIsNoConstraint) {
+  width(view, 50, 0);
+  EXPECT_EQ(laidOut(view), rect(0, 0, 0, 10));
 }
 
 TEST_F(Conflicts, ItemsMustBeOfOneTree) {

@@ -1,3 +1,4 @@
+#include "simulator/uikit/UIImage.h"
 #include "tests/autolayout/LayoutTest.h"
 
 namespace sim {
@@ -63,6 +64,9 @@ TEST_F(Contents, TheOneThatResistsLessIsCompressed) {
   resist(a, 749);
   EXPECT_EQ(laidOut(a), rect(0, 0, 190, 30));
   EXPECT_EQ(frameOf(b), rect(190, 0, 200, 30));
+  resist(a, 751);
+  EXPECT_EQ(laidOut(a), rect(0, 0, 300, 30));
+  EXPECT_EQ(frameOf(b), rect(300, 0, 90, 30));
 }
 
 TEST_F(Contents, ConstraintsOfHigherPrioritiesOutweighContents) {
@@ -92,6 +96,10 @@ TEST_F(Contents, ANewImageResizesItsView) {
   const auto image = child(window, "UIImageView");
   place(image, 0, 0);
   EXPECT_EQ(laidOut(image).size, CGSize());
+  const auto square = objc::adopt(Object(objc_alloc_init(cls("UIImage"))));
+  UIImage::of(square.get()).size = {24, 24};
+  send<void, "setImage:">(image.get(), square.get());
+  EXPECT_EQ(laidOut(image).size, (CGSize{24, 24}));
 }
 
 TEST_F(Contents, SizesAreAskedForOnceUntilTheyAreInvalid) {

@@ -47,12 +47,21 @@ TEST_F(FittingSizes, FollowTheTargetAsFarAsItsPriorityReaches) {
               (send<CGSize, "sizeThatFits:">(text.get(), CGSize{100, 1000})).height + 20, 1e-9);
 }
 
+TEST_F(FittingSizes, OfTextByItself) {
+  EXPECT_EQ((send<CGSize, "systemLayoutSizeFittingSize:">(text.get(), CGSize())),
+            (send<CGSize, "intrinsicContentSize">(text.get())));
+}
+
 TEST_F(FittingSizes, OfAStack) {
   const auto stack = make("UIStackView");
   send<void, "setSpacing:">(stack.get(), 5.0);
   const auto a = content(view, {30, 20}), b = content(view, {40, 10});
   for (const auto& each : {a, b}) send<void, "addArrangedSubview:">(stack.get(), each.get());
   EXPECT_EQ((send<CGSize, "systemLayoutSizeFittingSize:">(stack.get(), CGSize())),
+            (CGSize{75, 20}));
+  // Unless its views are stretched, it is no wider than they are, whatever the target.
+  send<void, "setAlignment:">(stack.get(), 3L);
+  EXPECT_EQ((send<CGSize, "systemLayoutSizeFittingSize:">(stack.get(), CGSize{0, 100})),
             (CGSize{75, 20}));
 }
 

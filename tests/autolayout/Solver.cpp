@@ -133,6 +133,15 @@ TEST_F(Solver, WhatNothingDeterminesIsZero) {
   EXPECT_DOUBLE_EQ(value(alone), 0);
 }
 
+// Anything from 100 to 300 points misses 200 in sum.
+TEST_F(Solver, LengthsAreNoLongerInSumThanTheyMustBe) {
+  const Variable b = problem.length(), a = problem.length();
+  problem.add(v(a) + 2 * v(b) - 400, equal, 1000);
+  for (const double wish : {300.0, 100.0}) problem.add(v(a) - wish, equal, 500);
+  EXPECT_DOUBLE_EQ(value(a), 100);
+  EXPECT_DOUBLE_EQ(value(b), 150);
+}
+
 TEST_F(Solver, ChoicesDoNotDependOnWhatElseThereIs) {
   const Variable a = problem.length(), b = problem.length();
   problem.add(v(a) + v(b) - 100, equal, 1000);

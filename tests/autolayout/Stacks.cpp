@@ -163,6 +163,26 @@ TEST_F(Stacks, ChangesCountWhenTheRunLoopComesRound) {
   EXPECT_EQ(frameOf(b), rect(30, 0, 170, 50));
 }
 
+TEST_F(Stacks, SpacingMayDifferAfterAView) {
+  send<void, "setCustomSpacing:afterView:">(stack.get(), 25.0, b.get());
+  EXPECT_EQ((send<double, "customSpacingAfterView:">(stack.get(), b.get())), 25);
+  EXPECT_EQ((send<double, "customSpacingAfterView:">(stack.get(), a.get())), 10);
+  expect({{0, 30}, {40, 60}, {125, 75}});
+  send<void, "setHidden:">(b.get(), true);
+  expect({{0, 30}, {0, 0}, {40, 160}});
+}
+
+TEST_F(Stacks, MayKeepToTheirMargins) {
+  send<void, "setLayoutMargins:">(stack.get(), UIEdgeInsets{1, 20, 3, 40});
+  send<void, "setLayoutMarginsRelativeArrangement:">(stack.get(), true);
+  expect({{20, 30}, {60, 60}, {130, 30}});
+  EXPECT_EQ(frameOf(a), rect(20, 1, 30, 46));
+  align(alignCenter);
+  EXPECT_EQ(laidOut(a), rect(20, 14, 30, 20));
+  distribute(fillProportionally);
+  expect({{20, 36}, {66, 72}, {148, 12}});
+}
+
 TEST_F(Stacks, TakeTranslationFromWhatTheyArrange) {
   const auto view = make("UIView");
   send<void, "addArrangedSubview:">(stack.get(), view.get());

@@ -130,6 +130,37 @@ TEST_F(PropertyListsTest, refuseToNestTooDeep) {
   EXPECT_NE(readXml(open + close).find("nested too deep"), std::string::npos);
 }
 
+// A dictionary of one entry: the key, of that marker and bytes, stands for itself.
+std::string binaryWithKey(const std::string& key) {
+  const std::string list = std::string("bplist00") + "\xd1\x01\x01" + key;
+  return list + "\x08\x0b" + std::string(6, '\0') + "\x01\x01" + std::string(7, '\0') + '\x02' +
+         std::string(15, '\0') + char(list.size());
+}
+
+// libplist ends the program when it is asked for such a key.
+TEST_F(PropertyListsTest, refuseKeysWithAZeroCharacter) {
+  writeFile("/list.plist", binaryWithKey("\x53"
+                                         "abc"));
+  EXPECT_EQ(read(), "<NSDictionary>");
+  for (const std::string& key : {std::string("\x53"
+                                             "a\0b",
+                                             4),
+                                 std::string("\x62\0a\0\0", 5)}) {
+    writeFile("/list.plist", binaryWithKey(key));
+    EXPECT_NE(read().find("zero character in a key"), std::string::npos) << read();
+  }
+  EXPECT_NE(readXml(std::string("<dict><key>a\0b</key><true/></dict>", 34)).find("zero character"),
+            std::string::npos);
+}
+
+// libplist would cut them off there.
+TEST_F(PropertyListsTest, refuseToWriteTextsWithAZeroCharacter) {
+  const Object text = string(std::string_view("a\0b", 3));
+  EXPECT_NE(survived(text).find("a text with a zero character"), std::string::npos);
+  EXPECT_NE(survived(dictionary({{text, number(1L)}})).find("a text with a zero character"),
+            std::string::npos);
+}
+
 // Each of thirty arrays holds the one below it twice: a billion of the innermost.
 TEST_F(PropertyListsTest, refuseToGrowBeyondMemory) {
   std::string list = "bplist00";

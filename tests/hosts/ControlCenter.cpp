@@ -88,7 +88,7 @@ TEST_F(ControlCenterTest, LeavesNoObjectBehind) {
   playTracks();
   openAndClose();
   const std::size_t before = live();
-  for (int i = 0; i < 1000; ++i) openAndClose();
+  for (int i = 0; i < 100; ++i) openAndClose();
   EXPECT_EQ(live(), before);
 }
 

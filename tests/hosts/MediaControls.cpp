@@ -140,7 +140,7 @@ TEST_F(MediaControls, GlyphsStayInTheirSquare) {
   for (const Path& path :
        {transportPath(TransportSymbol::previous), transportPath(TransportSymbol::play),
         transportPath(TransportSymbol::pause), transportPath(TransportSymbol::next),
-        routingTriangle(), routingWaves()}) {
+        routingTriangle(), routingWaves(), notePath()}) {
     EXPECT_FALSE(path.empty());
     for (const PathElement& element : path)
       for (const CGPoint& point : element.points)

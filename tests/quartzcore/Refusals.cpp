@@ -34,6 +34,19 @@ TEST_F(Refusals, OfWhatIsNoDocument) {
   EXPECT_EQ(problemOf("<caml>\xFF</caml>"), "1:1: expected UTF-8");
 }
 
+// Where the parser misses something it may point behind the last byte.
+TEST_F(Refusals, PointIntoADocumentThatIsCutOff) {
+  const std::string whole = "<caml name=\"n\"><CALayer bounds=\"0 0 1 1\"></CALayer></caml>";
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    try {
+      caml::read(whole.substr(0, length), packageFolder);
+      ADD_FAILURE() << "read " << whole.substr(0, length);
+    } catch (const caml::Error& problem) {
+      EXPECT_LE(problem.offset, length) << whole.substr(0, length);
+    }
+  }
+}
+
 TEST_F(Refusals, OfClassesThatAreAbsentOrNotForDocuments) {
   EXPECT_EQ(problemIn("<CANoSuchLayer/>"), "2:2: there is no class \"CANoSuchLayer\"");
   EXPECT_EQ(problemIn("<LKNoSuchLayer/>"), "2:2: there is no class \"CANoSuchLayer\"");

@@ -135,5 +135,25 @@ TABLE(Time,
               "SCRIPT:2:1: expected a number of journal lines above 1, found 1"},
       Mistake{"RespringBeforeBoot", "respring", "SCRIPT:1:1: respring belongs after boot"});
 
+TABLE(Repeat,
+      Mistake{"Times", "boot\nrepeat x advance 1s", "SCRIPT:2:8: expected how often, found x"},
+      Mistake{"NoCommand", "boot\nrepeat 2", "SCRIPT:2:9: expected a command"},
+      Mistake{"NothingAfterThen", "boot\nrepeat 2 advance 1s then",
+              "SCRIPT:2:25: expected a command"},
+      Mistake{"UnknownCommand", "boot\nrepeat 2 advance 1s then bot",
+              "SCRIPT:2:26: expected a command, found bot"},
+      Mistake{"MistakeWithin", "boot\nrepeat 2 advance 1s then advance soon",
+              "SCRIPT:2:34: expected a duration such as 250ms, 10s, 5m or 8h, found soon"},
+      Mistake{"TooLate", "boot\nrepeat 2 ios 15", "SCRIPT:2:10: ios belongs before boot"});
+
+TABLE(ControlCenter,
+      Mistake{"Word", "boot\ncontrol-center shut", "SCRIPT:2:16: expected open or close"},
+      Mistake{"Closed", "boot\nget $header", "SCRIPT:2:5: there is no $header just now"},
+      Mistake{"NoPlayer", "boot\nlock\nget $lockScreenHeader",
+              "SCRIPT:3:5: there is no $lockScreenHeader just now"});
+
+TABLE(Slide, Mistake{"NoSlider", "boot\nslide UIView.new 1",
+                     "SCRIPT:2:7: UIView.new: expected a UISlider, found UIView"});
+
 }  // namespace
 }  // namespace sim

@@ -96,5 +96,25 @@ INSTANTIATE_TEST_SUITE_P(
                             "24: Sample has no property nope"}),
     named);
 
+INSTANTIATE_TEST_SUITE_P(
+    LiveObjects, FailedExpectation,
+    testing::Values(Failure{"Live", "expect-live UISlider 1",
+                            "1: live objects of UISlider: expected 1, found 0"},
+                    Failure{"LiveOfNoClass", "expect-live Nope 1", "13: there is no class Nope"},
+                    Failure{"NoMark", "expect-no-new-objects", "1: mark-objects comes first"}),
+    named);
+
+TEST(LiveObjects, NewOnesAreFoundByTheirClass) {
+  const Outcome outcome = play("boot\nmark-objects\nlet kept UISlider new\nexpect-no-new-objects");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_NE(outcome.errors.find("SCRIPT:4:1: expected no new objects, found"), std::string::npos)
+      << outcome.errors;
+  EXPECT_NE(outcome.errors.find(" 1 of UISlider"), std::string::npos) << outcome.errors;
+}
+
+TEST(LiveObjects, TheLastValueIsNone) {
+  EXPECT_EQ(play("boot\nmark-objects\nsend UISlider new\nexpect-no-new-objects").status, 0);
+}
+
 }  // namespace
 }  // namespace sim

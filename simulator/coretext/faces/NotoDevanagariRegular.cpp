@@ -5,7 +5,6 @@ namespace sim {
 namespace {
 
 // clang-format off
-constexpr std::uint16_t none = FontTable::none;
 constexpr FontTable::Block blocks[] = {
     {0x900, 0x97f}};
 constexpr std::uint16_t advances[] = {

@@ -10,15 +10,16 @@ namespace {
 // What lies between the words `then` is one command each.
 std::vector<ScriptLine> readCommands(Arguments& words, std::size_t lineNumber) {
   std::vector<ScriptLine> commands;
-  do {
+  for (bool another = true; another;) {
+    another = false;
     ScriptLine line;
     line.number = lineNumber;
-    while (!words.atEnd() && !words.takeKeyword("then"))
+    while (!words.atEnd() && !(another = words.takeKeyword("then")))
       line.words.push_back(words.word("a command"));
     if (line.words.empty()) words.failHere("expected a command");
     line.endColumn = line.words.back().column + line.words.back().text.size();
     commands.push_back(std::move(line));
-  } while (!words.atEnd());
+  }
   return commands;
 }
 

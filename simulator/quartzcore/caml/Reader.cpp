@@ -21,8 +21,10 @@ void requireText(std::string_view document) {
 void parse(std::string_view document, pugi::xml_document& xml) {
   const pugi::xml_parse_result result =
       xml.load_buffer(document.data(), document.size(), pugi::parse_default, pugi::encoding_utf8);
-  if (!result)
-    throw Error(std::size_t(result.offset), std::string("expected XML: ") + result.description());
+  if (result) return;
+  // At the end of the document the parser may be one byte behind it.
+  const auto where = std::min(std::size_t(result.offset), document.size());
+  throw Error(where, std::string("expected XML: ") + result.description());
 }
 
 std::size_t offsetOf(pugi::xml_node element) {

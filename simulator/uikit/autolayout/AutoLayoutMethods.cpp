@@ -6,6 +6,7 @@
 #include "simulator/uikit/autolayout/Activation.h"
 #include "simulator/uikit/autolayout/FittingSize.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
+#include "simulator/uikit/autolayout/NSLayoutAnchor.h"
 #include "simulator/uikit/autolayout/UpdateConstraints.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
 
@@ -105,6 +106,7 @@ void addAutoLayout(StandIn<UIView>& view) {
       .method<"effectiveUserInterfaceLayoutDirection", &layoutDirection>()
       .classMethod<"userInterfaceLayoutDirectionForSemanticContentAttribute:",
                    &layoutDirectionFor>();
+  addAnchors(view);
 }
 
 }  // namespace sim

@@ -20,6 +20,11 @@ Space spaceOf(const NSLayoutConstraint& constraint, Object first, Object second)
   return {common, follows && common && viewIsRightToLeft(common)};
 }
 
+Relation relationOf(long relation) {
+  if (relation == 0) return Relation::equal;
+  return relation < 0 ? Relation::atMost : Relation::atLeast;
+}
+
 }  // namespace
 
 void addAllConstraints(LayoutProblem& problem) {
@@ -39,7 +44,7 @@ void addLayoutConstraint(LayoutProblem& problem, Object constraint) {
   if (second)
     left.add(expressionOf(problem, second, state.secondAttribute, space), -state.multiplier);
   left.constant -= state.constant;
-  problem.add(std::move(left), Relation(state.relation), double(state.priority),
+  problem.add(std::move(left), relationOf(state.relation), double(state.priority),
               {constraint, "", first});
 }
 

@@ -27,24 +27,28 @@ bool standsAt(const LayerGeometry& geometry, const CGRect& rect) {
          geometry.position == positionIn(rect, geometry.anchorPoint);
 }
 
-// Once for each constraint, until it is changed.
+// Whether it is so for the first time: once for each constraint, until it is changed, and once for
+// all that the system has for a view.
+bool isNews(const LayoutProblem::Origin& origin) {
+  bool& isReported = origin.constraint ? NSLayoutConstraint::of(origin.constraint).isReportedBroken
+                                       : constraintsOf(origin.view).isReportedBroken;
+  return !std::exchange(isReported, true);
+}
+
+std::string nameOf(const LayoutProblem::Origin& origin) {
+  if (origin.constraint) return NSLayoutConstraint::of(origin.constraint).description();
+  return std::string("<NSLayoutConstraint '") + origin.name + "' of " +
+         object_getClassName(origin.view.get()) + '>';
+}
+
 void reportBroken(const LayoutProblem& problem, const Solution& solution) {
-  for (const std::size_t number : solution.broken) {
-    const LayoutProblem::Origin& origin = problem.origin(number);
-    std::string name = std::string("'") + origin.name + "' of ";
-    if (!origin.constraint) {
-      name += object_getClassName(origin.view.get());
-    } else {
-      NSLayoutConstraint& constraint = NSLayoutConstraint::of(origin.constraint);
-      if (std::exchange(constraint.isReportedBroken, true)) continue;
-      name = constraint.description();
-    }
-    Phone::current().journal.record(
-        "log " +
-        sim::quoted("Unable to simultaneously satisfy constraints. Will attempt to recover by "
-                    "breaking constraint " +
-                    name));
-  }
+  for (const std::size_t number : solution.broken)
+    if (isNews(problem.origin(number)))
+      Phone::current().journal.record(
+          "log " +
+          sim::quoted("Unable to simultaneously satisfy constraints. Will attempt to recover by "
+                      "breaking constraint " +
+                      nameOf(problem.origin(number))));
 }
 
 // The superview of what moves has to put it there.

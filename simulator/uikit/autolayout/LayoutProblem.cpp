@@ -74,6 +74,7 @@ void LayoutProblem::makeVariables(Object view) {
 
 void LayoutProblem::add(LinearExpression left, Relation relation, double priority,
                         const Origin& origin) {
+  if (priority <= 0) return;
   problem_.add(std::move(left), relation, priority);
   origins_.push_back(origin);
 }
@@ -103,10 +104,8 @@ LinearExpression LayoutProblem::start(Object view, Axis axis, Object space) cons
 }
 
 CGRect LayoutProblem::rect(Object view, const Solution& solution) const {
-  const auto value = [&, first = firstVariable(view)](int which) {
-    return solution.values[std::size_t(first + which)];
-  };
-  return {{value(0), value(1)}, {value(lengths), value(lengths + 1)}};
+  const double* values = &solution.values[std::size_t(firstVariable(view))];
+  return {{values[0], values[1]}, {values[lengths], values[lengths + 1]}};
 }
 
 }  // namespace sim

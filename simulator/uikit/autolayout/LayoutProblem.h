@@ -25,6 +25,7 @@ class LayoutProblem {
   // Of views alone, as yet. They stay unchanged as long as the problem is used.
   LayoutProblem(objc::Object root, Root kind);
 
+  // Nothing without a priority.
   void add(LinearExpression left, Relation relation, double priority, const Origin& origin);
   const Origin& origin(std::size_t number) const { return origins_[number]; }
   Solution solve() const { return problem_.solve(); }

@@ -57,6 +57,18 @@ class Stack {
   LinearExpression centre(Object view, Axis axis) const {
     return start(view, axis) + 0.5 * length(view, axis);
   }
+  // Where the views may stand: the whole stack, or what is inside its margins.
+  LinearExpression roomStart(Axis axis) const { return start(view_, axis) + margins(axis).first; }
+  LinearExpression roomEnd(Axis axis) const { return end(view_, axis) - margins(axis).second; }
+  std::pair<double, double> margins(Axis axis) const {
+    const ViewConstraints* its = existingConstraintsOf(view_);
+    if (!stack_.isArrangedInMargins || its == nullptr) return {};
+    const UIEdgeInsets& insets = its->margins;
+    if (axis == Axis::vertical) return {insets.top, insets.bottom};
+    return isMirrored_ ? std::pair(insets.right, insets.left)
+                       : std::pair(insets.left, insets.right);
+  }
+  double spacing(std::size_t index) const { return stack_.spacingAfter(shown_[index]); }
   LinearExpression gapAfter(std::size_t index) const {
     return start(shown_[index + 1], along_) - end(shown_[index], along_);
   }
@@ -73,32 +85,29 @@ class Stack {
       if (!UIView::of(view.get()).isHidden()) continue;
       add(length(view, along_), Relation::equal, Problem::required, "UISV-hiding");
       for (const Axis axis : {along_, across_})
-        addEqual(start(view, axis), start(view_, axis), "UISV-hiding");
+        addEqual(start(view, axis), roomStart(axis), "UISV-hiding");
     }
   }
 
   void alignAcross(Object view) {
     constexpr const char* name = "UISV-alignment";
-    switch (stack_.alignment) {
-      case UIStackView::alignFill:
-        addEqual(start(view, across_), start(view_, across_), name);
-        addEqual(end(view, across_), end(view_, across_), name);
-        return;
-      case UIStackView::alignLeading:
-        addEqual(start(view, across_), start(view_, across_), name);
-        break;
-      case UIStackView::alignTrailing:
-        addEqual(end(view, across_), end(view_, across_), name);
-        break;
-      case UIStackView::alignCenter:
-        addEqual(centre(view, across_), centre(view_, across_), name);
-        break;
-      default:
-        alignBaselines(view);
-    }
-    constexpr const char* around = "UISV-spanning-boundary";
-    add(start(view, across_) - start(view_, across_), Relation::atLeast, boundary, around);
-    add(end(view, across_) - end(view_, across_), Relation::atMost, boundary, around);
+    const long alignment = stack_.alignment;
+    const bool fills = alignment == UIStackView::alignFill;
+    if (fills || alignment == UIStackView::alignLeading)
+      addEqual(start(view, across_), roomStart(across_), name);
+    if (fills || alignment == UIStackView::alignTrailing)
+      addEqual(end(view, across_), roomEnd(across_), name);
+    if (alignment == UIStackView::alignCenter)
+      addEqual(centre(view, across_), 0.5 * (roomStart(across_) + roomEnd(across_)), name);
+    if (alignment == UIStackView::alignFirstBaseline || alignment == UIStackView::alignLastBaseline)
+      alignBaselines(view);
+    if (!fills) stayInside(view);
+  }
+
+  void stayInside(Object view) {
+    constexpr const char* name = "UISV-spanning-boundary";
+    add(start(view, across_) - roomStart(across_), Relation::atLeast, boundary, name);
+    add(end(view, across_) - roomEnd(across_), Relation::atMost, boundary, name);
   }
 
   // With that of the first view.
@@ -115,18 +124,18 @@ class Stack {
 
   void connectEnds() {
     constexpr const char* name = "UISV-canvas-connection";
-    addEqual(start(shown_.front(), along_), start(view_, along_), name);
-    addEqual(end(shown_.back(), along_), end(view_, along_), name);
+    addEqual(start(shown_.front(), along_), roomStart(along_), name);
+    addEqual(end(shown_.back(), along_), roomEnd(along_), name);
   }
 
   void addGaps() {
     for (std::size_t i = 0; i + 1 < shown_.size(); ++i)
-      addEqual(gapAfter(i), stack_.spacing, "UISV-spacing");
+      addEqual(gapAfter(i), spacing(i), "UISV-spacing");
   }
 
   void addEqualGaps() {
     for (std::size_t i = 0; i + 1 < shown_.size(); ++i) {
-      add(gapAfter(i) - stack_.spacing, Relation::atLeast, Problem::required, "UISV-spacing");
+      add(gapAfter(i) - spacing(i), Relation::atLeast, Problem::required, "UISV-spacing");
       if (i > 0) addEqual(gapAfter(i), gapAfter(0), "UISV-distributing");
     }
   }
@@ -136,7 +145,7 @@ class Stack {
       return centre(shown_[i + 1], along_) - centre(shown_[i], along_);
     };
     for (std::size_t i = 0; i + 1 < shown_.size(); ++i) {
-      add(gapAfter(i) - stack_.spacing, Relation::atLeast, Problem::required, "UISV-spacing");
+      add(gapAfter(i) - spacing(i), Relation::atLeast, Problem::required, "UISV-spacing");
       if (i > 0) add(step(i) - step(0), Relation::equal, centring, "UISV-distributing");
     }
   }
@@ -156,9 +165,11 @@ class Stack {
       total += wanted.back();
     }
     if (total == 0) return addEqualLengths();
-    const double gaps = stack_.spacing * double(shown_.size() - 1);
+    double gaps = 0;
+    for (std::size_t i = 0; i + 1 < shown_.size(); ++i) gaps += spacing(i);
     for (std::size_t i = 0; i < shown_.size(); ++i)
-      add(length(shown_[i], along_) - (wanted[i] / total) * (length(view_, along_) - gaps),
+      add(length(shown_[i], along_) -
+              (wanted[i] / total) * ((roomEnd(along_) - roomStart(along_)) - gaps),
           Relation::equal, proportion, "UISV-fill-proportionally");
   }
 

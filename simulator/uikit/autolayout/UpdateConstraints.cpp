@@ -16,6 +16,13 @@ void setNeedsUpdateConstraints(Object view) {
   constraintsChanged(view);
 }
 
+void viewCameIntoWindow(Object view) {
+  const SEL name = objc::selector<"updateConstraints">();
+  const IMP its = class_getMethodImplementation(object_getClass(view.get()), name);
+  if (its == class_getMethodImplementation(UIView::cls(), name)) return;
+  if (!std::exchange(constraintsOf(view).hasBeenInWindow, true)) setNeedsUpdateConstraints(view);
+}
+
 bool needsUpdateConstraints(Object view) {
   const ViewConstraints* its = existingConstraintsOf(view);
   return its != nullptr && its->needsUpdate;

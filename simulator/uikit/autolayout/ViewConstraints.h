@@ -18,12 +18,15 @@ struct ViewConstraints {
   std::array<float, 2> hugging{250, 250};         // priorities, horizontal and vertical
   std::array<float, 2> resistance{750, 750};
   UIEdgeInsets margins{8, 8, 8, 8};
-  bool needsUpdate = false;  // updateConstraints is due
+  bool needsUpdate = false;      // updateConstraints is due
+  bool hasBeenInWindow = false;  // of classes with an updateConstraints of their own
 
   // Of a tree's root: the solution does not fit the tree any more.
   bool isStale = false;
   // The view stands where it is, and the last solution was made from that.
   bool isRead = false;
+  // One of the system's own constraints for the view broke, and the log said so.
+  bool isReportedBroken = false;
   // What -intrinsicContentSize answered, until it is invalidated.
   std::optional<CGSize> contentSize;
   // Points, whole pixels, in the superview's coordinates; none before there is a solution.

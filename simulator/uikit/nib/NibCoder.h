@@ -4,6 +4,7 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/uikit/Geometry.h"
+#include "simulator/uikit/nib/EdgeInsets.h"
 
 namespace sim {
 
@@ -31,6 +32,9 @@ class NibCoder {
   }
   CGPoint point(const char* key) const {
     return objc::send<CGPoint, "decodeCGPointForKey:">(coder_, string(key));
+  }
+  UIEdgeInsets insets(const char* key) const {
+    return objc::send<UIEdgeInsets, "decodeUIEdgeInsetsForKey:">(coder_, string(key));
   }
   // Of an array; none for nil.
   std::vector<objc::Object> elements(const char* key) const {

@@ -16,6 +16,8 @@ Object initWithCoder(Object self, Object source) {
   objc::send<void, "setDistribution:">(made, coder.integer("UIStackViewDistribution"));
   objc::send<void, "setAlignment:">(made, coder.integer("UIStackViewAlignment"));
   objc::send<void, "setSpacing:">(made, coder.number("UIStackViewSpacing"));
+  objc::send<void, "setLayoutMarginsRelativeArrangement:">(
+      made, coder.flag("UIStackViewLayoutMarginsRelative"));
   for (const Object each : coder.elements("UIStackViewArrangedSubviews"))
     objc::send<void, "addArrangedSubview:">(made, each);
   return made;
@@ -24,7 +26,7 @@ Object initWithCoder(Object self, Object source) {
 }  // namespace
 
 void addStackViewDecoding() {
-  addInitWithCoder<&initWithCoder>("UIStackView", "no arrangement by baselines or margins");
+  addInitWithCoder<&initWithCoder>("UIStackView", "no arrangement by baselines");
 }
 
 }  // namespace sim

@@ -48,6 +48,8 @@ void decodeLayout(Object view, const NibCoder& coder) {
       view, coder.object("UIViewContentHuggingPriority"));
   decodePriorities<"setContentCompressionResistancePriority:forAxis:">(
       view, coder.object("UIViewContentCompressionResistancePriority"));
+  if (coder.has("UIViewLayoutMargins"))
+    objc::send<void, "setLayoutMargins:">(view, coder.insets("UIViewLayoutMargins"));
   for (const Object each : coder.elements("UIViewAutolayoutConstraints"))
     objc::send<void, "addConstraint:">(view, each);
 }

@@ -12,10 +12,19 @@ const nearEnd = 40; // pixels: who reads further up is left there
 export class JournalPanel {
   #state;
   #list = h("ol", { class: "entries", id: "entries", "aria-label": "Entries of the journal" });
-  #filter = h("input", { type: "search", id: "journal-filter", placeholder: "Filter", "aria-label": "Filter the journal",
-    oninput: () => this.#rebuild() });
-  #kind = h("select", { "aria-label": "Kind of entry", onchange: () => this.#rebuild() }, h("option", { value: "", text: "Everything" }),
-    ...Object.entries(kinds).map(([value, text]) => h("option", { value, text })));
+  #filter = h("input", {
+    type: "search",
+    id: "journal-filter",
+    placeholder: "Filter",
+    "aria-label": "Filter the journal",
+    oninput: () => this.#rebuild(),
+  });
+  #kind = h(
+    "select",
+    { "aria-label": "Kind of entry", onchange: () => this.#rebuild() },
+    h("option", { value: "", text: "Everything" }),
+    ...Object.entries(kinds).map(([value, text]) => h("option", { value, text })),
+  );
   #empty = h("p", { class: "empty", text: "What the phone does is written down here." });
   #timeline;
   #follows = true; // shows what comes; not while somebody reads further up
@@ -26,7 +35,10 @@ export class JournalPanel {
     byId("panel-journal").append(
       h("div", { class: "panel-head" }, h("h2", { text: "Journal" }), this.#tools()),
       this.#timeline.element,
-      h("div", { class: "filter-line" }, this.#filter, this.#kind), this.#empty, this.#list);
+      h("div", { class: "filter-line" }, this.#filter, this.#kind),
+      this.#empty,
+      this.#list,
+    );
     this.#list.addEventListener("scroll", () => (this.#follows = this.#isAtEnd()));
     new ResizeObserver(() => this.#follow()).observe(this.#list);
     this.#list.addEventListener("click", (event) => this.#toggle(event.target.closest("li")));
@@ -34,11 +46,34 @@ export class JournalPanel {
   }
 
   #tools() {
-    return h("div", { class: "tools" },
-      h("button", { class: "soft", id: "copy-recording", type: "button", title: "Copies what was done, as a phone script", onclick: () => this.#copy() },
-        icon("copy"), h("span", { text: "Copy" })),
-      h("a", { class: "soft", id: "download-recording", href: "/api/recording.phone", download: "recording.phone",
-        title: "The same as a file: dozewell-simulator play FILE" }, icon("download"), h("span", { text: "Save" })));
+    return h(
+      "div",
+      { class: "tools" },
+      h(
+        "button",
+        {
+          class: "soft",
+          id: "copy-recording",
+          type: "button",
+          title: "Copies what was done, as a phone script",
+          onclick: () => this.#copy(),
+        },
+        icon("copy"),
+        h("span", { text: "Copy" }),
+      ),
+      h(
+        "a",
+        {
+          class: "soft",
+          id: "download-recording",
+          href: "/api/recording.phone",
+          download: "recording.phone",
+          title: "The same as a file: dozewell-simulator play FILE",
+        },
+        icon("download"),
+        h("span", { text: "Save" }),
+      ),
+    );
   }
 
   async #copy() {
@@ -60,9 +95,16 @@ export class JournalPanel {
 
   #row(entry) {
     const { kind } = explain(entry.text);
-    return h("li", { "data-n": entry.n, class: `entry ${kind}` },
-      h("button", { class: "entry-line", type: "button", "aria-expanded": "false" },
-        h("time", { text: uptime(entry.time) }), h("code", { text: entry.text })));
+    return h(
+      "li",
+      { "data-n": entry.n, class: `entry ${kind}` },
+      h(
+        "button",
+        { class: "entry-line", type: "button", "aria-expanded": "false" },
+        h("time", { text: uptime(entry.time) }),
+        h("code", { text: entry.text }),
+      ),
+    );
   }
 
   #rebuild() {
@@ -105,13 +147,22 @@ export class JournalPanel {
     const entry = this.#state.journal.find((each) => each.n === n);
     const { kind, meaning } = explain(entry.text);
     const wall = new Date((this.#state.wall() - this.#state.uptime() + entry.time) * 1000);
-    return h("div", { class: "entry-details" },
+    return h(
+      "div",
+      { class: "entry-details" },
       meaning ? h("p", { text: meaning }) : null,
-      h("dl", {},
-        h("dt", { text: "Kind" }), h("dd", { text: kinds[kind] }),
-        h("dt", { text: "On the phone's clock" }), h("dd", { text: wall.toISOString().replace("T", " ").replace("Z", "") }),
-        h("dt", { text: "Line" }), h("dd", { text: `${n}` })),
-      h("pre", { text: entry.text }));
+      h(
+        "dl",
+        {},
+        h("dt", { text: "Kind" }),
+        h("dd", { text: kinds[kind] }),
+        h("dt", { text: "On the phone's clock" }),
+        h("dd", { text: wall.toISOString().replace("T", " ").replace("Z", "") }),
+        h("dt", { text: "Line" }),
+        h("dd", { text: `${n}` }),
+      ),
+      h("pre", { text: entry.text }),
+    );
   }
 
   // Opens that entry, whatever the filter is.

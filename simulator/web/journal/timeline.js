@@ -24,9 +24,21 @@ export class Timeline {
   constructor(state, chosen) {
     this.#state = state;
     this.#chosen = chosen;
-    const drawing = svg("svg", { viewBox: `0 0 ${width} ${height}`, preserveAspectRatio: "none", "aria-hidden": "true" },
-      ...lanes.map((_, lane) => svg("line", { class: "lane", x1: 0, x2: width, y1: this.#y(lane), y2: this.#y(lane) })), this.#now, this.#marks);
-    this.element = h("div", { class: "timeline", id: "timeline" }, drawing, h("div", { class: "timeline-ends" }, this.#from, this.#to));
+    const drawing = svg(
+      "svg",
+      { viewBox: `0 0 ${width} ${height}`, preserveAspectRatio: "none", "aria-hidden": "true" },
+      ...lanes.map((_, lane) =>
+        svg("line", { class: "lane", x1: 0, x2: width, y1: this.#y(lane), y2: this.#y(lane) }),
+      ),
+      this.#now,
+      this.#marks,
+    );
+    this.element = h(
+      "div",
+      { class: "timeline", id: "timeline" },
+      drawing,
+      h("div", { class: "timeline-ends" }, this.#from, this.#to),
+    );
     drawing.addEventListener("click", (event) => this.#choose(event, drawing));
     state.on("journal", () => this.#queue());
     setInterval(() => this.#moveNow(), 500);
@@ -60,13 +72,22 @@ export class Timeline {
     this.#pending = false;
     const span = this.#span;
     this.#drawn = span.last;
-    this.#marks.replaceChildren(...this.#entries.map((entry) => {
-      const { kind } = explain(entry.text);
-      const x = this.#x(entry.time, span);
-      const y = this.#y(lanes.indexOf(kind));
-      const chosen = entry.n === this.#marked ? " chosen" : "";
-      return svg("line", { class: `mark ${kind}${chosen}`, x1: x, x2: x, y1: y - 3, y2: y + 3, "data-n": entry.n });
-    }));
+    this.#marks.replaceChildren(
+      ...this.#entries.map((entry) => {
+        const { kind } = explain(entry.text);
+        const x = this.#x(entry.time, span);
+        const y = this.#y(lanes.indexOf(kind));
+        const chosen = entry.n === this.#marked ? " chosen" : "";
+        return svg("line", {
+          class: `mark ${kind}${chosen}`,
+          x1: x,
+          x2: x,
+          y1: y - 3,
+          y2: y + 3,
+          "data-n": entry.n,
+        });
+      }),
+    );
     this.#from.textContent = duration(span.first);
     this.#to.textContent = duration(span.last);
     this.#moveNow();
@@ -76,7 +97,10 @@ export class Timeline {
     const span = this.#span;
     // The scale is drawn anew only when time has left it behind.
     if (span.last > this.#drawn + (span.last - span.first) * 0.02) return this.#queue();
-    const x = this.#x(Math.min(this.#state.uptime(), this.#drawn), { ...span, last: this.#drawn || span.last });
+    const x = this.#x(Math.min(this.#state.uptime(), this.#drawn), {
+      ...span,
+      last: this.#drawn || span.last,
+    });
     this.#now.setAttribute("x1", x);
     this.#now.setAttribute("x2", x);
   }

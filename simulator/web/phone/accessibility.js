@@ -3,6 +3,8 @@
 
 const roles = { button: "button", group: "group", slider: "slider", picker: "spinbutton" };
 
+export const alertKind = "_UIAlertControllerView";
+
 export const turns = (role) => role === "slider" || role === "picker";
 export const presses = (role) => role === "button" || role === "group";
 
@@ -11,7 +13,8 @@ function set(element, name, value) {
   else element.setAttribute(name, value);
 }
 
-export function describe(element, { role, label, value, enabled, selected }) {
+export function describe(element, { kind, role, label, value, enabled, selected }) {
+  if (kind === alertKind) return element.setAttribute("role", "alertdialog");
   const known = role && roles[role];
   element.dataset.role = role ?? "";
   set(element, "role", known);

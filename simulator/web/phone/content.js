@@ -3,7 +3,17 @@ import { h, svg } from "../ui/dom.js";
 
 // In the node's own coordinates; what is drawn may be larger than the bounds, which may be empty.
 function canvas([x, y], hidden, ...children) {
-  return svg("svg", { class: "content", width: 1, height: 1, viewBox: `${x} ${y} 1 1`, "aria-hidden": hidden ? "true" : null }, ...children);
+  return svg(
+    "svg",
+    {
+      class: "content",
+      width: 1,
+      height: 1,
+      viewBox: `${x} ${y} 1 1`,
+      "aria-hidden": hidden ? "true" : null,
+    },
+    ...children,
+  );
 }
 
 const anchors = { left: "start", center: "middle", right: "end" };
@@ -14,7 +24,11 @@ function drawText(text, bounds) {
   const [x, , width] = bounds;
   const at = { left: x, center: x + width / 2, right: x + width }[text.alignment];
   const lines = text.lines.map((line, index) => {
-    const drawn = svg("text", { x: at, y: bounds[1] + text.baseline + index * text.lineHeight }, line.text);
+    const drawn = svg(
+      "text",
+      { x: at, y: bounds[1] + text.baseline + index * text.lineHeight },
+      line.text,
+    );
     if (line.spacing) drawn.style.letterSpacing = `${line.spacing}px`;
     return drawn;
   });
@@ -36,7 +50,9 @@ const picture = (file) => `/api/image?file=${encodeURIComponent(file)}`;
 
 function drawImage(image, bounds) {
   const [x, y, width, height] = image.frame;
-  const drawn = image.tint ? h("div", { class: "content tinted" }) : h("img", { class: "content", src: picture(image.file), alt: "", draggable: "false" });
+  const drawn = image.tint
+    ? h("div", { class: "content tinted" })
+    : h("img", { class: "content", src: picture(image.file), alt: "", draggable: "false" });
   const { style } = drawn;
   style.left = `${x - bounds[0]}px`;
   style.top = `${y - bounds[1]}px`;
@@ -73,9 +89,14 @@ function drawGradient(gradient, bounds, radius) {
   const [x1, y1] = gradient.start;
   const [x2, y2] = gradient.end;
   const stops = gradient.stops.map(({ at, color }) =>
-    svg("stop", { offset: at, "stop-color": color }));
-  return canvas(bounds, true, svg("defs", {}, svg("linearGradient", { id, x1, y1, x2, y2 }, ...stops)),
-    svg("rect", { x, y, width, height, rx: radius, fill: `url(#${id})` }));
+    svg("stop", { offset: at, "stop-color": color }),
+  );
+  return canvas(
+    bounds,
+    true,
+    svg("defs", {}, svg("linearGradient", { id, x1, y1, x2, y2 }, ...stops)),
+    svg("rect", { x, y, width, height, rx: radius, fill: `url(#${id})` }),
+  );
 }
 
 const ways = { text: drawText, image: drawImage, shape: drawShape, gradient: drawGradient };

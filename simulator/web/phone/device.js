@@ -5,7 +5,12 @@ import { h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
 import { toast } from "../ui/toast.js";
 
-const nextTurn = { portrait: "landscape-left", "landscape-left": "upside-down", "upside-down": "landscape-right", "landscape-right": "portrait" };
+const nextTurn = {
+  portrait: "landscape-left",
+  "landscape-left": "upside-down",
+  "upside-down": "landscape-right",
+  "landscape-right": "portrait",
+};
 
 export class Device {
   #state;
@@ -38,12 +43,28 @@ export class Device {
   }
 
   #key(name, label, press) {
-    return h("button", { class: `side-key ${name}`, type: "button", "aria-label": label, title: label, onclick: press });
+    return h("button", {
+      class: `side-key ${name}`,
+      type: "button",
+      "aria-label": label,
+      title: label,
+      onclick: press,
+    });
   }
 
   #button(name, label, command, press) {
-    const button = h("button", { class: "device-button", id: `device-${name}`, type: "button", title: label, onclick: press },
-      icon(name), h("span", { text: label }));
+    const button = h(
+      "button",
+      {
+        class: "device-button",
+        id: `device-${name}`,
+        type: "button",
+        title: label,
+        onclick: press,
+      },
+      icon(name),
+      h("span", { text: label }),
+    );
     this.#buttons.set(name, { button, command });
     return button;
   }
@@ -53,15 +74,21 @@ export class Device {
       this.#button("controls", "Control Center", "control-center", () => this.#controlCenter()),
       this.#button("lock", "Lock", "lock", () => this.#lock()),
       this.#button("home", "Home", "control-center", () => this.home()),
-      this.#button("screen", "Screen", "screen", () => perform(`screen ${this.#state.phone.screenOn ? "off" : "on"}`)),
+      this.#button("screen", "Screen", "screen", () =>
+        perform(`screen ${this.#state.phone.screenOn ? "off" : "on"}`),
+      ),
       this.#button("shake", "Shake", "shake", () => this.#shake()),
-      this.#button("rotate", "Rotate", "rotate", () => perform(`rotate ${nextTurn[this.#state.phone.orientation] ?? "portrait"}`)),
+      this.#button("rotate", "Rotate", "rotate", () =>
+        perform(`rotate ${nextTurn[this.#state.phone.orientation] ?? "portrait"}`),
+      ),
       this.#button("headphones", "Headphones away", "bluetooth", () => perform("bluetooth none")),
     ];
   }
 
   #makeMore() {
-    const respring = this.#button("respring", "Respring", "respring", () => perform(this.#state.phone.host === "off" ? "boot" : "respring"));
+    const respring = this.#button("respring", "Respring", "respring", () =>
+      perform(this.#state.phone.host === "off" ? "boot" : "respring"),
+    );
     const kill = this.#button("kill", "Kill", "kill", () => perform("kill"));
     respring.title = "Restarts the home screen in order";
     kill.title = "The home screen dies at once, without an orderly end";
@@ -106,7 +133,10 @@ export class Device {
     this.#rename("lock", locked ? "Unlock" : "Lock", locked ? "unlock" : "lock");
     this.#rename("screen", screenOn ? "Screen off" : "Screen on");
     this.#rename("respring", { running: "Respring", dead: "Start again", off: "Switch on" }[host]);
-    for (const [name, { button }] of this.#buttons) button.disabled = host !== "running" && !["respring", "headphones"].includes(name);
-    this.#buttons.get("controls").button.setAttribute("aria-pressed", String(this.controlCenterIsOpen));
+    for (const [name, { button }] of this.#buttons)
+      button.disabled = host !== "running" && !["respring", "headphones"].includes(name);
+    this.#buttons
+      .get("controls")
+      .button.setAttribute("aria-pressed", String(this.controlCenterIsOpen));
   }
 }

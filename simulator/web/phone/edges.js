@@ -20,7 +20,12 @@ export class Edges {
   // Whether a touch there begins a swipe, and so is none of the host's.
   began(point, size) {
     this.#from = point;
-    if (point.y < corner.height && point.x > size.width * corner.part && !this.#device.controlCenterIsOpen) this.#swipe = "down";
+    if (
+      point.y < corner.height &&
+      point.x > size.width * corner.part &&
+      !this.#device.controlCenterIsOpen
+    )
+      this.#swipe = "down";
     else if (point.y > size.height - lowerEdge) this.#swipe = "up";
     else this.#swipe = null;
     return this.#swipe !== null;

@@ -22,9 +22,20 @@ export class Handset {
     this.#state = state;
     this.#stand = stand;
     this.#screen = screen;
-    this.glass = h("div", { class: "glass", id: "glass" }, screen.element, h("div", { class: "island", "aria-hidden": "true" }),
-      h("div", { class: "dark", "aria-hidden": "true" }));
-    this.#body = h("div", { class: "handset", id: "handset" }, ...device.keys, h("div", { class: "shell", "aria-hidden": "true" }), this.glass);
+    this.glass = h(
+      "div",
+      { class: "glass", id: "glass" },
+      screen.element,
+      h("div", { class: "island", "aria-hidden": "true" }),
+      h("div", { class: "dark", "aria-hidden": "true" }),
+    );
+    this.#body = h(
+      "div",
+      { class: "handset", id: "handset" },
+      ...device.keys,
+      h("div", { class: "shell", "aria-hidden": "true" }),
+      this.glass,
+    );
     stand.append(h("div", { class: "handset-box" }, this.#body));
     new ResizeObserver(() => this.#fit()).observe(stand);
     for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());

@@ -1,46 +1,68 @@
-// One sentence below the phone for who is here for the first time. It follows what is done and is
-// gone for good once a timer has been set.
+// One sentence below the phone. Whoever is here for the first time is led to the moon by it; once a
+// timer has been set that is over for good, and it only says what the phone waits for.
 import { announce } from "../ui/toast.js";
 import { byId } from "../ui/dom.js";
 
 const key = "dozewell.found";
-const started = /^post "DozewellDidStartNotification"/;
+const started = 'post "DozewellDidStartNotification"';
+const stopped = 'post "DozewellDidStopNotification"';
+const paused = "-[SBMediaController pause";
 
 export class Hint {
   #state;
   #screen;
   #place = byId("hint");
+  #news = ""; // of the timer that was set while this page was open
 
   constructor(state, screen) {
     this.#state = state;
     this.#screen = screen;
-    if (localStorage.getItem(key)) return;
-    state.on("journal", (event) => this.#hear(event));
+    state.on("journal", (event) => !event.whole && this.#hear(event.detail));
+    for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());
     screen.addEventListener("change", () => this.#show());
-    state.on("snapshot", () => this.#show());
   }
 
-  #hear(event) {
-    if (event.whole || !event.detail.some((entry) => started.test(entry.text))) return;
+  #hear(entries) {
+    for (const { text } of entries) {
+      if (text.startsWith(started)) this.#timerWasSet();
+      else if (text.startsWith(paused)) this.#tell("The music has stopped. Good night.");
+      else if (text.startsWith(stopped) && !this.#news.startsWith("The music")) this.#news = "";
+    }
+    this.#show();
+  }
+
+  #timerWasSet() {
+    const first = !localStorage.getItem(key);
     localStorage.setItem(key, "yes");
-    this.#place.textContent = "The timer is set. Move time forward and listen: the music fades, then stops.";
-    this.#place.classList.add("done");
-    announce("Timer set");
+    this.#tell(
+      first
+        ? "The timer is set. Move time forward and listen: the music fades, then stops."
+        : "The timer is set.",
+    );
+  }
+
+  #tell(news) {
+    this.#news = news;
+    announce(news);
   }
 
   #sentence() {
-    if (this.#state.phone.host === "off") return "This phone is off. Switch it on.";
-    if (this.#state.phone.host === "dead") return "The home screen has died. Start it again.";
-    if (!this.#state.phone.screenOn) return "Tap the phone to light its screen.";
-    if (this.#state.phone.locked) return "Unlock the phone: press its side key.";
-    if (this.#screen.shows("ChooseSnoozeTimeView")) return "Choose how long the music may play, then confirm.";
-    if (this.#screen.shows("DozewellButton")) return "The moon beside the song is the sleep timer. Tap it.";
+    const { host, screenOn, locked } = this.#state.phone;
+    if (host === "off") return "This phone is off. Switch it on.";
+    if (host === "dead") return "The home screen has died. Start it again.";
+    if (!screenOn) return "Tap the phone to light its screen.";
+    if (this.#news || localStorage.getItem(key)) return this.#news;
+    if (locked) return "Unlock the phone: press its side key.";
+    if (this.#screen.shows("ChooseSnoozeTimeView"))
+      return "Choose how long the music may play, then confirm.";
+    if (this.#screen.shows("DozewellButton"))
+      return "The moon beside the song is the sleep timer. Tap it.";
     return "Open Control Center to find the moon: pull down from the upper right corner.";
   }
 
   #show() {
-    if (localStorage.getItem(key)) return;
     const sentence = this.#sentence();
+    this.#place.classList.toggle("done", sentence !== "" && sentence === this.#news);
     if (this.#place.textContent !== sentence) this.#place.textContent = sentence;
   }
 }

@@ -13,7 +13,9 @@ function frame({ bounds: [x, y, width, height], radius = 0 }, to, [, , wide, hig
 
 // Every pair of numbers of the path is a point.
 function path(data, to) {
-  const mapped = data.replace(/(-?[\d.]+(?:e-?\d+)?) (-?[\d.]+(?:e-?\d+)?)/g, (_, x, y) => to(Number(x), Number(y)).join(" "));
+  const mapped = data.replace(/(-?[\d.]+(?:e-?\d+)?) (-?[\d.]+(?:e-?\d+)?)/g, (_, x, y) =>
+    to(Number(x), Number(y)).join(" "),
+  );
   return `path("${mapped}")`;
 }
 

@@ -11,7 +11,9 @@ export class Screen extends EventTarget {
 
   constructor(state) {
     super();
-    state.on("scene", (event) => (event.whole ? this.#replace(event.detail) : this.#change(event.detail)));
+    state.on("scene", (event) =>
+      event.whole ? this.#replace(event.detail) : this.#change(event.detail),
+    );
   }
 
   #replace(scene) {

@@ -34,7 +34,8 @@ export class Touch {
   }
 
   #down(event) {
-    if (this.#finger !== null || event.button !== 0 || event.target.closest(".veil, .start-veil")) return;
+    if (this.#finger !== null || event.button !== 0 || event.target.closest(".veil, .start-veil"))
+      return;
     this.#finger = event.pointerId;
     this.#handset.glass.setPointerCapture(event.pointerId);
     this.#place = this.#point(event);
@@ -77,7 +78,8 @@ export class Touch {
 
   #wheel(event) {
     event.preventDefault();
-    const pixels = event.deltaMode === WheelEvent.DOM_DELTA_LINE ? event.deltaY * rowHeight : event.deltaY;
+    const pixels =
+      event.deltaMode === WheelEvent.DOM_DELTA_LINE ? event.deltaY * rowHeight : event.deltaY;
     this.#turned += pixels;
     const rows = Math.trunc(this.#turned / rowHeight);
     if (rows === 0) return;

@@ -3,7 +3,8 @@ import { perform, quoted } from "../server/commands.js";
 import { h } from "../ui/dom.js";
 import { duration } from "../ui/format.js";
 
-const words = ({ title, artist, length }) => `${quoted(title)} ${length}${artist ? ` by ${quoted(artist)}` : ""}`;
+const words = ({ title, artist, length }) =>
+  `${quoted(title)} ${length}${artist ? ` by ${quoted(artist)}` : ""}`;
 
 export class MusicList {
   #state;
@@ -28,11 +29,21 @@ export class MusicList {
   }
 
   #row(track, index) {
-    return h("li", {},
-      h("button", { class: "track", type: "button", onclick: () => this.#play(index) },
-        h("span", { class: "track-name" }, h("span", { text: track.title }),
-          track.artist ? h("small", { text: track.artist }) : null),
-        h("span", { class: "track-length", text: duration(track.length) })));
+    return h(
+      "li",
+      {},
+      h(
+        "button",
+        { class: "track", type: "button", onclick: () => this.#play(index) },
+        h(
+          "span",
+          { class: "track-name" },
+          h("span", { text: track.title }),
+          track.artist ? h("small", { text: track.artist }) : null,
+        ),
+        h("span", { class: "track-length", text: duration(track.length) }),
+      ),
+    );
   }
 
   // The list from that track on, and then what stands before it.

@@ -30,7 +30,16 @@ export class MusicPanel {
   }
 
   #button(name, label, line) {
-    return h("button", { class: `round ${name}`, type: "button", "aria-label": label, onclick: () => perform(line()) }, icon(name));
+    return h(
+      "button",
+      {
+        class: `round ${name}`,
+        type: "button",
+        "aria-label": label,
+        onclick: () => perform(line()),
+      },
+      icon(name),
+    );
   }
 
   #makePlayer() {
@@ -38,24 +47,58 @@ export class MusicPanel {
     p.cover = h("div", { class: "cover" }, icon("music"));
     p.title = h("p", { class: "track-title" });
     p.artist = h("p", { class: "track-artist" });
-    p.seek = h("input", { type: "range", class: "seek", min: 0, max: 1, step: 1, value: 0, "aria-label": "Position in the track",
-      onchange: () => perform(`seek ${p.seek.value}`) });
+    p.seek = h("input", {
+      type: "range",
+      class: "seek",
+      min: 0,
+      max: 1,
+      step: 1,
+      value: 0,
+      "aria-label": "Position in the track",
+      onchange: () => perform(`seek ${p.seek.value}`),
+    });
     p.at = h("span", { class: "at" });
     p.left = h("span", { class: "left" });
-    p.toggle = h("button", { class: "round toggle", id: "play-pause", type: "button",
-      onclick: () => perform(this.#state.player?.playing ? "pause" : "play") });
-    p.volume = h("input", { type: "range", class: "volume", id: "volume", min: 0, max: 1, step: 0.01, value: 0, "aria-label": "Volume",
-      oninput: () => this.#turn(p.volume.value) });
-    return h("div", { class: "now-playing" },
+    p.toggle = h("button", {
+      class: "round toggle",
+      id: "play-pause",
+      type: "button",
+      onclick: () => perform(this.#state.player?.playing ? "pause" : "play"),
+    });
+    p.volume = h("input", {
+      type: "range",
+      class: "volume",
+      id: "volume",
+      min: 0,
+      max: 1,
+      step: 0.01,
+      value: 0,
+      "aria-label": "Volume",
+      oninput: () => this.#turn(p.volume.value),
+    });
+    return h(
+      "div",
+      { class: "now-playing" },
       h("div", { class: "now-line" }, p.cover, h("div", { class: "now-words" }, p.title, p.artist)),
       h("div", { class: "seek-line" }, p.seek, h("div", { class: "seek-times" }, p.at, p.left)),
-      h("div", { class: "transport" }, this.#button("previous", "Previous track", () => "previous-track"), p.toggle,
-        this.#button("next", "Next track", () => "next-track")),
-      h("label", { class: "volume-line" }, icon("sound"), p.volume));
+      h(
+        "div",
+        { class: "transport" },
+        this.#button("previous", "Previous track", () => "previous-track"),
+        p.toggle,
+        this.#button("next", "Next track", () => "next-track"),
+      ),
+      h("label", { class: "volume-line" }, icon("sound"), p.volume),
+    );
   }
 
   #makeListPlace() {
-    return h("div", { class: "track-list" }, h("h2", { text: "Music" }), h("ol", { id: "tracks", class: "tracks" }));
+    return h(
+      "div",
+      { class: "track-list" },
+      h("h2", { text: "Music" }),
+      h("ol", { id: "tracks", class: "tracks" }),
+    );
   }
 
   // One request at a time: a slider speaks faster than it matters.
@@ -65,7 +108,8 @@ export class MusicPanel {
     this.#turning = true;
     await perform(`volume ${level}`);
     this.#turning = false;
-    if (document.activeElement === this.#parts.volume && this.#parts.volume.value !== level) this.#turn(this.#parts.volume.value);
+    if (document.activeElement === this.#parts.volume && this.#parts.volume.value !== level)
+      this.#turn(this.#parts.volume.value);
   }
 
   #show() {

@@ -4,8 +4,16 @@ import { read } from "../server/requests.js";
 import { h } from "../ui/dom.js";
 
 export class CommandLine {
-  #input = h("input", { type: "text", id: "command-line", list: "command-names", autocomplete: "off", spellcheck: "false", autocapitalize: "none",
-    placeholder: "A command, such as: advance 10m", "aria-label": "A command of the script language" });
+  #input = h("input", {
+    type: "text",
+    id: "command-line",
+    list: "command-names",
+    autocomplete: "off",
+    spellcheck: "false",
+    autocapitalize: "none",
+    placeholder: "A command, such as: advance 10m",
+    "aria-label": "A command of the script language",
+  });
   #names = h("datalist", { id: "command-names" });
   #help = h("p", { class: "command-help" });
   #output = h("pre", { class: "command-output", hidden: true, "aria-live": "polite" });
@@ -14,8 +22,15 @@ export class CommandLine {
   #place = 0;
 
   constructor() {
-    this.element = h("form", { class: "command-line", onsubmit: (event) => this.#run(event) },
-      this.#input, h("button", { class: "primary", type: "submit", text: "Do" }), this.#names, this.#help, this.#output);
+    this.element = h(
+      "form",
+      { class: "command-line", onsubmit: (event) => this.#run(event) },
+      this.#input,
+      h("button", { class: "primary", type: "submit", text: "Do" }),
+      this.#names,
+      this.#help,
+      this.#output,
+    );
     this.#input.addEventListener("input", () => this.#explain());
     this.#input.addEventListener("keydown", (event) => this.#recall(event));
     this.#learn();

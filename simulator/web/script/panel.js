@@ -8,15 +8,26 @@ import { CommandLine } from "./line.js";
 
 const largest = 1024 * 1024; // bytes
 
-const states = { ready: "Ready", running: "Playing", finished: "Played to its end", failed: "Stopped at a failure" };
+const states = {
+  ready: "Ready",
+  running: "Playing",
+  finished: "Played to its end",
+  failed: "Stopped at a failure",
+};
 
 export class ScriptPanel {
   #state;
   #text = new ScriptText();
   #status = h("p", { class: "script-status", role: "status" });
   #problem = h("p", { class: "form-problem", role: "alert", hidden: true });
-  #file = h("input", { type: "file", accept: ".phone,text/plain", class: "visually-hidden", id: "script-file", "aria-label": "Script file",
-    onchange: () => this.#openFile(this.#file.files[0]) });
+  #file = h("input", {
+    type: "file",
+    accept: ".phone,text/plain",
+    class: "visually-hidden",
+    id: "script-file",
+    "aria-label": "Script file",
+    onchange: () => this.#openFile(this.#file.files[0]),
+  });
   #buttons = {};
   #loaded = null; // name of the script whose text is shown
 
@@ -24,29 +35,61 @@ export class ScriptPanel {
     this.#state = state;
     byId("panel-script").append(
       h("div", { class: "panel-head" }, h("h2", { text: "Script" }), this.#makeTools()),
-      new CommandLine().element, h("hr", {}),
-      this.#status, this.#problem, this.#text.element, this.#makeEmpty());
+      new CommandLine().element,
+      h("hr", {}),
+      this.#status,
+      this.#problem,
+      this.#text.element,
+      this.#makeEmpty(),
+    );
     state.on("script", (event) => this.#show(event.detail));
     this.#acceptDrops();
     this.#openAddress();
   }
 
   #button(name, picture, text, press) {
-    this.#buttons[name] = h("button", { class: "soft", id: `script-${name}`, type: "button", onclick: press, "aria-label": text ? null : "Close the script" },
-      icon(picture), text ? h("span", { text }) : null);
+    this.#buttons[name] = h(
+      "button",
+      {
+        class: "soft",
+        id: `script-${name}`,
+        type: "button",
+        onclick: press,
+        "aria-label": text ? null : "Close the script",
+      },
+      icon(picture),
+      text ? h("span", { text }) : null,
+    );
     return this.#buttons[name];
   }
 
   #makeTools() {
-    return h("div", { class: "tools" }, this.#file,
+    return h(
+      "div",
+      { class: "tools" },
+      this.#file,
       this.#button("open", "open", "Open", () => this.#file.click()),
       this.#button("step", "step", "Line", () => this.#play({ lines: 1 })),
       this.#button("run", "play", "All", () => this.#play({ run: true })),
-      this.#button("close", "close", "", () => this.#close()));
+      this.#button("close", "close", "", () => this.#close()),
+    );
   }
 
   #makeEmpty() {
-    return h("p", { class: "empty script-empty", text: "Open a phone script, or drop its file anywhere on this page. It gets a fresh phone, and waits before its first line." });
+    return h(
+      "div",
+      { class: "empty script-empty" },
+      h("p", {
+        text: "Open a phone script, or drop its file anywhere on this page. It gets a fresh phone, and waits before its first line.",
+      }),
+      h("button", {
+        class: "soft",
+        id: "script-replay",
+        type: "button",
+        text: "Play again what was done so far",
+        onclick: () => this.#openFrom(new URL("/api/recording.phone", location.href)),
+      }),
+    );
   }
 
   #acceptDrops() {
@@ -56,7 +99,10 @@ export class ScriptPanel {
       event.preventDefault();
       document.body.classList.add("dropping");
     });
-    addEventListener("dragleave", (event) => event.relatedTarget === null && document.body.classList.remove("dropping"));
+    addEventListener(
+      "dragleave",
+      (event) => event.relatedTarget === null && document.body.classList.remove("dropping"),
+    );
     addEventListener("drop", (event) => {
       if (!files(event)) return;
       event.preventDefault();
@@ -68,7 +114,8 @@ export class ScriptPanel {
   async #openFile(file) {
     if (!file) return;
     this.#file.value = "";
-    if (file.size > largest) return toast(`${file.name} is too large for a phone script.`, "problem");
+    if (file.size > largest)
+      return toast(`${file.name} is too large for a phone script.`, "problem");
     await this.#open(file.name, await file.text());
     byId("tab-script").click();
   }
@@ -78,13 +125,19 @@ export class ScriptPanel {
     const address = new URLSearchParams(location.search).get("script");
     if (address === null) return;
     const url = new URL(address, location.href);
-    if (url.origin !== location.origin) return toast("A script is opened from this server only.", "problem");
+    if (url.origin !== location.origin)
+      return toast("A script is opened from this server only.", "problem");
+    // A reload must not begin the script again.
+    history.replaceState(null, "", location.pathname);
+    await this.#openFrom(url);
+  }
+
+  async #openFrom(url) {
     try {
       const response = await fetch(url);
       if (!response.ok) throw new Error(`The server has no ${url.pathname}.`);
       await this.#open(url.pathname.split("/").at(-1), await response.text());
-      // A reload must not begin the script again.
-      history.replaceState(null, "", location.pathname);
+      byId("tab-script").click();
     } catch (error) {
       toast(error.message, "problem");
     }
@@ -94,7 +147,10 @@ export class ScriptPanel {
     try {
       await post("/api/script", { name, text });
     } catch (error) {
-      toast(error.body?.line ? `${name}, line ${error.body.line}: ${error.message}` : error.message, "problem");
+      toast(
+        error.body?.line ? `${name}, line ${error.body.line}: ${error.message}` : error.message,
+        "problem",
+      );
     }
   }
 
@@ -117,11 +173,13 @@ export class ScriptPanel {
   async #show(script) {
     const open = script !== null && script !== undefined;
     byId("panel-script").classList.toggle("has-script", open);
-    for (const name of ["step", "run"]) this.#buttons[name].disabled = !open || !["ready", "running"].includes(script.state);
+    for (const name of ["step", "run"])
+      this.#buttons[name].disabled = !open || !["ready", "running"].includes(script.state);
     this.#buttons.close.hidden = !open;
     this.#status.textContent = open ? `${script.name}: ${states[script.state]}` : "";
     this.#problem.hidden = !script?.error;
-    if (script?.error) this.#problem.textContent = `Line ${script.error.line}: ${script.error.error}`;
+    if (script?.error)
+      this.#problem.textContent = `Line ${script.error.line}: ${script.error.error}`;
     if (!open) return this.#forget();
     await this.#loadText(script);
     this.#text.mark(script.line, script.state, script.error?.line);

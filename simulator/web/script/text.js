@@ -2,12 +2,24 @@
 import { h, reducedMotion } from "../ui/dom.js";
 
 export class ScriptText {
-  element = h("ol", { class: "script-text", id: "script-text", tabindex: 0, "aria-label": "The script's lines" });
+  element = h("ol", {
+    class: "script-text",
+    id: "script-text",
+    tabindex: 0,
+    "aria-label": "The script's lines",
+  });
 
   fill(text) {
     const lines = text === "" ? [] : text.replace(/\n$/, "").split("\n");
-    this.element.replaceChildren(...lines.map((line) =>
-      h("li", { class: line.trim().startsWith("#") ? "comment" : "" }, h("code", { text: line === "" ? "\u00a0" : line }))));
+    this.element.replaceChildren(
+      ...lines.map((line) =>
+        h(
+          "li",
+          { class: line.trim().startsWith("#") ? "comment" : "" },
+          h("code", { text: line === "" ? "\u00a0" : line }),
+        ),
+      ),
+    );
   }
 
   mark(next, state, failed) {
@@ -17,7 +29,8 @@ export class ScriptText {
       row.classList.toggle("played", over && line !== failed);
       row.classList.toggle("next", !over && line === next && state !== "failed");
       row.classList.toggle("failed", line === failed);
-      if (line === next) row.scrollIntoView({ block: "nearest", behavior: reducedMotion() ? "auto" : "smooth" });
+      if (line === next)
+        row.scrollIntoView({ block: "nearest", behavior: reducedMotion() ? "auto" : "smooth" });
     });
   }
 }

@@ -1,6 +1,16 @@
 // The stream of changes, kept open: whatever happens to the server, the page goes on trying.
 
-const names = ["clock", "phone", "player", "setup", "settings", "audio", "script", "journal", "scene"];
+const names = [
+  "clock",
+  "phone",
+  "player",
+  "setup",
+  "settings",
+  "audio",
+  "script",
+  "journal",
+  "scene",
+];
 const goneAfter = 2500; // milliseconds without an answer until the server counts as gone
 const retryEvery = 1000; // milliseconds
 

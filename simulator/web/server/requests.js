@@ -27,7 +27,11 @@ export async function read(path) {
 }
 
 export async function post(path, body = {}) {
-  const options = { method: "POST", headers: { "Content-Type": "application/json" }, body: JSON.stringify(body) };
+  const options = {
+    method: "POST",
+    headers: { "Content-Type": "application/json" },
+    body: JSON.stringify(body),
+  };
   return answered(await reach(path, options));
 }
 

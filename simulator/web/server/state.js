@@ -1,6 +1,8 @@
 // What the server has told of the phone. Parts of the page listen to the event of the part's name;
 // its detail is what came: whole, if `event.whole`.
 
+const keptEntries = 20_000;
+
 export class PhoneState extends EventTarget {
   epoch = null;
   clock = { uptime: 0, wall: 0, speed: 1, paused: true };
@@ -25,16 +27,34 @@ export class PhoneState extends EventTarget {
 
   take(name, data, whole = false) {
     if (name === "clock") this.clockAt = performance.now();
-    if (name === "journal") this.journal = whole ? data : this.journal.concat(data.entries);
+    if (name === "journal") this.#takeJournal(data, whole);
     else if (name === "settings") this.settings = whole ? data : { ...this.settings, ...data };
     else if (name !== "scene") this[name] = data;
     this.#tell(name, name === "journal" && !whole ? data.entries : data, whole);
   }
 
+  // A page that stays open for many nights keeps the latest entries only; the server has them all.
+  #takeJournal(data, whole) {
+    if (whole) this.journal = data;
+    else this.journal.push(...data.entries);
+    if (this.journal.length > keptEntries)
+      this.journal.splice(0, this.journal.length - keptEntries / 2);
+  }
+
   takeSnapshot(snapshot) {
     const fresh = this.epoch !== snapshot.epoch;
     this.epoch = snapshot.epoch;
-    for (const name of ["clock", "phone", "player", "setup", "settings", "audio", "script", "journal", "scene"])
+    for (const name of [
+      "clock",
+      "phone",
+      "player",
+      "setup",
+      "settings",
+      "audio",
+      "script",
+      "journal",
+      "scene",
+    ])
       this.take(name, snapshot[name], true);
     this.#tell("snapshot", snapshot, fresh);
   }
@@ -54,6 +74,8 @@ export class PhoneState extends EventTarget {
     const { player } = this;
     if (!player || player.position === null || player.position === undefined) return null;
     const moved = player.playing ? Math.max(0, this.uptime() - player.at) : 0;
-    return player.length ? Math.min(player.position + moved, player.length) : player.position + moved;
+    return player.length
+      ? Math.min(player.position + moved, player.length)
+      : player.position + moved;
   }
 }

@@ -6,7 +6,14 @@ import { icon } from "../ui/icons.js";
 import { toast } from "../ui/toast.js";
 import { makeField } from "./fields.js";
 
-const written = (value) => (typeof value === "boolean" ? (value ? "YES" : "NO") : typeof value === "string" ? quoted(value) : String(value));
+const written = (value) =>
+  typeof value === "boolean"
+    ? value
+      ? "YES"
+      : "NO"
+    : typeof value === "string"
+      ? quoted(value)
+      : String(value);
 
 export class SettingsPanel {
   #state;
@@ -16,9 +23,19 @@ export class SettingsPanel {
   constructor(state) {
     this.#state = state;
     byId("panel-settings").append(
-      h("div", { class: "panel-head" }, h("h2", { text: "Settings" }),
-        h("button", { class: "soft", id: "settings-reset", type: "button", onclick: () => this.#resetAll() }, icon("reset"), h("span", { text: "Defaults" }))),
-      this.#place);
+      h(
+        "div",
+        { class: "panel-head" },
+        h("h2", { text: "Settings" }),
+        h(
+          "button",
+          { class: "soft", id: "settings-reset", type: "button", onclick: () => this.#resetAll() },
+          icon("reset"),
+          h("span", { text: "Defaults" }),
+        ),
+      ),
+      this.#place,
+    );
     for (const name of ["settings", "snapshot"]) state.on(name, () => this.#show());
     this.#load();
   }
@@ -33,9 +50,18 @@ export class SettingsPanel {
   }
 
   #build(settings) {
-    const groups = Map.groupBy ? Map.groupBy(settings, (each) => each.group) : this.#grouped(settings);
+    const groups = Map.groupBy
+      ? Map.groupBy(settings, (each) => each.group)
+      : this.#grouped(settings);
     for (const [name, members] of groups)
-      this.#place.append(h("fieldset", { class: "group" }, h("legend", { text: name }), ...members.map((each) => this.#row(each))));
+      this.#place.append(
+        h(
+          "fieldset",
+          { class: "group" },
+          h("legend", { text: name }),
+          ...members.map((each) => this.#row(each)),
+        ),
+      );
   }
 
   #grouped(settings) {
@@ -46,24 +72,45 @@ export class SettingsPanel {
 
   #row(setting) {
     const field = makeField(setting, (value) => perform(`set ${setting.key} ${written(value)}`));
-    const reset = h("button", { class: "reset", type: "button", title: "Back to the default", "aria-label": `${setting.label}: back to the default`,
-      hidden: true, onclick: () => perform(`set ${setting.key} none`) }, icon("reset"));
+    const reset = h(
+      "button",
+      {
+        class: "reset",
+        type: "button",
+        title: "Back to the default",
+        "aria-label": `${setting.label}: back to the default`,
+        hidden: true,
+        onclick: () => perform(`set ${setting.key} none`),
+      },
+      icon("reset"),
+    );
     this.#fields.set(setting.key, { setting, field, reset });
-    return h("div", { class: `setting ${setting.type}`, "data-key": setting.key },
-      h("label", { class: "setting-words", for: field.input.id }, h("span", { text: setting.label }),
-        setting.help ? h("small", { text: setting.help }) : null),
-      h("div", { class: "setting-value" }, reset, field.element));
+    return h(
+      "div",
+      { class: `setting ${setting.type}`, "data-key": setting.key },
+      h(
+        "label",
+        { class: "setting-words", for: field.input.id },
+        h("span", { text: setting.label }),
+        setting.help ? h("small", { text: setting.help }) : null,
+      ),
+      h("div", { class: "setting-value" }, reset, field.element),
+    );
   }
 
   #resetAll() {
-    const changed = [...this.#fields.values()].filter(({ setting }) => this.#differs(setting)).map(({ setting }) => `set ${setting.key} none`);
+    const changed = [...this.#fields.values()]
+      .filter(({ setting }) => this.#differs(setting))
+      .map(({ setting }) => `set ${setting.key} none`);
     if (changed.length > 0) perform(...changed);
     else toast("All settings are as they come.");
   }
 
   #differs({ key, default: standard }) {
     const value = this.#state.settings[key];
-    return value !== undefined && value !== standard && !(value === null && (standard ?? "") === "");
+    return (
+      value !== undefined && value !== standard && !(value === null && (standard ?? "") === "")
+    );
   }
 
   #show() {

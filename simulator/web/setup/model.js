@@ -1,7 +1,11 @@
 // The set-up of a phone: lines of the script language, and what a form says of them.
 
-export const words = (line) => [...line.matchAll(/"((?:\\.|[^"\\])*)"|(\S+)/g)]
-  .map((found) => (found[1] === undefined ? found[2] : found[1].replace(/\\(.)/g, (_, char) => (char === "n" ? "\n" : char))));
+export const words = (line) =>
+  [...line.matchAll(/"((?:\\.|[^"\\])*)"|(\S+)/g)].map((found) =>
+    found[1] === undefined
+      ? found[2]
+      : found[1].replace(/\\(.)/g, (_, char) => (char === "n" ? "\n" : char)),
+  );
 
 const quoted = (text) => `"${text.replaceAll("\\", "\\\\").replaceAll('"', '\\"')}"`;
 const record = (name) => `file "/var/jb/var/lib/dpkg/info/${name}.list" ""`;
@@ -10,14 +14,24 @@ const record = (name) => `file "/var/jb/var/lib/dpkg/info/${name}.list" ""`;
 export const companions = {
   grupi: {
     label: "Grupi, with its small music controller",
-    lines: [record("com.zentrik.grupi"),
-      `file "/var/jb/var/mobile/Library/Preferences/com.zentrik.grupi.plist" "<?xml version=\\"1.0\\"?><plist version=\\"1.0\\"><dict><key>SmallMusicController</key><true/></dict></plist>"`],
+    lines: [
+      record("com.zentrik.grupi"),
+      `file "/var/jb/var/mobile/Library/Preferences/com.zentrik.grupi.plist" "<?xml version=\\"1.0\\"?><plist version=\\"1.0\\"><dict><key>SmallMusicController</key><true/></dict></plist>"`,
+    ],
   },
   sylph: { label: "Sylph", lines: [record("ch.vorhal.sylph")] },
 };
 
 export const standard = () => ({
-  ios: "15.4", locale: "en_US", haptics: "2", missing: [], runner: false, shortcuts: [], bluetooth: [], companions: [], others: [],
+  ios: "15.4",
+  locale: "en_US",
+  haptics: "2",
+  missing: [],
+  runner: false,
+  shortcuts: [],
+  bluetooth: [],
+  companions: [],
+  others: [],
 });
 
 function takeCompanion(model, line) {
@@ -35,7 +49,8 @@ const takers = {
   haptics: (model, [level]) => (model.haptics = level),
   missing: (model, rest) => model.missing.push(rest.join(" ")),
   shortcuts: (model, names) => Object.assign(model, { runner: true, shortcuts: names }),
-  bluetooth: (model, names) => (model.bluetooth = names.length === 1 && names[0] === "none" ? [] : names),
+  bluetooth: (model, names) =>
+    (model.bluetooth = names.length === 1 && names[0] === "none" ? [] : names),
 };
 
 export function fromLines(lines) {
@@ -51,10 +66,14 @@ export function fromLines(lines) {
 export function toLines(model) {
   const usual = standard();
   return [
-    ...["ios", "locale", "haptics"].filter((name) => model[name] !== usual[name]).map((name) => `${name} ${model[name]}`),
+    ...["ios", "locale", "haptics"]
+      .filter((name) => model[name] !== usual[name])
+      .map((name) => `${name} ${model[name]}`),
     ...model.missing.map((name) => `missing ${name}`),
     ...(model.runner ? [["shortcuts", ...model.shortcuts.map(quoted)].join(" ")] : []),
-    ...(model.bluetooth.length > 0 ? [["bluetooth", ...model.bluetooth.map(quoted)].join(" ")] : []),
+    ...(model.bluetooth.length > 0
+      ? [["bluetooth", ...model.bluetooth.map(quoted)].join(" ")]
+      : []),
     ...model.companions.flatMap((name) => companions[name].lines),
     ...model.others,
   ];

@@ -5,7 +5,11 @@ import { toast } from "../ui/toast.js";
 import { languages, systems, haptics } from "./choices.js";
 import { companions, fromLines, standard, toLines } from "./model.js";
 
-const listed = (text) => text.split("\n").map((line) => line.trim()).filter(Boolean);
+const listed = (text) =>
+  text
+    .split("\n")
+    .map((line) => line.trim())
+    .filter(Boolean);
 
 export class SetupPanel {
   #state;
@@ -16,50 +20,147 @@ export class SetupPanel {
     this.#state = state;
     this.#form = this.#makeForm();
     byId("panel-setup").append(
-      h("div", { class: "panel-head" }, h("h2", { text: "Set-up" }),
-        h("button", { class: "soft", id: "setup-standard", type: "button", text: "Standard phone", onclick: () => this.#show(standard()) })),
-      h("p", { class: "lead", text: "What kind of phone this is. Applying makes a fresh phone; the settings stay." }), this.#form,
+      h(
+        "div",
+        { class: "panel-head" },
+        h("h2", { text: "Set-up" }),
+        h("button", {
+          class: "soft",
+          id: "setup-standard",
+          type: "button",
+          text: "Standard phone",
+          onclick: () => this.#show(standard()),
+        }),
+      ),
+      h("p", {
+        class: "lead",
+        text: "What kind of phone this is. Applying makes a fresh phone; the settings stay.",
+      }),
+      this.#form,
       h("p", { class: "form-problem", id: "setup-problem", role: "alert", hidden: true }),
-      h("button", { class: "primary", id: "setup-apply", type: "submit", form: "setup-form", text: "Make this phone" }));
+      h("button", {
+        class: "primary",
+        id: "setup-apply",
+        type: "submit",
+        form: "setup-form",
+        text: "Make this phone",
+      }),
+    );
     for (const name of ["setup", "snapshot"]) state.on(name, () => this.#reset());
   }
 
   #select(name, choices) {
-    this.#parts[name] = h("select", { id: `setup-${name}` }, ...choices.map(([value, text]) => h("option", { value, text })));
+    this.#parts[name] = h(
+      "select",
+      { id: `setup-${name}` },
+      ...choices.map(([value, text]) => h("option", { value, text })),
+    );
     return this.#parts[name];
   }
 
   #lines(name, placeholder) {
-    this.#parts[name] = h("textarea", { id: `setup-${name}`, rows: 2, placeholder, spellcheck: "false" });
+    this.#parts[name] = h("textarea", {
+      id: `setup-${name}`,
+      rows: 2,
+      placeholder,
+      spellcheck: "false",
+    });
     return this.#parts[name];
   }
 
   #row(name, label, help, control) {
-    return h("div", { class: "setting stacked" }, h("label", { class: "setting-words", for: `setup-${name}` }, h("span", { text: label }),
-      help ? h("small", { text: help }) : null), control);
+    return h(
+      "div",
+      { class: "setting stacked" },
+      h(
+        "label",
+        { class: "setting-words", for: `setup-${name}` },
+        h("span", { text: label }),
+        help ? h("small", { text: help }) : null,
+      ),
+      control,
+    );
   }
 
   #check(name, label) {
     this.#parts[name] = h("input", { type: "checkbox", role: "switch", id: `setup-${name}` });
-    return h("div", { class: "setting" }, h("label", { class: "setting-words", for: `setup-${name}`, text: label }),
-      h("span", { class: "switch" }, this.#parts[name], h("span", { class: "knob", "aria-hidden": "true" })));
+    return h(
+      "div",
+      { class: "setting" },
+      h("label", { class: "setting-words", for: `setup-${name}`, text: label }),
+      h(
+        "span",
+        { class: "switch" },
+        this.#parts[name],
+        h("span", { class: "knob", "aria-hidden": "true" }),
+      ),
+    );
   }
 
   #makeForm() {
-    return h("form", { class: "groups scrolls", id: "setup-form", onsubmit: (event) => this.#apply(event) },
-      h("fieldset", { class: "group" }, h("legend", { text: "System" }),
-        this.#row("ios", "Version of the system", null, this.#select("ios", systems.map((each) => [each, `iOS ${each}`]))),
+    return h(
+      "form",
+      { class: "groups scrolls", id: "setup-form", onsubmit: (event) => this.#apply(event) },
+      h(
+        "fieldset",
+        { class: "group" },
+        h("legend", { text: "System" }),
+        this.#row(
+          "ios",
+          "Version of the system",
+          null,
+          this.#select(
+            "ios",
+            systems.map((each) => [each, `iOS ${each}`]),
+          ),
+        ),
         this.#row("locale", "Language and region", null, this.#select("locale", languages)),
-        this.#row("haptics", "What can be felt", null, this.#select("haptics", haptics))),
-      h("fieldset", { class: "group" }, h("legend", { text: "Around it" }),
-        this.#row("bluetooth", "Connected Bluetooth devices", "One in each line.", this.#lines("bluetooth", "Pillow Speaker")),
+        this.#row("haptics", "What can be felt", null, this.#select("haptics", haptics)),
+      ),
+      h(
+        "fieldset",
+        { class: "group" },
+        h("legend", { text: "Around it" }),
+        this.#row(
+          "bluetooth",
+          "Connected Bluetooth devices",
+          "One in each line.",
+          this.#lines("bluetooth", "Pillow Speaker"),
+        ),
         this.#check("runner", "The shortcut runner is installed"),
-        this.#row("shortcuts", "The owner's shortcuts", "One in each line. The extension looks for these two.", this.#lines("shortcuts", "Dozewell Start\nDozewell End"))),
-      h("fieldset", { class: "group" }, h("legend", { text: "Other extensions" }),
-        ...Object.entries(companions).map(([name, { label }]) => this.#check(`companion-${name}`, label))),
-      h("details", { class: "group" }, h("summary", { text: "For developers" }),
-        this.#row("missing", "Absent classes or methods", "One in each line: CLASS, or CLASS SELECTOR.", this.#lines("missing", "DNDModeAssertionService")),
-        this.#row("others", "More lines of the script language", "As they may stand before boot.", this.#lines("others", "default \"some.key\" 3"))));
+        this.#row(
+          "shortcuts",
+          "The owner's shortcuts",
+          "One in each line. The extension looks for these two.",
+          this.#lines("shortcuts", "Dozewell Start\nDozewell End"),
+        ),
+      ),
+      h(
+        "fieldset",
+        { class: "group" },
+        h("legend", { text: "Other extensions" }),
+        ...Object.entries(companions).map(([name, { label }]) =>
+          this.#check(`companion-${name}`, label),
+        ),
+      ),
+      h(
+        "details",
+        { class: "group" },
+        h("summary", { text: "For developers" }),
+        this.#row(
+          "missing",
+          "Absent classes or methods",
+          "One in each line: CLASS, or CLASS SELECTOR.",
+          this.#lines("missing", "DNDModeAssertionService"),
+        ),
+        this.#row(
+          "others",
+          "More lines of the script language",
+          "As they may stand before boot.",
+          this.#lines("others", 'default "some.key" 3'),
+        ),
+      ),
+    );
   }
 
   #reset() {
@@ -67,25 +168,33 @@ export class SetupPanel {
   }
 
   #choose(select, value) {
-    if (![...select.options].some((option) => option.value === value)) select.append(h("option", { value, text: value }));
+    if (![...select.options].some((option) => option.value === value))
+      select.append(h("option", { value, text: value }));
     select.value = value;
   }
 
   #show(model) {
     const p = this.#parts;
     for (const name of ["ios", "locale", "haptics"]) this.#choose(p[name], model[name]);
-    for (const name of ["bluetooth", "shortcuts", "missing", "others"]) p[name].value = model[name].join("\n");
+    for (const name of ["bluetooth", "shortcuts", "missing", "others"])
+      p[name].value = model[name].join("\n");
     p.runner.checked = model.runner;
-    for (const name of Object.keys(companions)) p[`companion-${name}`].checked = model.companions.includes(name);
+    for (const name of Object.keys(companions))
+      p[`companion-${name}`].checked = model.companions.includes(name);
   }
 
   #model() {
     const p = this.#parts;
     const shortcuts = listed(p.shortcuts.value);
     return {
-      ios: p.ios.value, locale: p.locale.value, haptics: p.haptics.value,
-      bluetooth: listed(p.bluetooth.value), shortcuts, runner: p.runner.checked || shortcuts.length > 0,
-      missing: listed(p.missing.value), others: listed(p.others.value),
+      ios: p.ios.value,
+      locale: p.locale.value,
+      haptics: p.haptics.value,
+      bluetooth: listed(p.bluetooth.value),
+      shortcuts,
+      runner: p.runner.checked || shortcuts.length > 0,
+      missing: listed(p.missing.value),
+      others: listed(p.others.value),
       companions: Object.keys(companions).filter((name) => p[`companion-${name}`].checked),
     };
   }

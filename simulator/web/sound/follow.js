@@ -22,7 +22,8 @@ export class SoundFollower extends EventTarget {
     this.#state = state;
     this.#page = page;
     this.#output = output;
-    for (const name of ["player", "clock", "audio", "phone", "snapshot"]) state.on(name, () => this.follow());
+    for (const name of ["player", "clock", "audio", "phone", "snapshot"])
+      state.on(name, () => this.follow());
     setInterval(() => this.follow(), checkEvery);
   }
 
@@ -59,6 +60,7 @@ export class SoundFollower extends EventTarget {
     const due = this.#state.position();
     if (Math.abs(element.currentTime - due) > tolerance) element.currentTime = due;
     // The browser may refuse, or the file may be gone before it has begun: the next change tries again.
-    if (element.paused && !element.ended) element.play().catch(() => this.dispatchEvent(new Event("change")));
+    if (element.paused && !element.ended)
+      element.play().catch(() => this.dispatchEvent(new Event("change")));
   }
 }

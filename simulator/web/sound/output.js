@@ -37,7 +37,10 @@ export class SoundOutput {
     this.#context = new AudioContext();
     this.#gain = this.#context.createGain();
     this.#gain.gain.value = this.#level;
-    this.#context.createMediaElementSource(this.element).connect(this.#gain).connect(this.#context.destination);
+    this.#context
+      .createMediaElementSource(this.element)
+      .connect(this.#gain)
+      .connect(this.#context.destination);
   }
 
   setLevel(level) {

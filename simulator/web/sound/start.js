@@ -28,7 +28,12 @@ export class SoundStart {
     this.#output = output;
     this.#follower = follower;
     this.#veil = this.#makeVeil();
-    this.#chip = h("button", { class: "chip sound-chip", id: "sound-chip", type: "button", onclick: () => this.#press() });
+    this.#chip = h("button", {
+      class: "chip sound-chip",
+      id: "sound-chip",
+      type: "button",
+      onclick: () => this.#press(),
+    });
     place.append(this.#veil);
     chipPlace.prepend(this.#chip);
     for (const gesture of ["pointerup", "keydown"])
@@ -38,11 +43,29 @@ export class SoundStart {
   }
 
   #makeVeil() {
-    return h("div", { class: "start-veil", id: "start-veil" },
-      h("button", { class: "start-button", id: "start-listening", type: "button", onclick: () => this.#start() },
-        icon("sound"), h("span", { text: "Start listening" })),
+    return h(
+      "div",
+      { class: "start-veil", id: "start-veil" },
+      h(
+        "button",
+        {
+          class: "start-button",
+          id: "start-listening",
+          type: "button",
+          onclick: () => this.#start(),
+        },
+        icon("sound"),
+        h("span", { text: "Start listening" }),
+      ),
       h("p", { text: "Your browser asks for one click before it makes a sound." }),
-      h("button", { class: "quiet", id: "start-silent", type: "button", text: "Stay silent", onclick: () => this.#staySilent() }));
+      h("button", {
+        class: "quiet",
+        id: "start-silent",
+        type: "button",
+        text: "Stay silent",
+        onclick: () => this.#staySilent(),
+      }),
+    );
   }
 
   #staySilent() {
@@ -92,12 +115,18 @@ export class SoundStart {
     const why = this.#follower.silence;
     if (this.#output.allowed && this.#follower.owner) this.#hide();
     const heard = why === null;
-    const label = !this.#follower.owner ? "Play sound here" : heard ? "Sound is here" : explanations[why];
+    const label = !this.#follower.owner
+      ? "Play sound here"
+      : heard
+        ? "Sound is here"
+        : explanations[why];
     if (this.#chip.dataset.label === label) return;
     this.#chip.dataset.label = label;
     this.#chip.classList.toggle("on", heard);
     this.#chip.setAttribute("aria-pressed", String(this.#follower.owner));
     this.#chip.replaceChildren(icon(heard ? "sound" : "mute"), h("span", { text: label }));
-    this.#chip.title = this.#follower.owner ? "Press to give the sound up" : "This page takes the sound";
+    this.#chip.title = this.#follower.owner
+      ? "Press to give the sound up"
+      : "This page takes the sound";
   }
 }

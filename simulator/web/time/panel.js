@@ -11,7 +11,8 @@ const words = { 1: "as in life", 60: "a minute in a second", 3600: "an hour in a
 const speedIndex = (speed) => {
   let nearest = 0;
   speeds.forEach((each, index) => {
-    if (Math.abs(Math.log(each / speed)) < Math.abs(Math.log(speeds[nearest] / speed))) nearest = index;
+    if (Math.abs(Math.log(each / speed)) < Math.abs(Math.log(speeds[nearest] / speed)))
+      nearest = index;
   });
   return nearest;
 };
@@ -42,30 +43,75 @@ export class TimePanel {
     p.seconds = h("span", { class: "clock-seconds" });
     p.date = h("p", { class: "clock-date" });
     p.uptime = h("p", { class: "clock-uptime" });
-    p.pause = h("button", { class: "round big", id: "time-pause", type: "button",
-      onclick: () => this.#ask({ paused: !this.#state.clock.paused }) });
-    return h("div", { class: "clock-line" },
-      h("div", {}, h("p", { class: "clock" }, p.time, p.seconds), p.date, p.uptime), p.pause);
+    p.pause = h("button", {
+      class: "round big",
+      id: "time-pause",
+      type: "button",
+      onclick: () => this.#ask({ paused: !this.#state.clock.paused }),
+    });
+    return h(
+      "div",
+      { class: "clock-line" },
+      h("div", {}, h("p", { class: "clock" }, p.time, p.seconds), p.date, p.uptime),
+      p.pause,
+    );
   }
 
   #makeSpeed() {
     const p = this.#parts;
-    p.speed = h("input", { type: "range", id: "speed", min: 0, max: speeds.length - 1, step: 1, value: 0,
-      "aria-label": "Speed of time", oninput: () => this.#ask({ speed: speeds[Number(p.speed.value)] }) });
+    p.speed = h("input", {
+      type: "range",
+      id: "speed",
+      min: 0,
+      max: speeds.length - 1,
+      step: 1,
+      value: 0,
+      "aria-label": "Speed of time",
+      oninput: () => this.#ask({ speed: speeds[Number(p.speed.value)] }),
+    });
     p.name = h("output", { class: "speed-name", for: "speed" });
-    return h("div", { class: "speed-line" }, h("div", { class: "speed-words" }, h("span", { text: "Speed" }), p.name), p.speed,
-      h("div", { class: "speed-marks", "aria-hidden": "true" }, ...["1×", "60×", "3600×"].map((text) => h("span", { text }))));
+    return h(
+      "div",
+      { class: "speed-line" },
+      h("div", { class: "speed-words" }, h("span", { text: "Speed" }), p.name),
+      p.speed,
+      h(
+        "div",
+        { class: "speed-marks", "aria-hidden": "true" },
+        ...["1×", "60×", "3600×"].map((text) => h("span", { text })),
+      ),
+    );
   }
 
   #makeJumps() {
-    return h("div", { class: "jumps" },
-      this.#jump("time-step", "step", "Next event", { step: true }, "Goes to the next thing that is due, and no further"),
+    return h(
+      "div",
+      { class: "jumps" },
+      this.#jump(
+        "time-step",
+        "step",
+        "Next event",
+        { step: true },
+        "Goes to the next thing that is due, and no further",
+      ),
       this.#jump("time-minute", "time", "+1 min", { advance: 60 }, "Lets a minute pass at once"),
-      this.#jump("time-end", "end", "10 s before the end", { beforeEnd: 10 }, "Goes to ten seconds before the timer runs out"));
+      this.#jump(
+        "time-end",
+        "end",
+        "10 s before the end",
+        { beforeEnd: 10 },
+        "Goes to ten seconds before the timer runs out",
+      ),
+    );
   }
 
   #jump(id, name, text, wish, title) {
-    return h("button", { class: "soft", id, type: "button", title, onclick: () => this.#ask(wish) }, icon(name), h("span", { text }));
+    return h(
+      "button",
+      { class: "soft", id, type: "button", title, onclick: () => this.#ask(wish) },
+      icon(name),
+      h("span", { text }),
+    );
   }
 
   #show() {
@@ -88,6 +134,8 @@ export class TimePanel {
     p.time.textContent = clockTime(wall);
     p.seconds.textContent = clockSeconds(wall);
     p.date.textContent = clockDate(wall);
-    p.uptime.textContent = this.#state.clock.paused ? "Time stands still" : `Running for ${duration(this.#state.uptime())}`;
+    p.uptime.textContent = this.#state.clock.paused
+      ? "Time stands still"
+      : `Running for ${duration(this.#state.uptime())}`;
   }
 }

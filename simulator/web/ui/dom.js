@@ -5,7 +5,8 @@ const SVG = "http://www.w3.org/2000/svg";
 function apply(element, name, value) {
   if (value === undefined || value === null || value === false) return;
   if (name.startsWith("on")) element.addEventListener(name.slice(2), value);
-  else if (name === "style") for (const [key, each] of Object.entries(value)) element.style.setProperty(key, each);
+  else if (name === "style")
+    for (const [key, each] of Object.entries(value)) element.style.setProperty(key, each);
   else if (name === "class") element.setAttribute("class", value);
   else if (name === "text") element.textContent = value;
   else if (["value", "checked", "disabled", "hidden", "open"].includes(name)) element[name] = value;
@@ -14,7 +15,9 @@ function apply(element, name, value) {
 
 function fill(element, attributes, children) {
   for (const [name, value] of Object.entries(attributes ?? {})) apply(element, name, value);
-  element.append(...children.flat().filter((child) => child !== null && child !== undefined && child !== false));
+  element.append(
+    ...children.flat().filter((child) => child !== null && child !== undefined && child !== false),
+  );
   return element;
 }
 

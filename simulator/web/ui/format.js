@@ -7,7 +7,9 @@ export function duration(seconds) {
   const whole = Math.max(0, Math.floor(seconds));
   const hours = Math.floor(whole / 3600);
   const minutes = Math.floor(whole / 60) % 60;
-  return hours > 0 ? `${hours}:${two(minutes)}:${two(whole % 60)}` : `${minutes}:${two(whole % 60)}`;
+  return hours > 0
+    ? `${hours}:${two(minutes)}:${two(whole % 60)}`
+    : `${minutes}:${two(whole % 60)}`;
 }
 
 // As the journal prints it: "1215.100"
@@ -22,6 +24,10 @@ export function clockTime(wall) {
 export const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
 
 export function clockDate(wall) {
-  return new Intl.DateTimeFormat("en-GB", { weekday: "long", day: "numeric", month: "long", timeZone: "UTC" })
-    .format(new Date(wall * 1000));
+  return new Intl.DateTimeFormat("en-GB", {
+    weekday: "long",
+    day: "numeric",
+    month: "long",
+    timeZone: "UTC",
+  }).format(new Date(wall * 1000));
 }

@@ -3,8 +3,12 @@ import { byId, h } from "./dom.js";
 import { icon } from "./icons.js";
 
 const tabs = [
-  { name: "phone", label: "Phone", narrow: true }, { name: "music", label: "Music", narrow: true }, { name: "time", label: "Time", narrow: true },
-  { name: "journal", label: "Journal" }, { name: "settings", label: "Settings" }, { name: "setup", label: "Set-up" },
+  { name: "phone", label: "Phone", narrow: true },
+  { name: "music", label: "Music", narrow: true },
+  { name: "time", label: "Time", narrow: true },
+  { name: "journal", label: "Journal" },
+  { name: "settings", label: "Settings" },
+  { name: "setup", label: "Set-up" },
   { name: "script", label: "Script" },
 ];
 const narrow = matchMedia("(max-width: 819px)");
@@ -15,8 +19,19 @@ export class Tabs {
 
   constructor() {
     for (const { name, label, narrow: only } of tabs) {
-      const button = h("button", { role: "tab", type: "button", id: `tab-${name}`, class: only ? "narrow-only" : "", "aria-controls": only && name === "phone" ? "phone" : `panel-${name}`,
-        onclick: () => this.show(name) }, icon(name), h("span", { text: label }));
+      const button = h(
+        "button",
+        {
+          role: "tab",
+          type: "button",
+          id: `tab-${name}`,
+          class: only ? "narrow-only" : "",
+          "aria-controls": only && name === "phone" ? "phone" : `panel-${name}`,
+          onclick: () => this.show(name),
+        },
+        icon(name),
+        h("span", { text: label }),
+      );
       this.#buttons.set(name, button);
       byId("tabs").append(button);
     }
@@ -48,7 +63,8 @@ export class Tabs {
     const move = { ArrowRight: 1, ArrowLeft: -1 }[event.key];
     if (move === undefined) return;
     const names = this.#visible();
-    const next = names[(names.indexOf(document.body.dataset.view) + move + names.length) % names.length];
+    const next =
+      names[(names.indexOf(document.body.dataset.view) + move + names.length) % names.length];
     this.show(next);
     this.#buttons.get(next).focus();
   }

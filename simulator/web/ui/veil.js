@@ -11,7 +11,13 @@ export class Veil {
   #connection;
   #title = h("p", { class: "veil-title" });
   #more = h("p", { class: "veil-more" });
-  #element = h("div", { class: "veil", id: "veil", role: "status" }, h("div", { class: "veil-moon", "aria-hidden": "true" }), this.#title, this.#more);
+  #element = h(
+    "div",
+    { class: "veil", id: "veil", role: "status" },
+    h("div", { class: "veil-moon", "aria-hidden": "true" }),
+    this.#title,
+    this.#more,
+  );
 
   constructor(connection, place) {
     this.#connection = connection;

@@ -13,10 +13,8 @@ bool isZero(double coefficient) {
 
 }  // namespace
 
-LinearSystem::LinearSystem(std::vector<bool> isLength)
-    : isLength_(std::move(isLength)),
-      isDefined_(isLength_.size()),
-      coefficients_(isLength_.size()) {}
+LinearSystem::LinearSystem(std::size_t variables)
+    : isDefined_(variables), coefficients_(variables) {}
 
 bool LinearSystem::require(const LinearExpression& left, Relation relation) {
   reduce(left, relation == Relation::atMost ? -1 : 1);
@@ -60,11 +58,8 @@ void LinearSystem::prefer(const std::vector<Wish>& wishes) {
   tableau_.minimise(sum(errors));
 }
 
-void LinearSystem::shrink() {
-  LinearExpression lengths;
-  for (std::size_t i = 0; i < isLength_.size(); ++i)
-    if (isLength_[i]) lengths.terms.push_back({Variable(i), 1});
-  reduce(lengths, 1);
+void LinearSystem::minimise(const LinearExpression& expression) {
+  reduce(expression, 1);
   tableau_.minimise(reducedRow());
 }
 
@@ -78,7 +73,7 @@ std::vector<double> LinearSystem::values() const {
       value += term.coefficient * found[std::size_t(term.variable)];
     found[std::size_t(each->symbol)] = value;
   }
-  found.resize(isLength_.size());
+  found.resize(isDefined_.size());
   return found;
 }
 
@@ -118,12 +113,11 @@ void LinearSystem::substituteBasics() {
 }
 
 bool LinearSystem::isAnyFree(Symbol& found) const {
-  for (const bool length : {false, true})
-    for (std::size_t i = 0; i < isLength_.size(); ++i)
-      if (isLength_[i] == length && !isDefined_[i] && !isZero(coefficients_[i])) {
-        found = Symbol(i);
-        return true;
-      }
+  for (std::size_t i = 0; i < isDefined_.size(); ++i)
+    if (!isDefined_[i] && !isZero(coefficients_[i])) {
+      found = Symbol(i);
+      return true;
+    }
   return false;
 }
 
@@ -131,7 +125,7 @@ bool LinearSystem::isAnyFree(Symbol& found) const {
 void LinearSystem::define(Symbol symbol) {
   const double divisor = -1 / coefficients_[std::size_t(symbol)];
   Definition made{symbol, {}, constant_ * divisor};
-  for (std::size_t i = 0; i < isLength_.size(); ++i)
+  for (std::size_t i = 0; i < isDefined_.size(); ++i)
     if (Symbol(i) != symbol && !isZero(coefficients_[i]))
       made.terms.push_back({Variable(i), coefficients_[i] * divisor});
   for (const Symbol column : tableau_.columns())

@@ -6,6 +6,7 @@
 // so the tableau stays small.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "simulator/uikit/autolayout/solver/LinearExpression.h"
@@ -20,17 +21,15 @@ class LinearSystem {
     Relation relation;             // to zero
   };
 
-  // One entry for each variable: lengths are eliminated only by constraints that mention nothing
-  // else, so that it is they who are 0 where something is left open.
-  explicit LinearSystem(std::vector<bool> isLength);
+  explicit LinearSystem(std::size_t variables);
 
   // Must come before the wishes. False for one that contradicts those before it: it does not hold.
   bool require(const LinearExpression& left, Relation relation);
   // Of one priority: the sum of what they are missed by is made as small as it can be without
   // costing any wish before them anything.
   void prefer(const std::vector<Wish>& wishes);
-  // Last: as small a sum of the lengths as all that leaves possible.
-  void shrink();
+  // Last: makes the expression, which cannot be negative, as small as all that lets it be.
+  void minimise(const LinearExpression& expression);
 
   // 0 for a variable that nothing determines.
   std::vector<double> values() const;
@@ -56,8 +55,7 @@ class LinearSystem {
   // Of symbols that may be basic, or gone.
   Tableau::Row sum(const std::vector<Symbol>& symbols) const;
 
-  std::vector<bool> isLength_;
-  std::vector<bool> isDefined_;
+  std::vector<bool> isDefined_;          // by variable
   std::vector<Definition> definitions_;  // each only mentions what is defined later, or never
   Tableau tableau_;
   // The expression at hand, by symbol.

@@ -22,18 +22,25 @@ void Part::addConstraint(std::size_t number, LinearExpression left, Relation rel
 // Lengths that are determined need no row of their own when they come last, so that is tried
 // first. Only what contradicts something depends on the order.
 void Part::solveInto(Solution& solution) const {
-  LinearSystem system(isLength_);
+  LinearSystem system(variables_.size());
   if (!requireConstraints(system).empty() || !requireLengths(system)) {
-    system = LinearSystem(isLength_);
+    system = LinearSystem(variables_.size());
     requireLengths(system);
     const std::vector<std::size_t> broken = requireConstraints(system);
     solution.broken.insert(solution.broken.end(), broken.begin(), broken.end());
   }
   preferConstraints(system);
-  system.shrink();
+  system.minimise(sumOfLengths());
   const std::vector<double> values = system.values();
   for (std::size_t i = 0; i < variables_.size(); ++i)
     solution.values[std::size_t(variables_[i])] = values[i];
+}
+
+LinearExpression Part::sumOfLengths() const {
+  LinearExpression sum;
+  for (std::size_t i = 0; i < isLength_.size(); ++i)
+    if (isLength_[i]) sum.add(LinearExpression::of(Variable(i)));
+  return sum;
 }
 
 bool Part::requireLengths(LinearSystem& system) const {

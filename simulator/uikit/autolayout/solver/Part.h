@@ -29,6 +29,7 @@ class Part {
     double priority;
   };
 
+  LinearExpression sumOfLengths() const;
   bool requireLengths(LinearSystem& system) const;
   // The numbers of those that contradict what is before them.
   std::vector<std::size_t> requireConstraints(LinearSystem& system) const;

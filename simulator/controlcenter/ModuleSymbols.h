@@ -1,0 +1,31 @@
+// The symbols on Control Center's modules.
+#pragma once
+
+#include "objc/Ownership.h"
+#include "simulator/uikit/Geometry.h"
+
+namespace sim {
+
+// The first ones in the order of modulePlaces(), then those of the radios.
+enum class ModuleSymbol {
+  none,
+  music,
+  orientationLock,
+  otherScreen,
+  brightness,
+  volume,
+  focus,
+  torch,
+  alarm,
+  calculator,
+  camera,
+  airplane,
+  mobileData,
+  wifi,
+  bluetooth,
+};
+
+// Around that point of the view.
+void addModuleSymbol(objc::Object view, ModuleSymbol symbol, CGPoint centre, objc::Object color);
+
+}  // namespace sim

@@ -1,0 +1,68 @@
+#include "simulator/springboard/StatusBarView.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/phone/Phone.h"
+#include "simulator/springboard/ClockText.h"
+#include "simulator/springboard/Shapes.h"
+#include "simulator/uikit/UIScreen.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+// Points.
+constexpr CGSize symbolsSize = {70, 14}, timeSize = {96, 21};
+constexpr double symbolsRight = 27, timeLeft = 8, top = 14;
+
+constexpr const char* bars = "R 0 8 3 4 1 R 5 6 3 6 1 R 10 3 3 9 1 R 15 0 3 12 1";
+constexpr const char* waves =
+    "M 23.6 4.2 C 27.8 0.3 34.2 0.3 38.4 4.2 L 36.9 5.8 C 33.5 2.7 28.5 2.7 25.1 5.8 Z "
+    "M 26.2 7 C 28.9 4.5 33.1 4.5 35.8 7 L 34.3 8.6 C 32.5 6.9 29.5 6.9 27.7 8.6 Z "
+    "M 28.7 9.7 C 30 8.5 32 8.5 33.3 9.7 L 31 12 Z";
+constexpr const char* battery = "R 44.5 0.5 22 11 3.2";
+constexpr const char* batteryEnd = "M 68 4.2 C 69.4 4.7 69.4 7.3 68 7.8 Z";
+constexpr const char* charge = "R 46.3 2.3 18.4 7.4 1.8";
+
+}  // namespace
+
+Object StatusBarView::initWithFrame(CGRect frame) {
+  constexpr long center = 1;
+  const Object made = super<Object, "initWithFrame:">(frame);
+  if (!made) return nullptr;
+  time = addLabel(made, {.points = 17, .isBold = true, .alignment = center});
+  symbols = addView(made, "UIView");
+  const Object layer = objc::send<Object, "layer">(symbols.get());
+  const Object white = coreColor({255, 255, 255});
+  const Object faint = coreColor({255, 255, 255}, 0.4);
+  for (const char* filled : {bars, waves, charge}) addShapeLayer(layer, filled, {white, nullptr});
+  addShapeLayer(layer, battery, {nullptr, faint});
+  addShapeLayer(layer, batteryEnd, {faint, nullptr});
+  return made;
+}
+
+void StatusBarView::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  const double width = sizeOf(Object(self())).width;
+  // A phone that lies on its side has none.
+  setAlpha(Object(self()), width > UIScreen::mainSize.width ? 0 : 1);
+  setFrame(time, {{timeLeft, top}, timeSize});
+  setFrame(symbols, {{width - symbolsRight - symbolsSize.width, top + 4}, symbolsSize});
+}
+
+void StatusBarView::showTime() {
+  const Phone& phone = Phone::current();
+  setText(time, string(clockText(phone.clock.wall(), phone.setup.locale)));
+}
+
+void StatusBarView::registerClass() {
+  StandIn<StatusBarView>("UIKit", "_UIStatusBar", "UIView")
+      .method<"initWithFrame:", &StatusBarView::initWithFrame>()
+      .partial<"layoutSubviews", &StatusBarView::layoutSubviews>(
+          "networks and battery are always full")
+      .finish();
+}
+
+}  // namespace sim

@@ -1,0 +1,20 @@
+// Edges, centres and lengths of views as objects that make constraints.
+#pragma once
+
+#include "objc/Class.h"
+#include "simulator/StandIn.h"
+#include "simulator/uikit/UIView.h"
+
+namespace sim {
+
+struct NSLayoutAnchor : objc::Implementation<NSLayoutAnchor> {
+  objc::Weak<objc::Object> item;  // UIView
+  long attribute = 0;
+
+  // Of subclasses: horizontal and vertical places, lengths.
+  static void registerClasses();
+};
+
+void addAnchors(StandIn<UIView>& view);
+
+}  // namespace sim

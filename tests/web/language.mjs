@@ -1,0 +1,21 @@
+// Another language is chosen in the set-up: a fresh phone speaks it.
+import assert from "node:assert/strict";
+import { andCommand, onScreen, pass, phoneTest } from "./harness.mjs";
+
+phoneTest("the panel speaks Arabic after the change", {}, async (served, page) => {
+  await page.click("#tab-setup");
+  await page.selectOption("#setup-locale", "ar_SA");
+  const made = page.waitForResponse((response) => response.url().endsWith("/api/setup"));
+  await page.click("#setup-apply");
+  assert.equal((await made).status(), 200);
+  await page.locator('body[data-server="open"]').waitFor();
+  await andCommand(page, "control-center open", () => page.click("#device-controls"));
+  await pass(served, 1);
+  await onScreen(page, "button", "Dozewell").waitFor();
+  await andCommand(page, "touch ended", () => onScreen(page, "button", "Dozewell").click());
+  await pass(served, 1);
+  await onScreen(page, "button", "تأكيد").waitFor();
+  // Digits too: ٥ minutes are chosen at first.
+  await page.locator('#glass [role="spinbutton"][aria-valuetext="٥"]').waitFor();
+  assert.deepEqual(JSON.parse(await served.read("/api/setup")).lines, ["locale ar_SA"]);
+});

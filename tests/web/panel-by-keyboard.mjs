@@ -1,0 +1,37 @@
+// The road of one timer with the keyboard alone.
+import assert from "node:assert/strict";
+import { andCommand, journalHas, onScreen, pass, phoneTest } from "./harness.mjs";
+
+// Tab until the element has the focus: it must be reachable that way.
+async function tabTo(page, locator) {
+  for (let steps = 0; steps < 120; ++steps) {
+    if (await locator.evaluate((element) => element === document.activeElement)) return;
+    await page.keyboard.press("Tab");
+  }
+  throw new Error("the keyboard does not reach it");
+}
+
+phoneTest("a timer is set with tab, arrows and enter", {}, async (served, page) => {
+  await tabTo(page, page.locator("#device-controls"));
+  await andCommand(page, "control-center open", () => page.keyboard.press("Enter"));
+  await pass(served, 1);
+  await tabTo(page, onScreen(page, "button", "Dozewell"));
+  await andCommand(page, "touch ended", () => page.keyboard.press("Enter"));
+  await pass(served, 1);
+  await tabTo(page, onScreen(page, "spinbutton", "min"));
+  assert.ok(await page.locator(".focus-ring").isVisible());
+  for (const key of ["ArrowDown", "ArrowDown", "ArrowUp"])
+    await andCommand(page, "scroll", () => page.keyboard.press(key));
+  await page.locator('#glass [aria-label="min"][aria-valuetext="10"]').waitFor();
+  await tabTo(page, onScreen(page, "button", "Confirm"));
+  await andCommand(page, "touch ended", () => page.keyboard.press(" "));
+  await journalHas(page, 'post "DozewellDidStartNotification"');
+  assert.match(await page.locator("#announcer").textContent(), /timer is set/i);
+});
+
+phoneTest("escape leaves Control Center", {}, async (served, page) => {
+  await andCommand(page, "control-center open", () => page.click("#device-controls"));
+  await pass(served, 1);
+  await onScreen(page, "button", "Dozewell").focus();
+  await andCommand(page, "control-center close", () => page.keyboard.press("Escape"));
+});

@@ -1,0 +1,48 @@
+// A phone script in the page: opened, stepped, failed, closed.
+import assert from "node:assert/strict";
+import { phoneTest } from "./harness.mjs";
+
+const script = `# One song.
+boot
+playlist "A" 60
+advance 10s
+expect-playing NO
+`;
+
+async function open(served, page, text) {
+  await page.click("#tab-script");
+  await page.setInputFiles("#script-file", served.write("one.phone", text));
+  await page.locator(".script-status", { hasText: "one.phone: Ready" }).waitFor();
+}
+
+phoneTest("a script is played line by line up to the line that fails", {}, async (served, page) => {
+  await open(served, page, script);
+  await page.locator("#script-text .next").waitFor();
+  await page.click("#script-step");
+  await page.locator("#script-text li:nth-child(3).next").waitFor();
+  await page.click("#script-run");
+  await page.locator("#script-text li:nth-child(5).failed").waitFor();
+  assert.match(await page.locator("#panel-script .form-problem").textContent(), /Line 5/);
+  await page.click("#script-close");
+  await page.locator(".script-empty").waitFor();
+});
+
+phoneTest("what was done is opened as a script, by its address", {}, async (served, page) => {
+  await served.run("volume 0.7", "advance 5s");
+  await page.goto(`${served.address}?script=/api/recording.phone`);
+  await page.locator(".script-status", { hasText: "recording.phone: Ready" }).waitFor();
+  await page.locator("#script-text code", { hasText: "volume 0.7" }).waitFor();
+  await page.click("#script-run");
+  await page.locator(".script-status", { hasText: "to its end" }).waitFor();
+  assert.ok((await served.journal()).includes("user volume 0.7"));
+});
+
+phoneTest("a line typed by hand is done, and a wrong one explained", {}, async (served, page) => {
+  await page.click("#tab-script");
+  await page.fill("#command-line", "get UIDevice.currentDevice.systemVersion");
+  await page.keyboard.press("Enter");
+  await page.locator(".command-output", { hasText: "15.4" }).waitFor();
+  await page.fill("#command-line", "advanse 10s");
+  await page.keyboard.press("Enter");
+  await page.locator(".command-output.wrong", { hasText: "expected a command" }).waitFor();
+});

@@ -1,0 +1,143 @@
+// The music that is heard: real files, a fade that goes down, a pause that is one, a volume that is back.
+import assert from "node:assert/strict";
+import { journalHas, openPage, phoneTest, Served } from "./harness.mjs";
+
+const sampleRate = 8000;
+
+// A plain tone, as loud from its beginning to its end.
+function tone(seconds) {
+  const samples = seconds * sampleRate;
+  const file = Buffer.alloc(44 + samples * 2);
+  file.write("RIFF", 0);
+  file.writeUInt32LE(36 + samples * 2, 4);
+  file.write("WAVEfmt ", 8);
+  for (const [at, bytes, value] of [
+    [16, 4, 16],
+    [20, 2, 1],
+    [22, 2, 1],
+    [24, 4, sampleRate],
+    [28, 4, sampleRate * 2],
+    [32, 2, 2],
+    [34, 2, 16],
+  ])
+    file.writeUIntLE(value, at, bytes);
+  file.write("data", 36);
+  file.writeUInt32LE(samples * 2, 40);
+  for (let i = 0; i < samples; ++i)
+    file.writeInt16LE(
+      Math.round(12000 * Math.sin((2 * Math.PI * 330 * i) / sampleRate)),
+      44 + 2 * i,
+    );
+  return file;
+}
+
+// What the page's audio element and the gain behind it do at this moment.
+const heard = (page) =>
+  page.evaluate(async () => {
+    const { output } = await import("/main.js");
+    const { element } = output;
+    return {
+      paused: element.paused,
+      at: element.currentTime,
+      level: output.level,
+      file: element.getAttribute("src"),
+    };
+  });
+
+// Asks again and again, as the browser draws, until it is so.
+async function until(page, what, isSo) {
+  const end = Date.now() + 20_000;
+  for (;;) {
+    const state = await heard(page);
+    if (isSo(state)) return state;
+    if (Date.now() > end) throw new Error(`never ${what}: ${JSON.stringify(state)}`);
+    await page.evaluate(() => new Promise(requestAnimationFrame));
+  }
+}
+
+async function withMusic(body) {
+  const served = new Served([]);
+  served.write("One Note.wav", tone(120));
+  served.options = [served.folder];
+  await served.start();
+  try {
+    await body(served);
+  } finally {
+    await served.close();
+  }
+}
+
+phoneTest.withoutPhone("the fade is heard, the pause is real, the volume comes back", () =>
+  withMusic(async (served) => {
+    const page = await openPage(served, { silent: false });
+    await page.click("#start-listening");
+    const playing = await until(page, "playing", ({ paused, at }) => !paused && at > 0);
+    assert.match(playing.file, /^\/music\//);
+    await served.run(
+      "volume 0.8",
+      "set volumeFadeOutTime 2",
+      "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 0 60",
+    );
+    await until(page, "at full level", ({ level }) => Math.abs(level - 0.8) < 0.01);
+    await served.post("/api/time", { beforeEnd: 1 });
+    await until(page, "at the new place", ({ at }) => at > 55);
+
+    const levels = [];
+    const rested = await until(page, "paused", (state) => {
+      levels.push(state.level);
+      return state.paused;
+    });
+    const falling = levels.filter((level) => level > 0.02 && level < 0.78);
+    assert.ok(falling.length > 5, `the fade was seen at ${falling.length} levels only`);
+    assert.ok(
+      falling.every((level, index) => index === 0 || level <= falling[index - 1] + 1e-6),
+      "the level rose within the fade",
+    );
+    assert.ok(rested.level < 0.1, `paused at level ${rested.level}`);
+    await journalHas(page, "-[SBMediaController pause]");
+    const back = await until(
+      page,
+      "at the old volume",
+      ({ level }) => Math.abs(level - 0.8) < 0.01,
+    );
+    assert.ok(back.paused);
+    await page.context().close();
+  }),
+);
+
+phoneTest.withoutPhone(
+  "there is no sound before somebody asked for it, nor while time runs fast",
+  () =>
+    withMusic(async (served) => {
+      const page = await openPage(served, { silent: false });
+      assert.ok(await page.locator("#start-listening").isVisible());
+      assert.ok((await heard(page)).paused);
+      await page.click("#start-listening");
+      await until(page, "playing", ({ paused }) => !paused);
+      await served.post("/api/time", { speed: 60 });
+      await until(page, "silent", ({ paused }) => paused);
+      assert.match(await page.locator("#sound-chip").textContent(), /faster/);
+      await served.post("/api/time", { speed: 1 });
+      await until(page, "playing again", ({ paused }) => !paused);
+      await page.context().close();
+    }),
+);
+
+phoneTest.withoutPhone("one of two pages makes the sound, the one that was asked last", () =>
+  withMusic(async (served) => {
+    const first = await openPage(served, { silent: false });
+    await first.click("#start-listening");
+    await until(first, "playing", ({ paused }) => !paused);
+    const second = await openPage(served, { silent: false });
+    await second.locator("#start-silent").click();
+    assert.ok((await heard(second)).paused);
+    await second.click("#sound-chip");
+    await until(second, "playing", ({ paused }) => !paused);
+    await until(first, "silent", ({ paused }) => paused);
+    await first.locator("#sound-chip", { hasText: "Play sound here" }).waitFor();
+    await second.context().close();
+    await first.click("#sound-chip");
+    await until(first, "playing once more", ({ paused }) => !paused);
+    await first.context().close();
+  }),
+);

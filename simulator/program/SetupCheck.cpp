@@ -32,30 +32,46 @@ std::vector<std::string> playWords(const ServeState& state, const files::path& s
   return words;
 }
 
+// What the other process does with its output and signals.
+class Surroundings {
+ public:
+  explicit Surroundings(const files::path& output) {
+    posix_spawn_file_actions_init(&actions_);
+    posix_spawn_file_actions_addopen(&actions_, STDERR_FILENO, output.c_str(), O_WRONLY | O_CREAT,
+                                     0600);
+    posix_spawn_file_actions_adddup2(&actions_, STDERR_FILENO, STDOUT_FILENO);
+    // Signals that this process blocks would be blocked there, too.
+    posix_spawnattr_init(&attributes_);
+    sigset_t none;
+    sigemptyset(&none);
+    posix_spawnattr_setsigmask(&attributes_, &none);
+    posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGMASK);
+  }
+  ~Surroundings() {
+    posix_spawn_file_actions_destroy(&actions_);
+    posix_spawnattr_destroy(&attributes_);
+  }
+  Surroundings(const Surroundings&) = delete;
+  Surroundings& operator=(const Surroundings&) = delete;
+
+  const posix_spawn_file_actions_t* actions() const { return &actions_; }
+  const posix_spawnattr_t* attributes() const { return &attributes_; }
+
+ private:
+  posix_spawn_file_actions_t actions_;
+  posix_spawnattr_t attributes_;
+};
+
 // The exit status of this program, started with these words; what it prints goes to the file.
 int run(std::vector<std::string> words, const files::path& output) {
   std::vector<char*> pointers;
   pointers.reserve(words.size() + 1);
   for (std::string& word : words) pointers.push_back(word.data());
   pointers.push_back(nullptr);
-
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, output.c_str(), O_WRONLY | O_CREAT,
-                                   0600);
-  posix_spawn_file_actions_adddup2(&actions, STDERR_FILENO, STDOUT_FILENO);
-  // Signals that this process blocks would be blocked there, too.
-  posix_spawnattr_t attributes;
-  posix_spawnattr_init(&attributes);
-  sigset_t none;
-  sigemptyset(&none);
-  posix_spawnattr_setsigmask(&attributes, &none);
-  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+  const Surroundings surroundings(output);
   pid_t child = 0;
-  const int problem =
-      posix_spawn(&child, "/proc/self/exe", &actions, &attributes, pointers.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
-  posix_spawnattr_destroy(&attributes);
+  const int problem = posix_spawn(&child, "/proc/self/exe", surroundings.actions(),
+                                  surroundings.attributes(), pointers.data(), environ);
   if (problem != 0) throw std::system_error(problem, std::generic_category(), "posix_spawn");
   int status = 0;
   while (waitpid(child, &status, 0) < 0) {

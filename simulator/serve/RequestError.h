@@ -11,7 +11,7 @@ class RequestError : public std::runtime_error {
  public:
   // The body becomes {"error": message} with these further members.
   RequestError(int httpStatus, const std::string& message,
-               nlohmann::json moreMembers = nlohmann::json::object())
+               const nlohmann::json& moreMembers = nlohmann::json::object())
       : std::runtime_error(message), status(httpStatus), more_(moreMembers.dump()) {}
 
   nlohmann::json body() const {

@@ -98,6 +98,19 @@ int ServedProgram::wait() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
+long ServedProgram::residentKilobytes() const {
+  const std::string name = "/proc/" + std::to_string(process_);
+  std::ifstream children(name + "/task/" + std::to_string(process_) + "/children");
+  long served = 0;
+  children >> served;
+  std::ifstream status("/proc/" + std::to_string(served) + "/status");
+  for (std::string word; status >> word;) {
+    long kilobytes = 0;
+    if (word == "VmRSS:" && status >> kilobytes) return kilobytes;
+  }
+  throw std::runtime_error("it does not run");
+}
+
 int ServedProgram::end(int signal) {
   kill(process_, signal);
   return wait();

@@ -60,6 +60,9 @@ class ServedProgram {
   // As the program prints journals.
   std::string journal() const;
 
+  // Of memory, of the process that serves.
+  long residentKilobytes() const;
+
   // Has it end, and gives its exit status; -1 when a signal ended it.
   int end(int signal);
   // What it has said on standard error.

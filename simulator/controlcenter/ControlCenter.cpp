@@ -9,8 +9,8 @@
 #include "simulator/controlcenter/CCUICAPackageView.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
-#include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/uikit/UIWindow.h"
 
 namespace sim {
 namespace {
@@ -20,7 +20,8 @@ using objc::Object;
 constexpr double windowLevel = 1090;  // above the lock screen, below alerts
 constexpr double backdropBlur = 20;   // points
 
-Object shown;  // UIWindow; owned, nil while Control Center is closed
+Object shown;                  // UIWindow; owned, nil while Control Center is closed
+objc::Weak<Object> keyBefore;  // UIWindow; the key window that it took the place of
 
 }  // namespace
 
@@ -29,7 +30,6 @@ void registerControlCenter() {
   CCUICAPackageView::registerClass();
   CCUIContentModuleContainerViewController::registerClass();
   CCUIModularControlCenterOverlayViewController::registerClass();
-  LockScreen::current().whenLocked(closeControlCenter);
 }
 
 void openControlCenter() {
@@ -40,7 +40,8 @@ void openControlCenter() {
   objc::send<void, "setWindowLevel:">(shown, windowLevel);
   objc::send<void, "_setBackdropBlur:">(objc::send<Object, "layer">(shown), backdropBlur);
   objc::send<void, "setRootViewController:">(shown, overlay.get());
-  // Key, so that what is presented over everything lies over Control Center, too.
+  // The key window while it is open: alerts that are shown over all else come over it.
+  keyBefore = objc::weak(UIWindow::keyWindow());
   objc::send<void, "makeKeyAndVisible">(shown);
 }
 
@@ -51,6 +52,7 @@ void closeControlCenter() {
   const auto window = objc::adopt(std::exchange(shown, nullptr));
   objc::send<void, "setRootViewController:">(window.get(), nullptr);
   objc::send<void, "setHidden:">(window.get(), true);
+  objc::send<void, "makeKeyWindow">(keyBefore.load().get());
 }
 
 Object openedControlCenter() {

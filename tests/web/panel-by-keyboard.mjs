@@ -1,6 +1,6 @@
 // The road of one timer with the keyboard alone.
 import assert from "node:assert/strict";
-import { andCommand, journalHas, onScreen, pass, phoneTest } from "./harness.mjs";
+import { andCommand, journalHas, onScreen, openPanel, pass, phoneTest } from "./harness.mjs";
 
 // Tab until the element has the focus: it must be reachable that way.
 async function tabTo(page, locator) {
@@ -34,4 +34,21 @@ phoneTest("escape leaves Control Center", {}, async (served, page) => {
   await pass(served, 1);
   await onScreen(page, "button", "Dozewell").focus();
   await andCommand(page, "control-center close", () => page.keyboard.press("Escape"));
+});
+
+phoneTest("an alert is read out and answered", {}, async (served, page) => {
+  await openPanel(served, page);
+  await andCommand(page, "touch ended", () => onScreen(page, "button", "Settings").press("Enter"));
+  await pass(served, 1);
+  await andCommand(page, "touch ended", () => onScreen(page, "button", "Shortcut").press("Enter"));
+  await pass(served, 1);
+  const alert = page.locator("#glass").getByRole("alertdialog");
+  await alert.waitFor();
+  const title = await alert.getAttribute("aria-label");
+  assert.ok((await page.locator("#announcer").textContent()).startsWith(title), title);
+  // What lies behind it cannot be reached any more.
+  assert.equal(await onScreen(page, "button", "Shortcut").count(), 0);
+  await andCommand(page, "touch ended", () => alert.getByRole("button").first().press("Enter"));
+  await pass(served, 1);
+  await alert.waitFor({ state: "detached" });
 });

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace sim {
 namespace {
@@ -40,8 +41,9 @@ Nanoseconds Pace::uptimeAt(Moment now) const {
 std::optional<Pace::Moment> Pace::momentOf(Nanoseconds uptime) const {
   if (paused_) return std::nullopt;
   // Up to the next whole millisecond, before which uptimeAt() does not say that it is reached.
+  const Nanoseconds due = std::min(uptime, std::numeric_limits<Nanoseconds>::max() - millisecond);
   const Nanoseconds rounded =
-      uptime <= uptime_ ? uptime_ : uptime + (millisecond - 1) - (uptime - 1) % millisecond;
+      due <= uptime_ ? uptime_ : due + (millisecond - 1) - (due - 1) % millisecond;
   const double distance = std::min(seconds(rounded - uptime_) / speed_, farthest);
   return departure_ + std::chrono::nanoseconds(std::llround(std::ceil(distance * 1e9)));
 }

@@ -4,13 +4,7 @@ namespace sim {
 namespace {
 
 enum Distribution : long { fill, fillEqually, fillProportionally, equalSpacing, equalCentering };
-enum Alignment : long {
-  alignFill,
-  alignLeading,
-  alignFirstBaseline,
-  alignCenter,
-  alignTrailing
-};
+enum Alignment : long { alignFill, alignLeading, alignFirstBaseline, alignCenter, alignTrailing };
 
 // Three views of 30, 60 and 10 points in a row of 200, 10 apart.
 class Stacks : public LayoutTest {

@@ -9,6 +9,7 @@
 #include "simulator/controlcenter/CCUICAPackageView.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
+#include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/uikit/UIWindow.h"
 
@@ -30,6 +31,7 @@ void registerControlCenter() {
   CCUICAPackageView::registerClass();
   CCUIContentModuleContainerViewController::registerClass();
   CCUIModularControlCenterOverlayViewController::registerClass();
+  LockScreen::current().whenLocked(closeControlCenter);
 }
 
 void openControlCenter() {

@@ -46,7 +46,7 @@ export class Served {
   // Resolves when it has said where it is.
   start(...more) {
     return new Promise((resolve, reject) => {
-      this.#process = spawn(simulator, ["serve", ...this.options, ...more], {
+      this.#process = spawn(simulator, ["serve", "--port", "0", ...this.options, ...more], {
         stdio: ["ignore", "pipe", "inherit"],
       });
       this.#ended = new Promise((ended) => this.#process.once("exit", ended));
@@ -133,9 +133,11 @@ export async function openPage(served, { path = "", silent = true, ...context } 
     if (message.type() === "error" && !message.text().startsWith("Failed to load resource"))
       page.problems.push(message.text());
   });
+  // 503 says that the phone begins anew; the page asks again.
   page.on("response", (response) => {
-    if (response.status() === 404 || response.status() >= 500)
-      page.problems.push(`${response.status()} ${response.url()}`);
+    const status = response.status();
+    if (status === 404 || (status >= 500 && status !== 503))
+      page.problems.push(`${status} ${response.url()}`);
   });
   await page.goto(served.address + path);
   await page.locator('body[data-server="open"]').waitFor();

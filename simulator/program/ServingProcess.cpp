@@ -58,7 +58,7 @@ class ServingProcess {
                  leave(answer, stateFile);
                }) {
     guard(server_, listener_.port());
-    addApi(router_, {inbox_, server_, library_, state.web, setupCheck(state)});
+    addApi(router_, {inbox_, server_, library_, state.web, state.root, setupCheck(state)});
     router_.serve(server_);
   }
 

@@ -18,7 +18,8 @@ struct ApiParts {
   Inbox& inbox;
   HttpServer& server;
   const MusicLibrary& library;
-  std::filesystem::path web;  // folder of the page
+  std::filesystem::path web;         // folder of the page
+  std::filesystem::path phoneFiles;  // where the phone's "/" lies
   // Plays the set-up on another phone; throws RequestError when it is wrong.
   std::function<void(const std::vector<std::string>& setup)> checkSetup;
 };

@@ -1,5 +1,4 @@
 // Pictures of the phone's own files, and the letters that its screen is measured with.
-#include "simulator/phone/Phone.h"
 #include "simulator/serve/Api.h"
 #include "simulator/serve/http/Files.h"
 
@@ -14,11 +13,11 @@ bool isPicture(const std::string& file) {
 
 }  // namespace
 
-void addImageRoutes(Router& router, const ApiParts&) {
-  router.add("GET", "/api/image", [](const Router::Visit& visit) {
+void addImageRoutes(Router& router, const ApiParts& parts) {
+  router.add("GET", "/api/image", [root = parts.phoneFiles](const Router::Visit& visit) {
     const std::string file = visit.request.get_param_value("file");
     if (!isPicture(file)) throw RequestError(400, "expected file, the phone's path of a .png");
-    answerFileOf(Phone::current().file("/"), file.substr(1), visit.request, visit.response);
+    answerFileOf(root, file.substr(1), visit.request, visit.response);
   });
   router.add("GET", "/fonts/", [](const Router::Visit& visit) {
     answerFileOf(fontFolder, visit.name, visit.request, visit.response);

@@ -65,9 +65,13 @@ class PhonelessServer {
   PhonelessServer() {
     inbox_.stop();
     sim::guard(server_, port);
-    sim::addApi(router_, {inbox_, server_, library_, web_, [](const auto&) {}});
+    sim::addApi(router_, {inbox_, server_, library_, web_, web_, [](const auto&) {}});
     router_.serve(server_);
   }
+
+  ~PhonelessServer() { files::remove_all(web_.parent_path()); }
+  PhonelessServer(const PhonelessServer&) = delete;
+  PhonelessServer& operator=(const PhonelessServer&) = delete;
 
   std::string answer(const std::string& request) {
     TextStream stream(request);

@@ -22,6 +22,12 @@ long pickedSongs(UIView page) {
   return objc::send<long, "nbSongsSelected">(page);
 }
 
+long pickedValue(UIView page, long mode) {
+  if (mode == Dozewell2Manager::durationMode) return pickedSeconds(page);
+  if (mode == Dozewell2Manager::songCountMode) return pickedSongs(page);
+  return 0;
+}
+
 }  // namespace
 
 void Dozewell2ViewController::setUpCurrentTimerView() {
@@ -70,9 +76,7 @@ void Dozewell2ViewController::validateButtonClicked() {
   auto& engine = Dozewell2Manager::sharedInstance();
   engine.cancelTimer();
   const long mode = selectedMode();
-  engine.startTimerWithMode_andValue(mode, mode == Dozewell2Manager::durationMode
-                                               ? pickedSeconds(chooseSnoozeTimeView)
-                                               : pickedSongs(chooseSnoozeTimeView));
+  engine.startTimerWithMode_andValue(mode, pickedValue(chooseSnoozeTimeView, mode));
   dispatch::onMain([this] {
     transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(true);
     hideBottomButtons(true);

@@ -18,16 +18,6 @@ using scene::Node;
 // What is fainter is not seen.
 constexpr double invisible = 0.001;
 
-CGAffineTransform composed(const CGAffineTransform& first, const CGAffineTransform& then) {
-  const CGPoint moved = then.apply(CGPoint{first.tx, first.ty});
-  return {then.a * first.a + then.c * first.b,
-          then.b * first.a + then.d * first.b,
-          then.a * first.c + then.c * first.d,
-          then.b * first.c + then.d * first.d,
-          moved.x,
-          moved.y};
-}
-
 CGAffineTransform toSuperlayer(const LayerValues& seen, CGPoint anchorPoint) {
   const CGPoint anchor = {seen.bounds.origin.x + anchorPoint.x * seen.bounds.size.width,
                           seen.bounds.origin.y + anchorPoint.y * seen.bounds.size.height};
@@ -72,7 +62,7 @@ scene::Attributes attributesOf(const CALayer& layer, const LayerValues& seen, Ob
 void flip(Node& node) {
   const CGAffineTransform turned = upsideDown(node.attributes.bounds);
   for (Node& child : node.children)
-    child.attributes.toParent = composed(child.attributes.toParent, turned);
+    child.attributes.toParent = child.attributes.toParent.then(turned);
   auto* shape = std::get_if<scene::Shape>(&node.attributes.content);
   if (shape == nullptr) return;
   for (PathElement& element : shape->path)

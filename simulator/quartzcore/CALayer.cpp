@@ -1,7 +1,6 @@
 #include "simulator/quartzcore/CALayer.h"
 
 #include <algorithm>
-#include <bit>
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
@@ -176,22 +175,16 @@ void setValueForKeyPath(Object self, Object value, Object path) {
 CALayer::CALayer() : identity(++layersMade) {}
 
 LayerValues CALayer::values() const {
-  return {geometry.bounds,
-          geometry.position,
-          geometry.transform.affine(),
-          opacity,
-          componentsOf(backgroundColor),
-          cornerRadius,
-          backdropBlur};
+  return {{geometry.bounds, geometry.position, opacity, componentsOf(backgroundColor), cornerRadius,
+           backdropBlur},
+          geometry.transform.affine()};
 }
 
 LayerValues CALayer::presentation(Nanoseconds now) const {
-  auto seen = std::bit_cast<LayerNumbers>(values());
-  for (const LayerAnimation& animation : animations) {
-    const double toCome = 1 - animation.timing.progress(now);
-    for (std::size_t i = 0; i < seen.size(); ++i) seen[i] += animation.difference[i] * toCome;
-  }
-  return std::bit_cast<LayerValues>(seen);
+  LayerValues seen = values();
+  // The newest is the nearest to the layer: what an older one still turns, it turns as a whole.
+  for (auto each = animations.rbegin(); each != animations.rend(); ++each) each->addTo(seen, now);
+  return seen;
 }
 
 void CALayer::removeAllAnimations() {

@@ -4,9 +4,11 @@
 #include <bit>
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 #include "simulator/phone/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
+#include "simulator/quartzcore/PlaneTransform.h"
 
 namespace sim {
 namespace {
@@ -15,13 +17,34 @@ std::optional<AnimationTiming> current;
 
 LayerAnimation& animationOf(CALayer& layer, const AnimationTiming& timing) {
   auto& all = layer.animations;
-  if (all.empty() || all.back().timing.group != timing.group)
-    all.push_back({LayerNumbers{}, timing});
+  if (all.empty() || all.back().timing.group != timing.group) all.push_back({.timing = timing});
   return all.back();
 }
 
 void removeEnded(std::vector<LayerAnimation>& animations, Nanoseconds now) {
   std::erase_if(animations, [now](const auto& each) { return each.timing.end() <= now; });
+}
+
+LayerNumbers numbersOf(const LayerMeasures& measures) {
+  return std::bit_cast<LayerNumbers>(measures);
+}
+
+// From a transform that leaves nothing of the layer there is no way back: it is seen at once, as on
+// the platform.
+CGAffineTransform wayBackFrom(const CGAffineTransform& end, const CGAffineTransform& start) {
+  return end.canBeInverted() ? end.inverse().then(start) : CGAffineTransform();
+}
+
+CGAffineTransform partOf(const CGAffineTransform& wayBack, double part) {
+  // Rounding leaves half a turn on either side. The way back is against the clock.
+  constexpr double almostHalfATurn = std::numbers::pi - 1e-6;
+  PlaneTransform change(wayBack);
+  if (change.turn > almostHalfATurn) change.turn -= 2 * std::numbers::pi;
+  change.scale = {1 + (change.scale.x - 1) * part, 1 + (change.scale.y - 1) * part};
+  change.shear *= part;
+  change.turn *= part;
+  change.move = {change.move.x * part, change.move.y * part};
+  return change.whole();
 }
 
 }  // namespace
@@ -48,11 +71,21 @@ Nanoseconds AnimationTiming::end() const {
   return begin + nanoseconds(duration) * (autoreverses ? 2 : 1);
 }
 
+void LayerAnimation::addTo(LayerValues& seen, Nanoseconds now) const {
+  const double toCome = 1 - timing.progress(now);
+  LayerNumbers numbers = numbersOf(seen);
+  for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] += difference[i] * toCome;
+  static_cast<LayerMeasures&>(seen) = std::bit_cast<LayerMeasures>(numbers);
+  if (wayBack != CGAffineTransform()) seen.transform = seen.transform.then(partOf(wayBack, toCome));
+}
+
 void animateFrom(CALayer& layer, const LayerValues& start, const AnimationTiming& timing) {
-  const auto first = std::bit_cast<LayerNumbers>(start);
-  const auto last = std::bit_cast<LayerNumbers>(layer.values());
+  const LayerValues end = layer.values();
+  const LayerNumbers first = numbersOf(start);
+  const LayerNumbers last = numbersOf(end);
   LayerAnimation& animation = animationOf(layer, timing);
   for (std::size_t i = 0; i < last.size(); ++i) animation.difference[i] += first[i] - last[i];
+  animation.wayBack = wayBackFrom(end.transform, start.transform).then(animation.wayBack);
 }
 
 LayerChange::LayerChange(CALayer* layer) : layer_(current ? layer : nullptr) {
@@ -65,17 +98,30 @@ LayerChange::LayerChange(CALayer* layer) : layer_(current ? layer : nullptr) {
 
 LayerChange::~LayerChange() {
   if (layer_ == nullptr) return;
-  const auto before = std::bit_cast<LayerNumbers>(before_);
-  const auto seen = std::bit_cast<LayerNumbers>(seen_);
-  const auto after = std::bit_cast<LayerNumbers>(layer_->values());
-  if (before == after) return;
+  const LayerValues after = layer_->values();
+  if (before_ == after) return;
   LayerAnimation& animation = animationOf(*layer_, *current);
+  animateNumbers(animation, after);
+  animateTransform(animation, after.transform);
+}
+
+void LayerChange::animateNumbers(LayerAnimation& animation, const LayerMeasures& now) const {
+  const LayerNumbers before = numbersOf(before_);
+  const LayerNumbers seen = numbersOf(seen_);
+  const LayerNumbers after = numbersOf(now);
   for (std::size_t i = 0; i < after.size(); ++i) {
     if (before[i] == after[i]) continue;
     if (current->fromCurrentState)
       for (LayerAnimation& each : layer_->animations) each.difference[i] = 0;
     animation.difference[i] += seen[i] - after[i];
   }
+}
+
+void LayerChange::animateTransform(LayerAnimation& animation, const CGAffineTransform& now) const {
+  if (before_.transform == now) return;
+  if (current->fromCurrentState)
+    for (LayerAnimation& each : layer_->animations) each.wayBack = {};
+  animation.wayBack = wayBackFrom(now, seen_.transform).then(animation.wayBack);
 }
 
 }  // namespace sim

@@ -1,6 +1,8 @@
 // Changes of layers that take time. A layer's own values are final at once; what is seen in the
 // meantime is these values plus the part of each change that is still to come. So changes that
-// overlap add up, and one that turns another back does it without a jump.
+// overlap add up, and one that turns another back does it without a jump. Transforms are no sums
+// but follow each other, and part of one is that part of its scale, shear, turn and move: what
+// turns by half a turn is seen to turn, clockwise, and never the longer way round.
 #pragma once
 
 #include <optional>
@@ -28,8 +30,12 @@ struct AnimationTiming {
 };
 
 struct LayerAnimation {
-  LayerNumbers difference;  // start less end
   AnimationTiming timing;
+  LayerNumbers difference{};    // start less end
+  CGAffineTransform wayBack{};  // comes after the end's transform to make the start's
+
+  // Makes what is seen without this animation what is seen with it, at that uptime.
+  void addTo(LayerValues& seen, Nanoseconds now) const;
 };
 
 // What changes of layers are animated by at present; nothing: they are seen at once.
@@ -48,6 +54,9 @@ class LayerChange {
   LayerChange& operator=(const LayerChange&) = delete;
 
  private:
+  void animateNumbers(LayerAnimation& animation, const LayerMeasures& now) const;
+  void animateTransform(LayerAnimation& animation, const CGAffineTransform& now) const;
+
   CALayer* layer_;
   LayerValues before_;
   LayerValues seen_;  // where the animation starts

@@ -1,37 +1,16 @@
 #include "simulator/quartzcore/LayerKeyPath.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 #include "objc/Message.h"
 #include "simulator/quartzcore/CALayer.h"
+#include "simulator/quartzcore/PlaneTransform.h"
 
 namespace sim {
 namespace {
 
 using objc::Object;
-
-// A transform of the plane taken apart: scaled, then turned, then moved.
-struct PlaneTransform {
-  CGPoint scale;
-  double turn;  // radians
-  CGPoint move;
-
-  explicit PlaneTransform(const CATransform3D& from)
-      : scale{std::hypot(from.m11, from.m12), std::hypot(from.m21, from.m22)},
-        turn(std::atan2(from.m12, from.m11)),
-        move{from.m41, from.m42} {
-    if (from.m11 * from.m22 - from.m12 * from.m21 < 0) scale.y = -scale.y;
-  }
-
-  CATransform3D whole() const {
-    const double cosine = std::cos(turn);
-    const double sine = std::sin(turn);
-    return CATransform3D::ofAffine(
-        {scale.x * cosine, scale.x * sine, -scale.y * sine, scale.y * cosine, move.x, move.y});
-  }
-};
 
 struct Structures {
   CGPoint position;
@@ -43,7 +22,7 @@ struct Structures {
       : position(from.position),
         anchorPoint(from.anchorPoint),
         bounds(from.bounds),
-        transform(from.transform) {}
+        transform(from.transform.affine()) {}
 };
 
 struct Member {
@@ -80,7 +59,8 @@ void store(Object layer, const Structures& changed, std::string_view structure) 
   if (structure == "position") objc::send<void, "setPosition:">(layer, changed.position);
   if (structure == "anchorPoint") objc::send<void, "setAnchorPoint:">(layer, changed.anchorPoint);
   if (structure == "bounds") objc::send<void, "setBounds:">(layer, changed.bounds);
-  if (structure == "transform") objc::send<void, "setTransform:">(layer, changed.transform.whole());
+  if (structure == "transform")
+    objc::send<void, "setTransform:">(layer, CATransform3D::ofAffine(changed.transform.whole()));
 }
 
 }  // namespace

@@ -7,18 +7,23 @@
 
 namespace sim {
 
-struct LayerValues {
+// What changes number by number.
+struct LayerMeasures {
   CGRect bounds;
   CGPoint position;
-  CGAffineTransform transform;
   double opacity = 1;
   std::array<double, 4> backgroundColor{};  // red, green, blue, alpha
   double cornerRadius = 0;                  // points
   double backdropBlur = 0;                  // points
-  bool operator==(const LayerValues&) const = default;
+  bool operator==(const LayerMeasures&) const = default;
 };
 
 // The same numbers in a row, for sums over all of them.
-using LayerNumbers = std::array<double, sizeof(LayerValues) / sizeof(double)>;
+using LayerNumbers = std::array<double, sizeof(LayerMeasures) / sizeof(double)>;
+
+struct LayerValues : LayerMeasures {
+  CGAffineTransform transform;
+  bool operator==(const LayerValues&) const = default;
+};
 
 }  // namespace sim

@@ -43,10 +43,22 @@ struct CGAffineTransform {
   CGPoint apply(CGPoint point) const {
     return {a * point.x + c * point.y + tx, b * point.x + d * point.y + ty};
   }
+  // This one, and after it the other.
+  CGAffineTransform then(const CGAffineTransform& next) const {
+    const CGPoint moved = next.apply(CGPoint{tx, ty});
+    return {next.a * a + next.c * b,
+            next.b * a + next.d * b,
+            next.a * c + next.c * d,
+            next.b * c + next.d * d,
+            moved.x,
+            moved.y};
+  }
+  double determinant() const { return a * d - b * c; }
+  bool canBeInverted() const { return determinant() != 0; }
   // Itself where it cannot be inverted.
   CGAffineTransform inverse() const {
-    const double determinant = a * d - b * c;
-    if (determinant == 0) return *this;
+    if (!canBeInverted()) return *this;
+    const double determinant = this->determinant();
     return {d / determinant,
             -b / determinant,
             -c / determinant,

@@ -26,8 +26,7 @@ void animateSpring(double seconds, double delay, double damping, double velocity
 }  // namespace
 
 void addViewAnimations(StandIn<UIView>& view) {
-  constexpr const char* difference =
-      "takes its time also when nothing changes; transforms change number by number";
+  constexpr const char* difference = "takes its time also when nothing changes";
   view.partialClassMethod<"animateWithDuration:animations:", &animate>(difference)
       .partialClassMethod<"animateWithDuration:animations:completion:", &animateCompletion>(
           difference)

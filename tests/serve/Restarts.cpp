@@ -45,6 +45,15 @@ TEST(Restarts, KeepSpeedSoundAndMusic) {
   EXPECT_EQ(all.at("player").at("volume"), 0.25);
 }
 
+TEST(Restarts, KeepPlainVariablesAndSayWhenOthersWereLost) {
+  const ServedProgram program;
+  program.command({"let size UIScreen.mainScreen.bounds.size", "let screen UIScreen.mainScreen",
+                   "advance 12500ms", "respring"});
+  EXPECT_EQ(program.value("$size"), "{390, 844}");
+  EXPECT_EQ(program.command("get $screen").error(),
+            "$screen belonged to the host and was lost in the respring at 12.5 s");
+}
+
 TEST(Restarts, BringADeadHostBack) {
   const ServedProgram program;
   EXPECT_EQ(program.command("kill").asJson().at("restarts"), true);

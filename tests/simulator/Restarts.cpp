@@ -12,12 +12,33 @@ std::string firstLine(const std::string& text) {
   return text.substr(0, text.find('\n'));
 }
 
-TEST(Restarts, VariablesAreLost) {
-  const Outcome outcome = play("boot\nlet s Sample.shared\nkill\nrespring\nget $s");
+TEST(Restarts, LoseObjectsAndSayWhere) {
+  const Outcome outcome = play("boot\nlet s Sample.shared\nrespring\nadvance 1s\nget $s.count");
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(firstLine(outcome.errors),
-            "SCRIPT:5:5: $s was an object of a host process that has ended");
+            "SCRIPT:5:5: $s belonged to the host and was lost in the respring at line 3");
 }
+
+TEST(Restarts, SayWhereTheHostDied) {
+  const Outcome outcome = play("boot\nlet s Sample.shared\nkill\nrespring\nrespring\nget $s");
+  EXPECT_EQ(firstLine(outcome.errors),
+            "SCRIPT:6:5: $s belonged to the host and was lost as the host died at line 3");
+}
+
+class LostValues : public testing::TestWithParam<const char*> {};
+
+TEST_P(LostValues, AreThoseOfTheProcess) {
+  const Outcome outcome =
+      play("boot\nlet value " + std::string(GetParam()) + "\nrespring\nget $value");
+  EXPECT_EQ(firstLine(outcome.errors),
+            "SCRIPT:4:5: $value belonged to the host and was lost in the respring at line 3");
+}
+
+INSTANTIATE_TEST_SUITE_P(, LostValues,
+                         testing::Values("Sample.class", "NSMutableString string", "NSDate.date",
+                                         "NSArray arrayWithObject: 3",
+                                         "Sample.shared sameClass: Sample",
+                                         "Sample.shared sameObject: block b \"v\""));
 
 TEST(Restarts, TheLastValueIsLost) {
   const Outcome outcome = play("boot\nget Sample.shared\nrespring\nexpect-last nil");

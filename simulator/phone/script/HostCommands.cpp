@@ -44,7 +44,7 @@ void moveWallClock(Arguments& arguments) {
 
 void kill(Arguments& arguments) {
   arguments.finish();
-  endHostProcess(std::nullopt);
+  endHostProcess(HostEnd::death, std::nullopt);
 }
 
 void killAtText(Arguments& arguments) {
@@ -86,7 +86,7 @@ void respring(Arguments& arguments) {
   if (session.state == HostState::off) throw ScriptError(0, "respring belongs after boot");
   if (session.state == HostState::dead) return relaunchHost(relaunchAt);
   endInOrder(session);
-  endHostProcess(relaunchAt);
+  endHostProcess(HostEnd::respring, relaunchAt);
 }
 
 }  // namespace
@@ -111,7 +111,8 @@ void watchKillPoints() {
     if (session.state != HostState::running) return;
     const Phone& phone = session.phone;
     const bool dies = session.killPoints.erase(phone.journal.entries().size()) > 0;
-    if (reachedKillText(session, entry.text) || dies) endHostProcess(phone.clock.uptime());
+    if (reachedKillText(session, entry.text) || dies)
+      endHostProcess(HostEnd::death, phone.clock.uptime());
   });
 }
 
@@ -136,7 +137,7 @@ void addHostCommands(CommandTable& table) {
              killAt});
   table.add({"respring", Stage::any, "respring [after DURATION]", "respring after 30s",
              "Restarts the host: in order (user defaults are saved) when it runs, or after it "
-             "died; $variables are lost.",
+             "died; of $variables only plain values stay.",
              respring});
 }
 

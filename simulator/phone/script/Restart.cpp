@@ -10,7 +10,12 @@
 namespace sim {
 namespace {
 
-RestartState recorded(Session& session) {
+std::string described(HostEnd how, const Session& session) {
+  return (how == HostEnd::respring ? "in the respring at " : "as the host died at ") +
+         session.place();
+}
+
+RestartState recorded(Session& session, HostEnd how) {
   const Phone& phone = session.phone;
   RestartState state;
   state.options = session.options;
@@ -22,7 +27,7 @@ RestartState recorded(Session& session) {
   state.journalStart = session.journalStart;
   state.killPoints = session.killPoints;
   state.killTexts = session.killTexts;
-  state.variables = session.variables.names();
+  state.variables = session.variables.saved(described(how, session));
   state.functions = session.functions.all();
   state.advanceUntil = session.advanceUntil;
   return state;
@@ -41,9 +46,9 @@ std::filesystem::path stateFile(const std::filesystem::path& root) {
 
 }  // namespace
 
-void endHostProcess(std::optional<Nanoseconds> relaunchAt) {
+void endHostProcess(HostEnd how, std::optional<Nanoseconds> relaunchAt) {
   Session& session = Session::current();
-  RestartState state = recorded(session);
+  RestartState state = recorded(session, how);
   state.relaunchAt = relaunchAt;
   const auto file = stateFile(session.phone.root());
   std::ofstream stream(file, std::ios::binary);
@@ -75,9 +80,9 @@ void restoreSession(Session& session, const RestartState& state) {
   session.killTexts = state.killTexts;
   // Should the host die once more as it comes back, the interrupted `advance` still goes on.
   session.advanceUntil = state.advanceUntil;
-  session.variables.restoreLost(state.variables);
   for (const auto& [name, types] : state.functions) session.functions.declare(name, types);
   session.host.registerClasses();
+  session.variables.restore(state.variables);
   phone.restoreSurvivors(nlohmann::json::parse(state.survivors));
 }
 

@@ -23,7 +23,7 @@ struct RestartState {
   std::size_t journalStart = 0;
   std::set<std::size_t> killPoints;
   std::vector<KillText> killTexts;
-  std::set<std::string> variables;  // their objects are gone
+  SavedVariables variables;
   std::map<std::string, std::string, std::less<>> functions;
   // When the host comes back by itself, and how long the interrupted `advance` goes on.
   std::optional<Nanoseconds> relaunchAt;
@@ -37,9 +37,11 @@ RestartState restartStateFromJson(const nlohmann::json& from);
 // Reads the file and removes it. Throws std::runtime_error when it is not what was written.
 RestartState takeRestartState(const std::filesystem::path& file);
 
-// The host dies now: nothing but the phone's files, its other processes and the script's own
+enum class HostEnd { respring, death };
+
+// The host ends now: nothing but the phone's files, its other processes and the script's own
 // records remain. Comes back by itself at `relaunchAt`, or when the script says so.
-[[noreturn]] void endHostProcess(std::optional<Nanoseconds> relaunchAt);
+[[noreturn]] void endHostProcess(HostEnd how, std::optional<Nanoseconds> relaunchAt);
 
 // Puts a session that has just been made into the recorded state, up to the phone's classes and
 // other processes; the host is dead.

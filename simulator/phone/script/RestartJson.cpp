@@ -77,7 +77,8 @@ json restartStateAsJson(const RestartState& state) {
       {"journalStart", state.journalStart},
       {"killPoints", state.killPoints},
       {"killTexts", asJson(state.killTexts)},
-      {"variables", state.variables},
+      {"variables", state.variables.kept},
+      {"lostVariables", state.variables.lost},
       {"functions", state.functions},
       {"relaunchAt", optional(state.relaunchAt)},
       {"advanceUntil", optional(state.advanceUntil)},
@@ -95,7 +96,8 @@ RestartState restartStateFromJson(const json& from) {
   from.at("journalStart").get_to(state.journalStart);
   from.at("killPoints").get_to(state.killPoints);
   state.killTexts = killTextsFrom(from.at("killTexts"));
-  from.at("variables").get_to(state.variables);
+  from.at("variables").get_to(state.variables.kept);
+  from.at("lostVariables").get_to(state.variables.lost);
   for (const auto& [name, types] : from.at("functions").items())
     state.functions.emplace(name, types.get<std::string>());
   state.relaunchAt = optional(from.at("relaunchAt"));

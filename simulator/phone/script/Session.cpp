@@ -23,6 +23,11 @@ Session::~Session() {
   theCurrent = nullptr;
 }
 
+std::string Session::place() const {
+  if (relaunch) return notation(seconds(phone.clock.uptime())) + " s";
+  return "line " + std::to_string(lineNumber);
+}
+
 Session& Session::current() {
   if (theCurrent == nullptr) {
     std::fputs("sim::Session::current() is used outside a script\n", stderr);

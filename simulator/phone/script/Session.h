@@ -43,6 +43,10 @@ class Session {
   // The session of this process.
   static Session& current();
 
+  // Of the command that runs, for messages: "line 4"; on a served phone, whose lines have no
+  // numbers that anybody sees, "12.5 s".
+  std::string place() const;
+
   SessionOptions options;
   Phone phone;
   Host host;

@@ -2,27 +2,34 @@
 #pragma once
 
 #include <map>
-#include <set>
 #include <string>
 
+#include "simulator/phone/script/SavedValue.h"
 #include "simulator/phone/script/Value.h"
 
 namespace sim {
 
+// What of them the next host process gets.
+struct SavedVariables {
+  std::map<std::string, SavedValue> kept;
+  std::map<std::string, std::string> lost;  // by name: "in the respring at line 4"
+};
+
 class Variables {
  public:
+  // Of a C string a copy, which lasts.
   void keep(const std::string& name, Value value);
   // What the script has kept under the name, or else the phone's variable. Throws ScriptError at
   // the column, saying so, when the variable's object died with its host or is not on the screen.
   Value value(const std::string& name, std::size_t column) const;
 
-  // Names of before a restart, whose objects are gone.
-  std::set<std::string> names() const;
-  void restoreLost(std::set<std::string> names) { lost_ = std::move(names); }
+  // As the host's process ends: plain values stay, all else is lost, and `how` says where.
+  SavedVariables saved(const std::string& how) const;
+  void restore(const SavedVariables& from);
 
  private:
   std::map<std::string, Value> values_;
-  std::set<std::string> lost_;
+  std::map<std::string, std::string> lost_;
 };
 
 }  // namespace sim

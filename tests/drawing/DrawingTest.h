@@ -22,6 +22,21 @@ class DrawingTest : public UIKitTest {
   }
 };
 
+// One view, that the test moves.
+class MovementTest : public DrawingTest {
+ protected:
+  void SetUp() override {
+    DrawingTest::SetUp();
+    view = make("UIView", rect(0, 0, 100, 100));
+  }
+  void TearDown() override {
+    view = nullptr;
+    DrawingTest::TearDown();
+  }
+
+  Strong<Object> view;
+};
+
 inline Object color(double red, double green, double blue, double alpha = 1) {
   return send<Object, "colorWithRed:green:blue:alpha:">(cls("UIColor"), red, green, blue, alpha);
 }

@@ -4,22 +4,12 @@
 namespace sim {
 namespace {
 
-class Movement : public DrawingTest {
+class Movement : public MovementTest {
  protected:
-  void SetUp() override {
-    DrawingTest::SetUp();
-    view = make("UIView", rect(0, 0, 100, 100));
-  }
-  void TearDown() override {
-    view = nullptr;
-    DrawingTest::TearDown();
-  }
   double alpha() const { return drawn(view).attributes.opacity; }
   double x() const { return drawn(view).attributes.toParent.tx; }
   void setAlpha(double alpha) const { send<void, "setAlpha:">(view.get(), alpha); }
   void setX(double x) const { send<void, "setFrame:">(view.get(), rect(x, 0, 100, 100)); }
-
-  Strong<Object> view;
 };
 
 TEST_F(Movement, HalfWayIsInTheMiddle) {

@@ -12,16 +12,8 @@ CGAffineTransform turnedBy(double angle) {
   return {std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0};
 }
 
-class Turning : public DrawingTest {
+class Turning : public MovementTest {
  protected:
-  void SetUp() override {
-    DrawingTest::SetUp();
-    view = make("UIView", rect(0, 0, 100, 100));
-  }
-  void TearDown() override {
-    view = nullptr;
-    DrawingTest::TearDown();
-  }
   void turn(const CGAffineTransform& transform) const {
     send<void, "setTransform:">(view.get(), transform);
   }
@@ -43,8 +35,6 @@ class Turning : public DrawingTest {
           &CGAffineTransform::d, &CGAffineTransform::tx, &CGAffineTransform::ty})
       EXPECT_NEAR(found.*number, wanted.*number, 1e-9);
   }
-
-  Strong<Object> view;
 };
 
 TEST_F(Turning, KeepsItsSizeWhileItTurns) {

@@ -3,11 +3,13 @@
 
 #include "simulator/phone/Host.h"
 #include "simulator/phone/Phone.h"
+#include "simulator/phone/TemporaryFolder.h"
 
 namespace bench {
 
 // Made on first use; there is one phone in a process.
 struct BootedPhone {
+  sim::TemporaryFolder root;
   sim::Phone phone;
   sim::Host host;
 

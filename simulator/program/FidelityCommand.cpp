@@ -6,7 +6,7 @@
 #include "simulator/Fidelity.h"
 #include "simulator/Frameworks.h"
 #include "simulator/phone/Phone.h"
-#include "simulator/program/TemporaryFolder.h"
+#include "simulator/phone/TemporaryFolder.h"
 #include "simulator/runwright/ShortcutRunner.h"
 
 namespace sim {

@@ -3,9 +3,9 @@
 #include <iostream>
 
 #include "simulator/phone/Phone.h"
+#include "simulator/phone/TemporaryFolder.h"
 #include "simulator/phone/script/Commands.h"
 #include "simulator/phone/script/Reference.h"
-#include "simulator/program/TemporaryFolder.h"
 
 namespace sim {
 

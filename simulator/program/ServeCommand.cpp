@@ -14,9 +14,9 @@
 #include <random>
 #include <system_error>
 
+#include "simulator/phone/TemporaryFolder.h"
 #include "simulator/program/EndSignals.h"
 #include "simulator/program/ServingProcess.h"
-#include "simulator/program/TemporaryFolder.h"
 #include "simulator/serve/http/Listener.h"
 
 namespace sim {

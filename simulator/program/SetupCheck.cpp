@@ -12,8 +12,8 @@
 #include <regex>
 #include <system_error>
 
+#include "simulator/phone/TemporaryFolder.h"
 #include "simulator/phone/script/Script.h"
-#include "simulator/program/TemporaryFolder.h"
 #include "simulator/serve/RequestError.h"
 
 namespace sim {

@@ -1,28 +1,21 @@
 #include "tests/foundation/FoundationTest.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 #include "simulator/Frameworks.h"
 #include "simulator/foundation/NSNull.h"
+#include "simulator/phone/TemporaryFolder.h"
 #include "simulator/runtime/LiveObjects.h"
 
 namespace sim {
 namespace {
 
-std::filesystem::path temporaryFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "foundation-XXXXXX").string();
-  if (::mkdtemp(name.data()) == nullptr) std::abort();
-  return name;
-}
-
 // Classes cannot be registered twice, so tests that share a process share its phone.
 struct Shared {
-  std::filesystem::path root = temporaryFolder();
-  Phone phone{root};
+  TemporaryFolder root;
+  Phone phone{root.path()};
   Shared() { registerFoundation(); }
-  ~Shared() { std::filesystem::remove_all(root); }
 };
 
 Phone& sharedPhone() {

@@ -68,13 +68,12 @@ std::vector<ScriptLine> linesOf(std::string_view text) {
 }
 
 struct FuzzSession {
-  std::filesystem::path root = temporaryRoot();
-  Session session{{.script = "fuzz", .root = root, .quiet = true}};
+  TemporaryFolder root;
+  Session session{{.script = "fuzz", .root = root.path(), .quiet = true}};
   FuzzSession() {
     commands();
     session.host.registerClasses();
   }
-  ~FuzzSession() { std::filesystem::remove_all(root); }
 };
 
 }  // namespace

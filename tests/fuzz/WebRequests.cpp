@@ -1,7 +1,6 @@
 // Any bytes are a request that gets an answer, or none worth one; what is refused is told why, as
 // JSON, and nothing outside the page's folder is ever sent.
 #include <httplib.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -14,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "simulator/phone/TemporaryFolder.h"
 #include "simulator/serve/Api.h"
 #include "simulator/serve/http/Guard.h"
 
@@ -69,7 +69,6 @@ class PhonelessServer {
     router_.serve(server_);
   }
 
-  ~PhonelessServer() { files::remove_all(web_.parent_path()); }
   PhonelessServer(const PhonelessServer&) = delete;
   PhonelessServer& operator=(const PhonelessServer&) = delete;
 
@@ -80,17 +79,16 @@ class PhonelessServer {
   }
 
  private:
-  static files::path makeFolder() {
-    const files::path folder =
-        files::temp_directory_path() / ("dozewell-fuzz-" + std::to_string(getpid()));
+  static files::path webIn(const files::path& folder) {
     files::create_directories(folder / "web/sub");
     std::ofstream(folder / "web/index.html") << "<p>page";
     std::ofstream(folder / "web/sub/a.js") << "export {};";
     std::ofstream(folder / "secret.js") << secret;
-    return folder;
+    return folder / "web";
   }
 
-  files::path web_ = makeFolder() / "web";
+  sim::TemporaryFolder folder_;
+  files::path web_ = webIn(folder_.path());
   sim::MusicLibrary library_{web_};
   sim::Inbox inbox_;
   sim::Router router_;

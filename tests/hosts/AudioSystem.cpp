@@ -68,7 +68,7 @@ TEST_F(AudioSystemTest, VolumesSurviveTheHostAndSuppressionDoesNot) {
   audio.setVolume(0.125F);
   const auto saved = phone.saveSurvivors();
   TemporaryFolder root;
-  Phone after{root.path};
+  Phone after{root.path()};
   AudioSystem restored{after};
   after.restoreSurvivors(saved);
   EXPECT_EQ(restored.volume(), 0.125F);

@@ -196,7 +196,7 @@ TEST_F(PlayerTest, TheMusicGoesOnWhileTheHostIsAway) {
   advance(5);
   const auto saved = phone.saveSurvivors();
   TemporaryFolder root;
-  Phone after{root.path};
+  Phone after{root.path()};
   Player restored{after};
   after.clock.advanceTo(nanoseconds(117));
   after.restoreSurvivors(saved);
@@ -212,7 +212,7 @@ TEST_F(PlayerTest, MusicThatWaitsForTheHostStillWaitsAfterARestart) {
   player.playOnceBooted();
   const auto saved = phone.saveSurvivors();
   TemporaryFolder root;
-  Phone after{root.path};
+  Phone after{root.path()};
   Player restored{after};
   restored.hostDidBoot();
   after.restoreSurvivors(saved);
@@ -227,7 +227,7 @@ TEST_F(PlayerTest, APausedPlayerIsStillPausedAfterARestart) {
   player.pause();
   const auto saved = phone.saveSurvivors();
   TemporaryFolder root;
-  Phone after{root.path};
+  Phone after{root.path()};
   Player restored{after};
   after.restoreSurvivors(saved);
   after.queue.runUntil(nanoseconds(100));

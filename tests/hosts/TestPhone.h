@@ -4,29 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "simulator/phone/Phone.h"
+#include "simulator/phone/TemporaryFolder.h"
 
 namespace sim {
-
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "phone-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path = pattern;
-  }
-  ~TemporaryFolder() { std::filesystem::remove_all(path); }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  std::filesystem::path path;
-};
 
 class TestPhone : public testing::Test {
  protected:
@@ -57,7 +41,7 @@ class TestPhone : public testing::Test {
   TemporaryFolder root_;
 
  protected:
-  Phone phone{root_.path};
+  Phone phone{root_.path()};
 };
 
 }  // namespace sim

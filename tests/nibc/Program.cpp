@@ -7,19 +7,14 @@
 #include <fstream>
 #include <iterator>
 
+#include "simulator/phone/TemporaryFolder.h"
 #include "tests/nibc/TestDocument.h"
 
 namespace {
 
 class Program : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string name = std::filesystem::temp_directory_path() / "nibc-XXXXXX";
-    folder_ = mkdtemp(name.data());
-  }
-  void TearDown() override { std::filesystem::remove_all(folder_); }
-
-  std::string path(const char* name) const { return (folder_ / name).string(); }
+  std::string path(const char* name) const { return (folder_.path() / name).string(); }
 
   void writeFile(const char* name, const std::string& bytes) const {
     std::ofstream(path(name), std::ios::binary) << bytes;
@@ -32,13 +27,13 @@ class Program : public testing::Test {
   // In the folder, so that messages name files as they are given.
   int run(const std::string& words) const {
     const std::string command =
-        "cd '" + folder_.string() + "' && '" NIBC "' " + words + " > output 2> errors";
+        "cd '" + folder_.path().string() + "' && '" NIBC "' " + words + " > output 2> errors";
     const int status = std::system(command.c_str());
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
  private:
-  std::filesystem::path folder_;
+  sim::TemporaryFolder folder_;
 };
 
 TEST_F(Program, CompilesDumpsAndReencodes) {

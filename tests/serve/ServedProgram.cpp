@@ -50,20 +50,10 @@ Answer answerFrom(const httplib::Result& result) {
 
 }  // namespace
 
-TestFolder::TestFolder() {
-  std::string name = files::temp_directory_path() / "serve-XXXXXX";
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error(name);
-  path_ = name;
-}
-
-TestFolder::~TestFolder() {
-  files::remove_all(path_);
-}
-
 std::string TestFolder::write(const std::string& name, const std::string& content) const {
-  files::create_directories((path_ / name).parent_path());
-  std::ofstream(path_ / name, std::ios::binary) << content;
-  return (path_ / name).string();
+  files::create_directories((path() / name).parent_path());
+  std::ofstream(path() / name, std::ios::binary) << content;
+  return (path() / name).string();
 }
 
 std::string Answer::header(const std::string& name) const {

@@ -9,23 +9,16 @@
 #include <string>
 #include <vector>
 
+#include "simulator/phone/TemporaryFolder.h"
+
 namespace sim {
 
 using nlohmann::json;
 
 // A folder that is gone at the end of the test.
-class TestFolder {
+class TestFolder : public TemporaryFolder {
  public:
-  TestFolder();
-  ~TestFolder();
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-
-  const std::filesystem::path& path() const { return path_; }
   std::string write(const std::string& name, const std::string& content) const;
-
- private:
-  std::filesystem::path path_;
 };
 
 struct Answer {

@@ -8,22 +8,14 @@
 #include <fstream>
 #include <iterator>
 
+#include "simulator/phone/TemporaryFolder.h"
+
 namespace sim {
 namespace {
 
-class Folder {
- public:
-  Folder() {
-    std::string name = std::filesystem::temp_directory_path() / "program-XXXXXX";
-    path = mkdtemp(name.data());
-  }
-  ~Folder() { std::filesystem::remove_all(path); }
-  std::filesystem::path path;
-};
-
 const std::filesystem::path& folder() {
-  static const Folder made;
-  return made.path;
+  static const TemporaryFolder made;
+  return made.path();
 }
 
 std::string contents(const std::filesystem::path& file) {

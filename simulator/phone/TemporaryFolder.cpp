@@ -1,4 +1,4 @@
-#include "simulator/program/TemporaryFolder.h"
+#include "simulator/phone/TemporaryFolder.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -20,22 +20,7 @@ class TestHost : public TestPhone {
   }
 
   // After the set-up is complete.
-  void boot() {
-    registerFoundation();
-    registerQuartzCore();
-    registerUIKit();
-    registerMediaRemote();
-    registerServices();
-    registerCephei();
-    registerRadios();
-    registerDoNotDisturb();
-    registerRunwright();
-    registerBackBoard();
-    registerSpringBoard();
-    registerMediaControls();
-    registerCoverSheet();
-    registerControlCenter();
-  }
+  static void boot() { registerFrameworks(); }
 
   static objc::Object sharedInstance(const char* className) {
     return objc::send<objc::Object, "sharedInstance">(objc_getClass(className));

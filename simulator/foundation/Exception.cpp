@@ -17,6 +17,20 @@ std::string methodName(objc::Object receiver, const char* selector) {
   return std::string(1, kind) + '[' + object_getClassName(receiver.get()) + ' ' + selector + ']';
 }
 
+void requireObject(objc::Object receiver, const char* selector, objc::Object argument) {
+  if (argument) return;
+  raiseException("NSInvalidArgumentException",
+                 "*** " + methodName(receiver, selector) + ": object cannot be nil");
+}
+
+void requireElement(const char* collection, objc::Object element, std::size_t index) {
+  if (element) return;
+  raiseException("NSInvalidArgumentException", std::string("*** -[") + collection +
+                                                   " initWithObjects:count:]: attempt to insert "
+                                                   "nil object from objects[" +
+                                                   std::to_string(index) + "]");
+}
+
 std::string addressDescription(objc::Object object) {
   std::array<char, 24> address;
   std::snprintf(address.data(), address.size(), ": %p>", static_cast<void*>(object.get()));

@@ -2,6 +2,7 @@
 // the line that the platform prints for an uncaught one.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "objc/Object.h"
@@ -12,6 +13,11 @@ namespace sim {
 
 // "-[NSArray objectAtIndex:]", with the receiver's own class.
 std::string methodName(objc::Object receiver, const char* selector);
+
+// Raise, in the platform's words, for an argument that is nil: of a collection's method, and of its
+// initialisers' list of objects.
+void requireObject(objc::Object receiver, const char* selector, objc::Object argument);
+void requireElement(const char* collection, objc::Object element, std::size_t index);
 
 // "<NSArray: 0x55d0c8>"
 std::string addressDescription(objc::Object object);

@@ -21,7 +21,7 @@ namespace {
 
 using objc::Object;
 using objc::Strong;
-using Elements = std::vector<Strong<Object>>;
+using Elements = NSArray::Elements;
 
 const Elements& elements(Object self) {
   return NSArray::of(self).elements;
@@ -38,10 +38,13 @@ Object makeWithObject(id cls, Object element) {
 Object makeWithArray(id cls, Object other) {
   return makeArray(cls, elementsOf(other));
 }
-Object makeWithObjects(id cls, const id* objects, unsigned long count) {
+Elements elementsFrom(const id* objects, unsigned long count) {
   Elements elements;
   for (unsigned long i = 0; i < count; ++i) addElement(elements, Object(objects[i]));
-  return makeArray(cls, std::move(elements));
+  return elements;
+}
+Object makeWithObjects(id cls, const id* objects, unsigned long count) {
+  return makeArray(cls, elementsFrom(objects, count));
 }
 id makeWithList(id cls, SEL, id first, ...) {
   Elements elements;
@@ -64,9 +67,7 @@ Object initWithArray(Object self, Object other) {
   return self;
 }
 Object initWithObjects(Object self, const id* objects, unsigned long count) {
-  Elements elements;
-  for (unsigned long i = 0; i < count; ++i) addElement(elements, Object(objects[i]));
-  NSArray::of(self).elements = std::move(elements);
+  NSArray::of(self).elements = elementsFrom(objects, count);
   return self;
 }
 
@@ -189,12 +190,7 @@ Object makeArray(id cls, Elements elements) {
 }
 
 void addElement(Elements& elements, Object element) {
-  if (!element) {
-    raiseException("NSInvalidArgumentException",
-                   "*** -[NSArray initWithObjects:count:]: attempt to insert nil object from "
-                   "objects[" +
-                       std::to_string(elements.size()) + "]");
-  }
+  requireElement("NSArray", element, elements.size());
   elements.push_back(objc::retain(element));
 }
 

@@ -8,7 +8,8 @@
 namespace sim {
 
 struct NSArray : objc::Implementation<NSArray> {
-  std::vector<objc::Strong<objc::Object>> elements;
+  using Elements = std::vector<objc::Strong<objc::Object>>;
+  Elements elements;
 
   static void registerClass();
 };
@@ -20,12 +21,12 @@ void requireIndex(objc::Object array, const char* selector, unsigned long index)
 unsigned long indexOf(const NSArray& array, objc::Object wanted);
 
 // The elements of an argument: none for nil. Raises for another class.
-const std::vector<objc::Strong<objc::Object>>& elementsOf(objc::Object array);
+const NSArray::Elements& elementsOf(objc::Object array);
 
 // Autoreleased, of that class or a subclass.
-objc::Object makeArray(id cls, std::vector<objc::Strong<objc::Object>> elements);
+objc::Object makeArray(id cls, NSArray::Elements elements);
 
 // Raises for nil, as the initialisers do.
-void addElement(std::vector<objc::Strong<objc::Object>>& elements, objc::Object element);
+void addElement(NSArray::Elements& elements, objc::Object element);
 
 }  // namespace sim

@@ -9,12 +9,7 @@ namespace sim {
 namespace {
 
 using objc::Object;
-using objc::Strong;
-using Elements = std::vector<Strong<Object>>;
-
-const Elements& elements(Object self) {
-  return NSArray::of(self).elements;
-}
+using Elements = NSArray::Elements;
 
 // Immutable, also when it comes from a mutable array.
 Object made(Elements elements) {
@@ -22,20 +17,20 @@ Object made(Elements elements) {
 }
 
 Object arrayByAddingObject(Object self, Object added) {
-  Elements joined = elements(self);
+  Elements joined = elementsOf(self);
   addElement(joined, added);
   return made(std::move(joined));
 }
 
 Object arrayByAddingObjectsFromArray(Object self, Object added) {
-  Elements joined = elements(self);
+  Elements joined = elementsOf(self);
   const Elements& more = elementsOf(added);
   joined.insert(joined.end(), more.begin(), more.end());
   return made(std::move(joined));
 }
 
 Object subarrayWithRange(Object self, NSRange range) {
-  const Elements& all = elements(self);
+  const Elements& all = elementsOf(self);
   if (range.location > all.size() || range.length > all.size() - range.location) {
     raiseException("NSRangeException",
                    "*** " + methodName(self, "subarrayWithRange:") + ": range {" +
@@ -48,19 +43,19 @@ Object subarrayWithRange(Object self, NSRange range) {
 
 Object componentsJoinedByString(Object self, Object separator) {
   std::string joined;
-  for (const Strong<Object>& element : elements(self)) {
-    if (&element != &elements(self).front()) joined += text(separator);
+  for (const auto& element : elementsOf(self)) {
+    if (&element != &elementsOf(self).front()) joined += text(separator);
     joined += description(element);
   }
   return string(joined);
 }
 
 Object sortedArrayUsingSelector(Object self, SEL selector) {
-  return made(sorted(elements(self), selector));
+  return made(sorted(elementsOf(self), selector));
 }
 
 Object sortedArrayUsingComparator(Object self, Comparator comparator) {
-  return made(sorted(elements(self), comparator));
+  return made(sorted(elementsOf(self), comparator));
 }
 
 }  // namespace

@@ -15,14 +15,8 @@ namespace {
 using objc::Object;
 using objc::Strong;
 
-std::vector<Strong<Object>>& elements(Object self) {
+NSArray::Elements& elements(Object self) {
   return NSArray::of(self).elements;
-}
-
-void requireObject(Object self, const char* selector, Object object) {
-  if (object) return;
-  raiseException("NSInvalidArgumentException",
-                 "*** " + methodName(self, selector) + ": object cannot be nil");
 }
 
 Object makeWithCapacity(id cls, unsigned long) {
@@ -65,7 +59,7 @@ void removeObject(Object self, Object unwanted) {
   }
 }
 void removeAllObjects(Object self) {
-  std::vector<Strong<Object>> removed;
+  NSArray::Elements removed;
   removed.swap(elements(self));
 }
 
@@ -87,7 +81,7 @@ void exchangeObjects(Object self, unsigned long one, unsigned long other) {
 }
 void setArray(Object self, Object other) {
   const NSArray* its = stateOf<NSArray>(other);
-  auto copy = its != nullptr ? its->elements : std::vector<Strong<Object>>();
+  auto copy = its != nullptr ? its->elements : NSArray::Elements();
   elements(self).swap(copy);
 }
 

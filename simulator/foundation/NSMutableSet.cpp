@@ -23,10 +23,7 @@ KeyTable members(Object set) {
 }
 
 void addObject(Object self, Object member) {
-  if (!member) {
-    raiseException("NSInvalidArgumentException",
-                   "*** " + methodName(self, "addObject:") + ": object cannot be nil");
-  }
+  requireObject(self, "addObject:", member);
   if (table(self).find(member) == nullptr) table(self).put(member, nullptr);
 }
 void addObjectsFromArray(Object self, Object array) {
@@ -34,10 +31,7 @@ void addObjectsFromArray(Object self, Object array) {
     for (const Strong<Object>& member : state->elements) addObject(self, member);
 }
 void removeObject(Object self, Object member) {
-  if (!member) {
-    raiseException("NSInvalidArgumentException",
-                   "*** " + methodName(self, "removeObject:") + ": object cannot be nil");
-  }
+  requireObject(self, "removeObject:", member);
   const Strong<Object> kept = objc::retain(member);
   table(self).remove(member);
 }

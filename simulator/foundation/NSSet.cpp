@@ -24,12 +24,7 @@ KeyTable& table(Object self) {
 }
 
 void add(Object self, Object member, unsigned long index) {
-  if (!member) {
-    raiseException("NSInvalidArgumentException",
-                   "*** -[NSSet initWithObjects:count:]: attempt to insert nil object from "
-                   "objects[" +
-                       std::to_string(index) + "]");
-  }
+  requireElement("NSSet", member, index);
   table(self).put(member, nullptr);
 }
 

@@ -9,7 +9,7 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSNumber.h"
 #include "simulator/foundation/NSValue.h"
-#include "simulator/foundation/TypeLayout.h"
+#include "simulator/foundation/TypeEncoding.h"
 
 namespace sim {
 namespace {
@@ -30,7 +30,8 @@ struct Type {
 // Calls `visit` with the Type of that encoding; false when there is none.
 template <class Visit>
 bool visitStructure(std::string_view encoding, Visit visit) {
-  const std::string scalars = layoutOf(encoding).scalars;
+  const auto structure = firstType(encoding);
+  const std::string scalars = structure ? structure->scalars() : "";
   if (scalars == "dd")
     visit(Type<Members<double, 2>>());
   else if (scalars == "dddd")
@@ -88,7 +89,7 @@ Object boxedValue(T value, std::string_view encoding) {
   else if constexpr (std::is_arithmetic_v<T>)
     return numberOf(value);
   else
-    return valueOf(&value, firstType(encoding));
+    return valueOf(&value, firstType(encoding)->text);
 }
 
 // Strings convert, too, because they answer the same messages.

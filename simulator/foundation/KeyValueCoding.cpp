@@ -12,7 +12,7 @@
 #include "simulator/foundation/NSMutableDictionary.h"
 #include "simulator/foundation/NSNull.h"
 #include "simulator/foundation/NSObject.h"
-#include "simulator/foundation/TypeLayout.h"
+#include "simulator/foundation/TypeEncoding.h"
 #include "simulator/foundation/Values.h"
 
 namespace sim {

@@ -6,7 +6,7 @@
 #include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
-#include "simulator/foundation/TypeLayout.h"
+#include "simulator/foundation/TypeEncoding.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/phone/Journal.h"
 
@@ -63,7 +63,8 @@ Object valueOf(const void* bytes, std::string_view encoding) {
 }
 
 unsigned long sizeOfType(std::string_view encoding) {
-  return layoutOf(encoding).size;
+  const auto type = firstType(encoding);
+  return type && type->kind != '?' ? type->size() : 0;  // ?: nobody knows what
 }
 
 std::string structureNotation(std::string_view encoding, const void* source) {

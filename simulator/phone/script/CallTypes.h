@@ -6,7 +6,7 @@
 #include <deque>
 #include <vector>
 
-#include "simulator/phone/script/TypeEncoding.h"
+#include "simulator/foundation/TypeEncoding.h"
 
 namespace sim {
 

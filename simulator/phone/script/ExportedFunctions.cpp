@@ -1,6 +1,6 @@
 #include "simulator/phone/script/ExportedFunctions.h"
 
-#include "simulator/phone/script/TypeEncoding.h"
+#include "simulator/foundation/TypeEncoding.h"
 
 namespace sim {
 

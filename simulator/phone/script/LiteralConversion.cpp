@@ -67,13 +67,10 @@ struct Converter {
   Value operator()(const Literal::Structure& members) const {
     if (type.kind != '{' || type.members.size() != members.size()) fail(literal, type);
     Value value(type);
-    std::size_t offset = 0;
     for (std::size_t index = 0; index < members.size(); ++index) {
       const TypeEncoding& member = type.members[index];
-      offset = (offset + member.alignment() - 1) / member.alignment() * member.alignment();
       const Value inner = converted(members[index], member);
-      std::memcpy(value.bytes() + offset, inner.bytes(), member.size());
-      offset += member.size();
+      std::memcpy(value.bytes() + type.offsetOf(index), inner.bytes(), member.size());
     }
     return value;
   }

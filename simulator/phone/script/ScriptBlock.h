@@ -5,7 +5,7 @@
 #include <string>
 
 #include "objc/Object.h"
-#include "simulator/phone/script/TypeEncoding.h"
+#include "simulator/foundation/TypeEncoding.h"
 
 namespace sim {
 

@@ -131,14 +131,8 @@ std::optional<bool> Value::boolean() const {
 }
 
 Value Value::member(std::size_t index) const {
-  std::size_t offset = 0;
-  for (std::size_t before = 0; before <= index; ++before) {
-    const TypeEncoding& type = type_.members[before];
-    offset = (offset + type.alignment() - 1) / type.alignment() * type.alignment();
-    if (before < index) offset += type.size();
-  }
   Value found(type_.members[index]);
-  std::memcpy(found.bytes(), bytes() + offset, found.type().size());
+  std::memcpy(found.bytes(), bytes() + type_.offsetOf(index), found.type().size());
   found.keepObject();
   return found;
 }

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "objc/Ownership.h"
-#include "simulator/phone/script/TypeEncoding.h"
+#include "simulator/foundation/TypeEncoding.h"
 
 namespace sim {
 

@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "simulator/foundation/Boxing.h"
-#include "simulator/foundation/TypeLayout.h"
+#include "simulator/foundation/TypeEncoding.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/quartzcore/LayerKeyPath.h"
 #include "simulator/quartzcore/caml/Text.h"
@@ -67,7 +67,7 @@ const Property* knownProperty(std::string_view key) {
 }
 
 // Of the setter's argument; empty without a setter.
-std::string_view setterType(Object object, std::string key) {
+std::string setterType(Object object, std::string key) {
   key[0] = char(std::toupper(static_cast<unsigned char>(key[0])));
   const SEL setter = sel_registerName(("set" + key + ':').c_str());
   const Method method = class_getInstanceMethod(object_getClass(object.get()), setter);
@@ -76,7 +76,8 @@ std::string_view setterType(Object object, std::string key) {
   std::string_view types = method_getTypeEncoding(method);
   types.remove_prefix(std::min(types.find(':') + 1, types.size()));
   types.remove_prefix(std::min(types.find_first_not_of("0123456789"), types.size()));
-  return firstType(types);
+  const auto type = firstType(types);
+  return type ? type->text : "";
 }
 
 // Key-value coding reaches those, too: none of them is for documents.
@@ -149,7 +150,7 @@ Property propertyOf(Object object, const std::string& keyPath) {
   if (keyPath.find('.') != keyPath.npos) return propertyOfPath(object, keyPath);
   if (keyPath.empty()) throw std::invalid_argument("expected the name of a property");
   if (isTransitionElements(object, keyPath)) return {Kind::objects, "CAStateTransitionElement"};
-  const std::string_view type = setterType(object, keyPath);
+  const std::string type = setterType(object, keyPath);
   const Property* known = knownProperty(keyPath);
   if (type.empty() && !isInstanceVariable(object, keyPath)) return {Kind::unknown};
   if (known != nullptr && type == "@") return *known;

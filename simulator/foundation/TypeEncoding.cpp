@@ -1,4 +1,4 @@
-#include "simulator/phone/script/TypeEncoding.h"
+#include "simulator/foundation/TypeEncoding.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -7,6 +7,7 @@ namespace sim {
 namespace {
 
 constexpr std::string_view integers = "cCsSiIlLqQ";
+constexpr std::string_view qualifiers = "rnNoORVA";
 constexpr int deepestNesting = 16;
 
 // Reads one encoding from left to right.
@@ -44,7 +45,8 @@ class Reader {
     while (at_ < text_.size()) {
       if (text_[at_] == '"')
         skipName();
-      else if (std::string_view("0123456789+-rnNoORVA").find(text_[at_]) != none)
+      else if (std::string_view("0123456789+-").find(text_[at_]) != none ||
+               qualifiers.find(text_[at_]) != none)
         ++at_;
       else
         return;
@@ -116,6 +118,10 @@ std::vector<TypeEncoding> parseAll(std::string_view text) {
   return types;
 }
 
+std::size_t roundedUp(std::size_t size, std::size_t alignment) {
+  return (size + alignment - 1) / alignment * alignment;
+}
+
 std::size_t scalarSize(char kind) {
   switch (kind) {
     case 'v':
@@ -155,10 +161,21 @@ std::size_t TypeEncoding::alignment() const {
 
 std::size_t TypeEncoding::size() const {
   if (kind != '{') return scalarSize(kind);
-  const auto aligned = [](std::size_t at, std::size_t to) { return (at + to - 1) / to * to; };
-  std::size_t end = 0;
-  for (const TypeEncoding& member : members) end = aligned(end, member.alignment()) + member.size();
-  return aligned(end, alignment());
+  return roundedUp(offsetOf(members.size() - 1) + members.back().size(), alignment());
+}
+
+std::size_t TypeEncoding::offsetOf(std::size_t wanted) const {
+  std::size_t offset = 0;
+  for (std::size_t before = 0; before < wanted; ++before)
+    offset = roundedUp(offset, members[before].alignment()) + members[before].size();
+  return roundedUp(offset, members[wanted].alignment());
+}
+
+std::string TypeEncoding::scalars() const {
+  if (kind != '{') return std::string(1, kind);
+  std::string all;
+  for (const TypeEncoding& member : members) all += member.scalars();
+  return all;
 }
 
 TypeEncoding parseType(std::string_view text) {
@@ -166,6 +183,19 @@ TypeEncoding parseType(std::string_view text) {
   if (types.size() != 1)
     throw std::invalid_argument("the encoding \"" + std::string(text) + "\" is not one type");
   return std::move(types.front());
+}
+
+std::optional<TypeEncoding> firstType(std::string_view text) {
+  try {
+    return Reader(text).type();
+  } catch (const std::invalid_argument&) {
+    return std::nullopt;
+  }
+}
+
+char typeLetter(std::string_view text) {
+  const auto first = text.find_first_not_of(qualifiers);
+  return first == text.npos ? '\0' : text[first];
 }
 
 Signature parseFunctionTypes(std::string_view text) {

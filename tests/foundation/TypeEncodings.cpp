@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "simulator/phone/script/TypeEncoding.h"
+#include "simulator/foundation/TypeEncoding.h"
 
 namespace sim {
 namespace {
@@ -33,6 +33,25 @@ TEST(TypeEncoding, StructuresHaveTheirMembersSizes) {
   EXPECT_EQ(mixed.size(), 12u);
   EXPECT_EQ(mixed.alignment(), 4u);
   EXPECT_EQ(parseType("{Padded=dB}").size(), 16u);
+}
+
+TEST(TypeEncoding, StructuresSayWhereTheirMembersAre) {
+  const TypeEncoding mixed = parseType("{Mixed=Bfs{CGPoint=dd}}");
+  EXPECT_EQ(mixed.offsetOf(0), 0u);
+  EXPECT_EQ(mixed.offsetOf(1), 4u);
+  EXPECT_EQ(mixed.offsetOf(2), 8u);
+  EXPECT_EQ(mixed.offsetOf(3), 16u);
+  EXPECT_EQ(mixed.scalars(), "Bfsdd");
+}
+
+TEST(TypeEncoding, TheFirstOfSeveralStandsAlone) {
+  EXPECT_EQ(firstType("{CGPoint=\"x\"d\"y\"d}24@0:8")->text, "{CGPoint=dd}");
+  EXPECT_EQ(firstType("{S=^{opaque}i}d")->size(), 16u);
+  EXPECT_EQ(firstType("rq")->kind, 'q');
+  for (const char* none : {"", "[4i]", "b3", "{CGPoint=dd", "(u=id)"})
+    EXPECT_FALSE(firstType(none)) << none;
+  EXPECT_EQ(typeLetter("rd16"), 'd');
+  EXPECT_EQ(typeLetter(""), '\0');
 }
 
 TEST(TypeEncoding, RejectsWhatIsNone) {

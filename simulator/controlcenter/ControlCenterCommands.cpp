@@ -14,8 +14,7 @@ namespace {
 using objc::Object;
 
 void controlCenter(Arguments& words) {
-  const bool opens = words.takeKeyword("open");
-  if (!opens && !words.takeKeyword("close")) words.failHere("expected open or close");
+  const bool opens = words.takeEither("open", "close");
   words.finish();
   Phone::current().journal.record(opens ? "user control-center open" : "user control-center close");
   if (opens)
@@ -25,8 +24,7 @@ void controlCenter(Arguments& words) {
 }
 
 void module(Arguments& words) {
-  const bool expands = words.takeKeyword("expand");
-  if (!expands && !words.takeKeyword("collapse")) words.failHere("expected expand or collapse");
+  const bool expands = words.takeEither("expand", "collapse");
   const std::string identifier =
       words.atEnd() ? std::string(nowPlayingModule) : words.text("the identifier of a module");
   words.finish();

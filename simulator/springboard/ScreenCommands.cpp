@@ -7,8 +7,7 @@ namespace sim {
 namespace {
 
 void screen(Arguments& words) {
-  const bool on = words.takeKeyword("on");
-  if (!on && !words.takeKeyword("off")) words.failHere("expected on or off");
+  const bool on = words.takeEither("on", "off");
   words.finish();
   Phone::current().journal.record(on ? "user screen on" : "user screen off");
   SBBacklightController::setScreenIsOn(on);

@@ -37,6 +37,15 @@ TEST(Arguments, ReadTheirKinds) {
   arguments.finish();
 }
 
+TEST(Arguments, TakeOneOfTwoWords) {
+  const auto choice = [](Arguments& arguments) { arguments.takeEither("on", "off"); };
+  Arguments arguments = words("on off on");
+  EXPECT_TRUE(arguments.takeEither("on", "off"));
+  EXPECT_FALSE(arguments.takeEither("on", "off"));
+  EXPECT_EQ(failure("dim", choice), "1: expected on or off");
+  EXPECT_EQ(failure("\"on\"", choice), "1: expected on or off");
+}
+
 TEST(Arguments, ReadDurations) {
   Arguments arguments = words("250ms 10s 5m 8h 0.5s 0s");
   for (const double expected : {0.25, 10.0, 300.0, 28800.0, 0.5, 0.0})

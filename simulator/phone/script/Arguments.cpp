@@ -49,6 +49,13 @@ bool Arguments::takeKeyword(std::string_view keyword) {
   return true;
 }
 
+bool Arguments::takeEither(std::string_view first, std::string_view second) {
+  if (takeKeyword(first)) return true;
+  if (!takeKeyword(second))
+    failHere("expected " + std::string(first) + " or " + std::string(second));
+  return false;
+}
+
 double Arguments::number(std::string_view what) {
   const Word& found = word(what);
   double value = 0;

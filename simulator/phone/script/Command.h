@@ -38,6 +38,8 @@ class Arguments {
   const Word* peek() const { return atEnd() ? nullptr : &words_[next_]; }
   // Takes the next word if it is this one, unquoted.
   bool takeKeyword(std::string_view keyword);
+  // Takes one of the two, unquoted; true for the first.
+  bool takeEither(std::string_view first, std::string_view second);
   std::string text(std::string_view what) { return word(what).text; }
   double number(std::string_view what);
   long integer(std::string_view what);

@@ -84,6 +84,8 @@ class Parser {
       options_.web = valueOf(word);
     else if (word == "--script")
       options_.script = valueOf(word);
+    else if (word == "--no-music")
+      options_.music = false;
     else if (word == "--paused")
       options_.paused = true;
     else
@@ -128,6 +130,8 @@ class Parser {
         if (count > 1)
           throw UsageError("one folder of music only, found " + options_.files[1].string() +
                            ", too");
+        if (count == 1 && !options_.music)
+          throw UsageError("a folder of music and --no-music exclude each other");
         return;
       default:
         if (count > 0)
@@ -169,6 +173,7 @@ commands  prints the reference of the script language, as Markdown
 To serve:
   --port N         listen there; without it, at 8420 or the next one that is free
   --script FILE    begin with this phone script, to be played step by step
+  --no-music       a phone with nothing to play
   --paused         time stands still until somebody starts it
   --web DIR        the page's files; without it, those beside this program
 

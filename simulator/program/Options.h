@@ -36,6 +36,7 @@ struct Options {
   std::optional<int> port;                      // none: a usual one that is free
   std::optional<std::filesystem::path> web;     // the page's files; none: its own
   std::optional<std::filesystem::path> script;  // to be played step by step
+  bool music = true;                            // false: nothing to play, no folder
   bool paused = false;                          // time waits for somebody to start it
 };
 

@@ -44,13 +44,22 @@ std::string contentOf(const files::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+// Empty: none.
+std::optional<files::path> musicOf(const Options& options) {
+  if (!options.music) return std::nullopt;
+  const files::path folder = options.files.empty() ? beside("music") : options.files.front();
+  if (files::exists(folder) && !files::is_directory(folder))
+    throw std::runtime_error(folder.string() + ": expected a folder of music, found a file");
+  return files::canonical(folder);
+}
+
 ServeState stateFrom(const Options& options, const Listener& listener, const files::path& root) {
   ServeState state;
   state.listener = listener.descriptor();
   state.root = root;
   state.extensions = options.extensions;
   state.package = options.package;
-  state.music = files::canonical(options.files.empty() ? beside("music") : options.files.front());
+  state.music = musicOf(options);
   state.web = files::canonical(options.web.value_or(beside("web")));
   state.epoch = newEpoch();
   state.paused = options.paused;

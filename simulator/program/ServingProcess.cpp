@@ -40,7 +40,11 @@ MusicLibrary libraryOf(const ServeState& state) {
   const files::path list = state.root.parent_path() / "music.json";
   if (std::ifstream known(list, std::ios::binary); known)
     return MusicLibrary(nlohmann::json::parse(known));
-  MusicLibrary library(state.music);
+  if (!state.music) return {};
+  MusicLibrary library(*state.music);
+  if (library.files().empty())
+    throw std::runtime_error(state.music->string() + ": no music to play: expected files named " +
+                             musicNameEndings() + " there or in folders within");
   std::ofstream stream(list, std::ios::binary);
   stream << library.save();
   stream.close();

@@ -56,7 +56,7 @@ json asJson(const ServeState& state) {
           {"root", state.root.string()},
           {"extensions", std::move(extensions)},
           {"package", state.package ? json(state.package->string()) : json()},
-          {"music", state.music.string()},
+          {"music", state.music ? json(state.music->string()) : json()},
           {"web", state.web.string()},
           {"epoch", state.epoch},
           {"restarts", state.restarts},
@@ -77,7 +77,8 @@ ServeState serveStateFrom(const json& saved) {
     state.extensions.emplace_back(each.get<std::string>());
   if (const json& package = saved.at("package"); !package.is_null())
     state.package = package.get<std::string>();
-  state.music = saved.at("music").get<std::string>();
+  if (const json& music = saved.at("music"); !music.is_null())
+    state.music = music.get<std::string>();
   state.web = saved.at("web").get<std::string>();
   saved.at("epoch").get_to(state.epoch);
   saved.at("restarts").get_to(state.restarts);

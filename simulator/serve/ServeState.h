@@ -31,8 +31,8 @@ struct ServeState {
   std::filesystem::path root;
   std::vector<std::filesystem::path> extensions;
   std::optional<std::filesystem::path> package;
-  std::filesystem::path music;  // folder
-  std::filesystem::path web;    // folder
+  std::optional<std::filesystem::path> music;  // folder; none: nothing to play
+  std::filesystem::path web;                   // folder
 
   std::string epoch;  // of this server
   long restarts = 0;  // of its process

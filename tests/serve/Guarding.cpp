@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 
+#include "tests/serve/MusicFiles.h"
 #include "tests/serve/ServedProgram.h"
 
 namespace sim {
@@ -70,6 +71,7 @@ TEST(Guarding, StaysInsideItsFolders) {
   folder.write("web/index.html", "<p>");
   folder.write("secret.txt", "secret");
   std::filesystem::create_symlink(folder.path() / "secret.txt", folder.path() / "web/link.txt");
+  folder.write("piece.wav", wave(1));
   const ServedProgram program({"--web", (folder.path() / "web").string(), folder.path().string()});
   EXPECT_EQ(program.get("/").body, "<p>");
   for (const char* path : {"/../secret.txt", "/%2e%2e/secret.txt", "/..%2fsecret.txt",

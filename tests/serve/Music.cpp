@@ -1,5 +1,7 @@
 // The music of a folder, and its way to the page.
 #include <gtest/gtest.h>
+#include <linux/capability.h>
+#include <sys/prctl.h>
 #include <taglib/attachedpictureframe.h>
 #include <taglib/fileref.h>
 #include <taglib/flacfile.h>
@@ -7,6 +9,7 @@
 #include <taglib/mp4file.h>
 #include <taglib/mpegfile.h>
 #include <taglib/tag.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -133,15 +136,65 @@ TEST(Music, ThatCannotBeReadIsNamedAndLeftOut) {
   ASSERT_EQ(music.size(), 1u);
   EXPECT_EQ(music.at(0).at("title"), "5 good");
   const std::string path = std::filesystem::canonical(folder.path() / "music").string();
-  EXPECT_EQ(program.errors(), path + "/1 text.mp3: left out: it has no length\n" + path +
+  EXPECT_EQ(program.errors(), path + "/1 text.mp3: left out: it holds no sound\n" + path +
                                   "/2 empty.flac: left out: it cannot be read as music\n" + path +
-                                  "/3 short.wav: left out: it has no length\n" + path +
+                                  "/3 short.wav: left out: it holds no sound\n" + path +
                                   "/4 link.wav: left out: it lies outside the folder\n");
 }
 
+// Root may read everything, unless it gives that up for what it starts from here on.
+void readWhatIsAllowedOnly() {
+  if (geteuid() != 0) return;
+  for (const int all : {CAP_DAC_OVERRIDE, CAP_DAC_READ_SEARCH})
+    ASSERT_EQ(prctl(PR_CAPBSET_DROP, all, 0, 0, 0), 0);
+}
+
+TEST(Music, ThatMayNotBeReadIsNamedAndLeftOut) {
+  const TestFolder folder;
+  const std::string forbidden = folder.write("1.wav", wave(1));
+  std::filesystem::permissions(forbidden, std::filesystem::perms::none);
+  folder.write("2.wav", wave(1));
+  readWhatIsAllowedOnly();
+  const ServedProgram program({folder.path().string()});
+  EXPECT_EQ(program.get("/music").asJson().size(), 1u);
+  EXPECT_EQ(program.errors(),
+            std::filesystem::canonical(forbidden).string() + ": left out: Permission denied\n");
+}
+
+// What the program says when it does not serve.
+std::string refusal(const std::vector<std::string>& words) {
+  try {
+    const ServedProgram program(words);
+  } catch (const std::runtime_error& error) {
+    return error.what();
+  }
+  return "it serves";
+}
+
 TEST(Music, NeedsAFolderThatIsThere) {
-  EXPECT_THROW(ServedProgram({"/no/such/folder"}), std::runtime_error);
-  EXPECT_THROW(ServedProgram({"a", "b"}), std::runtime_error);
+  const TestFolder folder;
+  const std::string file = folder.write("a.wav", wave(1));
+  EXPECT_EQ(refusal({file}), "it ended with 1: dozewell-simulator: " + file +
+                                 ": expected a folder of music, found a file\n");
+  const std::string missing = refusal({"/no/such/folder"});
+  EXPECT_EQ(missing.rfind("it ended with 1: ", 0), 0u) << missing;
+  EXPECT_NE(missing.find("/no/such/folder"), std::string::npos) << missing;
+  for (const auto& words : {std::vector<std::string>{"a", "b"}, {"a", "--no-music"}})
+    EXPECT_EQ(refusal(words).rfind("it ended with 2: ", 0), 0u) << words.back();
+}
+
+TEST(Music, IsThereOrElseThePhoneDoesNotStart) {
+  const TestFolder folder;
+  const std::string path = std::filesystem::canonical(folder.path()).string();
+  const std::string reason =
+      "dozewell-simulator: " + path +
+      ": no music to play: expected files named .flac, .m4a, .mp3, .oga, .ogg, .opus or .wav "
+      "there or in folders within\n";
+  EXPECT_EQ(refusal({path}), "it ended with 1: " + reason);
+  folder.write("notes.txt", "");
+  folder.write("empty.ogg", "");
+  EXPECT_EQ(refusal({path}), "it ended with 1: " + path +
+                                 "/empty.ogg: left out: it cannot be read as music\n" + reason);
 }
 
 TEST(Music, IsSentInRanges) {

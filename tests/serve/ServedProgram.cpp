@@ -62,18 +62,17 @@ std::string Answer::header(const std::string& name) const {
 }
 
 ServedProgram::ServedProgram(std::vector<std::string> words) {
-  files::create_directory(folder_.path() / "music");
   std::vector<std::string> all = {"dozewell-simulator", "serve", "--paused", "--port", "0"};
   all.insert(all.end(), words.begin(), words.end());
-  if (words.empty()) all.push_back((folder_.path() / "music").string());
+  if (words.empty()) all.emplace_back("--no-music");
   int pipeEnds[2];
   if (pipe2(pipeEnds, O_CLOEXEC) != 0) throw std::runtime_error("pipe2");
   process_ = start(all, pipeEnds[1], folder_.path() / "errors");
   close(pipeEnds[1]);
   port_ = readPort(pipeEnds[0]);
   if (port_ == 0) {
-    wait();
-    throw std::runtime_error("it does not serve: " + errors());
+    const int status = wait();
+    throw std::runtime_error("it ended with " + std::to_string(status) + ": " + errors());
   }
 }
 

@@ -33,8 +33,8 @@ struct Answer {
 
 class ServedProgram {
  public:
-  // Time stands still unless a test moves it. Without music, unless the words name some. Throws
-  // std::runtime_error when the program ends instead of serving.
+  // Time stands still unless a test moves it. Without music, unless there are words. Throws
+  // std::runtime_error, with what the program says, when that ends instead of serving.
   explicit ServedProgram(std::vector<std::string> words = {});
   ~ServedProgram();
   ServedProgram(const ServedProgram&) = delete;

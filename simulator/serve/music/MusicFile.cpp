@@ -5,6 +5,9 @@
 #include <taglib/wavfile.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
 #include <map>
 
 #include "simulator/phone/script/Utf8.h"
@@ -58,7 +61,24 @@ bool isNamedAsMusic(const std::filesystem::path& path) {
   return mimeTypes.contains(extensionOf(path));
 }
 
+std::string musicNameEndings() {
+  std::string endings;
+  for (const auto& [ending, mimeType] : mimeTypes) {
+    if (ending == mimeTypes.rbegin()->first)
+      endings += " or ";
+    else if (!endings.empty())
+      endings += ", ";
+    endings += ending;
+  }
+  return endings;
+}
+
 std::optional<MusicFile> readMusicFile(const std::filesystem::path& path, std::string& problem) {
+  // The library does not say why it could not read.
+  if (!std::ifstream(path)) {
+    problem = std::strerror(errno);
+    return std::nullopt;
+  }
   const TagLib::FileRef file(path.c_str());
   if (file.isNull() || file.audioProperties() == nullptr) {
     problem = "it cannot be read as music";
@@ -66,7 +86,7 @@ std::optional<MusicFile> readMusicFile(const std::filesystem::path& path, std::s
   }
   MusicFile music{path, mimeTypes.at(extensionOf(path)), describe(file, path), false};
   if (music.track.length <= 0) {
-    problem = "it has no length";
+    problem = "it holds no sound";
     return std::nullopt;
   }
   music.hasCover = readCover(path).has_value();

@@ -24,6 +24,9 @@ struct Cover {
 // Whether the name says that it is music.
 bool isNamedAsMusic(const std::filesystem::path& path);
 
+// The ends of such names: ".flac, .m4a or .mp3".
+std::string musicNameEndings();
+
 // Empty, with the reason in `problem`, when it cannot be played.
 std::optional<MusicFile> readMusicFile(const std::filesystem::path& path, std::string& problem);
 

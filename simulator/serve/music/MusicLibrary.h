@@ -15,6 +15,8 @@ namespace sim {
 // Read once; nothing changes afterwards, so any thread may ask.
 class MusicLibrary {
  public:
+  // Without music.
+  MusicLibrary() = default;
   // Looks for files below the folder, ordered by their paths. What is no readable music is named
   // on standard error and left out; so is a link that leads out of the folder. Throws
   // std::filesystem::filesystem_error when there is no such folder.

@@ -1,6 +1,6 @@
 // The road of one timer with the keyboard alone.
 import assert from "node:assert/strict";
-import { andCommand, journalHas, onScreen, openPanel, pass, phoneTest } from "./harness.mjs";
+import { andCommand, journalHas, onScreen, openPanel, pass, phoneTest, press } from "./harness.mjs";
 
 // Tab until the element has the focus: it must be reachable that way.
 async function tabTo(page, locator) {
@@ -34,6 +34,22 @@ phoneTest("escape leaves Control Center", {}, async (served, page) => {
   await pass(served, 1);
   await onScreen(page, "button", "Dozewell").focus();
   await andCommand(page, "control-center close", () => page.keyboard.press("Escape"));
+});
+
+phoneTest("what dissolves can be reached no more", {}, async (served, page) => {
+  await openPanel(served, page);
+  await press(page, onScreen(page, "button", "Settings"));
+  // The old page is seen until time goes on.
+  const old = page.locator("#glass .node[aria-hidden] .node[tabindex]");
+  await old.first().waitFor({ state: "attached" });
+  const reached = await old.evaluateAll((elements) =>
+    elements.filter((element) => {
+      element.focus();
+      return element === document.activeElement;
+    }),
+  );
+  assert.equal(reached.length, 0);
+  await onScreen(page, "button", "Shortcut").focus();
 });
 
 phoneTest("an alert is read out and answered", {}, async (served, page) => {

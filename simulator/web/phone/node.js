@@ -105,6 +105,7 @@ export class NodeElement {
     before.style.transform = "none";
     before.style.opacity = node.beforeOpacity;
     before.setAttribute("aria-hidden", "true");
+    before.inert = true;
     if (before.parentNode !== this.element) this.element.append(before);
   }
 }

@@ -59,7 +59,9 @@ std::vector<std::string> ServedPhone::firstLines() const {
     lines.push_back(music);
     lines.emplace_back("repeat-all YES");  // music that ends by itself would need no timer
   }
-  lines.emplace_back("boot");
+  // Whoever holds a phone has unlocked it. The host makes its lock screen when it is first locked,
+  // and a timer that is set before is never seen there.
+  for (const char* line : {"boot", "lock", "unlock"}) lines.emplace_back(line);
   return lines;
 }
 

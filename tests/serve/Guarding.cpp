@@ -35,11 +35,11 @@ TEST(Guarding, AnswersPagesOfItsOwnOnly) {
 
 TEST(Guarding, TakesJsonOnly) {
   const ServedProgram program;
-  const auto answer = program.client().Post("/api/command", R"({"line":"lock"})", "text/plain");
+  const auto answer = program.client().Post("/api/command", R"({"line":"shake"})", "text/plain");
   ASSERT_TRUE(answer);
   EXPECT_EQ(answer->status, 415);
   EXPECT_EQ(json::parse(answer->body).at("error"), "expected the Content-Type application/json");
-  EXPECT_EQ(program.journal().find("user lock"), std::string::npos);
+  EXPECT_EQ(program.journal().find("user shake"), std::string::npos);
 }
 
 TEST(Guarding, LimitsBodies) {

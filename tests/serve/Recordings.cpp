@@ -22,7 +22,8 @@ TEST(Recordings, HoldWhatWasDoneAndWhen) {
   program.post("/api/time", {{"advance", 0.5}});
   program.command("next-track");
   EXPECT_EQ(program.get("/api/recording.phone").body,
-            "boot\nplaylist \"A\" 180\nadvance 10s\nvolume 0.25\nadvance-to 10.5\nnext-track\n");
+            "boot\nlock\nunlock\nplaylist \"A\" 180\nadvance 10s\nvolume 0.25\nadvance-to "
+            "10.5\nnext-track\n");
 }
 
 TEST(Recordings, PlayHeadlessWithTheSameJournal) {

@@ -104,9 +104,9 @@ TEST(SetUp, MakesAFreshPhone) {
   EXPECT_EQ(setup.at("lines"), (json{"ios 16.1", "locale ar_SA"}));
   EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 0.0);
   const std::string recording = program.get("/api/recording.phone").body;
-  EXPECT_EQ(recording, "set volumeFadeOutTime 7\nios 16.1\nlocale ar_SA\nboot\n");
+  EXPECT_EQ(recording, "set volumeFadeOutTime 7\nios 16.1\nlocale ar_SA\nboot\nlock\nunlock\n");
   program.post("/api/setup", {{"lines", json::array()}, {"settings", "default"}});
-  EXPECT_EQ(program.get("/api/recording.phone").body, "boot\n");
+  EXPECT_EQ(program.get("/api/recording.phone").body, "boot\nlock\nunlock\n");
 }
 
 TEST(SetUp, OutlivesARespring) {

@@ -48,9 +48,23 @@ TEST(Timing, StepsToWhatIsDueNext) {
   program.command({"repeat-all NO", "playlist \"A\" 10.25 \"B\" 20"});
   EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 55.25);
   EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 75.25);
+  // Without music the lock screen's date is what changes next.
+  EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 2.0 * 3600);
+}
+
+TEST(Timing, HasNoNextStepWhenNothingIsDue) {
+  const TestFolder folder;
+  const ServedProgram program({"--no-tweak", "--script", folder.write("boot.phone", "boot\n")});
+  program.post("/api/script/step", {{"lines", 1}});
   const Answer answer = program.post("/api/time", {{"step", true}});
   EXPECT_EQ(answer.status, 409);
   EXPECT_EQ(answer.error(), "nothing is due");
+}
+
+TEST(Timing, IsOnTheLockScreenFromTheFirstTimeOn) {
+  const ServedProgram program;
+  program.command({timerOfOneMinute, "advance 20s", "lock"});
+  EXPECT_EQ(program.command("expect-lock-screen-timer 40 within 0.001").status, 200);
 }
 
 TEST(Timing, JumpsToShortlyBeforeTheTimersEnd) {

@@ -6,6 +6,7 @@ import {
   journalHas,
   onScreen,
   openPage,
+  openPanel,
   pass,
   press,
   Served,
@@ -43,14 +44,6 @@ async function withPhone(context, body) {
   }
 }
 
-async function openPanel(served, page) {
-  await andCommand(page, "control-center open", () => page.click("#device-controls"));
-  await pass(served, 1);
-  await press(page, onScreen(page, "button", "Dozewell"));
-  await pass(served, 1);
-  await onScreen(page, "button", "Confirm").waitFor();
-}
-
 async function turnMinutes(served, page, rows) {
   await onScreen(page, "spinbutton", "min").focus();
   for (let row = 0; row < rows; ++row)
@@ -68,8 +61,9 @@ await withPhone({ ...wide, colorScheme: "dark" }, async (served, page) => {
   await pass(served, 900);
   await andCommand(page, "control-center close", () => page.click("#device-home"));
   await pass(served, 1);
+  // The first lock makes the lock screen, which hears of the timer from its next second on.
   await andCommand(page, "lock", () => page.click("#device-lock"));
-  await pass(served, 1);
+  await pass(served, 2);
   await take(page, "lock-screen");
 });
 

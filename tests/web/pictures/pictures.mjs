@@ -61,9 +61,8 @@ await withPhone({ ...wide, colorScheme: "dark" }, async (served, page) => {
   await pass(served, 900);
   await andCommand(page, "control-center close", () => page.click("#device-home"));
   await pass(served, 1);
-  // The first lock makes the lock screen, which hears of the timer from its next second on.
   await andCommand(page, "lock", () => page.click("#device-lock"));
-  await pass(served, 2);
+  await pass(served, 1);
   await take(page, "lock-screen");
 });
 

@@ -1,6 +1,7 @@
 // A served phone of one's own for each test, and pages that look at it. Nothing here waits for a
 // length of time: only for something to be so.
 import { spawn } from "node:child_process";
+import { once } from "node:events";
 import { mkdtempSync, rmSync, writeFileSync } from "node:fs";
 import { createRequire } from "node:module";
 import { tmpdir } from "node:os";
@@ -49,7 +50,7 @@ export class Served {
       this.#process = spawn(simulator, ["serve", "--port", "0", ...this.options, ...more], {
         stdio: ["ignore", "pipe", "inherit"],
       });
-      this.#ended = new Promise((ended) => this.#process.once("exit", ended));
+      this.#ended = once(this.#process, "exit");
       const late = setTimeout(
         () => reject(new Error("the server did not say where it is")),
         startedWithin,

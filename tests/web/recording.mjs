@@ -12,7 +12,8 @@ import {
   simulator,
 } from "./harness.mjs";
 
-// Addresses of objects differ from process to process; the time stands in a column before each line.
+// Addresses of objects differ from process to process; the time stands in a column before each
+// line.
 const plain = (line) => line.replace(/0x[0-9a-f]+/g, "0x");
 
 phoneTest("a night by hand, replayed", {}, async (served, page) => {

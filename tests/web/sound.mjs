@@ -1,4 +1,5 @@
-// The music that is heard: real files, a fade that goes down, a pause that is one, a volume that is back.
+// The music that is heard: real files, a fade that goes down, a pause that is one, a volume that is
+// back.
 import assert from "node:assert/strict";
 import { journalHas, openPage, phoneTest, Served } from "./harness.mjs";
 

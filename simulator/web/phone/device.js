@@ -14,13 +14,11 @@ const nextTurn = {
 
 export class Device {
   #state;
-  #screen;
   keys = [];
   #buttons = new Map(); // name -> {button, command}
 
   constructor(state, screen, place) {
     this.#state = state;
-    this.#screen = screen;
     this.keys = [
       this.#key("lock-key", "Lock", () => this.#lock()),
       this.#key("up-key", "Volume up", () => perform("volume-up")),

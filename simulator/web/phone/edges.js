@@ -1,5 +1,5 @@
-// The swipes that belong to the system: down from the upper right corner for Control Center, up from
-// the lower edge for home. The host has no gestures of its own there.
+// The swipes that belong to the system: down from the upper right corner for Control Center, up
+// from the lower edge for home. The host has no gestures of its own there.
 import { perform } from "../server/commands.js";
 
 const corner = { height: 60, part: 0.5 }; // points from the top; part of the width from the left
@@ -7,13 +7,11 @@ const lowerEdge = 26; // points
 const far = 60; // points that make a swipe
 
 export class Edges {
-  #state;
   #device;
   #from = null; // where it began
   #swipe = null; // "down", "up"
 
-  constructor(state, device) {
-    this.#state = state;
+  constructor(device) {
     this.#device = device;
   }
 

@@ -73,6 +73,7 @@ export class Keyboard {
     const { style } = this.#ring;
     style.width = `${box.width / ratio + 8}px`;
     style.height = `${box.height / ratio + 8}px`;
-    style.transform = `rotate(${-this.#handset.turn}deg) translate(${dx}px, ${dy}px) translate(-50%, -50%)`;
+    const upright = `rotate(${-this.#handset.turn}deg)`;
+    style.transform = `${upright} translate(${dx}px, ${dy}px) translate(-50%, -50%)`;
   }
 }

@@ -21,7 +21,8 @@ function path(data, to) {
 
 function gradient({ stops, start, end }) {
   const angle = Math.atan2(end[0] - start[0], start[1] - end[1]);
-  return `linear-gradient(${angle}rad, ${stops.map(({ at, color }) => `${color} ${at * 100}%`).join(", ")})`;
+  const colors = stops.map(({ at, color }) => `${color} ${at * 100}%`);
+  return `linear-gradient(${angle}rad, ${colors.join(", ")})`;
 }
 
 // `mask` is the mask's node, or nothing.

@@ -19,7 +19,7 @@ export class Touch {
   constructor(state, handset, device) {
     this.#state = state;
     this.#handset = handset;
-    this.#edges = new Edges(state, device);
+    this.#edges = new Edges(device);
     const { glass } = handset;
     glass.addEventListener("pointerdown", (event) => this.#down(event));
     glass.addEventListener("pointermove", (event) => this.#move(event));

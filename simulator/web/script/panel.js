@@ -80,7 +80,9 @@ export class ScriptPanel {
       "div",
       { class: "empty script-empty" },
       h("p", {
-        text: "Open a phone script, or drop its file anywhere on this page. It gets a fresh phone, and waits before its first line.",
+        text:
+          "Open a phone script, or drop its file anywhere on this page. It gets a fresh phone, " +
+          "and waits before its first line.",
       }),
       h("button", {
         class: "soft",

@@ -4,7 +4,7 @@ import { post } from "./requests.js";
 import { toast } from "../ui/toast.js";
 
 const restarts = new EventTarget(); // "restarting": the host's process begins anew
-let waiting = []; // {lines, resolve, reject}
+const waiting = []; // {lines, resolve, reject}
 let busy = false;
 
 const isMove = (entry) => entry?.lines.length === 1 && entry.lines[0].startsWith("touch moved ");

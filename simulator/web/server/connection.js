@@ -17,7 +17,6 @@ const retryEvery = 1000; // milliseconds
 export class Connection extends EventTarget {
   #state;
   #url;
-  #source = null;
   #gone = null;
   status = "connecting"; // connecting, open, restarting, gone
 
@@ -36,7 +35,6 @@ export class Connection extends EventTarget {
 
   #connect() {
     const source = new EventSource(this.#url);
-    this.#source = source;
     source.addEventListener("snapshot", (event) => {
       clearTimeout(this.#gone);
       this.#gone = null;

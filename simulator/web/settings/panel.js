@@ -1,4 +1,5 @@
-// The extension's settings, in the server's groups and words. Each change is a command of the phone.
+// The extension's settings, in the server's groups and words. Each change is a command of the
+// phone.
 import { perform, quoted } from "../server/commands.js";
 import { read } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";

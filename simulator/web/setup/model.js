@@ -8,6 +8,9 @@ export const words = (line) =>
   );
 
 const quoted = (text) => `"${text.replaceAll("\\", "\\\\").replaceAll('"', '\\"')}"`;
+const smallController =
+  '<?xml version="1.0"?><plist version="1.0">' +
+  "<dict><key>SmallMusicController</key><true/></dict></plist>";
 const record = (name) => `file "/var/jb/var/lib/dpkg/info/${name}.list" ""`;
 
 // Each with the lines that make it count as installed.
@@ -16,7 +19,8 @@ export const companions = {
     label: "Grupi, with its small music controller",
     lines: [
       record("com.zentrik.grupi"),
-      `file "/var/jb/var/mobile/Library/Preferences/com.zentrik.grupi.plist" "<?xml version=\\"1.0\\"?><plist version=\\"1.0\\"><dict><key>SmallMusicController</key><true/></dict></plist>"`,
+      `file "/var/jb/var/mobile/Library/Preferences/com.zentrik.grupi.plist" ` +
+        quoted(smallController),
     ],
   },
   sylph: { label: "Sylph", lines: [record("ch.vorhal.sylph")] },

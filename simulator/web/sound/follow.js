@@ -59,7 +59,8 @@ export class SoundFollower extends EventTarget {
     const { element } = this.#output;
     const due = this.#state.position();
     if (Math.abs(element.currentTime - due) > tolerance) element.currentTime = due;
-    // The browser may refuse, or the file may be gone before it has begun: the next change tries again.
+    // The browser may refuse, or the file may be gone before it has begun: the next change tries
+    // again.
     if (element.paused && !element.ended)
       element.play().catch(() => this.dispatchEvent(new Event("change")));
   }

@@ -1,4 +1,5 @@
-// The panels' tabs. Where there is room, music, phone and time are always to be seen and have no tab.
+// The panels' tabs. Where there is room, music, phone and time are always to be seen and have no
+// tab.
 import { byId, h } from "./dom.js";
 import { icon } from "./icons.js";
 

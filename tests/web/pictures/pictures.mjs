@@ -1,4 +1,5 @@
-// usage: pictures.mjs FOLDER, with the environment of the browser tests: takes the README's pictures.
+// usage: pictures.mjs FOLDER, with the environment of the browser tests: takes the README's
+// pictures.
 import { join } from "node:path";
 import {
   andCommand,

@@ -18,7 +18,7 @@ export class Hint {
     this.#state = state;
     this.#screen = screen;
     state.on("journal", (event) => !event.whole && this.#hear(event.detail));
-    for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());
+    for (const name of ["phone", "script", "snapshot"]) state.on(name, () => this.#show());
     screen.addEventListener("change", () => this.#show());
   }
 
@@ -48,13 +48,18 @@ export class Hint {
 
   #sentence() {
     const { host, screenOn, locked } = this.#state.phone;
-    if (host === "off") return "This phone is off. Switch it on.";
+    if (host === "off")
+      return this.#state.script
+        ? "This phone waits for its script: play a line, or all."
+        : "This phone is off. Switch it on.";
     if (host === "dead") return "The home screen has died. Start it again.";
     if (!screenOn) return "Tap the phone to light its screen.";
     if (this.#news || localStorage.getItem(key)) return this.#news;
     if (locked) return "Unlock the phone: press its side key.";
     if (this.#screen.shows("ChooseSnoozeTimeView"))
       return "Choose how long the music may play, then confirm.";
+    if (this.#screen.shows("OnTimerEndsSettingsView"))
+      return "Choose what else happens. The hourglass turns from the timer's start to its end.";
     if (this.#screen.shows("DozewellButton"))
       return "The moon beside the song is the sleep timer. Tap it.";
     return "Open Control Center to find the moon: pull down from the upper right corner.";

@@ -145,6 +145,8 @@ export class MusicPanel {
     if (!p.seek.matches(":active")) p.seek.value = known ? position : 0;
     p.seek.style.setProperty("--part", known ? position / player.length : 0);
     p.at.textContent = known ? duration(position) : "";
-    p.left.textContent = known ? `-${duration(player.length - position)}` : "";
+    // Of whole seconds, so that both turn at once, as on the phone.
+    const left = known ? Math.floor(player.length) - Math.floor(position) : 0;
+    p.left.textContent = known ? `-${duration(left)}` : "";
   }
 }

@@ -47,15 +47,16 @@ export class ScriptPanel {
     this.#openAddress();
   }
 
-  #button(name, picture, text, press) {
+  #button(name, picture, text, title, press) {
     this.#buttons[name] = h(
       "button",
       {
         class: "soft",
         id: `script-${name}`,
         type: "button",
+        title,
         onclick: press,
-        "aria-label": text ? null : "Close the script",
+        "aria-label": text ? null : title,
       },
       icon(picture),
       text ? h("span", { text }) : null,
@@ -68,10 +69,12 @@ export class ScriptPanel {
       "div",
       { class: "tools" },
       this.#file,
-      this.#button("open", "open", "Open", () => this.#file.click()),
-      this.#button("step", "step", "Line", () => this.#play({ lines: 1 })),
-      this.#button("run", "play", "All", () => this.#play({ run: true })),
-      this.#button("close", "close", "", () => this.#close()),
+      this.#button("open", "open", "Open", "Opens a phone script from a file", () =>
+        this.#file.click(),
+      ),
+      this.#button("step", "step", "Line", "Plays the next line", () => this.#play({ lines: 1 })),
+      this.#button("run", "play", "All", "Plays what is left", () => this.#play({ run: true })),
+      this.#button("close", "close", "", "Close the script", () => this.#close()),
     );
   }
 

@@ -13,6 +13,7 @@ const names = [
 ];
 const goneAfter = 2500; // milliseconds without an answer until the server counts as gone
 const retryEvery = 1000; // milliseconds
+const retrySoon = 150; // milliseconds: a server that restarts keeps its port open
 
 export class Connection extends EventTarget {
   #state;
@@ -49,8 +50,8 @@ export class Connection extends EventTarget {
   #lost(source) {
     if (this.status === "open") this.#become("restarting");
     this.#gone ??= setTimeout(() => this.#become("gone"), goneAfter);
-    if (source.readyState !== EventSource.CLOSED) return; // the browser tries again by itself
-    setTimeout(() => this.#connect(), retryEvery);
+    source.close(); // the browser would try again by itself, but only after seconds
+    setTimeout(() => this.#connect(), this.status === "gone" ? retryEvery : retrySoon);
   }
 
   // The host's process is about to begin anew.

@@ -18,6 +18,7 @@ async function open(served, page, text) {
 phoneTest("a script is played line by line up to the line that fails", {}, async (served, page) => {
   await open(served, page, script);
   await page.locator("#script-text .next").waitFor();
+  await page.locator("#hint", { hasText: "waits for its script" }).waitFor();
   await page.click("#script-step");
   await page.locator("#script-text li:nth-child(3).next").waitFor();
   await page.click("#script-run");
@@ -25,6 +26,22 @@ phoneTest("a script is played line by line up to the line that fails", {}, async
   assert.match(await page.locator("#panel-script .form-problem").textContent(), /Line 5/);
   await page.click("#script-close");
   await page.locator(".script-empty").waitFor();
+});
+
+const failing = `boot
+playlist "A" 2
+repeat-all YES
+advance 60s
+expect-journal "no"
+`;
+
+phoneTest("a failure's long story leaves room for the script", {}, async (served, page) => {
+  await open(served, page, failing);
+  await page.click("#script-run");
+  const problem = page.locator("#panel-script .form-problem");
+  await problem.waitFor();
+  const [seen, whole] = await problem.evaluate((box) => [box.clientHeight, box.scrollHeight]);
+  assert.ok(seen < 150 && whole > seen, `${seen} of ${whole} pixels are seen`);
 });
 
 phoneTest("what was done is opened as a script, by its address", {}, async (served, page) => {

@@ -17,6 +17,7 @@ export class MusicPanel {
     byId("panel-music").append(this.#makePlayer(), this.#makeListPlace());
     this.#list = new MusicList(state, byId("tracks"));
     for (const name of ["player", "snapshot"]) state.on(name, () => this.#show());
+    state.on("clock", () => this.#showPosition()); // jumps
     this.#load();
     setInterval(() => this.#showPosition(), 250);
   }

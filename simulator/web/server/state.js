@@ -74,8 +74,8 @@ export class PhoneState extends EventTarget {
     const { player } = this;
     if (!player || player.position === null || player.position === undefined) return null;
     const moved = player.playing ? Math.max(0, this.uptime() - player.at) : 0;
-    // The sum of such numbers may lie a little below a whole second.
-    const now = Math.round((player.position + moved) * 1e6) / 1e6;
-    return player.length ? Math.min(now, player.length) : now;
+    return player.length
+      ? Math.min(player.position + moved, player.length)
+      : player.position + moved;
   }
 }

@@ -33,7 +33,7 @@ Bytes bytesOf(const Text& text) {
 template <class Text>
 Text textFrom(const Bytes& bytes) {
   Text text(bytes.size() / sizeof text[0], 0);
-  std::memcpy(text.data(), bytes.data(), text.size() * sizeof text[0]);
+  if (!text.empty()) std::memcpy(text.data(), bytes.data(), text.size() * sizeof text[0]);
   return text;
 }
 

@@ -12,16 +12,16 @@ namespace {
 
 // What the signal handler reads: prepared before, because it may not allocate.
 std::string fileName;
-const std::size_t* line = nullptr;
+const std::size_t* playedLine = nullptr;
 
 void print(std::string_view text) {
   [[maybe_unused]] const auto written = write(STDERR_FILENO, text.data(), text.size());
 }
 
 void note(int signal) {
-  if (*line > 0) {
+  if (*playedLine > 0) {
     char digits[24];
-    const auto end = std::to_chars(digits, digits + sizeof digits, *line);
+    const auto end = std::to_chars(digits, digits + sizeof digits, *playedLine);
     print(fileName);
     print(":");
     print({digits, end.ptr});
@@ -35,7 +35,7 @@ void note(int signal) {
 
 void noteScriptInCrashes(std::string script, const std::size_t& lineNumber) {
   fileName = std::move(script);
-  line = &lineNumber;
+  playedLine = &lineNumber;
   std::signal(SIGABRT, note);
 }
 

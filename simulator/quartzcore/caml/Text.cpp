@@ -13,7 +13,7 @@ namespace sim::caml {
 std::string quotedWord(std::string_view word) {
   constexpr std::size_t most = 40;
   const bool isLong = word.size() > most;
-  return quoted(std::string(word.substr(0, most)) + (isLong ? "…" : ""));
+  return sim::quoted(std::string(word.substr(0, most)) + (isLong ? "…" : ""));
 }
 
 std::optional<double> number(std::string_view word) {

@@ -1,5 +1,7 @@
 #include "simulator/serve/http/ByteRange.h"
 
+#include <httplib.h>
+
 #include <algorithm>
 #include <charconv>
 #include <string_view>

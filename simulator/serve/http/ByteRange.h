@@ -1,11 +1,13 @@
 // Which part of a file a request is about.
 #pragma once
 
-#include <httplib.h>
-
 #include <cstddef>
 #include <optional>
 #include <string>
+
+namespace httplib {
+struct Request;
+}
 
 namespace sim {
 

@@ -1,6 +1,7 @@
 #include "simulator/serve/http/Files.h"
 
 #include <fcntl.h>
+#include <httplib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -1,10 +1,13 @@
 // Files as answers.
 #pragma once
 
-#include <httplib.h>
-
 #include <filesystem>
 #include <string>
+
+namespace httplib {
+struct Request;
+struct Response;
+}  // namespace httplib
 
 namespace sim {
 

@@ -1,5 +1,7 @@
 #include "simulator/serve/http/Guard.h"
 
+#include <httplib.h>
+
 #include <string>
 
 #include "simulator/serve/http/Router.h"

@@ -1,7 +1,11 @@
 // What every request must be and every answer says, whatever it is about.
 #pragma once
 
-#include <httplib.h>
+#include <cstddef>
+
+namespace httplib {
+class Server;
+}
 
 namespace sim {
 

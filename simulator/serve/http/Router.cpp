@@ -1,5 +1,7 @@
 #include "simulator/serve/http/Router.h"
 
+#include <httplib.h>
+
 #include <algorithm>
 
 #include "simulator/serve/Watchers.h"

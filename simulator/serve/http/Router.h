@@ -1,14 +1,18 @@
 // Which request is whose: methods and paths, and answers as JSON.
 #pragma once
 
-#include <httplib.h>
-
 #include <functional>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "simulator/serve/RequestError.h"
+
+namespace httplib {
+class Server;
+struct Request;
+struct Response;
+}  // namespace httplib
 
 namespace sim {
 

@@ -7,7 +7,7 @@
 namespace xib {
 namespace {
 
-constexpr Choice alignments[] = {
+constexpr Choice textAlignments[] = {
     {"left", 0}, {"center", 1}, {"right", 2}, {"justified", 3}, {"natural", 4}};
 constexpr Choice baselines[] = {{"alignBaselines", 0}, {"alignCenters", 1}, {"none", 2}};
 
@@ -33,7 +33,7 @@ void encodeLines(Element& label, nib::Node& node) {
   if (lines != 1) node.setInteger("UINumberOfLines", lines);
   if (const auto mode = label.choice("lineBreakMode", lineBreakModes))
     node.setInteger("UILineBreakMode", *mode);
-  node.setInteger("UITextAlignment", label.choice("textAlignment", alignments).value_or(0));
+  node.setInteger("UITextAlignment", label.choice("textAlignment", textAlignments).value_or(0));
   if (const int baseline = label.choice("baselineAdjustment", baselines).value_or(0))
     node.setInteger("UIBaselineAdjustment", baseline);
 }

@@ -9,9 +9,9 @@ constexpr Choice distributions[] = {{"fill", 0},
                                     {"fillProportionally", 2},
                                     {"equalSpacing", 3},
                                     {"equalCentering", 4}};
-constexpr Choice alignments[] = {{"fill", 0},          {"leading", 1},     {"top", 1},
-                                 {"firstBaseline", 2}, {"center", 3},      {"trailing", 4},
-                                 {"bottom", 4},        {"lastBaseline", 5}};
+constexpr Choice stackAlignments[] = {{"fill", 0},          {"leading", 1},     {"top", 1},
+                                      {"firstBaseline", 2}, {"center", 3},      {"trailing", 4},
+                                      {"bottom", 4},        {"lastBaseline", 5}};
 
 // In a source every subview of a stack view is an arranged one.
 nib::Node* arrangedSubviews(const nib::Node& node, Layout& layout) {
@@ -31,7 +31,8 @@ void encodeStackView(Element& stackView, nib::Node& node, Layout& layout) {
   node.setInteger("UIStackViewAxis", stackView.choice("axis", axes).value_or(0));
   node.setInteger("UIStackViewDistribution",
                   stackView.choice("distribution", distributions).value_or(0));
-  node.setInteger("UIStackViewAlignment", stackView.choice("alignment", alignments).value_or(0));
+  node.setInteger("UIStackViewAlignment",
+                  stackView.choice("alignment", stackAlignments).value_or(0));
   node.setDouble("UIStackViewSpacing", stackView.number("spacing").value_or(0));
   if (stackView.flag("baselineRelativeArrangement", false))
     node.setBool("UIStackViewBaselineRelative", true);

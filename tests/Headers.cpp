@@ -1,0 +1,2 @@
+// Precompiled headers belong to a target, and a target has a source.
+int main() {}

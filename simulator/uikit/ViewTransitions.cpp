@@ -1,4 +1,6 @@
 // UIView: transitions, which are animations between two states of a tree.
+#include <utility>
+
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/phone/Phone.h"
@@ -31,6 +33,30 @@ void transitionWithView(Object view, double seconds, unsigned long options, Anim
   finishAnimation(timing, ended);
 }
 
+// The platform dissolves what it showed last, and the second view was not to be seen then, even if
+// it has been unhidden since.
+class Unseen {
+ public:
+  explicit Unseen(Object view)
+      : layer_(view ? stateOf<CALayer>(UIView::layerOf(view)) : nullptr),
+        wasHidden_(layer_ != nullptr && std::exchange(layer_->hidden, true)) {}
+  ~Unseen() {
+    if (layer_ != nullptr) layer_->hidden = wasHidden_;
+  }
+  Unseen(const Unseen&) = delete;
+  Unseen& operator=(const Unseen&) = delete;
+
+ private:
+  CALayer* layer_;
+  bool wasHidden_;
+};
+
+AnimationTiming beginWithout(Object second, Object container, double seconds,
+                             unsigned long options) {
+  const Unseen unseen(second);
+  return begin(container, seconds, options);
+}
+
 // As the documentation spells it out: the container, the first view's superview, lets go of the
 // first view and adds the second, which comes to lie in front.
 void exchange(Object from, Object to) {
@@ -43,7 +69,7 @@ void transitionBetween(Object from, Object to, double seconds, unsigned long opt
                        AnimationCompletion ended) {
   const auto kept = objc::retain(from);
   const Object container = from ? UIView::of(from).parent : Object();
-  const AnimationTiming timing = begin(container, seconds, options);
+  const AnimationTiming timing = beginWithout(to, container, seconds, options);
   if ((options & animation::showHideTransitionViews) != 0) {
     objc::send<void, "setHidden:">(from, true);
     objc::send<void, "setHidden:">(to, false);

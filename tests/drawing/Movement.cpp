@@ -187,5 +187,28 @@ TEST_F(Movement, TransitionsDissolveOnePictureIntoTheOther) {
   EXPECT_FALSE(drawn(view).before);
 }
 
+TEST_F(Movement, ATransitionBeginsWithoutTheSecondView) {
+  constexpr unsigned long crossDissolve = 5 << 20;
+  const auto first = make("UIView", rect(0, 0, 10, 10));
+  const auto second = make("UIView", rect(0, 0, 20, 20));
+  add(view, first);
+  add(view, second);
+  send<void, "setHidden:">(second.get(), true);
+  send<void, "setHidden:">(second.get(), false);
+  send<void, "transitionFromView:toView:duration:options:completion:">(
+      cls("UIView"), first.get(), second.get(), 0.4, crossDissolve,
+      objc::Block<void(bool)>(nullptr));
+  const auto seen = drawn(view);
+  const auto widths = [](const scene::Node& node) {
+    std::vector<double> all;
+    for (const scene::Node& child : node.children)
+      all.push_back(child.attributes.bounds.size.width);
+    return all;
+  };
+  EXPECT_EQ(widths(seen), std::vector<double>{20});
+  ASSERT_TRUE(seen.before);
+  EXPECT_EQ(widths(*seen.before), std::vector<double>{10});
+}
+
 }  // namespace
 }  // namespace sim

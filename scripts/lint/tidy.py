@@ -10,24 +10,26 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
 
+# clang-tidy cannot read what g++ has precompiled.
+PRECOMPILED = re.compile(r"-Winvalid-pch|-include \S+cmake_pch\S+")
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 FOLDERS = ["objc", "platform", "simulator", "tools", "tweak"]
 TOOL = "clang-tidy-14"
 
 
 def sources(build):
-    """The C++ files to check, and an object that each is compiled to."""
+    """The C++ files to check, each with how it is compiled: once, even if into several programs."""
     found = {}
     for entry in json.loads((build / "compile_commands.json").read_text()):
         file = pathlib.Path(entry["file"])
         inside = file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in FOLDERS
         if inside and file.suffix == ".cpp":
-            words = shlex.split(entry["command"])
-            found.setdefault(file, words[words.index("-o") + 1])
+            found.setdefault(file, entry | {"command": PRECOMPILED.sub("", entry["command"])})
     return found
 
 
@@ -53,10 +55,10 @@ def fingerprint(files):
     return digest.hexdigest()
 
 
-def check(build, source):
+def check(database, source):
     # The build's compiler is g++, some of whose warnings clang does not know.
-    run = subprocess.run([TOOL, "--quiet", "--extra-arg=-Wno-unknown-warning-option", "-p", build,
-                          source], text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    run = subprocess.run([TOOL, "--quiet", "--extra-arg=-Wno-unknown-warning-option", "-p",
+                          database, source], text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     if run.returncode != 0:
         print(run.stdout, flush=True)
     return run.returncode == 0
@@ -67,8 +69,12 @@ def main(build):
     passed = build / "tidy"  # an empty file for each fingerprint
     passed.mkdir(exist_ok=True)
     dependencies = includes(build)
+    found = sources(build)
+    (passed / "compile_commands.json").write_text(json.dumps(list(found.values())))
     todo = {}
-    for source, output in sources(build).items():
+    for source, entry in found.items():
+        words = shlex.split(entry["command"])
+        output = words[words.index("-o") + 1]
         if output not in dependencies:
             sys.exit(f"{source} has not been compiled: build it first")
         stamp = passed / fingerprint(dependencies[output])
@@ -76,7 +82,7 @@ def main(build):
             todo[source] = stamp
 
     def check_and_stamp(source):
-        good = check(build, source)
+        good = check(passed, source)
         if good:
             todo[source].touch()
         return good

@@ -3,6 +3,7 @@
 
 How long it takes from a touch until the page hears of what it did; and what a served phone costs
 that has nothing to do, with a page that watches it: bytes, and how often a thread of it wakes up.
+And the bytes while a finger turns a wheel of the panel.
 """
 import http.client
 import json
@@ -16,6 +17,9 @@ import time
 
 TOUCHES = 500
 IDLE_SECONDS = 10
+TURN_SECONDS = 4
+FRAME = 1 / 60  # seconds
+WHEEL = (129, 437)  # points: the hours, on the screen of a fresh phone
 
 
 class Server:
@@ -120,6 +124,25 @@ def measure_touches(server, page):
           f"99th percentile {delays[len(delays) * 99 // 100]:.2f} ms")
 
 
+def measure_turn(server, page):
+    """Up and down again by two rows, a step a frame."""
+    server.command("control-center open", "advance 1s", "tap $header.dozewellButton")
+    page.drain(2)
+    x, y = WHEEL
+    server.command(f"touch began {x} {y}")
+    page.drain(0.5)
+    received = page.bytes
+    start = time.monotonic()
+    for step in range(round(TURN_SECONDS / FRAME)):
+        server.command(f"touch moved {x} {y - abs(step % 64 - 32) * 2}")
+        page.drain(max(0, start + (step + 1) * FRAME - time.monotonic()))
+    turned = page.bytes - received
+    server.command(f"touch ended {x} {y}")
+    if turned == 0:
+        sys.exit("the wheel has not turned")
+    print(f"a wheel turning: {turned / (time.monotonic() - start) / 1000:.0f} kB/s")
+
+
 def main():
     if len(sys.argv) != 2:
         sys.exit(__doc__)
@@ -128,6 +151,7 @@ def main():
         page = Page(server.port)
         measure_idle(server, page)
         measure_touches(server, page)
+        measure_turn(server, page)
     finally:
         server.end()
 

@@ -5,7 +5,7 @@
 namespace sim {
 
 PlaneTransform::PlaneTransform(const CGAffineTransform& from) : move{from.tx, from.ty} {
-  const bool isMirrored = from.a * from.d - from.b * from.c < 0;
+  const bool isMirrored = from.determinant() < 0;
   const double length = std::hypot(from.a, from.b);
   // A mirror image keeps the axis that points its own way: without this, one that is mirrored from
   // left to right would be upside down and turned by half a turn.

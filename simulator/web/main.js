@@ -23,7 +23,7 @@ import { byId } from "./ui/dom.js";
 import { Tabs } from "./ui/tabs.js";
 import { Veil } from "./ui/veil.js";
 
-const state = new PhoneState();
+export const state = new PhoneState();
 const page = await pageId();
 
 const screen = new Screen(state);

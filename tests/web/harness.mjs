@@ -16,7 +16,10 @@ const {
 const { chromium } = createRequire(join(modules, "needed-by-tests.js"))("playwright-core");
 
 export { simulator };
-const startedWithin = 20_000; // milliseconds
+// Milliseconds. Long, because other tests run beside and sanitizers are slow: nothing that is right
+// waits for them to pass.
+const startedWithin = 60_000;
+const soWithin = 30_000;
 
 let browser = null;
 
@@ -125,7 +128,7 @@ export async function openPage(served, { path = "", silent = true, ...context } 
   const browsing = await (
     await launched()
   ).newContext({ viewport: { width: 1280, height: 860 }, ...context });
-  browsing.setDefaultTimeout(10_000);
+  browsing.setDefaultTimeout(soWithin);
   const page = await browsing.newPage();
   page.problems = [];
   page.on("pageerror", (error) => page.problems.push(error.message));
@@ -188,6 +191,17 @@ export async function andCommand(page, text, act) {
   );
   await act();
   await answered;
+}
+
+// Does something that has the host's process begin anew, and waits until the page knows the new one.
+export async function andRestart(page, act) {
+  const watched = await page.evaluateHandle(async () => {
+    const { state } = await import("/main.js");
+    return { told: new Promise((resolve) => state.on("snapshot", resolve)) };
+  });
+  await act();
+  await watched.evaluate(({ told }) => told.then(() => true));
+  await page.locator('body[data-server="open"]').waitFor();
 }
 
 // A click on what is on the phone's screen, until the finger is up again.

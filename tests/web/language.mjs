@@ -1,14 +1,11 @@
 // Another language is chosen in the set-up: a fresh phone speaks it.
 import assert from "node:assert/strict";
-import { andCommand, onScreen, pass, phoneTest } from "./harness.mjs";
+import { andCommand, andRestart, onScreen, pass, phoneTest } from "./harness.mjs";
 
 phoneTest("the panel speaks Arabic after the change", {}, async (served, page) => {
   await page.click("#tab-setup");
   await page.selectOption("#setup-locale", "ar_SA");
-  const made = page.waitForResponse((response) => response.url().endsWith("/api/setup"));
-  await page.click("#setup-apply");
-  assert.equal((await made).status(), 200);
-  await page.locator('body[data-server="open"]').waitFor();
+  await andRestart(page, () => page.click("#setup-apply"));
   await andCommand(page, "control-center open", () => page.click("#device-controls"));
   await pass(served, 1);
   await onScreen(page, "button", "Dozewell").waitFor();

@@ -30,10 +30,9 @@ phoneTest(
 
 phoneTest("the phone turns and still takes touches where they are", {}, async (served, page) => {
   await page.click("#device-rotate");
-  await page
-    .locator("#handset")
-    .evaluate(async (handset) => Promise.all(handset.getAnimations().map((each) => each.finished)));
-  const glass = await page.locator("#glass").boundingBox();
-  assert.ok(glass.width > glass.height);
+  await page.waitForFunction(() => {
+    const { width, height } = document.getElementById("glass").getBoundingClientRect();
+    return width > height && document.getElementById("handset").getAnimations().length === 0;
+  });
   await openPanel(served, page);
 });

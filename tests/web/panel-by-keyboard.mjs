@@ -26,7 +26,7 @@ phoneTest("a timer is set with tab, arrows and enter", {}, async (served, page) 
   await tabTo(page, onScreen(page, "button", "Confirm"));
   await andCommand(page, "touch ended", () => page.keyboard.press(" "));
   await journalHas(page, 'post "DozewellDidStartNotification"');
-  assert.match(await page.locator("#announcer").textContent(), /timer is set/i);
+  await page.locator("#announcer", { hasText: "timer is set" }).waitFor({ state: "attached" });
 });
 
 phoneTest("escape leaves Control Center", {}, async (served, page) => {
@@ -61,7 +61,7 @@ phoneTest("an alert is read out and answered", {}, async (served, page) => {
   const alert = page.locator("#glass").getByRole("alertdialog");
   await alert.waitFor();
   const title = await alert.getAttribute("aria-label");
-  assert.ok((await page.locator("#announcer").textContent()).startsWith(title), title);
+  await page.locator("#announcer", { hasText: title }).waitFor({ state: "attached" });
   // What lies behind it cannot be reached any more.
   assert.equal(await onScreen(page, "button", "Shortcut").count(), 0);
   await andCommand(page, "touch ended", () => alert.getByRole("button").first().press("Enter"));

@@ -1,6 +1,15 @@
 // The host's process begins anew in the middle of a timer: the page comes back by itself.
 import assert from "node:assert/strict";
-import { andCommand, journalHas, openPanel, onScreen, pass, phoneTest, press } from "./harness.mjs";
+import {
+  andCommand,
+  andRestart,
+  journalHas,
+  openPanel,
+  onScreen,
+  pass,
+  phoneTest,
+  press,
+} from "./harness.mjs";
 
 async function startTimer(served, page) {
   await openPanel(served, page);
@@ -14,8 +23,7 @@ phoneTest(
   {},
   async (served, page) => {
     await startTimer(served, page);
-    await andCommand(page, "respring", () => page.click("#device-respring"));
-    await page.locator('body[data-server="open"]').waitFor();
+    await andRestart(page, () => page.click("#device-respring"));
     await page.locator("#device-controls:not([aria-pressed=true])").waitFor();
     await pass(served, 400);
     await journalHas(page, "-[SBMediaController pause]");
@@ -30,7 +38,7 @@ phoneTest("a host that was killed is started again by hand", {}, async (served, 
   await startTimer(served, page);
   await andCommand(page, "kill", () => page.click("#device-kill"));
   await page.locator("#device-kill:disabled").waitFor();
-  await andCommand(page, "respring", () =>
+  await andRestart(page, () =>
     page.locator("#device-respring", { hasText: "Start again" }).click(),
   );
   await page.locator("#device-kill:enabled").waitFor();

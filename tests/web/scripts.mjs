@@ -23,7 +23,7 @@ phoneTest("a script is played line by line up to the line that fails", {}, async
   await page.locator("#script-text li:nth-child(3).next").waitFor();
   await page.click("#script-run");
   await page.locator("#script-text li:nth-child(5).failed").waitFor();
-  assert.match(await page.locator("#panel-script .form-problem").textContent(), /Line 5/);
+  await page.locator("#panel-script .form-problem", { hasText: "Line 5" }).waitFor();
   await page.click("#script-close");
   await page.locator(".script-empty").waitFor();
 });

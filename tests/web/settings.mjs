@@ -7,6 +7,7 @@ phoneTest(
   {},
   async (served, page) => {
     await page.click("#tab-settings");
+    await page.locator(".setting[data-key]").last().waitFor();
     assert.equal(await page.locator(".setting[data-key]").count(), 24);
     await page.fill("#setting-volumeFadeOutTime", "40");
     await andCommand(page, "set volumeFadeOutTime 40", () => page.keyboard.press("Enter"));

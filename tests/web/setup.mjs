@@ -1,6 +1,6 @@
 // The set-up as a form: what it says becomes a fresh phone.
 import assert from "node:assert/strict";
-import { phoneTest } from "./harness.mjs";
+import { andRestart, phoneTest } from "./harness.mjs";
 
 const lines = async (served) => JSON.parse(await served.read("/api/setup")).lines;
 
@@ -12,11 +12,7 @@ phoneTest("a phone is made as the form says", {}, async (served, page) => {
   await page.check("#setup-companion-sylph", { force: true });
   await page.click("#panel-setup summary");
   await page.fill("#setup-missing", "DNDModeAssertionService");
-  await Promise.all([
-    page.waitForResponse((response) => response.url().endsWith("/api/setup") && response.ok()),
-    page.click("#setup-apply"),
-  ]);
-  await page.locator('body[data-server="open"]').waitFor();
+  await andRestart(page, () => page.click("#setup-apply"));
   assert.deepEqual(await lines(served), [
     "ios 16.1.2",
     "missing DNDModeAssertionService",

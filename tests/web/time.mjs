@@ -17,6 +17,7 @@ phoneTest("time runs, stands and jumps as it is told", {}, async (served, page) 
   assert.equal(faster.speed, 3600);
   await page.locator(".speed-name", { hasText: "an hour in a second" }).waitFor();
   assert.equal((await timeAnswer(page, () => page.keyboard.press("Home"))).speed, 1);
+  await page.locator(".speed-name", { hasText: "as in life" }).waitFor();
   const still = await timeAnswer(page, () => page.click("#time-pause"));
   assert.equal(still.paused, true);
   const later = await timeAnswer(page, () => page.click("#time-minute"));

@@ -2,12 +2,14 @@
 import { byId, h } from "../ui/dom.js";
 import { uptime } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
+import { paced } from "../ui/paced.js";
 import { toast } from "../ui/toast.js";
 import { explain, kinds } from "./meaning.js";
 import { Timeline } from "./timeline.js";
 
 const shownAtMost = 600; // rows; earlier ones are in the recording
 const nearEnd = 40; // pixels: who reads further up is left there
+const addedEvery = 100; // milliseconds: in an hour per second hundreds of entries are written
 
 export class JournalPanel {
   #state;
@@ -28,6 +30,8 @@ export class JournalPanel {
   #empty = h("p", { class: "empty", text: "What the phone does is written down here." });
   #timeline;
   #follows = true; // shows what comes; not while somebody reads further up
+  #coming = []; // entries that have no row yet
+  #addSoon = paced(addedEvery, () => this.#addRows());
 
   constructor(state) {
     this.#state = state;
@@ -108,6 +112,7 @@ export class JournalPanel {
   }
 
   #rebuild() {
+    this.#coming = [];
     const rows = this.#state.journal.filter((entry) => this.#fits(entry)).slice(-shownAtMost);
     this.#list.replaceChildren(...rows.map((entry) => this.#row(entry)));
     this.#empty.hidden = this.#state.journal.length > 0;
@@ -125,9 +130,15 @@ export class JournalPanel {
   }
 
   #add(entries) {
+    this.#coming.push(...entries.filter((entry) => this.#fits(entry)));
+    this.#coming.splice(0, this.#coming.length - shownAtMost);
+    this.#addSoon();
+  }
+
+  #addRows() {
     const list = this.#list;
     const follows = this.#follows;
-    list.append(...entries.filter((entry) => this.#fits(entry)).map((entry) => this.#row(entry)));
+    list.append(...this.#coming.splice(0).map((entry) => this.#row(entry)));
     while (list.children.length > shownAtMost) list.firstElementChild.remove();
     this.#empty.hidden = true;
     this.#follows = follows;

@@ -1,6 +1,7 @@
 // The journal along the phone's time: a mark for each entry, in a lane for its kind.
 import { h, svg } from "../ui/dom.js";
 import { duration } from "../ui/format.js";
+import { paced } from "../ui/paced.js";
 import { explain, kinds } from "./meaning.js";
 
 const lanes = Object.keys(kinds);
@@ -9,6 +10,7 @@ const laneHeight = 9;
 const height = lanes.length * laneHeight + 6;
 const margin = 12;
 const atMost = 800; // marks
+const drawnEvery = 250; // milliseconds
 
 export class Timeline {
   #state;
@@ -19,7 +21,7 @@ export class Timeline {
   #to = h("span", {});
   #drawn = 0;
   #marked = null;
-  #pending = false;
+  #queue = paced(drawnEvery, () => this.#draw());
 
   constructor(state, chosen) {
     this.#state = state;
@@ -62,14 +64,7 @@ export class Timeline {
     return margin + ((time - first) / (last - first)) * (width - 2 * margin);
   }
 
-  #queue() {
-    if (this.#pending) return;
-    this.#pending = true;
-    requestAnimationFrame(() => this.#draw());
-  }
-
   #draw() {
-    this.#pending = false;
     const span = this.#span;
     this.#drawn = span.last;
     this.#marks.replaceChildren(

@@ -29,9 +29,10 @@ export class TimePanel {
     this.#show();
   }
 
+  // What comes of it is told by the stream: the answer may be older than what has come there.
   async #ask(wish) {
     try {
-      this.#state.take("clock", await post("/api/time", wish));
+      await post("/api/time", wish);
     } catch (error) {
       toast(error.message, "problem");
     }

@@ -38,7 +38,7 @@ phoneTest("a host that was killed is started again by hand", {}, async (served, 
   await startTimer(served, page);
   await andCommand(page, "kill", () => page.click("#device-kill"));
   await page.locator("#device-kill:disabled").waitFor();
-  await andRestart(page, () =>
+  await andCommand(page, "respring", () =>
     page.locator("#device-respring", { hasText: "Start again" }).click(),
   );
   await page.locator("#device-kill:enabled").waitFor();

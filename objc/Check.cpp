@@ -14,7 +14,8 @@ struct Type {
 };
 
 bool isQualifier(char letter) {
-  return letter != 0 && std::strchr("rnNoORVA", letter) != nullptr;
+  return letter == 'r' || letter == 'n' || letter == 'N' || letter == 'o' || letter == 'O' ||
+         letter == 'R' || letter == 'V' || letter == 'A';
 }
 
 const char* skipOffset(const char* at) {
@@ -82,8 +83,11 @@ bool sameStructure(const Type& mine, const Type& found) {
   return *left == '}' && *right == '}';
 }
 
-[[noreturn]] void stop(const char* action, Class cls, SEL name, const char* place, const Type& mine,
+// -1 is the result; then come self and _cmd, which count as no argument.
+[[noreturn]] void stop(const char* action, Class cls, SEL name, int index, const Type& mine,
                        const Type& found) {
+  char place[32] = "result";
+  if (index >= 0) std::snprintf(place, sizeof place, "argument %d", index - 1);
   std::fprintf(stderr, "type mismatch in %s of %c[%s %s]: %s: expected '%.*s', found '%.*s'\n",
                action, class_isMetaClass(cls) ? '+' : '-', class_getName(cls), sel_getName(name),
                place, int(found.end - found.begin), found.begin, int(mine.end - mine.begin),
@@ -96,13 +100,10 @@ bool sameStructure(const Type& mine, const Type& found) {
 void requireSameTypes(const char* action, Class cls, SEL name, const char* mine,
                       const char* registered) {
   if (registered == nullptr) return;
-  char place[32] = "result";
   for (int index = -1; *mine != 0 || *registered != 0; ++index) {
     const Type left = nextType(mine);
     const Type right = nextType(registered);
-    // -1 is the result; then come self and _cmd, which count as no argument.
-    if (index >= 0) std::snprintf(place, sizeof place, "argument %d", index - 1);
-    if (!sameType(left, right)) stop(action, cls, name, place, left, right);
+    if (!sameType(left, right)) stop(action, cls, name, index, left, right);
   }
 }
 

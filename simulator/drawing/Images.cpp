@@ -1,9 +1,8 @@
 #include <array>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "simulator/drawing/SvgWriter.h"
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/Phone.h"
 
 namespace sim {
@@ -27,10 +26,9 @@ std::string base64(std::string_view bytes) {
 }  // namespace
 
 std::string embeddedImage(const std::string& file) {
-  std::ifstream stream(Phone::current().file(file), std::ios::binary);
-  if (!stream) throw std::runtime_error("the phone has no image " + file);
-  const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-  return "data:image/png;base64," + base64(bytes);
+  const auto bytes = fileContent(Phone::current().file(file));
+  if (!bytes) throw std::runtime_error("the phone has no image " + file);
+  return "data:image/png;base64," + base64(*bytes);
 }
 
 std::string namedImage(const std::string& file) {

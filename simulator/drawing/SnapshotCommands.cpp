@@ -1,7 +1,6 @@
 // Script commands that draw the phone's screen.
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "simulator/drawing/Png.h"
@@ -9,6 +8,7 @@
 #include "simulator/drawing/SceneBuilder.h"
 #include "simulator/drawing/SvgWriter.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/script/Command.h"
 #include "simulator/phone/script/Session.h"
 #include "simulator/phone/script/Target.h"
@@ -63,12 +63,12 @@ bool updatesReferences() {
 }
 
 std::string contentsOf(const path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream)
+  auto content = fileContent(file);
+  if (!content)
     throw ScriptError(0, "there is no " + file.string() +
                              ": with DOZEWELL_UPDATE_SNAPSHOTS=1 in the environment the script "
                              "writes it");
-  return {std::istreambuf_iterator<char>(stream), {}};
+  return *std::move(content);
 }
 
 void expectSnapshot(Arguments& words) {

@@ -1,13 +1,12 @@
 #include "simulator/foundation/NSData.h"
 
-#include <fstream>
 #include <functional>
-#include <iterator>
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/AtomicFile.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/Phone.h"
 
 namespace sim {
@@ -29,9 +28,8 @@ Object makeWithBytes(const void* bytes, unsigned long length) {
 
 Object makeWithContentsOfFile(Object path) {
   if (!path) return nullptr;
-  std::ifstream file(Phone::current().file(text(path)), std::ios::binary);
-  std::string read(std::istreambuf_iterator<char>(file), {});
-  return file ? dataOf(std::move(read)) : nullptr;
+  auto content = fileContent(Phone::current().file(text(path)));
+  return content ? dataOf(*std::move(content)) : nullptr;
 }
 
 Object initWithBytes(Object self, const void* bytes, unsigned long length) {

@@ -1,8 +1,6 @@
 #include "simulator/foundation/NSString.h"
 
-#include <fstream>
 #include <functional>
-#include <iterator>
 
 #include "simulator/StandIn.h"
 #include "simulator/foundation/AtomicFile.h"
@@ -17,6 +15,7 @@
 #include "simulator/foundation/Unicode.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/foundation/Variadic.h"
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/Phone.h"
 
 namespace sim {
@@ -108,9 +107,9 @@ Object NSString::initWithData(Object data, unsigned long encoding) {
 
 Object NSString::initWithContentsOfFile(Object path, unsigned long encoding, Object* error) {
   if (error != nullptr) *error = nullptr;
-  std::ifstream file(Phone::current().file(text(path)), std::ios::binary);
-  if (!file || !isUtf8(encoding)) return failInit(self());
-  auto decoded = unicode::fromUtf8(std::string(std::istreambuf_iterator<char>(file), {}));
+  const auto bytes = fileContent(Phone::current().file(text(path)));
+  if (!bytes || !isUtf8(encoding)) return failInit(self());
+  auto decoded = unicode::fromUtf8(*bytes);
   if (!decoded) return failInit(self());
   units = std::move(*decoded);
   return Object(self());

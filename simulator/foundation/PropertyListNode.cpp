@@ -2,11 +2,10 @@
 
 #include <bit>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 
 #include "simulator/foundation/AtomicFile.h"
 #include "simulator/foundation/PropertyListBounds.h"
+#include "simulator/phone/FileContent.h"
 
 namespace sim {
 namespace {
@@ -59,15 +58,14 @@ std::string binaryOf(plist_t node) {
 }  // namespace
 
 PropertyListNode loadNode(const std::filesystem::path& path, std::string* error) {
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes(std::istreambuf_iterator<char>(file), {});
-  if (!file) {
+  const auto bytes = fileContent(path);
+  if (!bytes) {
     *error = path.string() + ": cannot be read";
     return nullptr;
   }
   plist_t node = nullptr;
-  const bool bounded = isWithinBounds(bytes);
-  if (bounded) plist_from_memory(bytes.data(), std::uint32_t(bytes.size()), &node);
+  const bool bounded = isWithinBounds(*bytes);
+  if (bounded) plist_from_memory(bytes->data(), std::uint32_t(bytes->size()), &node);
   if (node == nullptr) {
     *error = path.string() +
              (bounded ? ": is no property list"

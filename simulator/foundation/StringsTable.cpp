@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 
 #include "simulator/foundation/PropertyListNode.h"
 #include "simulator/foundation/Unicode.h"
+#include "simulator/phone/FileContent.h"
 
 namespace sim {
 namespace {
@@ -193,9 +192,8 @@ std::optional<StringsTable> readStrings(const std::filesystem::path& path) {
     if (plist_get_node_type(root.get()) != PLIST_DICT) return std::nullopt;
     return tableOf(root.get());
   }
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes(std::istreambuf_iterator<char>(file), {});
-  return file ? parseStrings(bytes) : std::nullopt;
+  const auto bytes = fileContent(path);
+  return bytes ? parseStrings(*bytes) : std::nullopt;
 }
 
 }  // namespace sim

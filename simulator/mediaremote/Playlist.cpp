@@ -2,10 +2,9 @@
 
 #include <charconv>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <optional>
 
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/Journal.h"
 
 namespace sim {
@@ -117,11 +116,9 @@ std::vector<Track> parsePlaylist(std::string_view content, const std::string& na
 }
 
 std::vector<Track> readPlaylist(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw PlaylistError(file.string(), 0, "cannot be opened");
-  const std::string content{std::istreambuf_iterator<char>(stream), {}};
-  if (stream.bad()) throw PlaylistError(file.string(), 0, "cannot be read");
-  return parsePlaylist(content, file.string());
+  const auto content = fileContent(file);
+  if (!content) throw PlaylistError(file.string(), 0, "cannot be read");
+  return parsePlaylist(*content, file.string());
 }
 
 }  // namespace sim

@@ -7,13 +7,12 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <random>
 #include <system_error>
 
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/TemporaryFolder.h"
 #include "simulator/program/EndSignals.h"
 #include "simulator/program/ServingProcess.h"
@@ -39,9 +38,9 @@ std::string newEpoch() {
 }
 
 std::string contentOf(const files::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::system_error(errno, std::generic_category(), file.string());
-  return {std::istreambuf_iterator<char>(stream), {}};
+  auto content = fileContent(file);
+  if (!content) throw std::system_error(errno, std::generic_category(), file.string());
+  return *std::move(content);
 }
 
 // Empty: none.

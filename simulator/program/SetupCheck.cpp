@@ -8,10 +8,10 @@
 #include <cerrno>
 #include <csignal>
 #include <fstream>
-#include <iterator>
 #include <regex>
 #include <system_error>
 
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/TemporaryFolder.h"
 #include "simulator/phone/script/Script.h"
 #include "simulator/serve/RequestError.h"
@@ -114,8 +114,7 @@ void check(const ServeState& state, const std::vector<std::string>& setup) {
   stream.close();
   const files::path output = folder.path() / "output";
   if (run(playWords(state, script), output) == 0) return;
-  std::ifstream printed(output, std::ios::binary);
-  throw refusal({std::istreambuf_iterator<char>(printed), {}}, setup.size());
+  throw refusal(fileContent(output).value_or(""), setup.size());
 }
 
 }  // namespace

@@ -54,9 +54,18 @@ TEST_F(SettingsAppTest, AnUnreadableFileIsSetAside) {
 }
 
 TEST_F(SettingsAppTest, AFileThatCannotBeWrittenIsAnError) {
-  // A folder is where the file would be.
-  std::filesystem::create_directories(file() / "inside");
+  // A file is where its folder would be.
+  const auto folder = file().parent_path();
+  std::filesystem::create_directories(folder.parent_path());
+  std::ofstream(folder) << "no folder";
   EXPECT_THROW(writeSetting(file(), "one", 1L), std::runtime_error);
+}
+
+TEST_F(SettingsAppTest, AFolderInPlaceOfTheFileIsKeptAside) {
+  std::filesystem::create_directories(file() / "inside");
+  writeSetting(file(), "one", 1L);
+  EXPECT_TRUE(std::filesystem::is_regular_file(file()));
+  EXPECT_TRUE(std::filesystem::is_directory(file().string() + ".corrupt/inside"));
 }
 
 }  // namespace

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/script/Utf8.h"
 #include "simulator/phone/script/WordReader.h"
 
@@ -55,10 +54,9 @@ std::vector<ScriptLine> parseScript(std::string_view text) {
 std::vector<ScriptLine> readScript(const std::filesystem::path& file) {
   if (std::filesystem::is_directory(file))
     throw std::runtime_error(file.string() + ": is a folder, not a script");
-  std::ifstream stream(file, std::ios::binary);
-  const std::string text(std::istreambuf_iterator<char>(stream), {});
-  if (!stream) throw std::runtime_error(file.string() + ": " + std::strerror(errno));
-  return parseScript(text);
+  const auto text = fileContent(file);
+  if (!text) throw std::runtime_error(file.string() + ": " + std::strerror(errno));
+  return parseScript(*text);
 }
 
 }  // namespace sim

@@ -1,8 +1,6 @@
 #include "simulator/quartzcore/caml/PackageFiles.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
@@ -11,6 +9,7 @@
 #include "simulator/foundation/NSNumber.h"
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/caml/Reader.h"
@@ -22,11 +21,9 @@ using objc::Object;
 
 std::string contentOf(const std::string& path) {
   const auto file = Phone::current().file(path);
-  std::error_code problem;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || !std::filesystem::is_regular_file(file, problem))
-    throw PackageError(path + ": there is no such file");
-  return {std::istreambuf_iterator<char>(stream), {}};
+  auto content = fileContent(file);
+  if (!content) throw PackageError(path + ": there is no such file");
+  return *std::move(content);
 }
 
 objc::Strong<Object> layerOf(const std::string& path, const std::string& folder) {

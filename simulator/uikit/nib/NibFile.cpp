@@ -1,12 +1,11 @@
 #include "simulator/uikit/nib/NibFile.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/phone/FileContent.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/uikit/nib/NibConnections.h"
 #include "tools/nibc/nib/Reader.h"
@@ -69,9 +68,9 @@ NibFile NibFile::named(Object name, Object givenBundle) {
       givenBundle ? givenBundle : objc::send<Object, "mainBundle">(objc_getClass("NSBundle"));
   const Object path = objc::send<Object, "pathForResource:ofType:">(bundle, name, string("nib"));
   const auto file = path ? layoutFile(Phone::current().file(text(path))) : std::filesystem::path();
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) couldNotLoad(bundle, text(name));
-  return {{std::istreambuf_iterator<char>(stream), {}}, text(name), objc::retain(bundle)};
+  const auto content = fileContent(file);
+  if (!content) couldNotLoad(bundle, text(name));
+  return {*content, text(name), objc::retain(bundle)};
 }
 
 // In the platform's order: what connections refer to is made first, and connected last.

@@ -193,11 +193,16 @@ export async function andCommand(page, text, act) {
   await answered;
 }
 
-// Does something that has the host's process begin anew, and waits until the page knows the new one.
+// Does something that has the host's process begin anew, and waits until the page knows the new
+// one.
 export async function andRestart(page, act) {
   const watched = await page.evaluateHandle(async () => {
     const { state } = await import("/main.js");
-    return { told: new Promise((resolve) => state.on("snapshot", resolve)) };
+    return {
+      told: new Promise((resolve) => {
+        state.on("snapshot", resolve);
+      }),
+    };
   });
   await act();
   await watched.evaluate(({ told }) => told.then(() => true));

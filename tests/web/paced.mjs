@@ -17,7 +17,9 @@ test("an act is not followed by the next one too soon", async () => {
   const every = 60;
   const acts = [];
   let done;
-  const third = new Promise((resolve) => (done = resolve));
+  const third = new Promise((resolve) => {
+    done = resolve;
+  });
   const act = paced(every, () => {
     acts.push(performance.now());
     if (acts.length === 3) return done();

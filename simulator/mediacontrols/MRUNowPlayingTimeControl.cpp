@@ -25,7 +25,7 @@ Object clockTime(const char* sign, double seconds) {
 }  // namespace
 
 Object MRUNowPlayingTimeControl::initWithFrame(CGRect frame) {
-  constexpr long right = 2;
+  constexpr long right = 2, playback = 1;
   const auto made = super<Object, "initWithFrame:">(frame);
   track = addView(made, "UIView");
   fill(track, whiteColor(0.2), lineHeight / 2);
@@ -33,6 +33,9 @@ Object MRUNowPlayingTimeControl::initWithFrame(CGRect frame) {
   fill(progress, whiteColor(0.8), lineHeight / 2);
   elapsedLabel = addLabel(made, {.points = 11, .alpha = 0.6});
   remainingLabel = addLabel(made, {.points = 11, .alpha = 0.6, .alignment = right});
+  // Music runs from left to right in every language, and the sign stays before its number.
+  for (const Object label : {elapsedLabel.get(), remainingLabel.get()})
+    objc::send<void, "setSemanticContentAttribute:">(label, playback);
   return made;
 }
 

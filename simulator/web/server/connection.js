@@ -1,16 +1,6 @@
 // The stream of changes, kept open: whatever happens to the server, the page goes on trying.
+import { parts } from "./state.js";
 
-const names = [
-  "clock",
-  "phone",
-  "player",
-  "setup",
-  "settings",
-  "audio",
-  "script",
-  "journal",
-  "scene",
-];
 const goneAfter = 2500; // milliseconds without an answer until the server counts as gone
 const retryEvery = 1000; // milliseconds
 const retrySoon = 150; // milliseconds: a server that restarts keeps its port open
@@ -42,7 +32,7 @@ export class Connection extends EventTarget {
       this.#state.takeSnapshot(JSON.parse(event.data));
       this.#become("open");
     });
-    for (const name of names)
+    for (const name of parts)
       source.addEventListener(name, (event) => this.#state.take(name, JSON.parse(event.data)));
     source.addEventListener("error", () => this.#lost(source));
   }

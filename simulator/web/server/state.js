@@ -1,6 +1,19 @@
 // What the server has told of the phone. Parts of the page listen to the event of the part's name;
 // its detail is what came: whole, if `event.whole`.
 
+// What the server tells of, each by an event of that name; a snapshot has them all.
+export const parts = [
+  "clock",
+  "phone",
+  "player",
+  "setup",
+  "settings",
+  "audio",
+  "script",
+  "journal",
+  "scene",
+];
+
 const keptEntries = 20_000;
 
 export class PhoneState extends EventTarget {
@@ -44,18 +57,7 @@ export class PhoneState extends EventTarget {
   takeSnapshot(snapshot) {
     const fresh = this.epoch !== snapshot.epoch;
     this.epoch = snapshot.epoch;
-    for (const name of [
-      "clock",
-      "phone",
-      "player",
-      "setup",
-      "settings",
-      "audio",
-      "script",
-      "journal",
-      "scene",
-    ])
-      this.take(name, snapshot[name], true);
+    for (const name of parts) this.take(name, snapshot[name], true);
     this.#tell("snapshot", snapshot, fresh);
   }
 

@@ -1,6 +1,7 @@
 #include "simulator/phone/Host.h"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include "objc/Ownership.h"
 #include "simulator/Frameworks.h"
@@ -9,6 +10,28 @@
 #include "simulator/phone/script/Tracing.h"
 
 namespace sim {
+namespace {
+
+// A name is looked up in everything that the extension links, the C library among it; only the
+// image that holds the address tells whose it is.
+bool isHeldBy(void* handle, void* address) {
+  const link_map* own = nullptr;
+  Dl_info unused;
+  void* holder = nullptr;
+  return dlinfo(handle, RTLD_DI_LINKMAP, &own) == 0 &&
+         dladdr1(address, &unused, &holder, RTLD_DL_LINKMAP) != 0 && holder == own;
+}
+
+Host::Symbol described(void* address) {
+  Dl_info unused;
+  void* entry = nullptr;
+  dladdr1(address, &unused, &entry, RTLD_DL_SYMENT);
+  const auto* symbol = static_cast<const ElfW(Sym)*>(entry);
+  const bool isVariable = symbol != nullptr && ELF64_ST_TYPE(symbol->st_info) == STT_OBJECT;
+  return {address, isVariable, isVariable ? std::size_t(symbol->st_size) : 0};
+}
+
+}  // namespace
 
 void Host::registerClasses() {
   if (registered_) return;
@@ -35,11 +58,12 @@ void Host::load(const std::filesystem::path& extension) {
   handles_.push_back(handle);
 }
 
-void* Host::symbol(const char* name) const {
+std::optional<Host::Symbol> Host::symbol(const char* name) const {
   for (void* handle : handles_) {
-    if (void* found = dlsym(handle, name)) return found;
+    void* found = dlsym(handle, name);
+    if (found != nullptr && isHeldBy(handle, found)) return described(found);
   }
-  return nullptr;
+  return std::nullopt;
 }
 
 }  // namespace sim

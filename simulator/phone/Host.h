@@ -1,7 +1,9 @@
 // The host process: the home screen's application with the extensions loaded into it.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -25,8 +27,14 @@ class Host {
   void launch();
   bool isLaunched() const { return launched_; }
 
-  // What an extension exports under that name; nullptr when none does.
-  void* symbol(const char* name) const;
+  struct Symbol {
+    void* address;
+    bool isVariable;
+    std::size_t size;  // bytes, of a variable
+  };
+  // What an extension itself exports under that name: never what comes from a library that it
+  // links, or from this program. Nothing when none does.
+  std::optional<Symbol> symbol(const char* name) const;
 
   const std::vector<std::filesystem::path>& extensions() const { return extensions_; }
 

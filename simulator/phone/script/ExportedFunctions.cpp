@@ -1,5 +1,7 @@
 #include "simulator/phone/script/ExportedFunctions.h"
 
+#include <stdexcept>
+
 #include "simulator/foundation/TypeEncoding.h"
 
 namespace sim {
@@ -14,7 +16,9 @@ ExportedFunctions::ExportedFunctions()
 
 void ExportedFunctions::declare(const std::string& name, const std::string& types) {
   parseFunctionTypes(types);
-  types_.insert_or_assign(name, types);
+  const auto [known, isNew] = types_.emplace(name, types);
+  if (!isNew && normalizedTypes(known->second) != normalizedTypes(types))
+    throw std::invalid_argument(name + " has the types \"" + known->second + '"');
 }
 
 const std::string* ExportedFunctions::types(std::string_view name) const {

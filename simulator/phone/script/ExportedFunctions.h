@@ -12,7 +12,8 @@ class ExportedFunctions {
   // Knows the functions that this project's extension exports.
   ExportedFunctions();
 
-  // `types` is an encoding: result, arguments. Throws std::invalid_argument when it is none.
+  // `types` is an encoding: result, arguments. Throws std::invalid_argument when it is none, or
+  // when the function is known with other types: a call with wrong ones would destroy the phone.
   void declare(const std::string& name, const std::string& types);
   // nullptr when the function is not declared.
   const std::string* types(std::string_view name) const;

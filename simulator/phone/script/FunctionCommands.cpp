@@ -9,10 +9,28 @@
 namespace sim {
 namespace {
 
-void* exportedSymbol(const Word& name) {
-  void* found = Session::current().host.symbol(name.text.c_str());
-  if (found == nullptr) throw ScriptError(name.column, "no loaded extension exports " + name.text);
-  return found;
+Host::Symbol exportedSymbol(const Word& name) {
+  const auto found = Session::current().host.symbol(name.text.c_str());
+  if (!found) throw ScriptError(name.column, "no loaded extension exports " + name.text);
+  return *found;
+}
+
+void* exportedFunction(const Word& name) {
+  const Host::Symbol symbol = exportedSymbol(name);
+  if (symbol.isVariable)
+    throw ScriptError(name.column, "expected a function, " + name.text + " is a variable");
+  return symbol.address;
+}
+
+const void* exportedVariable(const Word& name, const TypeEncoding& type) {
+  const Host::Symbol symbol = exportedSymbol(name);
+  if (!symbol.isVariable)
+    throw ScriptError(name.column, "expected a variable, " + name.text + " is a function");
+  if (symbol.size != type.size())
+    throw ScriptError(name.column, name.text + " is of " + std::to_string(symbol.size) +
+                                       " bytes, the type " + type.text + " of " +
+                                       std::to_string(type.size()));
+  return symbol.address;
 }
 
 void call(Arguments& arguments) {
@@ -45,7 +63,7 @@ void expectVariable(Arguments& arguments) {
   const double tolerance = readTolerance(arguments);
   arguments.finish();
   Value found(type);
-  std::memcpy(found.bytes(), exportedSymbol(name), type.size());
+  std::memcpy(found.bytes(), exportedVariable(name, type), type.size());
   found.keepObject();
   requireMatch(found, expected, tolerance, name.text);
 }
@@ -54,7 +72,7 @@ void expectVariable(Arguments& arguments) {
 
 Value readCall(Arguments& arguments) {
   const Word name = arguments.word("a function");
-  void* function = exportedSymbol(name);
+  void* function = exportedFunction(name);
   const std::string* types = Session::current().functions.types(name.text);
   if (types == nullptr)
     throw ScriptError(name.column, "the types of " + name.text + " are not known: declare them");
@@ -64,9 +82,13 @@ Value readCall(Arguments& arguments) {
 
 void addFunctionCommands(CommandTable& table) {
   table.add({"call", Stage::running, "call FUNCTION [ARGUMENTS…]", "call timeFormatted 3725",
-             "Calls a C function that an extension exports; its result is the last value.", call});
-  table.add({"declare", Stage::any, "declare FUNCTION ENCODING", "declare timeFormatted \"@i\"",
-             "Says what a function gives and takes, for `call`: result and arguments.", declare});
+             "Calls a C function that an extension itself exports; its result is the last value.",
+             call});
+  table.add(
+      {"declare", Stage::any, "declare FUNCTION ENCODING", "declare timeFormatted \"@i\"",
+       "Says what a function gives and takes, for `call`: result and arguments. Types that are "
+       "known already cannot be changed.",
+       declare});
   table.add({"expect-variable", Stage::running,
              "expect-variable NAME ENCODING VALUE [within TOLERANCE]",
              "expect-variable shouldReplaceRoutingActionByDozewell B NO",

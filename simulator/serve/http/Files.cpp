@@ -39,8 +39,9 @@ const std::map<std::string, std::string, std::less<>> mimeTypes = {
 
 class OpenFile {
  public:
+  // A pipe is none, and nobody waits for its other end.
   explicit OpenFile(const files::path& path)
-      : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
+      : descriptor_(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {
     if (descriptor_ < 0 || fstat(descriptor_, &status_) != 0 || !S_ISREG(status_.st_mode))
       failToFind(path.filename().string());
   }

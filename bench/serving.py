@@ -14,6 +14,7 @@ import statistics
 import subprocess
 import sys
 import time
+import urllib.parse
 
 TOUCHES = 500
 IDLE_SECONDS = 10
@@ -26,14 +27,18 @@ class Server:
     def __init__(self, program):
         self.process = subprocess.Popen(
             [program, "serve", "--port", "0"], stdout=subprocess.PIPE, text=True)
-        self.port = int(self.process.stdout.readline().rsplit(":", 1)[1].strip("/\n"))
+        # "The phone is at http://127.0.0.1:8420/0123456789abcdef/?token=…"
+        address = urllib.parse.urlsplit(self.process.stdout.readline().split()[-1])
+        self.port = address.port
+        token = urllib.parse.parse_qs(address.query)["token"][0]
+        self.secret = {"Authorization": "Bearer " + token}
         self.connection = http.client.HTTPConnection("127.0.0.1", self.port)
         self.connection.connect()
         self.connection.sock.setsockopt(socket.IPPROTO_TCP, socket.TCP_NODELAY, 1)
 
     def post(self, path, body):
         self.connection.request("POST", path, json.dumps(body),
-                                {"Content-Type": "application/json"})
+                                {"Content-Type": "application/json", **self.secret})
         answer = self.connection.getresponse()
         text = answer.read()
         if answer.status != 200:
@@ -62,9 +67,11 @@ class Server:
 class Page:
     """Watches, and counts what it is sent."""
 
-    def __init__(self, port):
-        self.socket = socket.create_connection(("127.0.0.1", port))
-        self.socket.sendall(f"GET /api/events HTTP/1.1\r\nHost: 127.0.0.1:{port}\r\n\r\n".encode())
+    def __init__(self, server):
+        self.socket = socket.create_connection(("127.0.0.1", server.port))
+        headers = {"Host": f"127.0.0.1:{server.port}", **server.secret}
+        lines = [f"{name}: {value}" for name, value in headers.items()]
+        self.socket.sendall("\r\n".join(["GET /api/events HTTP/1.1", *lines, "", ""]).encode())
         self.text = b""
         self.bytes = 0
         self.wait_for(b"event: snapshot")
@@ -148,7 +155,7 @@ def main():
         sys.exit(__doc__)
     server = Server(sys.argv[1])
     try:
-        page = Page(server.port)
+        page = Page(server)
         measure_idle(server, page)
         measure_touches(server, page)
         measure_turn(server, page)

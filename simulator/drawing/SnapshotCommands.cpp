@@ -1,6 +1,5 @@
 // Script commands that draw the phone's screen.
 #include <cstdlib>
-#include <fstream>
 #include <string>
 
 #include "simulator/drawing/Png.h"
@@ -8,7 +7,6 @@
 #include "simulator/drawing/SceneBuilder.h"
 #include "simulator/drawing/SvgWriter.h"
 #include "simulator/foundation/Kind.h"
-#include "simulator/phone/FileContent.h"
 #include "simulator/phone/script/Command.h"
 #include "simulator/phone/script/Session.h"
 #include "simulator/phone/script/Target.h"
@@ -20,14 +18,12 @@ namespace {
 
 using std::filesystem::path;
 
-path besideTheScript(const std::string& file) {
-  return Session::current().options.script.parent_path() / file;
+const ScriptFiles& scriptFiles() {
+  return Session::current().phone.setup.files;
 }
 
-void write(const path& file, const std::string& text) {
-  std::ofstream stream(file, std::ios::binary);
-  stream << text;
-  if (!stream.flush()) throw ScriptError(0, file.string() + " cannot be written");
+std::string endingOf(const Word& file) {
+  return path(file.text).extension().string();
 }
 
 // The screen, or the view that the next word names.
@@ -45,15 +41,11 @@ scene::Node drawnScene(Arguments& words) {
 
 void snapshot(Arguments& words) {
   const Word word = words.word("a file, .svg or .png");
-  const path file = besideTheScript(word.text);
-  const bool isPng = file.extension() == ".png";
-  if (!isPng && file.extension() != ".svg")
+  const bool isPng = endingOf(word) == ".png";
+  if (!isPng && endingOf(word) != ".svg")
     throw ScriptError(word.column, "expected a file, .svg or .png, found " + word.text);
   const std::string svg = svgDocument(drawnScene(words), embeddedImage);
-  if (isPng)
-    writePng(svg, file, UIScreen::mainScale);
-  else
-    write(file, svg);
+  scriptFiles().write(word, isPng ? pngOf(svg, UIScreen::mainScale) : svg);
 }
 
 // Set and not empty: references are written, not compared.
@@ -62,10 +54,10 @@ bool updatesReferences() {
   return value != nullptr && *value != '\0';
 }
 
-std::string contentsOf(const path& file) {
-  auto content = fileContent(file);
+std::string contentsOf(const Word& file) {
+  auto content = scriptFiles().read(file);
   if (!content)
-    throw ScriptError(0, "there is no " + file.string() +
+    throw ScriptError(0, "there is no " + scriptFiles().shown(file) +
                              ": with DOZEWELL_UPDATE_SNAPSHOTS=1 in the environment the script "
                              "writes it");
   return *std::move(content);
@@ -73,15 +65,15 @@ std::string contentsOf(const path& file) {
 
 void expectSnapshot(Arguments& words) {
   const Word word = words.word("an .svg file");
-  const path file = besideTheScript(word.text);
-  if (file.extension() != ".svg")
+  if (endingOf(word) != ".svg")
     throw ScriptError(word.column, "expected an .svg file, found " + word.text);
   const std::string drawn = svgDocument(drawnScene(words), namedImage);
-  if (updatesReferences()) return write(file, drawn);
-  const auto difference = firstDifference(contentsOf(file), drawn);
+  if (updatesReferences()) return scriptFiles().write(word, drawn);
+  const auto difference = firstDifference(contentsOf(word), drawn);
   if (!difference) return;
-  path actual = file;
-  write(actual.replace_extension(".actual.svg"), drawn);
+  path actual = word.text;
+  actual.replace_extension(".actual.svg");
+  scriptFiles().write({actual.string(), word.quoted, word.column}, drawn);
   throw ScriptError(word.column, "what is drawn is not as in " + word.text + ": " + *difference +
                                      "; all of it is in " + actual.filename().string());
 }

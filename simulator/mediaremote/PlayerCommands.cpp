@@ -36,13 +36,20 @@ void playlist(Arguments& words) {
   startPlaylist(std::move(tracks));
 }
 
+std::vector<Track> tracksIn(const Word& file, const std::string& shown) {
+  const auto content = Phone::current().setup.files.read(file);
+  if (!content) throw PlaylistError(shown, 0, "cannot be read");
+  return parsePlaylist(*content, shown);
+}
+
 void playlistFile(Arguments& words) {
-  const std::string named = words.text("the path of an M3U file");
+  const Word named = words.word("the path of an M3U file");
   words.finish();
-  const std::string file = Phone::current().setup.playlist.value_or(named).string();
+  const Setup& setup = Phone::current().setup;
+  const std::string shown = setup.playlist ? setup.playlist->string() : setup.files.shown(named);
   try {
-    auto tracks = readPlaylist(file);
-    if (tracks.empty()) throw PlaylistError(file, 0, "names no track");
+    auto tracks = setup.playlist ? readPlaylist(*setup.playlist) : tracksIn(named, shown);
+    if (tracks.empty()) throw PlaylistError(shown, 0, "names no track");
     startPlaylist(std::move(tracks));
   } catch (const PlaylistError& error) {
     throw ScriptError(0, error.what());
@@ -172,10 +179,11 @@ void addPlayerCommands(CommandTable& table) {
              "playlist \"A\" 180 \"B\" 200 by \"The Band\"",
              "Loads tracks and plays the first; before boot the music starts with the host.",
              playlist});
-  table.add({"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",
-             "Loads the tracks of an M3U playlist of this machine, or of the one that the option "
-             "--playlist names, and plays the first.",
-             playlistFile});
+  table.add(
+      {"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",
+       "Loads the tracks of an M3U playlist, a file beside the script, or of the one that the "
+       "option --playlist names, and plays the first.",
+       playlistFile});
   table.add({"repeat-one", Stage::any, "repeat-one YES|NO", "repeat-one YES",
              "Whether a track that ends begins again.", [](Arguments& words) {
                const bool repeats = words.yesOrNo("whether to repeat");

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "simulator/phone/script/ScriptFiles.h"
+
 namespace sim {
 
 struct Setup {
@@ -18,6 +20,7 @@ struct Setup {
   std::string processName = "SpringBoard";
   long feedbackSupportLevel = 2;                  // UIDevice _feedbackSupportLevel, 0 to 2
   std::optional<std::filesystem::path> playlist;  // M3U, instead of those that scripts name
+  ScriptFiles files = ScriptFiles::from({});      // those that scripts name
   std::set<std::string, std::less<>> missingClasses;
   // "SBMediaController pause": the class exists without this method.
   std::set<std::string, std::less<>> missingMethods;

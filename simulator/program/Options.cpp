@@ -1,6 +1,7 @@
 #include "simulator/program/Options.h"
 
 #include <charconv>
+#include <cstdlib>
 #include <map>
 
 namespace sim {
@@ -11,6 +12,10 @@ const std::map<std::string, Action> actions = {
     {"serve", Action::serve},       {"serve-on", Action::goOnServing},
     {"fidelity", Action::fidelity}, {"commands", Action::commands},
 };
+
+// Instead of --token, which everybody on the machine sees in the list of its processes.
+constexpr const char* tokenVariable = "DOZEWELL_TOKEN";
+constexpr std::size_t longestToken = 200;
 
 // Beside the program: where the build and the installation put it.
 std::filesystem::path ownFolder() {
@@ -60,6 +65,8 @@ class Parser {
       options_.extensions.emplace_back(valueOf(word));
     else if (word == "--package")
       options_.package = valueOf(word);
+    else if (word == "--folder")
+      options_.folder = folderFrom(valueOf(word));
     else
       return false;
     return true;
@@ -88,6 +95,8 @@ class Parser {
       options_.music = false;
     else if (word == "--paused")
       options_.paused = true;
+    else if (word == "--token")
+      options_.token = tokenFrom(word, valueOf(word));
     else
       return false;
     return true;
@@ -102,6 +111,23 @@ class Parser {
     return port;
   }
 
+  static std::filesystem::path folderFrom(const std::string& word) {
+    if (!std::filesystem::is_directory(word))
+      throw UsageError("--folder needs a folder that is there, found " + word);
+    return std::filesystem::canonical(word);
+  }
+
+  // What stands in an address and in a cookie as it is.
+  static std::string tokenFrom(const std::string& source, const std::string& word) {
+    constexpr std::string_view allowed =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~";
+    if (word.empty() || word.size() > longestToken ||
+        word.find_first_not_of(allowed) != std::string::npos)
+      throw UsageError(source + " needs up to " + std::to_string(longestToken) +
+                       " letters, digits and -._~");
+    return word;
+  }
+
   const std::string& valueOf(const std::string& option) {
     if (++at_ == words_.size()) throw UsageError(option + " needs a value");
     return words_[at_];
@@ -109,6 +135,9 @@ class Parser {
 
   void complete() {
     requireFiles();
+    if (const char* token = std::getenv(tokenVariable);
+        token != nullptr && options_.action == Action::serve && !options_.token)
+      options_.token = tokenFrom(std::string(tokenVariable) + " in the environment", token);
     if (options_.root && options_.files.size() > 1)
       throw UsageError("--root is for one script: each needs a phone of its own");
     if (withoutExtension_ && !options_.extensions.empty())
@@ -158,7 +187,7 @@ std::string usageText() {
        dozewell-simulator fidelity | commands | --help
 
 serve     a phone in the browser, on this machine only, that plays the music of the folder; prints
-          its address
+          its address, which holds a secret: nobody is let in without it
 play      plays phone scripts, each against a fresh phone in virtual time, and prints what the
           phone does; docs/phone-scripts.md describes the language
 fidelity  prints how faithful the simulated phone is, as Markdown
@@ -169,12 +198,18 @@ commands  prints the reference of the script language, as Markdown
   --no-tweak       a phone without extensions
   --package DIR    the files to install on the phone, as they lie there; without it, and without
                    the options above, the extension's own
+  --folder DIR     scripts read and write files below this folder only; without it, `play` takes
+                   any file, relative to the script, and `serve` a folder that is gone at the end
 
 To serve:
   --port N         listen there; without it, at 8420 or the next one that is free
   --script FILE    begin with this phone script, to be played step by step
   --no-music       a phone with nothing to play
   --paused         time stands still until somebody starts it
+  --token TEXT     the secret in the address, for scripts and for pages that are to go on when
+                   this program is started again; others on this machine see it in the list of
+                   processes, but not if it is given in the environment as DOZEWELL_TOKEN; without
+                   both, a new one at each start
   --web DIR        the page's files; without it, those beside this program
 
 To play:

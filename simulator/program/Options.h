@@ -31,6 +31,8 @@ struct Options {
   std::optional<std::filesystem::path> package;  // what is installed on the phone, as it lies there
   std::optional<std::filesystem::path> root;     // none: a temporary folder
   std::optional<std::filesystem::path> playlist;  // instead of the scripts' own
+  // All that scripts may name; none: for `play` anything, for `serve` a temporary folder.
+  std::optional<std::filesystem::path> folder;
   bool quiet = false;
 
   std::optional<int> port;                      // none: a usual one that is free
@@ -38,6 +40,7 @@ struct Options {
   std::optional<std::filesystem::path> script;  // to be played step by step
   bool music = true;                            // false: nothing to play, no folder
   bool paused = false;                          // time waits for somebody to start it
+  std::optional<std::string> token;             // the secret; none: a new one, by chance
 };
 
 // Throws UsageError.

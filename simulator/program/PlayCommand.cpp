@@ -73,8 +73,9 @@ int playScripts(const Options& options) {
     const auto root = options.root.value_or(temporary.path() / "phone");
     std::filesystem::create_directories(root);
     if (options.package) installPackage(*options.package, root);
-    worst = std::max(worst, playInChild({script, std::filesystem::canonical(root),
-                                         options.extensions, options.playlist, options.quiet}));
+    worst =
+        std::max(worst, playInChild({script, std::filesystem::canonical(root), options.extensions,
+                                     options.playlist, options.folder, options.quiet}));
   }
   return worst;
 }

@@ -9,13 +9,13 @@
 #include <cstring>
 #include <iostream>
 #include <nlohmann/json.hpp>
-#include <random>
 #include <system_error>
 
 #include "simulator/phone/FileContent.h"
 #include "simulator/phone/TemporaryFolder.h"
 #include "simulator/program/EndSignals.h"
 #include "simulator/program/ServingProcess.h"
+#include "simulator/serve/http/Access.h"
 #include "simulator/serve/http/Listener.h"
 
 namespace sim {
@@ -26,15 +26,6 @@ namespace {
 
 files::path beside(const char* folder) {
   return files::read_symlink("/proc/self/exe").parent_path().parent_path() / folder;
-}
-
-// Pages recognise by it that it is another phone than the one they knew.
-std::string newEpoch() {
-  constexpr std::string_view digits = "0123456789abcdef";
-  std::random_device random;
-  std::string epoch;
-  for (int count = 0; count < 8; ++count) epoch += digits[random() % digits.size()];
-  return epoch;
 }
 
 std::string contentOf(const files::path& file) {
@@ -52,15 +43,26 @@ std::optional<files::path> musicOf(const Options& options) {
   return files::canonical(folder);
 }
 
-ServeState stateFrom(const Options& options, const Listener& listener, const files::path& root) {
+// Nobody else can look into the temporary folder.
+files::path folderOf(const Options& options, const files::path& temporary) {
+  if (options.folder) return *options.folder;
+  files::create_directory(temporary / "files");
+  return files::canonical(temporary / "files");
+}
+
+ServeState stateFrom(const Options& options, const Listener& listener,
+                     const files::path& temporary) {
   ServeState state;
   state.listener = listener.descriptor();
-  state.root = root;
+  state.root = temporary / "phone";
+  state.folder = folderOf(options, temporary);
+  state.token = options.token ? *options.token : randomDigits(32);
+  state.place = randomDigits(placeDigits);
   state.extensions = options.extensions;
   state.package = options.package;
   state.music = musicOf(options);
   state.web = files::canonical(options.web.value_or(beside("web")));
-  state.epoch = newEpoch();
+  state.epoch = randomDigits(8);
   state.paused = options.paused;
   if (options.script) {
     state.script.emplace();
@@ -99,7 +101,7 @@ int waitForEnd() {
 int servePhone(const Options& options) {
   const TemporaryFolder temporary;
   const Listener listener = Listener::open(options.port);
-  const ServeState state = stateFrom(options, listener, temporary.path() / "phone");
+  const ServeState state = stateFrom(options, listener, temporary.path());
   std::cout.flush();
   EndSignals::block();  // none is lost between the two processes' beginnings
   served = fork();

@@ -56,13 +56,15 @@ class ServingProcess {
  public:
   explicit ServingProcess(const ServeState& state)
       : listener_(Listener::adopt(state.listener)),
+        access_(state.token, state.place),
         library_(libraryOf(state)),
         phone_(state, library_, inbox_,
                [this](const nlohmann::json& answer, const files::path& stateFile) {
                  leave(answer, stateFile);
                }) {
-    guard(server_, listener_.port());
-    addApi(router_, {inbox_, server_, library_, state.web, state.root, setupCheck(state)});
+    guard(server_, listener_.port(), access_);
+    addApi(router_, {inbox_, server_, access_, library_, state.web, state.root, state.folder,
+                     setupCheck(state)});
     router_.serve(server_);
   }
 
@@ -76,7 +78,8 @@ class ServingProcess {
   }
 
   void printAddress() const {
-    std::cout << "The phone is at http://127.0.0.1:" << listener_.port() << "/" << std::endl;
+    std::cout << "The phone is at http://127.0.0.1:" << listener_.port() << access_.entrance()
+              << std::endl;
   }
 
  private:
@@ -92,6 +95,7 @@ class ServingProcess {
   }
 
   Listener listener_;
+  Access access_;
   MusicLibrary library_;
   Inbox inbox_;
   Router router_;

@@ -28,6 +28,8 @@ std::vector<std::string> playWords(const ServeState& state, const files::path& s
     words.insert(words.end(), {"--tweak", extension.string()});
   if (state.extensions.empty()) words.emplace_back("--no-tweak");
   if (state.package) words.insert(words.end(), {"--package", state.package->string()});
+  // What a page may not read it may not have read by another process, either.
+  words.insert(words.end(), {"--folder", state.folder.string()});
   words.push_back(script.string());
   return words;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "simulator/serve/Inbox.h"
+#include "simulator/serve/http/Access.h"
 #include "simulator/serve/http/HttpServer.h"
 #include "simulator/serve/http/Router.h"
 #include "simulator/serve/music/MusicLibrary.h"
@@ -17,9 +18,11 @@ namespace sim {
 struct ApiParts {
   Inbox& inbox;
   HttpServer& server;
+  const Access& access;
   const MusicLibrary& library;
   std::filesystem::path web;         // folder of the page
   std::filesystem::path phoneFiles;  // where the phone's "/" lies
+  std::filesystem::path folder;      // of the scripts' files
   // Plays the set-up on another phone; throws RequestError when it is wrong.
   std::function<void(const std::vector<std::string>& setup)> checkSetup;
 };
@@ -31,7 +34,7 @@ void addApi(Router& router, const ApiParts& parts);
 void addPhoneRoutes(Router& router, const ApiParts& parts);   // command, time, set-up, settings
 void addScriptRoutes(Router& router, const ApiParts& parts);  // recording, script
 void addEventRoutes(Router& router, const ApiParts& parts);   // events, audio-owner
-void addImageRoutes(Router& router, const ApiParts& parts);   // image, fonts
+void addImageRoutes(Router& router, const ApiParts& parts);   // image, picture, fonts
 void addFileRoutes(Router& router, const ApiParts& parts);    // music, cover, page
 
 }  // namespace sim

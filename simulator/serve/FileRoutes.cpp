@@ -46,8 +46,9 @@ void addFileRoutes(Router& router, const ApiParts& parts) {
     visit.response.set_content(cover->bytes, cover->mimeType);
   });
   // Last: the page may have files under any other name.
-  router.add("GET", "/", [web = parts.web](const Router::Visit& visit) {
-    answerFileOf(web, "index.html", visit.request, visit.response);
+  router.add("GET", "/", [web = parts.web, &access = parts.access](const Router::Visit& visit) {
+    if (access.welcome(visit.request, visit.response))
+      answerFileOf(web, "index.html", visit.request, visit.response);
   });
   router.addPage([web = parts.web](const Router::Visit& visit) {
     answerFileOf(web, visit.request.path.substr(1), visit.request, visit.response);

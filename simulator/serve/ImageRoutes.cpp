@@ -1,4 +1,4 @@
-// Pictures of the phone's own files, and the letters that its screen is measured with.
+// Pictures of the phone's own files and of its screen, and the letters that this is measured with.
 #include "simulator/serve/Api.h"
 #include "simulator/serve/http/Files.h"
 
@@ -18,6 +18,14 @@ void addImageRoutes(Router& router, const ApiParts& parts) {
     const std::string file = visit.request.get_param_value("file");
     if (!isPicture(file)) throw RequestError(400, "expected file, the phone's path of a .png");
     answerFileOf(root, file.substr(1), visit.request, visit.response);
+  });
+  // What scripts have drawn is somebody's file, not a part of the page.
+  router.add("GET", "/api/picture", [folder = parts.folder](const Router::Visit& visit) {
+    const std::string file = visit.request.get_param_value("file");
+    if (!file.ends_with(".png") && !file.ends_with(".svg"))
+      throw RequestError(400, "expected file, the name of a .png or .svg");
+    visit.response.set_header("Content-Disposition", "attachment");
+    answerFileOf(folder, file, visit.request, visit.response);
   });
   router.add("GET", "/fonts/", [](const Router::Visit& visit) {
     answerFileOf(fontFolder, visit.name, visit.request, visit.response);

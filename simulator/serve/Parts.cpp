@@ -60,6 +60,7 @@ void ServedPhone::addParts() {
   report_.addPart("player", [this] { return player_.now(); });
   report_.addPart("audio", [this] { return audioPart(); });
   report_.addPart("script", [this] { return scriptPart(); });
+  report_.addPart("pictures", [this] { return asJson(state_.pictures); });
   report_.addPart("setup", [this] { return setup(); });
   report_.addMemberwisePart("settings", [this] { return settings_.values(); });
 }

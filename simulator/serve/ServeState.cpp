@@ -49,6 +49,12 @@ json overview(const OpenScript& script) {
           {"error", std::move(failure)}};
 }
 
+json asJson(const std::vector<Picture>& pictures) {
+  json all = json::array();
+  for (const Picture& each : pictures) all.push_back({{"name", each.name}, {"n", each.number}});
+  return all;
+}
+
 json asJson(const ServeState& state) {
   json extensions = json::array();
   for (const auto& each : state.extensions) extensions.push_back(each.string());
@@ -58,6 +64,9 @@ json asJson(const ServeState& state) {
           {"package", state.package ? json(state.package->string()) : json()},
           {"music", state.music ? json(state.music->string()) : json()},
           {"web", state.web.string()},
+          {"folder", state.folder.string()},
+          {"token", state.token},
+          {"place", state.place},
           {"epoch", state.epoch},
           {"restarts", state.restarts},
           {"speed", state.speed},
@@ -66,7 +75,8 @@ json asJson(const ServeState& state) {
           {"setup", state.setup},
           {"settings", state.settings},
           {"recording", state.recording.save()},
-          {"script", asJson(state.script)}};
+          {"script", asJson(state.script)},
+          {"pictures", asJson(state.pictures)}};
 }
 
 ServeState serveStateFrom(const json& saved) {
@@ -80,6 +90,9 @@ ServeState serveStateFrom(const json& saved) {
   if (const json& music = saved.at("music"); !music.is_null())
     state.music = music.get<std::string>();
   state.web = saved.at("web").get<std::string>();
+  state.folder = saved.at("folder").get<std::string>();
+  saved.at("token").get_to(state.token);
+  saved.at("place").get_to(state.place);
   saved.at("epoch").get_to(state.epoch);
   saved.at("restarts").get_to(state.restarts);
   saved.at("speed").get_to(state.speed);
@@ -89,6 +102,8 @@ ServeState serveStateFrom(const json& saved) {
   saved.at("settings").get_to(state.settings);
   state.recording.restore(saved.at("recording"));
   state.script = scriptFrom(saved.at("script"));
+  for (const json& each : saved.at("pictures"))
+    state.pictures.push_back({each.at("name").get<std::string>(), each.at("n").get<long>()});
   return state;
 }
 

@@ -26,6 +26,12 @@ struct OpenScript {
   std::optional<Failure> failure;
 };
 
+// What a script has written into the session's folder.
+struct Picture {
+  std::string name;
+  long number = 0;  // greater than that of any written before
+};
+
 struct ServeState {
   int listener = -1;  // descriptor
   std::filesystem::path root;
@@ -33,7 +39,10 @@ struct ServeState {
   std::optional<std::filesystem::path> package;
   std::optional<std::filesystem::path> music;  // folder; none: nothing to play
   std::filesystem::path web;                   // folder
+  std::filesystem::path folder;                // all that scripts may name lies below it
 
+  std::string token;  // the secret that lets pages in
+  std::string place;  // first part of the page's path, see Access.h
   std::string epoch;  // of this server
   long restarts = 0;  // of its process
   double speed = 1;
@@ -44,6 +53,7 @@ struct ServeState {
   std::vector<std::string> settings;  // `set` lines kept from the phone before
   Recording recording;
   std::optional<OpenScript> script;
+  std::vector<Picture> pictures;  // in the order in which they were first written
 };
 
 nlohmann::json asJson(const ServeState& state);
@@ -52,5 +62,6 @@ ServeState serveStateFrom(const nlohmann::json& saved);
 
 // As pages see it, without its text.
 nlohmann::json overview(const OpenScript& script);
+nlohmann::json asJson(const std::vector<Picture>& pictures);
 
 }  // namespace sim

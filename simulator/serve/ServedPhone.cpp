@@ -21,7 +21,7 @@ constexpr std::chrono::microseconds frame{16'667};
 constexpr std::chrono::milliseconds slice{8};
 
 SessionOptions optionsOf(const ServeState& state) {
-  return {"the served phone", state.root, state.extensions, std::nullopt, true};
+  return {"the served phone", state.root, state.extensions, std::nullopt, state.folder, true};
 }
 
 bool isPlaylist(const std::string& line) {
@@ -40,6 +40,7 @@ ServedPhone::ServedPhone(ServeState state, const MusicLibrary& library, Inbox& i
       player_(library),
       report_(session_.phone.journal) {
   session_.relaunch = [this](const std::filesystem::path& file) { leaveInMiddle(file); };
+  session_.phone.setup.files.whenWritten = [this](const std::string& name) { notePicture(name); };
   session_.phone.survives("serve", {[this] { return asJson(state_); }, [](const json&) {}});
   pace_.setSpeed(state_.speed, steady_clock::now());
   pace_.setPaused(state_.paused, steady_clock::now());
@@ -150,6 +151,18 @@ void ServedPhone::play(const std::string& text) {
   if (name != "get" && name != "tree") recording.done(session_.phone.clock.uptime());
   if (wasOff || session_.phone.clock.uptime() != before) setOut();
   if (session_.phone.clock.wallAtZero() != wallBefore) report_.demand("clock");
+}
+
+void ServedPhone::notePicture(const std::string& name) {
+  auto& all = state_.pictures;
+  long number = 1;
+  for (const Picture& each : all) number = std::max(number, each.number + 1);
+  const auto known =
+      std::find_if(all.begin(), all.end(), [&](const Picture& each) { return each.name == name; });
+  if (known == all.end())
+    all.push_back({name, number});
+  else
+    known->number = number;
 }
 
 // The process ends where it stands; the journal, the recording and the rest go on in the next.

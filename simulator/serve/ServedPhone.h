@@ -95,6 +95,8 @@ class ServedPhone {
   std::optional<Moment> nextMoment() const;
   void tellWatchers(Moment now);
 
+  void notePicture(const std::string& name);
+
   void leaveInMiddle(const std::filesystem::path& stateFile);
   void leaveForFreshPhone(ServeState fresh);
 

@@ -2,12 +2,22 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
+#include <string>
+
+#include "simulator/serve/RequestError.h"
 
 namespace sim {
 
 bool Watchers::has(const std::string& page) const {
   return std::any_of(watchers_.begin(), watchers_.end(),
                      [&page](const Watcher& each) { return each->page() == page; });
+}
+
+void Watchers::add(const Watcher& watcher) {
+  if (std::find(watchers_.begin(), watchers_.end(), watcher) != watchers_.end()) return;
+  if (watchers_.size() >= most)
+    throw RequestError(503, "expected at most " + std::to_string(most) + " pages that watch");
+  watchers_.push_back(watcher);
 }
 
 void Watchers::remove(const Watcher& watcher) {

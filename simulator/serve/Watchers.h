@@ -15,10 +15,14 @@ class Watchers {
  public:
   using Watcher = std::shared_ptr<EventQueue>;
 
+  // More pages than this are too many for one phone.
+  static constexpr std::size_t most = 128;
+
   bool isEmpty() const { return watchers_.empty(); }
   bool has(const std::string& page) const;
 
-  void add(Watcher watcher) { watchers_.push_back(std::move(watcher)); }
+  // One that watches already stays as it is. RequestError 503 when there are too many.
+  void add(const Watcher& watcher);
   void remove(const Watcher& watcher);
   // To all of them.
   void send(const std::string& event, const nlohmann::json& data) const;

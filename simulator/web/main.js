@@ -1,4 +1,5 @@
 // Puts the page together.
+import { takeParameter } from "./server/address.js";
 import { Connection } from "./server/connection.js";
 import { onRestart } from "./server/commands.js";
 import { pageId } from "./server/page.js";
@@ -22,6 +23,9 @@ import { TimePanel } from "./time/panel.js";
 import { byId } from "./ui/dom.js";
 import { Tabs } from "./ui/tabs.js";
 import { Veil } from "./ui/veil.js";
+
+// The secret in the address that was printed has done its work: the browser keeps it as a cookie.
+takeParameter("token");
 
 export const state = new PhoneState();
 const page = await pageId();

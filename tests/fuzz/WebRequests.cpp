@@ -22,6 +22,7 @@ namespace {
 namespace files = std::filesystem;
 
 constexpr int port = 8420;
+constexpr const char* token = "letmein";
 constexpr std::string_view secret = "what no page may see";
 
 void require(bool holds, const std::string& answer) {
@@ -64,8 +65,9 @@ class PhonelessServer {
  public:
   PhonelessServer() {
     inbox_.stop();
-    sim::guard(server_, port);
-    sim::addApi(router_, {inbox_, server_, library_, web_, web_, [](const auto&) {}});
+    sim::guard(server_, port, access_);
+    sim::addApi(router_,
+                {inbox_, server_, access_, library_, web_, web_, web_, [](const auto&) {}});
     router_.serve(server_);
   }
 
@@ -90,6 +92,7 @@ class PhonelessServer {
   sim::TemporaryFolder folder_;
   files::path web_ = webIn(folder_.path());
   sim::MusicLibrary library_{web_};
+  sim::Access access_{token, "0123456789abcdef"};
   sim::Inbox inbox_;
   sim::Router router_;
   sim::HttpServer server_;
@@ -125,8 +128,9 @@ std::string wrapped(std::string_view text) {
   const std::string header = takeLine(text);
   const std::string body(text);
   return std::string(methods[method]) + " /" + path +
-         " HTTP/1.1\r\nHost: 127.0.0.1:" + std::to_string(port) +
-         "\r\nContent-Type: application/json\r\n" + (header.empty() ? "" : header + "\r\n") +
+         " HTTP/1.1\r\nHost: 127.0.0.1:" + std::to_string(port) + "\r\nAuthorization: Bearer " +
+         token + "\r\nContent-Type: application/json\r\n" +
+         (header.empty() ? "" : header + "\r\n") +
          "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body;
 }
 

@@ -42,7 +42,7 @@ files::path stateFile(const files::path& root) {
 }  // namespace
 
 PhoneFork::PhoneFork(const files::path& extension, const files::path& package)
-    : session_({"night.phone", phoneRoot(folder_.path(), package), {extension}, {}, true}),
+    : session_({"night.phone", phoneRoot(folder_.path(), package), {extension}, {}, {}, true}),
       commands_(sim::allCommands()) {
   session_.host.registerClasses();
   session_.relaunch = [](const files::path&) { _exit(restarts); };

@@ -16,7 +16,8 @@ std::string line(const std::string& text, const std::string& field) {
 
 }  // namespace
 
-EventReader::EventReader(int port, const std::string& page) : client_("127.0.0.1", port) {
+EventReader::EventReader(const ServedProgram& program, const std::string& page)
+    : client_(program.client()) {
   client_.set_read_timeout(3600);
   const std::string path = page.empty() ? "/api/events" : "/api/events?page=" + page;
   thread_ = std::thread([this, path] {

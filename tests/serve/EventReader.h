@@ -12,6 +12,8 @@
 #include <string>
 #include <thread>
 
+#include "tests/serve/ServedProgram.h"
+
 namespace sim {
 
 struct Event {
@@ -21,7 +23,7 @@ struct Event {
 
 class EventReader {
  public:
-  explicit EventReader(int port, const std::string& page = "");
+  explicit EventReader(const ServedProgram& program, const std::string& page = "");
   // Goes away.
   ~EventReader();
   EventReader(const EventReader&) = delete;

@@ -103,7 +103,7 @@ TEST(Music, IsThePlaylistOfThePhone) {
   tag(folder.write("1.ogg", oggVorbis(30)), "One", "Somebody");
   tag(folder.write("2.ogg", oggVorbis(40)), "Two", "Somebody");
   const ServedProgram program({folder.path().string()});
-  EventReader page(program.port());
+  EventReader page(program);
   json player = page.next("snapshot").data.at("player");
   EXPECT_EQ(player.at("title"), "One");
   EXPECT_EQ(player.at("artist"), "Somebody");

@@ -52,7 +52,7 @@ TEST(OpenScripts, RunOnToTheirEnd) {
   json state;
   for (int reconnections = 0; reconnections < 100 && state != "finished"; ++reconnections) {
     try {
-      EventReader page(program.port());
+      EventReader page(program);
       state = page.next("snapshot").data.at("script").at("state");
       const auto hasEnded = [](const json& each) { return each.at("state") == "finished"; };
       if (state != "finished") state = page.next("script", hasEnded).data.at("state");

@@ -37,7 +37,7 @@ TEST(Recordings, PlayHeadlessWithTheSameJournal) {
   program.post("/api/time", {{"beforeEnd", 10}});
   program.command("respring");
   program.post("/api/time", {{"speed", 3600}, {"paused", false}});
-  EventReader page(program.port());
+  EventReader page(program);
   const auto hasEnded = [](const json& journal) {
     for (const json& entry : journal.at("entries")) {
       if (entry.at("text") == "-[SBVolumeControl setVolume:0.8 forCategory:\"Audio/Video\"]")

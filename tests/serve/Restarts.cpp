@@ -14,7 +14,7 @@ TEST(Restarts, OfTheHostKeepThePortTheTimerAndTheJournal) {
   const ServedProgram program;
   std::string epoch;
   {
-    EventReader page(program.port(), "me");
+    EventReader page(program, "me");
     epoch = page.next("snapshot").data.at("epoch");
     program.command({timerOfOneMinute, "advance 20s"});
     const std::string before = program.journal();
@@ -23,7 +23,7 @@ TEST(Restarts, OfTheHostKeepThePortTheTimerAndTheJournal) {
     EXPECT_TRUE(page.isOver());
     EXPECT_EQ(program.journal().rfind(before, 0), 0u);
   }
-  EventReader page(program.port(), "me");
+  EventReader page(program, "me");
   const json all = page.next("snapshot").data;
   EXPECT_NE(all.at("epoch"), epoch);
   EXPECT_EQ(all.at("clock").at("uptime"), 20.0);
@@ -36,7 +36,7 @@ TEST(Restarts, KeepSpeedSoundAndMusic) {
   program.post("/api/time", {{"speed", 60}});
   program.post("/api/audio-owner", {{"page", "me"}});
   program.command({"volume 0.25", "advance 10s", "respring"});
-  EventReader page(program.port(), "me");
+  EventReader page(program, "me");
   const json all = page.next("snapshot").data;
   EXPECT_EQ(all.at("clock").at("speed"), 60.0);
   EXPECT_EQ(all.at("audio").at("page"), "me");
@@ -57,7 +57,7 @@ TEST(Restarts, KeepPlainVariablesAndSayWhenOthersWereLost) {
 TEST(Restarts, BringADeadHostBack) {
   const ServedProgram program;
   EXPECT_EQ(program.command("kill").asJson().at("restarts"), true);
-  EventReader page(program.port());
+  EventReader page(program);
   EXPECT_EQ(page.next("snapshot").data.at("phone").at("host"), "dead");
   EXPECT_EQ(program.command("lock").error(),
             "lock needs a running host: it has died, respring first");

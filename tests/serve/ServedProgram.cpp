@@ -34,21 +34,32 @@ pid_t start(std::vector<std::string> words, int output, const files::path& error
   _exit(127);
 }
 
-// "The phone is at http://127.0.0.1:8420/"
-int readPort(int input) {
+struct Address {
+  int port = 0;  // 0: it has said none
+  std::string place, token;
+};
+
+// "The phone is at http://127.0.0.1:8420/0123456789abcdef/?token=…"
+Address readAddress(int input) {
   FILE* stream = fdopen(input, "r");
-  int port = 0;
-  if (std::fscanf(stream, "The phone is at http://127.0.0.1:%d/", &port) != 1) port = 0;
+  Address address;
+  char place[17] = "", token[201] = "";
+  if (std::fscanf(stream,
+                  "The phone is at http://127.0.0.1:%d/%16[0-9a-f]/?token=%200[A-Za-z0-9._~-]",
+                  &address.port, place, token) != 3)
+    address.port = 0;
   std::fclose(stream);
-  return port;
+  address.place = place;
+  address.token = token;
+  return address;
 }
+
+}  // namespace
 
 Answer answerFrom(const httplib::Result& result) {
   if (!result) return {};
   return {result->status, result->body, result->headers};
 }
-
-}  // namespace
 
 std::string TestFolder::write(const std::string& name, const std::string& content) const {
   files::create_directories((path() / name).parent_path());
@@ -69,7 +80,10 @@ ServedProgram::ServedProgram(std::vector<std::string> words) {
   if (pipe2(pipeEnds, O_CLOEXEC) != 0) throw std::runtime_error("pipe2");
   process_ = start(all, pipeEnds[1], folder_.path() / "errors");
   close(pipeEnds[1]);
-  port_ = readPort(pipeEnds[0]);
+  const Address address = readAddress(pipeEnds[0]);
+  port_ = address.port;
+  place_ = address.place;
+  token_ = address.token;
   if (port_ == 0) {
     const int status = wait();
     throw std::runtime_error("it ended with " + std::to_string(status) + ": " + errors());
@@ -87,12 +101,16 @@ int ServedProgram::wait() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-long ServedProgram::residentKilobytes() const {
+pid_t ServedProgram::servingProcess() const {
   const std::string name = "/proc/" + std::to_string(process_);
   std::ifstream children(name + "/task/" + std::to_string(process_) + "/children");
-  long served = 0;
-  children >> served;
-  std::ifstream status("/proc/" + std::to_string(served) + "/status");
+  pid_t serving = 0;
+  children >> serving;
+  return serving;
+}
+
+long ServedProgram::residentKilobytes() const {
+  std::ifstream status("/proc/" + std::to_string(servingProcess()) + "/status");
   for (std::string word; status >> word;) {
     long kilobytes = 0;
     if (word == "VmRSS:" && status >> kilobytes) return kilobytes;
@@ -110,6 +128,12 @@ std::string ServedProgram::errors() const {
 }
 
 httplib::Client ServedProgram::client() const {
+  httplib::Client client = stranger();
+  client.set_default_headers(secret());
+  return client;
+}
+
+httplib::Client ServedProgram::stranger() const {
   httplib::Client client("127.0.0.1", port_);
   client.set_read_timeout(30);
   return client;

@@ -42,7 +42,16 @@ class ServedProgram {
 
   int port() const { return port_; }
   std::string host() const { return "127.0.0.1:" + std::to_string(port_); }
+  // What it has printed: "/0123456789abcdef/?token=…", and the parts of it.
+  std::string entrance() const { return "/" + place_ + "/?token=" + token_; }
+  const std::string& place() const { return place_; }
+  const std::string& token() const { return token_; }
+  // "Authorization: …", as scripts send it.
+  httplib::Headers secret() const { return {{"Authorization", "Bearer " + token_}}; }
+
+  // One that shows the secret with every request, and one that does not.
   httplib::Client client() const;
+  httplib::Client stranger() const;
 
   Answer get(const std::string& path, const httplib::Headers& headers = {}) const;
   Answer post(const std::string& path, const json& body) const;
@@ -53,6 +62,9 @@ class ServedProgram {
   // As the program prints journals.
   std::string journal() const;
 
+  // Of the process that was started, and of the one that serves.
+  pid_t process() const { return process_; }
+  pid_t servingProcess() const;
   // Of memory, of the process that serves.
   long residentKilobytes() const;
 
@@ -67,7 +79,11 @@ class ServedProgram {
   TestFolder folder_;
   pid_t process_ = 0;
   int port_ = 0;
+  std::string place_, token_;
 };
+
+// What the server answered, as tests compare it.
+Answer answerFrom(const httplib::Result& result);
 
 // Plays a script headless; the journal that is printed.
 std::string playHeadless(const std::string& script);

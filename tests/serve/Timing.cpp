@@ -26,7 +26,7 @@ TEST(Timing, StandsStillWhilePaused) {
 
 TEST(Timing, GoesByItself) {
   const ServedProgram program;
-  EventReader page(program.port());
+  EventReader page(program);
   page.next("snapshot");
   program.command({"set volumeFadeOutEnabled NO", timerOfOneMinute});
   program.post("/api/time", {{"speed", 3600}, {"paused", false}});

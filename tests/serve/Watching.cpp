@@ -8,6 +8,7 @@
 #include <set>
 
 #include "tests/serve/EventReader.h"
+#include "tests/serve/RawConnection.h"
 #include "tests/serve/ServedProgram.h"
 
 namespace sim {
@@ -15,7 +16,7 @@ namespace {
 
 TEST(Watching, BeginsWithEverything) {
   const ServedProgram program;
-  EventReader page(program.port(), "bedroom");
+  EventReader page(program, "bedroom");
   const json all = page.next("snapshot").data;
   for (const char* part : {"epoch", "clock", "phone", "player", "setup", "settings", "audio",
                            "script", "journal", "scene"})
@@ -33,7 +34,7 @@ TEST(Watching, BeginsWithEverything) {
 
 TEST(Watching, TellsWhatChanges) {
   const ServedProgram program;
-  EventReader page(program.port());
+  EventReader page(program);
   page.next("snapshot");
   program.command("volume 0.25");
   EXPECT_EQ(page.next("player").data.at("volume"), 0.25);
@@ -49,7 +50,7 @@ TEST(Watching, TellsWhatChanges) {
 
 TEST(Watching, TellsNewJournalEntriesOnce) {
   const ServedProgram program;
-  EventReader page(program.port());
+  EventReader page(program);
   std::size_t n = page.next("snapshot").data.at("journal").size();
   for (int times = 0; times < 5; ++times) {
     program.command("lock");
@@ -62,7 +63,7 @@ TEST(Watching, TellsNewJournalEntriesOnce) {
 
 TEST(Watching, TellsOfTheClockOnlyWhenItLeavesItsCourse) {
   const ServedProgram program;
-  EventReader page(program.port());
+  EventReader page(program);
   page.next("snapshot");
   program.post("/api/time", {{"speed", 60}});
   EXPECT_EQ(page.next("clock").data.at("speed"), 60.0);
@@ -78,7 +79,7 @@ TEST(Watching, TellsOfTheClockOnlyWhenItLeavesItsCourse) {
 
 TEST(Watching, SendsThoseNodesOfTheSceneThatChange) {
   const ServedProgram program;
-  EventReader page(program.port());
+  EventReader page(program);
   const auto known = page.next("snapshot").data.at("scene").at("nodes").size();
   program.command({"let window UIApplication.sharedApplication.keyWindow", "let view UIView.new",
                    "send $window addSubview: $view"});
@@ -91,7 +92,7 @@ TEST(Watching, SendsThoseNodesOfTheSceneThatChange) {
 
 TEST(Watching, SaysNothingWhenNothingHappens) {
   const ServedProgram program;
-  EventReader page(program.port());
+  EventReader page(program);
   page.next("snapshot");
   // Requests that change nothing, of which the last does: nothing else has come in between.
   for (int times = 0; times < 20; ++times) program.get("/api/settings");
@@ -115,8 +116,7 @@ TEST(Watching, RefusesWrongNamesOfPages) {
 TEST(Watching, SuitsAHundredPages) {
   const ServedProgram program;
   std::vector<std::unique_ptr<EventReader>> pages;
-  for (int count = 0; count < 100; ++count)
-    pages.push_back(std::make_unique<EventReader>(program.port()));
+  for (int count = 0; count < 100; ++count) pages.push_back(std::make_unique<EventReader>(program));
   std::set<std::string> names;
   for (const auto& page : pages) names.insert(page->next("snapshot").data.at("page"));
   EXPECT_EQ(names.size(), 100u);
@@ -126,49 +126,12 @@ TEST(Watching, SuitsAHundredPages) {
   EXPECT_EQ(program.command("volume 0.5").status, 200);
 }
 
-// Connects and asks, but reads only when the test says so.
-class IdleReader {
- public:
-  explicit IdleReader(const ServedProgram& program) : socket_(socket(AF_INET, SOCK_STREAM, 0)) {
-    const int small = 4096;
-    setsockopt(socket_, SOL_SOCKET, SO_RCVBUF, &small, sizeof small);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(std::uint16_t(program.port()));
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address);
-    const std::string request = "GET /api/events HTTP/1.1\r\nHost: " + program.host() + "\r\n\r\n";
-    send(socket_, request.data(), request.size(), 0);
-  }
-  ~IdleReader() { close(socket_); }
-  IdleReader(const IdleReader&) = delete;
-  IdleReader& operator=(const IdleReader&) = delete;
-
-  // Reads on until this text has come so often.
-  bool reads(const std::string& text, int times) {
-    std::string tail;
-    char piece[4096];
-    while (times > 0) {
-      const ssize_t count = recv(socket_, piece, sizeof piece, 0);
-      if (count <= 0) return false;
-      tail.append(piece, std::size_t(count));
-      for (auto at = tail.find(text); at != std::string::npos; at = tail.find(text)) {
-        tail.erase(0, at + text.size());
-        --times;
-      }
-      if (tail.size() > text.size()) tail.erase(0, tail.size() - text.size());
-    }
-    return true;
-  }
-
- private:
-  int socket_;
-};
-
 TEST(Watching, DoesNotWaitForAPageThatDoesNotRead) {
   const ServedProgram program;
-  IdleReader slow(program);
-  EventReader page(program.port());
+  RawConnection slow(program, RawConnection::Reads::slowly);
+  slow.send("GET /api/events HTTP/1.1\r\nHost: " + program.host() + "\r\nAuthorization: Bearer " +
+            program.token() + "\r\n\r\n");
+  EventReader page(program);
   page.next("snapshot");
   // Much more than the connection and its queue hold.
   const std::string title(50'000, 'x');
@@ -190,7 +153,7 @@ TEST(Watching, OfAWholeDayTakesNoMoreMemory) {
 #endif
 #endif
   const ServedProgram program({"--no-tweak"});
-  EventReader page(program.port());
+  EventReader page(program);
   page.next("snapshot");
   const auto anHourPasses = [&program, &page](int hour) {
     program.post("/api/time", {{"advance", 3600}});
@@ -205,9 +168,9 @@ TEST(Watching, OfAWholeDayTakesNoMoreMemory) {
 
 TEST(Sound, IsPlayedByOnePage) {
   const ServedProgram program;
-  EventReader first(program.port(), "first");
+  EventReader first(program, "first");
   EXPECT_EQ(first.next("snapshot").data.at("audio"), (json{{"page", nullptr}}));
-  EventReader second(program.port(), "second");
+  EventReader second(program, "second");
   second.next("snapshot");
   EXPECT_EQ(program.post("/api/audio-owner", {{"page", "first"}}).asJson().at("page"), "first");
   EXPECT_EQ(program.post("/api/audio-owner", {{"page", "second"}}).asJson().at("page"), "first");
@@ -224,10 +187,10 @@ TEST(Sound, IsPlayedByOnePage) {
 
 TEST(Sound, IsGivenUpByAPageThatGoesAway) {
   const ServedProgram program;
-  EventReader staying(program.port(), "staying");
+  EventReader staying(program, "staying");
   staying.next("snapshot");
   {
-    EventReader leaving(program.port(), "leaving");
+    EventReader leaving(program, "leaving");
     leaving.next("snapshot");
     program.post("/api/audio-owner", {{"page", "leaving"}});
     EXPECT_EQ(staying.next("audio").data.at("page"), "leaving");

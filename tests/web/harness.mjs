@@ -21,6 +21,9 @@ export { simulator };
 const startedWithin = 60_000;
 const soWithin = 30_000;
 
+// A whole line: a secret that is cut off where the output was is none.
+const printed = /(http:\/\/127\.0\.0\.1:\d+\/[0-9a-f]{16}\/\?token=[\w.~-]+).*\n/;
+
 let browser = null;
 
 async function launched() {
@@ -41,16 +44,18 @@ export class Served {
   #process = null;
   #ended = null;
   folder = mkdtempSync(join(tmpdir(), "dozewell-web-"));
-  address = "";
+  address = ""; // where the page and all that it asks for lie
+  entrance = ""; // the same with the secret, as it was printed
 
   constructor(options) {
     this.options = options;
   }
 
-  // Resolves when it has said where it is.
+  // Resolves when it has said where it is. It works in the folder: what it leaves there is seen.
   start(...more) {
     return new Promise((resolve, reject) => {
       this.#process = spawn(simulator, ["serve", "--port", "0", ...this.options, ...more], {
+        cwd: this.folder,
         stdio: ["ignore", "pipe", "inherit"],
       });
       this.#ended = once(this.#process, "exit");
@@ -61,10 +66,11 @@ export class Served {
       let said = "";
       this.#process.stdout.on("data", (bytes) => {
         said += bytes;
-        const found = /http:\/\/127\.0\.0\.1:\d+\//.exec(said);
+        const found = printed.exec(said);
         if (!found) return;
         clearTimeout(late);
-        this.address = found[0];
+        this.entrance = found[1];
+        this.address = new URL(".", this.entrance).href;
         resolve(this);
       });
       this.#process.once("exit", (code) =>
@@ -77,6 +83,17 @@ export class Served {
     return new URL(this.address).port;
   }
 
+  get token() {
+    return new URL(this.entrance).searchParams.get("token");
+  }
+
+  // The entrance with more parameters.
+  entranceWith(parameters) {
+    const url = new URL(this.entrance);
+    for (const [name, value] of new URLSearchParams(parameters)) url.searchParams.set(name, value);
+    return url.href;
+  }
+
   async stop() {
     this.#process.kill("SIGTERM");
     await this.#ended;
@@ -87,8 +104,11 @@ export class Served {
     rmSync(this.folder, { recursive: true, force: true });
   }
 
-  async #ask(path, options) {
-    const response = await fetch(new URL(path, this.address), options);
+  async #ask(path, { headers, ...options } = {}) {
+    const response = await fetch(new URL(path.replace(/^\//, ""), this.address), {
+      ...options,
+      headers: { ...headers, Authorization: `Bearer ${this.token}` },
+    });
     const text = await response.text();
     if (!response.ok) throw new Error(`${path}: ${response.status} ${text}`);
     return text;
@@ -123,7 +143,8 @@ export class Served {
   }
 }
 
-// A page on the phone, past the question for sound unless it is what is tested.
+// A page on the phone, past the question for sound unless it is what is tested. `path` may hold
+// parameters: "?script=/api/recording.phone".
 export async function openPage(served, { path = "", silent = true, ...context } = {}) {
   const browsing = await (
     await launched()
@@ -131,19 +152,20 @@ export async function openPage(served, { path = "", silent = true, ...context } 
   browsing.setDefaultTimeout(soWithin);
   const page = await browsing.newPage();
   page.problems = [];
+  page.expected = new Set(); // statuses that are no problem in this test
   page.on("pageerror", (error) => page.problems.push(error.message));
   // What could not be loaded is noted by its answer: while the server restarts nothing can be.
   page.on("console", (message) => {
     if (message.type() === "error" && !message.text().startsWith("Failed to load resource"))
       page.problems.push(message.text());
   });
-  // 503 says that the phone begins anew; the page asks again.
+  // 503 says that the phone begins anew; the page asks again. 401: it has not shown the secret.
   page.on("response", (response) => {
     const status = response.status();
-    if (status === 404 || (status >= 500 && status !== 503))
-      page.problems.push(`${status} ${response.url()}`);
+    const isProblem = status === 401 || status === 404 || (status >= 500 && status !== 503);
+    if (isProblem && !page.expected.has(status)) page.problems.push(`${status} ${response.url()}`);
   });
-  await page.goto(served.address + path);
+  await page.goto(served.entranceWith(path));
   await page.locator('body[data-server="open"]').waitFor();
   if (silent) await page.click("#start-silent");
   return page;
@@ -197,7 +219,7 @@ export async function andCommand(page, text, act) {
 // one.
 export async function andRestart(page, act) {
   const watched = await page.evaluateHandle(async () => {
-    const { state } = await import("/main.js");
+    const { state } = await import(new URL("main.js", document.baseURI)); // the page's own
     return {
       told: new Promise((resolve) => {
         state.on("snapshot", resolve);

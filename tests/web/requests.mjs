@@ -17,7 +17,7 @@ phoneTest(
       asked.filter((url) => !url.startsWith(served.address) && !url.startsWith("data:")),
       [],
     );
-    const { headers } = await fetch(served.address);
+    const { headers } = await fetch(served.entrance);
     assert.match(headers.get("content-security-policy"), /default-src 'none'/);
   },
 );

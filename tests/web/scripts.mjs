@@ -1,6 +1,6 @@
 // A phone script in the page: opened, stepped, failed, closed.
 import assert from "node:assert/strict";
-import { phoneTest } from "./harness.mjs";
+import { openPage, phoneTest } from "./harness.mjs";
 
 const script = `# One song.
 boot
@@ -53,6 +53,19 @@ phoneTest("what was done is opened as a script, by its address", {}, async (serv
   await page.locator(".script-status", { hasText: "to its end" }).waitFor();
   assert.ok((await served.journal()).includes("user volume 0.7"));
 });
+
+phoneTest(
+  "a script is opened by the address that brings the secret along",
+  { page: false },
+  async (served) => {
+    await served.run("volume 0.7", "advance 5s");
+    const page = await openPage(served, { path: "?script=api/recording.phone" });
+    await page.locator(".script-status", { hasText: "recording.phone: Ready" }).waitFor();
+    assert.equal(page.url(), served.address);
+    assert.deepEqual(page.problems, []);
+    await page.context().close();
+  },
+);
 
 phoneTest("a line typed by hand is done, and a wrong one explained", {}, async (served, page) => {
   await page.click("#tab-script");

@@ -35,7 +35,7 @@ function tone(seconds) {
 // What the page's audio element and the gain behind it do at this moment.
 const heard = (page) =>
   page.evaluate(async () => {
-    const { output } = await import("/main.js");
+    const { output } = await import(new URL("main.js", document.baseURI)); // the page's own
     const { element } = output;
     return {
       paused: element.paused,
@@ -73,7 +73,7 @@ phoneTest.withoutPhone("the fade is heard, the pause is real, the volume comes b
     const page = await openPage(served, { silent: false });
     await page.click("#start-listening");
     const playing = await until(page, "playing", ({ paused, at }) => !paused && at > 0);
-    assert.match(playing.file, /^\/music\//);
+    assert.match(playing.file, /^music\//);
     await served.run(
       "volume 0.8",
       "set volumeFadeOutTime 5",

@@ -56,6 +56,8 @@ SessionOptions optionsFrom(const json& from) {
     options.extensions.push_back(path.get<std::string>());
   if (const json& playlist = from.at("playlist"); !playlist.is_null())
     options.playlist = playlist.get<std::string>();
+  if (const json& folder = from.at("folder"); !folder.is_null())
+    options.folder = folder.get<std::string>();
   options.quiet = from.at("quiet").get<bool>();
   return options;
 }
@@ -68,6 +70,7 @@ json restartStateAsJson(const RestartState& state) {
       {"root", state.options.root.string()},
       {"extensions", texts(state.options.extensions)},
       {"playlist", state.options.playlist ? json(state.options.playlist->string()) : json()},
+      {"folder", state.options.folder ? json(state.options.folder->string()) : json()},
       {"quiet", state.options.quiet},
       {"line", state.lineNumber},
       {"uptime", state.uptime},

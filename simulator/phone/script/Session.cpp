@@ -13,6 +13,8 @@ Session* theCurrent = nullptr;
 Session::Session(SessionOptions givenOptions)
     : options(std::move(givenOptions)), phone(options.root), host(options.extensions) {
   phone.setup.playlist = options.playlist;
+  phone.setup.files = options.folder ? ScriptFiles::below(*options.folder)
+                                     : ScriptFiles::from(options.script.parent_path());
   theCurrent = this;
 }
 

@@ -22,7 +22,9 @@ struct SessionOptions {
   std::filesystem::path root;
   std::vector<std::filesystem::path> extensions;
   std::optional<std::filesystem::path> playlist;  // instead of those that the script names
-  bool quiet = false;                             // the journal is not printed
+  // Below it lies all that the script's commands may name; none: anywhere, relative to the script.
+  std::optional<std::filesystem::path> folder;
+  bool quiet = false;  // the journal is not printed
 };
 
 enum class HostState { off, running, dead };

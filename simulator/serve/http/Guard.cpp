@@ -4,6 +4,9 @@
 
 #include <string>
 
+#include "simulator/serve/http/Access.h"
+#include "simulator/serve/http/Framing.h"
+#include "simulator/serve/http/HttpServer.h"
 #include "simulator/serve/http/Router.h"
 
 namespace sim {
@@ -24,16 +27,37 @@ bool isOwnOrigin(const std::string& origin, int port) {
   return origin.starts_with(scheme) && isOwnHost(origin.substr(scheme.size()), port);
 }
 
-void check(const Request& request, int port) {
+void requireOwn(const Request& request, int port) {
   const std::string address = "127.0.0.1:" + std::to_string(port);
   if (request.get_header_value_count("Host") != 1 ||
       !isOwnHost(request.get_header_value("Host"), port))
     throw RequestError(403, "expected the Host " + address);
   if (request.has_header("Origin") && !isOwnOrigin(request.get_header_value("Origin"), port))
     throw RequestError(403, "expected the Origin http://" + address);
+}
+
+void requireSecret(const Request& request, const Access& access) {
+  if (!access.admits(request))
+    throw RequestError(401,
+                       std::string("open the address that dozewell-simulator printed when it ") +
+                           "started: it holds this phone's secret");
+}
+
+void requireJson(const Request& request) {
   if (request.method == "POST" &&
       !request.get_header_value("Content-Type").starts_with("application/json"))
     throw RequestError(415, "expected the Content-Type application/json");
+}
+
+// A person who opens the page's address is told in words.
+void tell(const Request& request, Response& response, const RequestError& error) {
+  answerError(response, error);
+  if (error.status != 401) return;
+  response.set_header("WWW-Authenticate", "Bearer");
+  if (request.get_header_value("Accept").find("text/html") == std::string::npos) return;
+  response.set_content(
+      "<!doctype html><title>Dozewell</title><p>Please " + std::string(error.what()) + ".</p>",
+      "text/html; charset=utf-8");
 }
 
 // What the library itself finds wrong.
@@ -53,7 +77,7 @@ void explain(Response& response) {
 
 }  // namespace
 
-void guard(httplib::Server& server, int port) {
+void guard(HttpServer& server, int port, const Access& access) {
   server.set_default_headers({
       {"Content-Security-Policy",
        "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data: blob:; "
@@ -65,12 +89,23 @@ void guard(httplib::Server& server, int port) {
       {"Cache-Control", "no-cache"},
   });
   server.set_payload_max_length(largestBody);
-  server.set_pre_routing_handler([port](const Request& request, Response& response) {
+  server.setPreparation([](Request& request) {
+    leavePlace(request);
+    completeFraming(request);
+  });
+  const auto check = [&server, port, &access](const Request& request) {
+    requireOwn(request, port);
+    requireSecret(request, access);
+    server.trust();
+    requireFraming(request);
+    requireJson(request);
+  };
+  server.set_pre_routing_handler([check](const Request& request, Response& response) {
     try {
-      check(request, port);
+      check(request);
       return HandlerResponse::Unhandled;
     } catch (const RequestError& error) {
-      answerError(response, error);
+      tell(request, response, error);
       return HandlerResponse::Handled;
     }
   });

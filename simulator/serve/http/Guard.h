@@ -3,15 +3,16 @@
 
 #include <cstddef>
 
-namespace httplib {
-class Server;
-}
-
 namespace sim {
 
-// Refuses foreign Host and Origin headers, and bodies that are too large or no JSON. A page of
-// another site may send requests to this machine, but it cannot make them look like our own.
-void guard(httplib::Server& server, int port);
+class Access;
+class HttpServer;
+
+// Refuses foreign Host and Origin headers, requests without the secret, and bodies that are too
+// large or no JSON. A page of another site may send requests to this machine, but it cannot make
+// them look like our own; other users of the machine can, but do not know the secret. `access` must
+// outlive the server.
+void guard(HttpServer& server, int port, const Access& access);
 
 // More is no request.
 inline constexpr std::size_t largestBody = std::size_t(512) * 1024;

@@ -18,25 +18,31 @@ namespace sim {
 namespace {
 
 using std::chrono::milliseconds;
+using std::chrono::steady_clock;
 
-constexpr std::size_t mostConnections = 400;
-constexpr std::size_t requestBytes = std::size_t(2) * 1024 * 1024;  // headers and body
-constexpr milliseconds idlePatience{60'000};
-constexpr milliseconds breath{100};  // when there are no descriptors left
+constexpr std::size_t mostConnections = 300;
+constexpr std::size_t requestBytes = std::size_t(1) * 1024 * 1024;  // headers and body
+constexpr milliseconds requestPatience{10'000};                     // until all of it is there
+constexpr milliseconds strangersPatience{10'000};                   // until it begins
+constexpr milliseconds idlePatience{60'000};                        // likewise, of who was let in
+constexpr milliseconds drainPatience{1'000};
+constexpr milliseconds breath{100};  // for it to go
 
 thread_local int theConnection = -1;
 thread_local bool isAnswering = false;
 thread_local bool lastAnswerWasError = false;
 
 // A socket closed with something unread resets the connection, and the answer may be lost with
-// it: what is still being sent goes unread, within limits.
+// it: what is still being sent goes unread, for a while.
 void drain(int descriptor) {
   shutdown(descriptor, SHUT_WR);
+  const auto end = steady_clock::now() + drainPatience;
   std::array<char, 16384> ignored;
-  for (int rounds = 0; rounds < 256; ++rounds) {
+  for (;;) {
+    const auto left = std::chrono::ceil<milliseconds>(end - steady_clock::now());
     pollfd watched{descriptor, POLLIN, 0};
-    if (poll(&watched, 1, 500) <= 0) break;
-    if (recv(descriptor, ignored.data(), ignored.size(), 0) <= 0) break;
+    if (left.count() <= 0 || poll(&watched, 1, int(left.count())) <= 0) return;
+    if (recv(descriptor, ignored.data(), ignored.size(), 0) <= 0) return;
   }
 }
 
@@ -58,7 +64,7 @@ class HttpServer::Answering {
   HttpServer& server_;
 };
 
-HttpServer::HttpServer() : wakeUp_(eventfd(0, EFD_CLOEXEC)) {
+HttpServer::HttpServer() : connections_(mostConnections), wakeUp_(eventfd(0, EFD_CLOEXEC)) {
   if (wakeUp_ < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
   set_logger([](const httplib::Request&, const httplib::Response& response) {
     lastAnswerWasError = response.status >= 400;
@@ -85,10 +91,7 @@ void HttpServer::stopAccepting() {
 
 void HttpServer::stopServing() {
   stopAccepting();
-  std::unique_lock lock(mutex_);
-  stopping_ = true;
-  for (const int each : connections_) shutdown(each, SHUT_RDWR);
-  changed_.wait(lock, [this] { return connections_.empty(); });
+  connections_.endAll();
 }
 
 bool HttpServer::waitUntilAnswered(milliseconds patience) {
@@ -108,13 +111,20 @@ void HttpServer::leaveAnswering() {
   changed_.notify_all();
 }
 
+void HttpServer::trust() {
+  connections_.trust(theConnection);
+}
+
 bool HttpServer::processRequest(httplib::Stream& stream, bool isLast) {
   const Answering answering(*this);
   lastAnswerWasError = false;
   bool closed = false;
   // The library's own ranges may reach beyond a file's end: see ByteRange.
-  const auto withoutRanges = [](httplib::Request& request) { request.ranges.clear(); };
-  const bool processed = process_request(stream, isLast, closed, withoutRanges);
+  const auto prepare = [this](httplib::Request& request) {
+    request.ranges.clear();
+    if (prepare_) prepare_(request);
+  };
+  const bool processed = process_request(stream, isLast, closed, prepare);
   // After an error the rest of the request may be unread: it must not be taken for the next one.
   return processed && !closed && !lastAnswerWasError;
 }
@@ -130,45 +140,45 @@ void HttpServer::acceptConnections() {
     // Closed by exec(): pages notice at once that the phone's process begins anew.
     const int descriptor = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
     const int problem = errno;
-    std::unique_lock lock(mutex_);
     if (descriptor >= 0)
       take(descriptor);
     else if (problem == EMFILE || problem == ENFILE)
-      changed_.wait_for(lock, breath);
+      waitForRoom();
     else if (problem != EINTR && problem != ECONNABORTED && problem != EAGAIN)
       throw std::system_error(problem, std::generic_category(), "accept");
   }
 }
 
+// Whoever waits to be let in must not wait for those who stay.
+void HttpServer::waitForRoom() {
+  connections_.sendOneAway();
+  std::this_thread::sleep_for(breath);
+}
+
 void HttpServer::take(int descriptor) {
-  if (connections_.size() >= mostConnections) {
+  if (!connections_.add(descriptor)) {
     close(descriptor);
     return;
   }
   // Events are small and wanted now: the network must not wait for more to send with them.
   const int on = 1;
   setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-  connections_.insert(descriptor);
   std::thread([this, descriptor] { serve(descriptor); }).detach();
 }
 
 void HttpServer::serve(int descriptor) {
   theConnection = descriptor;
   SocketStream stream(descriptor);
-  while (stream.waitForRequest(idlePatience)) {
-    stream.allow(requestBytes);
+  const auto patience = [this, descriptor] {
+    return connections_.isTrusted(descriptor) ? idlePatience : strangersPatience;
+  };
+  while (stream.waitForRequest(patience())) {
+    connections_.beginRequest(descriptor);
+    stream.allow(requestBytes, requestPatience);
     if (!processRequest(stream, false)) break;
   }
-  endConnection(descriptor);
-}
-
-void HttpServer::endConnection(int descriptor) {
   drain(descriptor);
-  const std::lock_guard lock(mutex_);
-  // Forgotten before its number can be that of another connection.
-  connections_.erase(descriptor);
-  close(descriptor);
-  changed_.notify_all();
+  connections_.remove(descriptor);
 }
 
 }  // namespace sim

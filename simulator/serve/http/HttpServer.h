@@ -4,10 +4,11 @@
 #include <httplib.h>
 
 #include <condition_variable>
+#include <functional>
 #include <mutex>
-#include <set>
 #include <thread>
 
+#include "simulator/serve/http/Connections.h"
 #include "simulator/serve/http/Listener.h"
 
 namespace sim {
@@ -24,6 +25,10 @@ class HttpServer : public httplib::Server {
 
   // Begins to answer. The listener must outlive this.
   void start(const Listener& listener);
+  // Makes of each request what handlers find, before anything is asked about it.
+  void setPreparation(std::function<void(httplib::Request&)> prepare) {
+    prepare_ = std::move(prepare);
+  }
   // Leaves further connections to whoever takes over the listener.
   void stopAccepting();
   // Answers no longer and closes every connection; waits for handlers that run.
@@ -37,6 +42,8 @@ class HttpServer : public httplib::Server {
   static int connection();
   // This thread's request is a stream of events: nobody waits for its end.
   void leaveAnswering();
+  // This thread's request has shown the secret: its connection is no stranger's any more.
+  void trust();
 
   // One request and its answer, from and to wherever the stream leads; false when the connection
   // is of no further use.
@@ -47,16 +54,16 @@ class HttpServer : public httplib::Server {
 
   void acceptConnections();
   bool waitForConnection() const;
+  void waitForRoom();
   void take(int descriptor);
   void serve(int descriptor);
-  void endConnection(int descriptor);
 
   std::thread acceptor_;
   std::mutex mutex_;
   std::condition_variable changed_;
-  std::set<int> connections_;
   int answering_ = 0;
-  bool stopping_ = false;
+  Connections connections_;
+  std::function<void(httplib::Request&)> prepare_;
   int listener_ = -1;
   int wakeUp_;  // eventfd: no further connections
 };

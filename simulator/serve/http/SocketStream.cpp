@@ -12,8 +12,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// In the middle of a request, and for a reader who has stopped reading.
-constexpr milliseconds readPatience{10'000};
+// For a reader who has stopped reading.
 constexpr milliseconds writePatience{30'000};
 
 bool waitFor(int descriptor, short events, milliseconds patience) {
@@ -32,7 +31,8 @@ bool SocketStream::waitForRequest(milliseconds patience) {
 }
 
 bool SocketStream::is_readable() const {
-  return at_ < end_ || waitFor(descriptor_, POLLIN, readPatience);
+  const auto left = std::chrono::ceil<milliseconds>(deadline_ - std::chrono::steady_clock::now());
+  return left.count() > 0 && (at_ < end_ || waitFor(descriptor_, POLLIN, left));
 }
 
 bool SocketStream::is_writable() const {

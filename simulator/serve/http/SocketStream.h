@@ -18,8 +18,12 @@ class SocketStream final : public httplib::Stream {
   // Whether a request begins within that time; false also when the other side is gone.
   bool waitForRequest(std::chrono::milliseconds patience);
 
-  // What one request may have in all: a sender without end is cut off.
-  void allow(std::size_t bytes) { allowed_ = bytes; }
+  // What one request may have in all: a sender without end is cut off, and so is one who sends a
+  // byte now and then.
+  void allow(std::size_t bytes, std::chrono::milliseconds time) {
+    allowed_ = bytes;
+    deadline_ = std::chrono::steady_clock::now() + time;
+  }
 
   bool is_readable() const override;
   bool is_writable() const override;
@@ -36,6 +40,7 @@ class SocketStream final : public httplib::Stream {
   std::array<char, 4096> buffer_;
   std::size_t at_ = 0, end_ = 0;  // what has been received and not yet read
   std::size_t allowed_ = 0;
+  std::chrono::steady_clock::time_point deadline_{};  // of the request that is being read
 };
 
 }  // namespace sim

@@ -70,7 +70,7 @@ export class JournalPanel {
         {
           class: "soft",
           id: "download-recording",
-          href: "/api/recording.phone",
+          href: "api/recording.phone",
           download: "recording.phone",
           title: "The same as a file: dozewell-simulator play FILE",
         },
@@ -82,7 +82,7 @@ export class JournalPanel {
 
   async #copy() {
     try {
-      const response = await fetch("/api/recording.phone");
+      const response = await fetch("api/recording.phone");
       if (!response.ok) throw new Error((await response.json()).error);
       await navigator.clipboard.writeText(await response.text());
       toast("Copied: what was done, as a phone script.");

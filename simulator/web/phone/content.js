@@ -46,7 +46,7 @@ function drawText(text, bounds) {
   return drawn;
 }
 
-const picture = (file) => `/api/image?file=${encodeURIComponent(file)}`;
+const picture = (file) => `api/image?file=${encodeURIComponent(file)}`;
 
 function drawImage(image, bounds) {
   const [x, y, width, height] = image.frame;

@@ -33,7 +33,7 @@ export class Device {
   // Leaves out what this phone's language has no word for.
   async #learn() {
     try {
-      const known = new Set((await read("/api/commands")).map((command) => command.name));
+      const known = new Set((await read("api/commands")).map((command) => command.name));
       for (const { button, command } of this.#buttons.values()) button.hidden = !known.has(command);
     } catch (error) {
       toast(error.message, "problem");

@@ -24,7 +24,7 @@ export class MusicPanel {
 
   async #load() {
     try {
-      this.#list.fill(await read("/music"));
+      this.#list.fill(await read("music"));
     } catch (error) {
       toast(error.message, "problem");
     }
@@ -132,7 +132,7 @@ export class MusicPanel {
   #showCover(file) {
     const { cover } = this.#parts;
     const known = file !== null && this.#list.hasCover(file);
-    const source = known ? `/cover/${encodeURIComponent(file)}` : "";
+    const source = known ? `cover/${encodeURIComponent(file)}` : "";
     if (cover.dataset.source === source) return;
     cover.dataset.source = source;
     cover.replaceChildren(known ? h("img", { src: source, alt: "" }) : icon("music"));

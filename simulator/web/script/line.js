@@ -37,7 +37,7 @@ export class CommandLine {
   }
 
   async #learn() {
-    const commands = await read("/api/commands").catch(() => []);
+    const commands = await read("api/commands").catch(() => []);
     for (const command of commands) this.#commands.set(command.name, command);
     this.#names.replaceChildren(...commands.map(({ example }) => h("option", { value: example })));
   }

@@ -1,10 +1,12 @@
 // A phone script, opened from a file or an address and played line by line on a fresh phone.
+import { below, takeParameter } from "../server/address.js";
 import { forget, post, read } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
 import { toast } from "../ui/toast.js";
 import { ScriptText } from "./text.js";
 import { CommandLine } from "./line.js";
+import { Pictures } from "./pictures.js";
 
 const largest = 1024 * 1024; // bytes
 
@@ -36,6 +38,7 @@ export class ScriptPanel {
     byId("panel-script").append(
       h("div", { class: "panel-head" }, h("h2", { text: "Script" }), this.#makeTools()),
       new CommandLine().element,
+      new Pictures(state).element,
       h("hr", {}),
       this.#status,
       this.#problem,
@@ -92,7 +95,7 @@ export class ScriptPanel {
         id: "script-replay",
         type: "button",
         text: "Play again what was done so far",
-        onclick: () => this.#openFrom(new URL("/api/recording.phone", location.href)),
+        onclick: () => this.#openFrom(below("api/recording.phone")),
       }),
     );
   }
@@ -125,23 +128,22 @@ export class ScriptPanel {
     byId("tab-script").click();
   }
 
-  // ?script=/path at this server; other machines are not asked.
+  // ?script=/path at this server, below the page's place; other machines are not asked.
   async #openAddress() {
-    const address = new URLSearchParams(location.search).get("script");
+    const address = takeParameter("script"); // a reload must not begin the script again
     if (address === null) return;
-    const url = new URL(address, location.href);
+    const url = below(address);
     if (url.origin !== location.origin)
       return toast("A script is opened from this server only.", "problem");
-    // A reload must not begin the script again.
-    history.replaceState(null, "", location.pathname);
     await this.#openFrom(url);
   }
 
   async #openFrom(url) {
+    const name = url.pathname.split("/").at(-1);
     try {
       const response = await fetch(url);
-      if (!response.ok) throw new Error(`The server has no ${url.pathname}.`);
-      await this.#open(url.pathname.split("/").at(-1), await response.text());
+      if (!response.ok) throw new Error(`The server has no ${name}.`);
+      await this.#open(name, await response.text());
       byId("tab-script").click();
     } catch (error) {
       toast(error.message, "problem");
@@ -150,7 +152,7 @@ export class ScriptPanel {
 
   async #open(name, text) {
     try {
-      await post("/api/script", { name, text });
+      await post("api/script", { name, text });
     } catch (error) {
       toast(
         error.body?.line ? `${name}, line ${error.body.line}: ${error.message}` : error.message,
@@ -161,7 +163,7 @@ export class ScriptPanel {
 
   async #play(how) {
     try {
-      await post("/api/script/step", how);
+      await post("api/script/step", how);
     } catch (error) {
       toast(error.message, "problem");
     }
@@ -169,7 +171,7 @@ export class ScriptPanel {
 
   async #close() {
     try {
-      await forget("/api/script");
+      await forget("api/script");
     } catch (error) {
       toast(error.message, "problem");
     }
@@ -200,7 +202,7 @@ export class ScriptPanel {
     if (this.#loaded === key) return;
     this.#loaded = key;
     try {
-      this.#text.fill((await read("/api/script")).text);
+      this.#text.fill((await read("api/script")).text);
     } catch (error) {
       this.#loaded = null;
       toast(error.message, "problem");

@@ -17,7 +17,7 @@ function enqueue(entry) {
 
 async function send(entry) {
   try {
-    const answer = await post("/api/command", { lines: entry.lines });
+    const answer = await post("api/command", { lines: entry.lines });
     if (answer.restarts) restarts.dispatchEvent(new Event("restarting"));
     entry.resolve(answer);
   } catch (error) {

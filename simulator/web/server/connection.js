@@ -1,4 +1,5 @@
 // The stream of changes, kept open: whatever happens to the server, the page goes on trying.
+import { isRefused } from "./requests.js";
 import { parts } from "./state.js";
 
 const goneAfter = 2500; // milliseconds without an answer until the server counts as gone
@@ -9,12 +10,12 @@ export class Connection extends EventTarget {
   #state;
   #url;
   #gone = null;
-  status = "connecting"; // connecting, open, restarting, gone
+  status = "connecting"; // connecting, open, restarting, gone, refused
 
   constructor(state, page) {
     super();
     this.#state = state;
-    this.#url = `/api/events?page=${encodeURIComponent(page)}`;
+    this.#url = `api/events?page=${encodeURIComponent(page)}`;
     this.#connect();
   }
 
@@ -27,8 +28,7 @@ export class Connection extends EventTarget {
   #connect() {
     const source = new EventSource(this.#url);
     source.addEventListener("snapshot", (event) => {
-      clearTimeout(this.#gone);
-      this.#gone = null;
+      this.#isThere();
       this.#state.takeSnapshot(JSON.parse(event.data));
       this.#become("open");
     });
@@ -37,11 +37,28 @@ export class Connection extends EventTarget {
     source.addEventListener("error", () => this.#lost(source));
   }
 
-  #lost(source) {
+  #isThere() {
+    clearTimeout(this.#gone);
+    this.#gone = null;
+  }
+
+  // There is one thing at a time: a stream, the question why there is none, or the wait for the
+  // next. A source that is closed tells nothing any more.
+  async #lost(source) {
+    // The browser has given up: what was answered is no stream. It does not say what it is.
+    const isAnswered = source.readyState === EventSource.CLOSED;
+    source.close(); // the browser would try again by itself, but only after seconds
     if (this.status === "open") this.#become("restarting");
     this.#gone ??= setTimeout(() => this.#become("gone"), goneAfter);
-    source.close(); // the browser would try again by itself, but only after seconds
-    setTimeout(() => this.#connect(), this.status === "gone" ? retryEvery : retrySoon);
+    if (isAnswered && (await isRefused())) this.#refuse();
+    const isSlow = this.status === "gone" || this.status === "refused";
+    setTimeout(() => this.#connect(), isSlow ? retryEvery : retrySoon);
+  }
+
+  // A server with the right secret may come back.
+  #refuse() {
+    this.#isThere();
+    this.#become("refused");
   }
 
   // The host's process is about to begin anew.

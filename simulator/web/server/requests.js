@@ -1,5 +1,7 @@
 // What the page asks of the server. A refusal is an Error with the server's own words.
 
+const patience = 2500; // milliseconds, when only asking whether the server lets this page in
+
 export class Refusal extends Error {
   constructor(status, body) {
     super(body.error ?? `The server answered ${status}.`);
@@ -20,6 +22,15 @@ async function reach(path, options) {
   } catch {
     throw new Error("The simulator does not answer.");
   }
+}
+
+// Whether the server is there and does not let this page in: it has another secret than the page.
+export async function isRefused() {
+  const options = { method: "HEAD", cache: "no-store", signal: AbortSignal.timeout(patience) };
+  return fetch("api/setup", options).then(
+    ({ status }) => status === 401,
+    () => false,
+  );
 }
 
 export async function read(path) {

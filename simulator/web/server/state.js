@@ -10,6 +10,7 @@ export const parts = [
   "settings",
   "audio",
   "script",
+  "pictures",
   "journal",
   "scene",
 ];
@@ -26,6 +27,7 @@ export class PhoneState extends EventTarget {
   settings = {};
   audio = { page: null };
   script = null;
+  pictures = [];
   journal = [];
 
   #tell(name, detail, whole) {

@@ -43,7 +43,7 @@ export class SettingsPanel {
 
   async #load() {
     try {
-      this.#build(await read("/api/settings"));
+      this.#build(await read("api/settings"));
       this.#show();
     } catch (error) {
       toast(error.message, "problem");

@@ -205,7 +205,7 @@ export class SetupPanel {
     problem.hidden = true;
     const lines = toLines(this.#model());
     try {
-      await post("/api/setup", { lines });
+      await post("api/setup", { lines });
       toast("A fresh phone.");
     } catch (error) {
       const line = lines[(error.body?.line ?? 0) - 1];

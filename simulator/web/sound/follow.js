@@ -52,7 +52,7 @@ export class SoundFollower extends EventTarget {
     if (file === null || !this.owner) {
       element.removeAttribute("src");
       element.dataset.file = "";
-    } else element.src = `/music/${encodeURIComponent(file)}`;
+    } else element.src = `music/${encodeURIComponent(file)}`;
   }
 
   #play() {

@@ -96,7 +96,7 @@ export class SoundStart {
 
   async #own(take) {
     try {
-      const audio = await post("/api/audio-owner", { page: this.#page, ...(take ? { take } : {}) });
+      const audio = await post("api/audio-owner", { page: this.#page, ...(take ? { take } : {}) });
       this.#state.take("audio", audio);
     } catch (error) {
       toast(error.message, "problem");
@@ -107,7 +107,7 @@ export class SoundStart {
     this.#silent = false;
     await this.#output.allow();
     if (!this.#follower.owner) return this.#own(true);
-    const audio = await post("/api/audio-owner", { page: this.#page, release: true });
+    const audio = await post("api/audio-owner", { page: this.#page, release: true });
     this.#state.take("audio", audio);
   }
 

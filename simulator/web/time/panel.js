@@ -32,7 +32,7 @@ export class TimePanel {
   // What comes of it is told by the stream: the answer may be older than what has come there.
   async #ask(wish) {
     try {
-      await post("/api/time", wish);
+      await post("api/time", wish);
     } catch (error) {
       toast(error.message, "problem");
     }

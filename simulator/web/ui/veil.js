@@ -1,10 +1,17 @@
-// A calm veil over the phone while the server restarts or is gone.
+// A calm veil over the phone while the server restarts, is gone, or does not let this page in.
 import { h } from "./dom.js";
 
 const words = {
   connecting: ["Waking the phone…", ""],
   restarting: ["Restarting…", "The home screen begins anew."],
-  gone: ["The simulator is not there", "Start it again with ./run — this page goes on by itself."],
+  gone: [
+    "The simulator is not there",
+    "Start it again with ./run and open the address that it prints.",
+  ],
+  refused: [
+    "This phone has another secret now",
+    "Open the address that the simulator printed when it started.",
+  ],
 };
 
 export class Veil {

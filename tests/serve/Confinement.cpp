@@ -3,9 +3,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "tests/serve/EventReader.h"
 #include "tests/serve/ServedProgram.h"
 
@@ -15,11 +12,6 @@ namespace {
 namespace files = std::filesystem;
 
 constexpr const char* leadsElsewhere = "expected a file below the session's folder, found ";
-
-std::string contentOf(const files::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 TEST(Functions, AreThoseOfTheExtensionOnly) {
   const TestFolder folder;

@@ -7,9 +7,6 @@
 namespace sim {
 namespace {
 
-constexpr const char* timerOfOneMinute =
-    "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 0 60";
-
 TEST(Restarts, OfTheHostKeepThePortTheTimerAndTheJournal) {
   const ServedProgram program;
   std::string epoch;

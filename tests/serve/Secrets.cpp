@@ -5,8 +5,6 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 
 #include "tests/serve/EventReader.h"
 #include "tests/serve/ServedProgram.h"
@@ -181,11 +179,6 @@ TEST(Secrets, OutliveRestartsOfTheHost) {
   program.post("/api/script", {{"name", "a.phone"}, {"text", "boot\n"}});
   EXPECT_EQ(program.get("/" + program.place() + "/api/settings").status, 200);
   EXPECT_EQ(ask(program, {}).status, 401);
-}
-
-std::string contentOf(const std::string& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 TEST(Secrets, AreInNoListOfProcesses) {

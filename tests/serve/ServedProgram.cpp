@@ -16,11 +16,6 @@ namespace files = std::filesystem;
 
 namespace {
 
-std::string contentOf(const files::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 // Its standard output is the other end of the pipe, its standard error the file.
 pid_t start(std::vector<std::string> words, int output, const files::path& errors) {
   std::vector<char*> pointers;
@@ -55,6 +50,11 @@ Address readAddress(int input) {
 }
 
 }  // namespace
+
+std::string contentOf(const files::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 Answer answerFrom(const httplib::Result& result) {
   if (!result) return {};

@@ -82,8 +82,14 @@ class ServedProgram {
   std::string place_, token_;
 };
 
+// Empty when it cannot be read.
+std::string contentOf(const std::filesystem::path& file);
+
 // What the server answered, as tests compare it.
 Answer answerFrom(const httplib::Result& result);
+
+inline constexpr const char* timerOfOneMinute =
+    "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 0 60";
 
 // Plays a script headless; the journal that is printed.
 std::string playHeadless(const std::string& script);

@@ -7,9 +7,6 @@
 namespace sim {
 namespace {
 
-constexpr const char* timerOfOneMinute =
-    "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 0 60";
-
 double uptime(const ServedProgram& program) {
   return program.post("/api/time", json::object()).asJson().at("uptime");
 }

@@ -14,9 +14,9 @@ using httplib::Response;
 
 namespace {
 
-constexpr std::string_view digits = "0123456789abcdef";
+constexpr std::string_view hexadecimal = "0123456789abcdef";
 constexpr std::string_view cookieName = "dozewell";
-constexpr const char* parameter = "token";
+constexpr const char* tokenParameter = "token";
 
 // Takes equally long for all texts of a length: how much of one is right shows nowhere.
 bool areSame(std::string_view one, std::string_view other) {
@@ -41,7 +41,7 @@ std::string randomDigits(int count) {
   std::string text(std::size_t(count), '\0');
   if (getrandom(text.data(), text.size(), 0) != ssize_t(text.size()))
     throw std::system_error(errno, std::generic_category(), "getrandom");
-  for (char& each : text) each = digits[static_cast<unsigned char>(each) % digits.size()];
+  for (char& each : text) each = hexadecimal[static_cast<unsigned char>(each) % hexadecimal.size()];
   return text;
 }
 
@@ -49,7 +49,7 @@ std::string_view placeOf(std::string_view target) {
   const std::string_view place = target.substr(0, placeDigits + 1);
   const bool isPlace = place.size() == placeDigits + 1 && target.substr(place.size(), 1) == "/" &&
                        place[0] == '/' &&
-                       place.find_first_not_of(digits, 1) == std::string_view::npos;
+                       place.find_first_not_of(hexadecimal, 1) == std::string_view::npos;
   return isPlace ? place : std::string_view();
 }
 
@@ -58,7 +58,7 @@ void leavePlace(Request& request) {
 }
 
 std::string Access::entrance() const {
-  return '/' + place_ + "/?" + parameter + '=' + token_;
+  return '/' + place_ + "/?" + tokenParameter + '=' + token_;
 }
 
 bool Access::isToken(std::string_view text) const {
@@ -81,7 +81,7 @@ bool Access::hasCookie(const Request& request) const {
 
 bool Access::isInAddress(const Request& request) const {
   return request.method == "GET" && request.path == "/" &&
-         isToken(request.get_param_value(parameter));
+         isToken(request.get_param_value(tokenParameter));
 }
 
 bool Access::admits(const Request& request) const {

@@ -28,9 +28,10 @@ void Connections::chooseOneToGo() {
   shutdown(descriptor, SHUT_RDWR);
 }
 
-void Connections::sendOneAway() {
-  const std::lock_guard lock(mutex_);
+void Connections::makeRoom(std::chrono::milliseconds patience) {
+  std::unique_lock lock(mutex_);
   if (staying() > 0) chooseOneToGo();
+  changed_.wait_for(lock, patience);
 }
 
 bool Connections::add(int descriptor) {

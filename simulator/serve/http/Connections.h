@@ -18,8 +18,8 @@ class Connections {
 
   // A stranger. False: even those who had to go are too many, as they are not gone yet.
   bool add(int descriptor);
-  // Somebody has to go, for whatever reason; not if there is nobody.
-  void sendOneAway();
+  // Somebody has to go, for whatever reason: waits until anybody has gone, so long at most.
+  void makeRoom(std::chrono::milliseconds patience);
   // It begins another request.
   void beginRequest(int descriptor);
   // It has shown the secret.

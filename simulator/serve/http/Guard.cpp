@@ -37,10 +37,10 @@ void requireOwn(const Request& request, int port) {
 }
 
 void requireSecret(const Request& request, const Access& access) {
-  if (!access.admits(request))
-    throw RequestError(401,
-                       std::string("open the address that dozewell-simulator printed when it ") +
-                           "started: it holds this phone's secret");
+  constexpr const char* whatToDo =
+      "open the address that dozewell-simulator printed when it started: it holds this phone's "
+      "secret";
+  if (!access.admits(request)) throw RequestError(401, whatToDo);
 }
 
 void requireJson(const Request& request) {
@@ -55,9 +55,11 @@ void tell(const Request& request, Response& response, const RequestError& error)
   if (error.status != 401) return;
   response.set_header("WWW-Authenticate", "Bearer");
   if (request.get_header_value("Accept").find("text/html") == std::string::npos) return;
-  response.set_content(
-      "<!doctype html><title>Dozewell</title><p>Please " + std::string(error.what()) + ".</p>",
-      "text/html; charset=utf-8");
+  const std::string head =
+      R"(<!doctype html><html lang="en"><title>Dozewell</title><meta name="viewport" )"
+      R"(content="width=device-width"><meta name="color-scheme" content="light dark">)";
+  response.set_content(head + "<p>Please " + error.what() + ".</p></html>",
+                       "text/html; charset=utf-8");
 }
 
 // What the library itself finds wrong.

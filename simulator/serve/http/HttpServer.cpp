@@ -26,7 +26,7 @@ constexpr milliseconds requestPatience{10'000};                     // until all
 constexpr milliseconds strangersPatience{10'000};                   // until it begins
 constexpr milliseconds idlePatience{60'000};                        // likewise, of who was let in
 constexpr milliseconds drainPatience{1'000};
-constexpr milliseconds breath{100};  // for it to go
+constexpr milliseconds roomPatience{100};
 
 thread_local int theConnection = -1;
 thread_local bool isAnswering = false;
@@ -143,16 +143,10 @@ void HttpServer::acceptConnections() {
     if (descriptor >= 0)
       take(descriptor);
     else if (problem == EMFILE || problem == ENFILE)
-      waitForRoom();
+      connections_.makeRoom(roomPatience);
     else if (problem != EINTR && problem != ECONNABORTED && problem != EAGAIN)
       throw std::system_error(problem, std::generic_category(), "accept");
   }
-}
-
-// Whoever waits to be let in must not wait for those who stay.
-void HttpServer::waitForRoom() {
-  connections_.sendOneAway();
-  std::this_thread::sleep_for(breath);
 }
 
 void HttpServer::take(int descriptor) {
@@ -163,7 +157,11 @@ void HttpServer::take(int descriptor) {
   // Events are small and wanted now: the network must not wait for more to send with them.
   const int on = 1;
   setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-  std::thread([this, descriptor] { serve(descriptor); }).detach();
+  try {
+    std::thread([this, descriptor] { serve(descriptor); }).detach();
+  } catch (const std::system_error&) {
+    connections_.remove(descriptor);  // no more threads just now: whoever it was may try again
+  }
 }
 
 void HttpServer::serve(int descriptor) {

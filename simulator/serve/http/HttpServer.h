@@ -54,7 +54,6 @@ class HttpServer : public httplib::Server {
 
   void acceptConnections();
   bool waitForConnection() const;
-  void waitForRoom();
   void take(int descriptor);
   void serve(int descriptor);
 

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "simulator/foundation/NSLocale.h"
+#include "simulator/phone/Phone.h"
 
 namespace sim {
 namespace {
@@ -109,8 +110,7 @@ std::optional<std::filesystem::path> BundleFiles::findIn(const std::filesystem::
   for (const std::string_view device : {"~iphone", ""}) {
     std::string file = std::string(name) + std::string(device);
     if (!type.empty()) file += (type.starts_with('.') ? "" : ".") + std::string(type);
-    // Nothing outside the bundle is looked for: ".." at its top goes nowhere.
-    const auto inside = ("/" / subfolder / file).lexically_normal().relative_path();
+    const auto inside = pathWithin((subfolder / file).string());
     std::error_code problem;
     if (std::filesystem::exists(folder_ / inside, problem)) return inside;
   }

@@ -68,7 +68,9 @@ bool createDirectory(Object, Object path, bool intermediates, Object, Object* er
 bool removeItem(Object, Object path, Object* error) {
   clear(error);
   std::error_code problem;
-  return path && fs::exists(fs::symlink_status(place(path), problem)) &&
+  // Nobody removes a phone's whole disk.
+  return path && place(path) != Phone::current().file("/") &&
+         fs::exists(fs::symlink_status(place(path), problem)) &&
          fs::remove_all(place(path), problem) > 0 && !problem;
 }
 

@@ -27,8 +27,11 @@ Host::Symbol described(void* address) {
   void* entry = nullptr;
   dladdr1(address, &unused, &entry, RTLD_DL_SYMENT);
   const auto* symbol = static_cast<const ElfW(Sym)*>(entry);
-  const bool isVariable = symbol != nullptr && ELF64_ST_TYPE(symbol->st_info) == STT_OBJECT;
-  return {address, isVariable, isVariable ? std::size_t(symbol->st_size) : 0};
+  using Kind = Host::Symbol::Kind;
+  if (symbol == nullptr) return {address, Kind::other, 0};
+  const int type = ELF64_ST_TYPE(symbol->st_info);
+  if (type == STT_FUNC) return {address, Kind::function, 0};
+  return {address, type == STT_OBJECT ? Kind::variable : Kind::other, symbol->st_size};
 }
 
 }  // namespace

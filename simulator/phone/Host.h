@@ -28,8 +28,9 @@ class Host {
   bool isLaunched() const { return launched_; }
 
   struct Symbol {
+    enum class Kind { function, variable, other };
     void* address;
-    bool isVariable;
+    Kind kind;
     std::size_t size;  // bytes, of a variable
   };
   // What an extension itself exports under that name: never what comes from a library that it

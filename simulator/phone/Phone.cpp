@@ -27,10 +27,15 @@ Phone& Phone::current() {
   return *theCurrent;
 }
 
+std::filesystem::path pathWithin(std::string_view path) {
+  // The system's own calls end at a NUL, behind which ".." would look like another name.
+  const std::string_view whole = path.substr(0, path.find('\0'));
+  // Normalised as an absolute path, ".." at the top goes nowhere: nothing leads out.
+  return (std::filesystem::path("/") / whole).lexically_normal().relative_path();
+}
+
 std::filesystem::path Phone::file(std::string_view phonePath) const {
-  // Normalised as an absolute path, ".." at the top goes nowhere: nothing leaves the root.
-  const auto inside = (std::filesystem::path("/") / phonePath).lexically_normal();
-  return root_ / inside.relative_path();
+  return root_ / pathWithin(phonePath);
 }
 
 void Phone::survives(std::string name, Survivor survivor) {

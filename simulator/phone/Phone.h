@@ -15,6 +15,10 @@
 
 namespace sim {
 
+// What a path from a script or an extension means below a folder that it shall not lead out of,
+// relative to that.
+std::filesystem::path pathWithin(std::string_view path);
+
 class Phone {
  public:
   explicit Phone(const std::filesystem::path& root);

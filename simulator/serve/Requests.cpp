@@ -165,12 +165,12 @@ std::string ServedPhone::recording() const {
 
 void ServedPhone::watch(const Watchers::Watcher& watcher) {
   const objc::AutoreleasePool pool;
-  watchers_.add(watcher);
   report_.tell(watchers_);
   json whole = report_.snapshot();
   whole["epoch"] = state_.epoch + '-' + std::to_string(state_.restarts);
   whole["page"] = watcher->page();
   watcher->startOver(eventText("snapshot", whole));
+  watchers_.add(watcher);
 }
 
 void ServedPhone::unwatch(const Watchers::Watcher& watcher) {

@@ -51,6 +51,27 @@ TEST_F(NSFileManagerTest, makesAndRemovesFolders) {
   EXPECT_FALSE(exists("/folder/a"));
 }
 
+// The system's calls end at a NUL: behind it ".." would be another name, and lead out.
+TEST_F(NSFileManagerTest, staysBelowTheRootWhateverAPathHolds) {
+  writeFile("/file", "1");
+  using std::string_view_literals::operator""sv;
+  for (const std::string_view trick : {"/..\0"sv, "..\0a"sv, "/../..\0/"sv, "/a/..\0"sv}) {
+    const Object path = string(trick);
+    EXPECT_FALSE(
+        (send<bool, "removeItemAtPath:error:">(manager(), path, static_cast<Object*>(nullptr))));
+    const Object names = send<Object, "contentsOfDirectoryAtPath:error:">(
+        manager(), path, static_cast<Object*>(nullptr));
+    EXPECT_EQ(text(send<Object, "componentsJoinedByString:">(names, string(","))), "file");
+  }
+  EXPECT_TRUE(exists("/file"));
+}
+
+TEST_F(NSFileManagerTest, removesNoWholeDisk) {
+  writeFile("/file", "1");
+  for (const char* path : {"/", "", "//", "/.", "/..", "/a/.."}) EXPECT_FALSE(remove(path)) << path;
+  EXPECT_TRUE(exists("/file"));
+}
+
 TEST_F(NSFileManagerTest, movesItems) {
   writeFile("/from", "1");
   writeFile("/taken", "2");

@@ -145,6 +145,8 @@ TEST_F(Files, BelowTheFolderAreReadAndWritten) {
             200);
   EXPECT_EQ(program.command({"snapshot \"sub/./screen.svg\"", "snapshot screen.svg"}).status, 200);
   EXPECT_EQ(contentOf(session() / "sub/screen.svg"), contentOf(session() / "screen.svg"));
+  EXPECT_EQ(files::status(session() / "screen.svg").permissions(),
+            files::perms::owner_read | files::perms::owner_write);
   // Shorter than what was there.
   folder_.write("session/screen.svg", std::string(1'000'000, ' '));
   EXPECT_EQ(program.command("snapshot screen.svg").status, 200);

@@ -26,7 +26,7 @@ TEST(Framing, OfARequestWithoutABodyIsItsHeadAlone) {
   for (const char* method : {"PUT", "PATCH", "POST", "DELETE", "OPTIONS"}) {
     const RawConnection connection(program);
     connection.send(request(program, std::string(method) + " /api/script"));
-    const std::string answer = connection.readAll(std::chrono::seconds(5));
+    const std::string answer = connection.readAll(milliseconds(500));
     EXPECT_EQ(countOf(answer, "HTTP/1.1 "), 1) << method << answer;
     EXPECT_NE(answer.find("\r\n\r\n"), std::string::npos) << method;
     EXPECT_TRUE(connection.isOver() || answer.find(" 200 ") != std::string::npos) << method;
@@ -40,11 +40,9 @@ TEST(Framing, LetsRequestsFollowEachOther) {
   connection.send(request(program, "GET /api/setup") +
                   request(program, "POST /api/command",
                           "Content-Length: " + std::to_string(body.size()) + "\r\n", body) +
-                  request(program, "POST /api/command", "Transfer-Encoding: chunked\r\n",
-                          "11\r\n{\"line\":\"unlock\"}\r\n0\r\n\r\n") +
                   request(program, "GET /api/setup", "Content-Length: 0\r\nConnection: close\r\n"));
   const std::string answers = connection.readAll(std::chrono::seconds(30));
-  EXPECT_EQ(countOf(answers, "HTTP/1.1 200 OK"), 4) << answers;
+  EXPECT_EQ(countOf(answers, "HTTP/1.1 200 OK"), 3) << answers;
 }
 
 struct Trick {
@@ -70,7 +68,7 @@ TEST_P(Framings, HideNoOtherRequest) {
   connection.send(request(program, trick.line, headers, hidden));
   const std::string answers = connection.readAll(std::chrono::seconds(30));
   EXPECT_EQ(countOf(answers, "HTTP/1.1 "), 1) << answers;
-  EXPECT_EQ(answers.rfind("HTTP/1.1 400", 0), 0u) << answers;
+  EXPECT_EQ(answers.rfind("HTTP/1.1 4", 0), 0u) << answers;
   EXPECT_TRUE(connection.isOver());
   EXPECT_EQ(program.journal().find("user shake"), std::string::npos);
 }
@@ -95,7 +93,18 @@ INSTANTIATE_TEST_SUITE_P(
         Trick{"SignedLength", "POST /api/command", "Content-Length: +0\r\n", ""},
         Trick{"HexadecimalLength", "POST /api/command", "Content-Length: 0x0\r\n", ""},
         Trick{"HugeLength", "POST /api/command", "Content-Length: 99999999999999999999\r\n", ""},
-        Trick{"EmptyLength", "POST /api/command", "Content-Length:\r\n", ""}),
+        Trick{"EmptyLength", "DELETE /api/script", "Content-Length:\r\n", ""},
+        Trick{"EmptyCoding", "DELETE /api/script", "Transfer-Encoding:\r\n", ""},
+        Trick{"BlankBeforeColon", "GET /api/setup", "content-length : N\r\n", ""},
+        Trick{"TabBeforeColon", "DELETE /api/script", "content-length\t: N\r\n", ""},
+        Trick{"BlankBeforeName", "GET /api/setup", " content-length: N\r\n", ""},
+        Trick{"FoldedLine", "GET /api/setup", "X: a\r\n content-length: N\r\n", ""},
+        Trick{"LineFeedAlone", "GET /api/setup", "content-length: N\n", ""},
+        Trick{"LineFeedBetween", "GET /api/setup", "X: a\ncontent-length: N\r\n", ""},
+        Trick{"ReturnAlone", "GET /api/setup", "X: a\rcontent-length: N\r\n", ""},
+        Trick{"NoColon", "GET /api/setup", "content-length N\r\n", ""},
+        Trick{"LongerChunk", "POST /api/command", "Transfer-Encoding: chunked\r\n",
+              "2\r\n{}}}\r\n"}),
     [](const auto& each) { return each.param.name; });
 
 }  // namespace

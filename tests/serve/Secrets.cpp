@@ -63,6 +63,8 @@ TEST(Secrets, AreRefusedWhenTheyAreWrong) {
   EXPECT_EQ(ask(program, {{"Authorization", token}}).status, 401);
   for (const char* cookie : {"other=", "dozewell", "dozewell:", "dozewell2=", "a; dozewell ="})
     EXPECT_EQ(askWithCookie(program, cookie + token).status, 401) << cookie;
+  EXPECT_EQ(answerFrom(program.stranger().Head("/?token=" + token)).status, 401);
+  EXPECT_EQ(answerFrom(program.stranger().Post("/?token=" + token)).status, 401);
   // In an address it is for the page alone: addresses are kept in many places.
   EXPECT_EQ(ask(program, {}, "/api/settings?token=" + token).status, 401);
 }
@@ -90,10 +92,10 @@ TEST(Secrets, AreTakenIntoACookieByThePage) {
   EXPECT_NE(page.body.find("main.js"), std::string::npos);
   EXPECT_EQ(page.header("Set-Cookie"), "dozewell=" + program.token() + "; Path=/" +
                                            program.place() + "/; HttpOnly; SameSite=Strict");
-  const std::string withoutPlace = "/?token=" + program.token();
-  const Answer redirected = ask(program, {}, withoutPlace);
+  EXPECT_EQ(page.header("Cache-Control"), "no-store");
+  const Answer redirected = ask(program, {}, "/?token=" + program.token() + "&script=/a.phone");
   EXPECT_EQ(redirected.status, 303);
-  EXPECT_EQ(redirected.header("Location"), program.entrance());
+  EXPECT_EQ(redirected.header("Location"), program.entrance() + "&script=/a.phone");
   EXPECT_EQ(redirected.header("Set-Cookie"), "");
   EXPECT_EQ(program.get("/").header("Set-Cookie"), "");
 }

@@ -1,6 +1,7 @@
 #include "tests/serve/ServedProgram.h"
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -17,12 +18,18 @@ namespace files = std::filesystem;
 namespace {
 
 // Its standard output is the other end of the pipe, its standard error the file.
-pid_t start(std::vector<std::string> words, int output, const files::path& errors) {
+pid_t start(std::vector<std::string> words, int output, const files::path& errors,
+            std::optional<rlim_t> descriptors) {
   std::vector<char*> pointers;
   for (std::string& word : words) pointers.push_back(word.data());
   pointers.push_back(nullptr);
   const pid_t child = fork();
   if (child != 0) return child;
+  prctl(PR_SET_PDEATHSIG, SIGTERM);  // also of a test that is stopped
+  if (descriptors) {
+    const rlimit limit{*descriptors, *descriptors};
+    setrlimit(RLIMIT_NOFILE, &limit);
+  }
   dup2(output, STDOUT_FILENO);
   dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
   execv(SIMULATOR, pointers.data());
@@ -72,13 +79,13 @@ std::string Answer::header(const std::string& name) const {
   return found == headers.end() ? "" : found->second;
 }
 
-ServedProgram::ServedProgram(std::vector<std::string> words) {
+ServedProgram::ServedProgram(std::vector<std::string> words, std::optional<rlim_t> descriptors) {
   std::vector<std::string> all = {"dozewell-simulator", "serve", "--paused", "--port", "0"};
   all.insert(all.end(), words.begin(), words.end());
   if (words.empty()) all.emplace_back("--no-music");
   int pipeEnds[2];
   if (pipe2(pipeEnds, O_CLOEXEC) != 0) throw std::runtime_error("pipe2");
-  process_ = start(all, pipeEnds[1], folder_.path() / "errors");
+  process_ = start(all, pipeEnds[1], folder_.path() / "errors", descriptors);
   close(pipeEnds[1]);
   const Address address = readAddress(pipeEnds[0]);
   port_ = address.port;

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <httplib.h>
+#include <sys/resource.h>
 #include <sys/types.h>
 
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,7 +37,9 @@ class ServedProgram {
  public:
   // Time stands still unless a test moves it. Without music, unless there are words. Throws
   // std::runtime_error, with what the program says, when that ends instead of serving.
-  explicit ServedProgram(std::vector<std::string> words = {});
+  // `descriptors`: how many it may have; none: as many as this process.
+  explicit ServedProgram(std::vector<std::string> words = {},
+                         std::optional<rlim_t> descriptors = std::nullopt);
   ~ServedProgram();
   ServedProgram(const ServedProgram&) = delete;
   ServedProgram& operator=(const ServedProgram&) = delete;

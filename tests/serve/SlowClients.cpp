@@ -1,5 +1,7 @@
 // Those who are silent or slow keep nobody else out.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <thread>
@@ -77,11 +79,39 @@ TEST(SlowClients, ThatSendAByteNowAndThenKeepNobodyOut) {
 
 TEST(SlowClients, AreCutOffAfterAWhile) {
   const ServedProgram program;
-  const RawConnection slow(program);
+  const RawConnection slow(program), silent(program);
   slow.send(head(program, "GET /api/setup") + "X-Slow: ");
-  // Each byte alone comes soon enough. The whole test ends by ctest's limit if it is never cut off.
+  // Each byte alone comes soon enough. The whole test ends by ctest's limit if they are never cut
+  // off.
   while (slow.send("x") && !slow.isOver()) usleep(100'000);
+  while (!silent.isOver()) usleep(100'000);
   EXPECT_EQ(program.get("/api/setup").status, 200);
+}
+
+TEST(SlowClients, KeepNobodyOutWhereDescriptorsAreFew) {
+  const ServedProgram program({"--no-music"}, 100);
+  EventReader page(program);
+  page.next("snapshot");
+  const auto silent = connected(program, many, "");
+  expectToBeQuick(program);
+  EXPECT_EQ(program.command("snapshot screen.png").status, 200) << "it needs some itself";
+  EXPECT_EQ(program.errors(), "");
+}
+
+TEST(SlowClients, OfAnotherUserGoFirst) {
+  if (getuid() != 0) GTEST_SKIP() << "only root can become another user";
+  const ServedProgram program;
+  // They come and go, faster than anybody can ask.
+  const pid_t other = fork();
+  if (other == 0) {
+    if (setuid(65534) != 0) _exit(1);
+    for (int times = 0; times < 50; ++times) connected(program, many, "GET");
+    _exit(0);
+  }
+  expectToBeQuick(program);
+  kill(other, SIGKILL);
+  int status = 0;
+  waitpid(other, &status, 0);
 }
 
 TEST(SlowClients, StayWhileThereIsRoom) {

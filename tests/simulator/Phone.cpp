@@ -23,6 +23,10 @@ TEST_F(PhoneTest, NoPathLeavesTheRoot) {
   EXPECT_EQ(phone.file("/../../etc/passwd"), "/nonexistent/etc/passwd");
   EXPECT_EQ(phone.file("../etc/passwd"), "/nonexistent/etc/passwd");
   EXPECT_EQ(phone.file("/var/../../../etc"), "/nonexistent/etc");
+  using std::string_view_literals::operator""sv;
+  EXPECT_EQ(phone.file("/..\0"sv), "/nonexistent/");
+  EXPECT_EQ(phone.file("/var/..\0/..\0"sv), "/nonexistent/");
+  EXPECT_EQ(phone.file("/var/a\0b"sv), "/nonexistent/var/a");
 }
 
 TEST_F(PhoneTest, SurvivorsGetBackWhatTheySaved) {

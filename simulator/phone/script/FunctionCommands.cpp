@@ -17,15 +17,15 @@ Host::Symbol exportedSymbol(const Word& name) {
 
 void* exportedFunction(const Word& name) {
   const Host::Symbol symbol = exportedSymbol(name);
-  if (symbol.isVariable)
-    throw ScriptError(name.column, "expected a function, " + name.text + " is a variable");
+  if (symbol.kind != Host::Symbol::Kind::function)
+    throw ScriptError(name.column, "expected a function, " + name.text + " is none");
   return symbol.address;
 }
 
 const void* exportedVariable(const Word& name, const TypeEncoding& type) {
   const Host::Symbol symbol = exportedSymbol(name);
-  if (!symbol.isVariable)
-    throw ScriptError(name.column, "expected a variable, " + name.text + " is a function");
+  if (symbol.kind != Host::Symbol::Kind::variable)
+    throw ScriptError(name.column, "expected a variable, " + name.text + " is none");
   // Sanitizers make variables larger than they are.
   if (symbol.size < type.size())
     throw ScriptError(name.column, name.text + " has fewer bytes than the type " + type.text);

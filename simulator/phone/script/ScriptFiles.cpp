@@ -44,7 +44,7 @@ class Descriptor {
 
 std::vector<std::string> partsOf(const Word& name) {
   const files::path path = name.text;
-  if (path.empty() || path.is_absolute()) refuse(name);
+  if (path.empty() || path.is_absolute() || name.text.find('\0') != std::string::npos) refuse(name);
   std::vector<std::string> parts;
   for (const files::path& part : path) {
     if (part == "..") refuse(name);

@@ -95,8 +95,10 @@ bool Access::admits(const Request& request) const {
 bool Access::welcome(const Request& request, Response& response) const {
   if (!isInAddress(request)) return true;
   const std::string_view place = placeOf(request.target);
+  response.headers.erase("Cache-Control");
+  response.set_header("Cache-Control", "no-store");
   if (place.empty()) {
-    response.set_redirect(entrance(), 303);
+    response.set_redirect('/' + place_ + request.target, 303);
     return false;
   }
   response.set_header("Set-Cookie", std::string(cookieName) + '=' + token_ + "; Path=" +

@@ -5,10 +5,17 @@
 
 #include <algorithm>
 #include <tuple>
+#include <vector>
 
 namespace sim {
 
 using std::chrono::steady_clock;
+
+namespace {
+
+constexpr std::chrono::seconds leavingPatience{1};
+
+}  // namespace
 
 std::size_t Connections::staying() const {
   return std::size_t(std::count_if(all_.begin(), all_.end(),
@@ -17,35 +24,40 @@ std::size_t Connections::staying() const {
 
 // Its thread notices that the socket is shut, and removes it.
 void Connections::chooseOneToGo() {
-  const auto earlier = [](const auto& one, const auto& other) {
-    const auto key = [](const Connection& each) {
-      return std::tuple(each.hasToGo, each.isTrusted, each.since);
+  using Entry = std::pair<const int, Connection>;
+  std::vector<Entry*> candidates;
+  for (const bool isTrusted : {false, true}) {
+    for (Entry& each : all_)
+      if (!each.second.hasToGo && each.second.isTrusted == isTrusted) candidates.push_back(&each);
+    if (!candidates.empty()) break;
+  }
+  if (candidates.empty()) return;
+  std::map<Client, long> counts;
+  for (const Entry* each : candidates) ++counts[each->second.client];
+  const auto goesFirst = [&counts](const Entry* one, const Entry* other) {
+    const auto key = [&counts](const Entry* each) {
+      return std::tuple(-counts[each->second.client], each->second.since);
     };
-    return key(one.second) < key(other.second);
+    return key(one) < key(other);
   };
-  auto& [descriptor, connection] = *std::min_element(all_.begin(), all_.end(), earlier);
-  connection.hasToGo = true;
-  shutdown(descriptor, SHUT_RDWR);
+  Entry& chosen = **std::min_element(candidates.begin(), candidates.end(), goesFirst);
+  chosen.second.hasToGo = true;
+  shutdown(chosen.first, SHUT_RDWR);
+}
+
+bool Connections::add(int descriptor, Client client) {
+  std::unique_lock lock(mutex_);
+  if (!changed_.wait_for(lock, leavingPatience, [this] { return all_.size() < 2 * most_; }))
+    return false;
+  if (staying() >= most_) chooseOneToGo();
+  all_[descriptor] = {client, steady_clock::now()};
+  return true;
 }
 
 void Connections::makeRoom(std::chrono::milliseconds patience) {
   std::unique_lock lock(mutex_);
-  if (staying() > 0) chooseOneToGo();
+  chooseOneToGo();
   changed_.wait_for(lock, patience);
-}
-
-bool Connections::add(int descriptor) {
-  const std::lock_guard lock(mutex_);
-  if (all_.size() >= 2 * most_) return false;
-  if (staying() >= most_) chooseOneToGo();
-  all_[descriptor] = {.since = steady_clock::now()};
-  return true;
-}
-
-void Connections::beginRequest(int descriptor) {
-  const std::lock_guard lock(mutex_);
-  if (const auto found = all_.find(descriptor); found != all_.end() && found->second.isTrusted)
-    found->second.since = steady_clock::now();
 }
 
 void Connections::trust(int descriptor) {

@@ -2,46 +2,75 @@
 
 #include <httplib.h>
 
-#include <string>
+#include <algorithm>
+#include <cctype>
 
 #include "simulator/serve/RequestError.h"
 
 namespace sim {
-
-using httplib::Request;
-
 namespace {
 
 constexpr const char* lengthHeader = "Content-Length";
 constexpr const char* codingHeader = "Transfer-Encoding";
+constexpr std::string_view lineEnd = "\r\n";
+constexpr std::string_view blanks = " \t";
 constexpr std::size_t mostDigits = 12;
 
-bool isNumber(const std::string& text) {
+[[noreturn]] void refuse() {
+  throw RequestError(400, "expected an HTTP request");
+}
+
+// Without its end, which must be there, and be the only one.
+std::string_view takeLine(std::string_view& head) {
+  const auto end = head.find(lineEnd);
+  if (end == std::string_view::npos) refuse();
+  const std::string_view line = head.substr(0, end);
+  if (line.find_first_of("\r\n") != std::string_view::npos) refuse();
+  head.remove_prefix(end + lineEnd.size());
+  return line;
+}
+
+bool isNamed(std::string_view name, std::string_view header) {
+  return std::equal(name.begin(), name.end(), header.begin(), header.end(), [](char one, char two) {
+    return std::tolower(static_cast<unsigned char>(one)) ==
+           std::tolower(static_cast<unsigned char>(two));
+  });
+}
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+bool isNumber(std::string_view text) {
   return !text.empty() && text.size() <= mostDigits &&
-         text.find_first_not_of("0123456789") == std::string::npos;
+         text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 }  // namespace
 
-void completeFraming(Request& request) {
-  if (!request.has_header(lengthHeader) && !request.has_header(codingHeader))
-    request.set_header(lengthHeader, "0");
+void completeFraming(httplib::Request& request) {
+  if (!request.has_header(lengthHeader)) request.set_header(lengthHeader, "0");
 }
 
-void requireFraming(const Request& request) {
-  const auto lengths = request.get_header_value_count(lengthHeader);
-  const auto codings = request.get_header_value_count(codingHeader);
-  if (lengths + codings != 1)
-    throw RequestError(400, "expected one Content-Length, or Transfer-Encoding: chunked");
-  if (lengths == 1 && !isNumber(request.get_header_value(lengthHeader)))
-    throw RequestError(400, "expected Content-Length to be a number");
-  if (codings == 1 && request.get_header_value(codingHeader) != "chunked")
-    throw RequestError(400, "expected Transfer-Encoding: chunked");
-  const bool isEmpty =
-      lengths == 1 &&
-      request.get_header_value(lengthHeader).find_first_not_of('0') == std::string::npos;
-  if (request.method != "POST" && !isEmpty)
-    throw RequestError(400, "expected no body with " + request.method);
+void requireFraming(const std::string& method, std::string_view head) {
+  takeLine(head);  // what is asked for
+  bool hasLength = false;
+  for (std::string_view line = takeLine(head); !line.empty(); line = takeLine(head)) {
+    const std::string_view name = line.substr(0, line.find(':'));
+    if (name.empty() || name.size() == line.size() ||
+        name.find_first_of(blanks) != std::string_view::npos)
+      refuse();
+    if (isNamed(name, codingHeader)) throw RequestError(411, "expected a Content-Length");
+    if (!isNamed(name, lengthHeader)) continue;
+    const std::string_view length = trimmed(line.substr(name.size() + 1));
+    if (hasLength || !isNumber(length))
+      throw RequestError(400, "expected one Content-Length, a number");
+    if (method != "POST" && length.find_first_not_of('0') != std::string_view::npos)
+      throw RequestError(400, "expected no body with " + method);
+    hasLength = true;
+  }
 }
 
 }  // namespace sim

@@ -1,6 +1,9 @@
 // Where a request ends and the next one begins.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 namespace httplib {
 struct Request;
 }
@@ -10,8 +13,10 @@ namespace sim {
 // A request that says nothing of its body has none; the library would wait for one.
 void completeFraming(httplib::Request& request);
 
-// RequestError 400 for a body whose end is told in no way or in several, or that a request of this
-// kind has not: the library would not read it, and take it for the next request.
-void requireFraming(const httplib::Request& request);
+// What a request's head, as it was sent, says of its body: nothing, or one Content-Length with
+// POST. RequestError 400 for anything else, and for heads that not everybody reads in the same way;
+// 411 for a body in chunks. The library would not read such a body, or only a part of it, and take
+// the rest for the next request.
+void requireFraming(const std::string& method, std::string_view head);
 
 }  // namespace sim

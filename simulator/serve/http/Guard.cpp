@@ -99,7 +99,7 @@ void guard(HttpServer& server, int port, const Access& access) {
     requireOwn(request, port);
     requireSecret(request, access);
     server.trust();
-    requireFraming(request);
+    requireFraming(request.method, HttpServer::head());
     requireJson(request);
   };
   server.set_pre_routing_handler([check](const Request& request, Response& response) {

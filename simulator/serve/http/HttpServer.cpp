@@ -4,14 +4,19 @@
 #include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/eventfd.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdint>
+#include <iostream>
 #include <system_error>
 
+#include "simulator/serve/http/HeadRecorder.h"
+#include "simulator/serve/http/PeerUser.h"
 #include "simulator/serve/http/SocketStream.h"
 
 namespace sim {
@@ -21,16 +26,36 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 constexpr std::size_t mostConnections = 300;
+constexpr std::size_t fewestConnections = 8;
+constexpr std::size_t otherDescriptors = 64;  // files, pipes and what the answers need
 constexpr std::size_t requestBytes = std::size_t(1) * 1024 * 1024;  // headers and body
 constexpr milliseconds requestPatience{10'000};                     // until all of it is there
 constexpr milliseconds strangersPatience{10'000};                   // until it begins
 constexpr milliseconds idlePatience{60'000};                        // likewise, of who was let in
 constexpr milliseconds drainPatience{1'000};
 constexpr milliseconds roomPatience{100};
+constexpr int threadTries = 20;
 
 thread_local int theConnection = -1;
 thread_local bool isAnswering = false;
 thread_local bool lastAnswerWasError = false;
+thread_local const HeadRecorder* theHead = nullptr;
+
+// Twice as many as stay may be there, and one that watches has two descriptors.
+std::size_t connectionsFor(std::size_t descriptors) {
+  const std::size_t left = descriptors - std::min(descriptors, otherDescriptors);
+  return std::clamp(left / 3, fewestConnections, mostConnections);
+}
+
+// As many descriptors as this process may have.
+std::size_t raisedLimit() {
+  rlimit limit{};
+  getrlimit(RLIMIT_NOFILE, &limit);
+  limit.rlim_cur = std::min<rlim_t>(limit.rlim_max, 4096);
+  setrlimit(RLIMIT_NOFILE, &limit);
+  getrlimit(RLIMIT_NOFILE, &limit);
+  return limit.rlim_cur;
+}
 
 // A socket closed with something unread resets the connection, and the answer may be lost with
 // it: what is still being sent goes unread, for a while.
@@ -64,7 +89,8 @@ class HttpServer::Answering {
   HttpServer& server_;
 };
 
-HttpServer::HttpServer() : connections_(mostConnections), wakeUp_(eventfd(0, EFD_CLOEXEC)) {
+HttpServer::HttpServer()
+    : connections_(connectionsFor(raisedLimit())), wakeUp_(eventfd(0, EFD_CLOEXEC)) {
   if (wakeUp_ < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
   set_logger([](const httplib::Request&, const httplib::Response& response) {
     lastAnswerWasError = response.status >= 400;
@@ -103,6 +129,10 @@ int HttpServer::connection() {
   return theConnection;
 }
 
+const std::string& HttpServer::head() {
+  return theHead->head();
+}
+
 void HttpServer::leaveAnswering() {
   if (!isAnswering) return;
   isAnswering = false;
@@ -124,7 +154,10 @@ bool HttpServer::processRequest(httplib::Stream& stream, bool isLast) {
     request.ranges.clear();
     if (prepare_) prepare_(request);
   };
-  const bool processed = process_request(stream, isLast, closed, prepare);
+  HeadRecorder recorder(stream);
+  theHead = &recorder;
+  const bool processed = process_request(recorder, isLast, closed, prepare);
+  theHead = nullptr;
   // After an error the rest of the request may be unread: it must not be taken for the next one.
   return processed && !closed && !lastAnswerWasError;
 }
@@ -142,26 +175,34 @@ void HttpServer::acceptConnections() {
     const int problem = errno;
     if (descriptor >= 0)
       take(descriptor);
-    else if (problem == EMFILE || problem == ENFILE)
+    else if (problem == EMFILE || problem == ENFILE || problem == ENOBUFS || problem == ENOMEM)
       connections_.makeRoom(roomPatience);
-    else if (problem != EINTR && problem != ECONNABORTED && problem != EAGAIN)
-      throw std::system_error(problem, std::generic_category(), "accept");
+    // What else goes wrong is that one connection's own trouble.
   }
 }
 
 void HttpServer::take(int descriptor) {
-  if (!connections_.add(descriptor)) {
+  if (!connections_.add(descriptor, peerUser(descriptor))) {
     close(descriptor);
     return;
   }
   // Events are small and wanted now: the network must not wait for more to send with them.
   const int on = 1;
   setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-  try {
-    std::thread([this, descriptor] { serve(descriptor); }).detach();
-  } catch (const std::system_error&) {
-    connections_.remove(descriptor);  // no more threads just now: whoever it was may try again
+  startToServe(descriptor);
+}
+
+// Where there are no more threads others have to go for it, too.
+void HttpServer::startToServe(int descriptor) {
+  for (int tries = 0; tries < threadTries; ++tries) {
+    try {
+      std::thread([this, descriptor] { serve(descriptor); }).detach();
+      return;
+    } catch (const std::system_error&) {
+      connections_.makeRoom(roomPatience);
+    }
   }
+  connections_.remove(descriptor);
 }
 
 void HttpServer::serve(int descriptor) {
@@ -170,10 +211,13 @@ void HttpServer::serve(int descriptor) {
   const auto patience = [this, descriptor] {
     return connections_.isTrusted(descriptor) ? idlePatience : strangersPatience;
   };
-  while (stream.waitForRequest(patience())) {
-    connections_.beginRequest(descriptor);
-    stream.allow(requestBytes, requestPatience);
-    if (!processRequest(stream, false)) break;
+  try {
+    while (stream.waitForRequest(patience())) {
+      stream.allow(requestBytes, requestPatience);
+      if (!processRequest(stream, false)) break;
+    }
+  } catch (const std::exception& error) {
+    std::cerr << "dozewell-simulator: a connection is closed: " << error.what() << '\n';
   }
   drain(descriptor);
   connections_.remove(descriptor);

@@ -38,8 +38,9 @@ class HttpServer : public httplib::Server {
   // when that takes longer.
   bool waitUntilAnswered(std::chrono::milliseconds patience);
 
-  // Of the request that this thread is processing.
+  // Of the request that this thread is processing: the socket, and its head as it was sent.
   static int connection();
+  static const std::string& head();
   // This thread's request is a stream of events: nobody waits for its end.
   void leaveAnswering();
   // This thread's request has shown the secret: its connection is no stranger's any more.
@@ -55,6 +56,7 @@ class HttpServer : public httplib::Server {
   void acceptConnections();
   bool waitForConnection() const;
   void take(int descriptor);
+  void startToServe(int descriptor);
   void serve(int descriptor);
 
   std::thread acceptor_;

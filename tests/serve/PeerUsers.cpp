@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "simulator/serve/http/PeerUser.h"
+#include "tests/serve/AnotherUser.h"
 
 namespace sim {
 namespace {
@@ -45,13 +46,11 @@ TEST_F(PeerUsers, AreKnownAsLongAsTheyAreThere) {
 }
 
 TEST_F(PeerUsers, AreOthersThanThisOne) {
-  if (getuid() != 0) GTEST_SKIP() << "only root can become another user";
-  constexpr uid_t nobody = 65534;
-  const pid_t child = fork();
-  if (child == 0) {
-    if (setuid(nobody) != 0 || connected() < 0) _exit(1);
-    pause();
-  }
+  if (!canBecomeAnotherUser()) GTEST_SKIP() << "there can be no process of another user";
+  const pid_t child = startAsAnotherUser([this] {
+    connected();
+    return pause();
+  });
   const int own = accepted();
   EXPECT_EQ(peerUser(own), nobody);
   kill(child, SIGKILL);

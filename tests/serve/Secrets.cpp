@@ -1,11 +1,11 @@
 // Nobody is let in without the phone's secret.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdlib>
 
+#include "tests/serve/AnotherUser.h"
 #include "tests/serve/EventReader.h"
 #include "tests/serve/ServedProgram.h"
 
@@ -186,6 +186,7 @@ TEST(Secrets, OutliveRestartsOfTheHost) {
 TEST(Secrets, AreInNoListOfProcesses) {
   const ServedProgram program;
   program.command("respring");
+  EventReader(program).next("snapshot");  // of the process that serves now
   for (const pid_t each : {program.process(), program.servingProcess()}) {
     const std::string words = contentOf("/proc/" + std::to_string(each) + "/cmdline");
     EXPECT_FALSE(words.empty());
@@ -239,18 +240,8 @@ TEST(Secrets, LieWhereNobodyElseCanLook) {
   EXPECT_EQ(ours, 1);
 }
 
-// What another user's process finds out, as its exit status: 0 nothing.
-int asAnotherUser(const std::function<bool()>& findsOut) {
-  constexpr uid_t nobody = 65534;
-  const pid_t child = fork();
-  if (child == 0) _exit(setuid(nobody) != 0 ? 2 : int(findsOut()));
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 TEST(Secrets, AreNotFoundByAnotherUser) {
-  if (getuid() != 0) GTEST_SKIP() << "only root can become another user";
+  if (!canBecomeAnotherUser()) GTEST_SKIP() << "there can be no process of another user";
   const OwnTemporaryFolder temporary;
   setenv("DOZEWELL_TOKEN", "a-secret-of-the-environment", 1);
   const ServedProgram program;

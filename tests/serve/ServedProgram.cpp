@@ -31,7 +31,7 @@ pid_t start(std::vector<std::string> words, int output, const files::path& error
     setrlimit(RLIMIT_NOFILE, &limit);
   }
   dup2(output, STDOUT_FILENO);
-  dup2(open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
+  dup2(::open(errors.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
   execv(SIMULATOR, pointers.data());
   _exit(127);
 }

@@ -6,6 +6,7 @@
 #include <atomic>
 #include <thread>
 
+#include "tests/serve/AnotherUser.h"
 #include "tests/serve/EventReader.h"
 #include "tests/serve/RawConnection.h"
 
@@ -99,15 +100,13 @@ TEST(SlowClients, KeepNobodyOutWhereDescriptorsAreFew) {
 }
 
 TEST(SlowClients, OfAnotherUserGoFirst) {
-  if (getuid() != 0) GTEST_SKIP() << "only root can become another user";
+  if (!canBecomeAnotherUser()) GTEST_SKIP() << "there can be no process of another user";
   const ServedProgram program;
   // They come and go, faster than anybody can ask.
-  const pid_t other = fork();
-  if (other == 0) {
-    if (setuid(65534) != 0) _exit(1);
+  const pid_t other = startAsAnotherUser([&program] {
     for (int times = 0; times < 50; ++times) connected(program, many, "GET");
-    _exit(0);
-  }
+    return 0;
+  });
   expectToBeQuick(program);
   kill(other, SIGKILL);
   int status = 0;

@@ -45,6 +45,28 @@ TEST(Framing, LetsRequestsFollowEachOther) {
   EXPECT_EQ(countOf(answers, "HTTP/1.1 200 OK"), 3) << answers;
 }
 
+TEST(Framing, OfAHeadHasAnEnd) {
+  const ServedProgram program;
+  const std::string start = "GET / HTTP/1.1\r\n";
+  std::string lines, line = "X: " + std::string(8000, 'a') + "\r\n";
+  for (int count = 0; count < 1000; ++count) lines += "a:b\r\n";
+  // Before anybody knows whose request it is, and before all of it is there.
+  for (const std::string& head : {start + lines, start + line + line + line + line + line}) {
+    const RawConnection connection(program);
+    connection.send(head);
+    EXPECT_EQ(connection.readAll(std::chrono::seconds(5)).rfind("HTTP/1.1 400", 0), 0u);
+    EXPECT_TRUE(connection.isOver());
+  }
+  EXPECT_EQ(program.get("/api/setup").status, 200);
+}
+
+TEST(Framing, IsOfAPath) {
+  const ServedProgram program;
+  const RawConnection connection(program);
+  connection.send(request(program, "GET ?"));
+  EXPECT_EQ(connection.readAll(std::chrono::seconds(5)).rfind("HTTP/1.1 400", 0), 0u);
+}
+
 struct Trick {
   const char* name;
   const char* line;
@@ -103,6 +125,10 @@ INSTANTIATE_TEST_SUITE_P(
         Trick{"LineFeedBetween", "GET /api/setup", "X: a\ncontent-length: N\r\n", ""},
         Trick{"ReturnAlone", "GET /api/setup", "X: a\rcontent-length: N\r\n", ""},
         Trick{"NoColon", "GET /api/setup", "content-length N\r\n", ""},
+        Trick{"ControlInName", "GET /api/setup", "Transfer-Encoding\x7f: chunked\r\n", "0\r\n\r\n"},
+        Trick{"OddLetterInName", "GET /api/setup", "Transfer-Encoding\xa0: chunked\r\n", ""},
+        Trick{"ControlInValue", "GET /api/setup", "X: a\vcontent-length: N\r\n", ""},
+        Trick{"Packed", "POST /api/command", "Content-Encoding: gzip\r\ncontent-length: N\r\n", ""},
         Trick{"LongerChunk", "POST /api/command", "Transfer-Encoding: chunked\r\n",
               "2\r\n{}}}\r\n"}),
     [](const auto& each) { return each.param.name; });

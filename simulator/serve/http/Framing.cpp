@@ -12,6 +12,7 @@ namespace {
 
 constexpr const char* lengthHeader = "Content-Length";
 constexpr const char* codingHeader = "Transfer-Encoding";
+constexpr const char* packingHeader = "Content-Encoding";
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::string_view blanks = " \t";
 constexpr std::size_t mostDigits = 12;
@@ -20,12 +21,22 @@ constexpr std::size_t mostDigits = 12;
   throw RequestError(400, "expected an HTTP request");
 }
 
+bool isControl(char letter) {
+  return (static_cast<unsigned char>(letter) < ' ' && letter != '\t') || letter == '\x7f';
+}
+
+// Of the names that headers may have.
+bool isNameLetter(char letter) {
+  return std::isalnum(static_cast<unsigned char>(letter)) != 0 ||
+         std::string_view("!#$%&'*+-.^_`|~").find(letter) != std::string_view::npos;
+}
+
 // Without its end, which must be there, and be the only one.
 std::string_view takeLine(std::string_view& head) {
   const auto end = head.find(lineEnd);
   if (end == std::string_view::npos) refuse();
   const std::string_view line = head.substr(0, end);
-  if (line.find_first_of("\r\n") != std::string_view::npos) refuse();
+  if (std::any_of(line.begin(), line.end(), isControl)) refuse();
   head.remove_prefix(end + lineEnd.size());
   return line;
 }
@@ -60,8 +71,10 @@ void requireFraming(const std::string& method, std::string_view head) {
   for (std::string_view line = takeLine(head); !line.empty(); line = takeLine(head)) {
     const std::string_view name = line.substr(0, line.find(':'));
     if (name.empty() || name.size() == line.size() ||
-        name.find_first_of(blanks) != std::string_view::npos)
+        !std::all_of(name.begin(), name.end(), isNameLetter))
       refuse();
+    // What a body becomes when it is unpacked has no limit.
+    if (isNamed(name, packingHeader)) throw RequestError(415, "expected no Content-Encoding");
     if (isNamed(name, codingHeader)) throw RequestError(411, "expected a Content-Length");
     if (!isNamed(name, lengthHeader)) continue;
     const std::string_view length = trimmed(line.substr(name.size() + 1));

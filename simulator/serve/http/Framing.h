@@ -15,8 +15,8 @@ void completeFraming(httplib::Request& request);
 
 // What a request's head, as it was sent, says of its body: nothing, or one Content-Length with
 // POST. RequestError 400 for anything else, and for heads that not everybody reads in the same way;
-// 411 for a body in chunks. The library would not read such a body, or only a part of it, and take
-// the rest for the next request.
+// 411 for a body in chunks, 415 for a packed one. The library would not read such a body, or only a
+// part of it, and take the rest for the next request.
 void requireFraming(const std::string& method, std::string_view head);
 
 }  // namespace sim

@@ -99,6 +99,7 @@ void guard(HttpServer& server, int port, const Access& access) {
     requireOwn(request, port);
     requireSecret(request, access);
     server.trust();
+    if (!request.path.starts_with('/')) throw RequestError(400, "expected a path");
     requireFraming(request.method, HttpServer::head());
     requireJson(request);
   };

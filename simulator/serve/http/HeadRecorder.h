@@ -8,13 +8,14 @@
 namespace sim {
 
 // The library forgives what others read differently: lines that end otherwise, names with blanks.
-// Where a request ends must not depend on that, see Framing.h.
+// Where a request ends must not depend on that, see Framing.h. And it stores every line, however
+// many there are, before anybody asks whose they are: a head that is too long cannot be read on.
 class HeadRecorder final : public httplib::Stream {
  public:
   // For one request.
   explicit HeadRecorder(httplib::Stream& stream) : stream_(stream) {}
 
-  // Up to and with the empty line; shorter when there was none within the limit.
+  // Up to and with the empty line, as far as it has come.
   const std::string& head() const { return head_; }
 
   bool is_readable() const override { return stream_.is_readable(); }
@@ -30,8 +31,11 @@ class HeadRecorder final : public httplib::Stream {
   socket_t socket() const override { return stream_.socket(); }
 
  private:
+  bool isOver() const;
+
   httplib::Stream& stream_;
   std::string head_;
+  std::size_t lines_ = 0;
 };
 
 }  // namespace sim

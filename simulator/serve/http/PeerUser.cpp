@@ -64,7 +64,7 @@ std::optional<uid_t> peerUser(int descriptor) {
   if (kernel < 0) return std::nullopt;
   std::array<char, 4096> answer;
   ssize_t count = send(kernel, &*question, sizeof *question, 0);
-  if (count > 0) count = recv(kernel, answer.data(), answer.size(), 0);
+  if (count > 0) count = recv(kernel, answer.data(), answer.size(), MSG_DONTWAIT);
   close(kernel);
   return userIn(answer.data(), count);
 }

@@ -1,6 +1,10 @@
 // Blocks from lambdas, built by hand at run time.
 //
-//   dispatch_async(queue, block<void()>([self] { self.restore(); }));
+//   dispatch_async(queue, block<void()>([view = retain(view)] { view->setHidden(true); }));
+//
+// A block outlives the call that made it, so it captures owners: Strong and Weak
+// (objc/Ownership.h), and Retained (objc/Retained.h) for the object whose member makes it. Never
+// `this`, a view or a reference.
 //
 // The compiler we cross-build with stores a block's code pointers unsigned, so the layout of the
 // platform's block ABI is written out here and filled in by ordinary stores.
@@ -126,10 +130,11 @@ struct HeapBlock<R(Args...), Function> {
   }
 };
 
-// A block that runs `function` and owns its captures. Whoever keeps it longer than the result
-// copies it, as with any block.
+// A block that runs `function` and owns its captures, which are moved in. Whoever keeps it longer
+// than the result copies it, as with any block.
 template <class Signature, class Function>
-Strong<Block<Signature>> block(Function function) {
+Strong<Block<Signature>> block(Function&& function) {
+  static_assert(!std::is_lvalue_reference_v<Function>, "move the lambda into its block");
   static_assert(alignof(Function) <= alignof(std::max_align_t), "captures are over-aligned");
   auto* made = HeapBlock<Signature, Function>::make(std::move(function));
   return adopt(Block<Signature>(reinterpret_cast<id>(made)));

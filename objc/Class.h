@@ -26,6 +26,7 @@
 #include "objc/Method.h"
 #include "objc/Once.h"
 #include "objc/Property.h"
+#include "objc/Retained.h"
 
 namespace objc {
 
@@ -33,7 +34,8 @@ namespace objc {
 template <class Self>
 class Implementation {
  public:
-  // The object that holds this state.
+  // The object that holds this state. It does not keep the object: what runs after the member has
+  // returned captures retained() instead of this or self().
   id self() const {
     auto address = reinterpret_cast<std::uintptr_t>(static_cast<const Self*>(this));
     return reinterpret_cast<id>(address - std::uintptr_t(offset_));
@@ -44,6 +46,11 @@ class Implementation {
     return *reinterpret_cast<Self*>(reinterpret_cast<char*>(object) + offset_);
   }
   static Self& of(Object object) { return of(object.get()); }
+
+  // This state and a reference to its object, for a block of the object's own:
+  //
+  //   dispatch::onMain([counter = retained()] { counter->add(1); });
+  [[nodiscard]] Retained<Self> retained() const { return Retained<Self>(Object(self())); }
 
   // nil until the class is registered.
   static Class cls() { return class_; }

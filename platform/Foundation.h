@@ -1,6 +1,8 @@
 // Foundation. Every result that is not marked otherwise is +0 (autoreleased).
 #pragma once
 
+#include <utility>
+
 #include "objc/Block.h"
 #include "objc/Message.h"
 #include "objc/Ownership.h"
@@ -221,7 +223,7 @@ struct NSTimer : objc::Object {
   // Runs on the current run loop, which keeps it until it is invalidated.
   template <class Tick>
   static NSTimer scheduledTimer(double seconds, bool repeats, Tick tick) {
-    auto block = objc::block<void(NSTimer)>([tick](NSTimer) { tick(); });
+    auto block = objc::block<void(NSTimer)>([tick = std::move(tick)](NSTimer) { tick(); });
     return objc::send<NSTimer, "scheduledTimerWithTimeInterval:repeats:block:">(
         objc_getClass("NSTimer"), seconds, repeats, block.get());
   }

@@ -1,6 +1,8 @@
 // MediaRemote (private): commands to whatever app is playing.
 #pragma once
 
+#include <utility>
+
 #include "platform/Dispatch.h"
 #include "platform/Foundation.h"
 

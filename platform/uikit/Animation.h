@@ -1,6 +1,8 @@
 // UIKit's animations: the values change at once, the screen follows over the duration (seconds).
 #pragma once
 
+#include <utility>
+
 #include "objc/Block.h"
 #include "platform/uikit/View.h"
 
@@ -17,19 +19,19 @@ enum AnimationOptions : unsigned long {
 // Runs when the animation has ended; its argument, whether it came to its end, is not passed on.
 template <class Function>
 Completion completion(Function function) {
-  return objc::block<void(bool)>([function](bool) { function(); });
+  return objc::block<void(bool)>([function = std::move(function)](bool) { function(); });
 }
 
 template <class Animations>
 void animate(double seconds, Animations animations) {
-  auto block = objc::block<void()>(animations);
+  auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "animateWithDuration:animations:">(objc_getClass("UIView"), seconds,
                                                       block.get());
 }
 
 template <class Animations>
 void animate(double seconds, Animations animations, const Completion& ended) {
-  auto block = objc::block<void()>(animations);
+  auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "animateWithDuration:animations:completion:">(objc_getClass("UIView"), seconds,
                                                                  block.get(), ended.get());
 }
@@ -37,7 +39,7 @@ void animate(double seconds, Animations animations, const Completion& ended) {
 template <class Animations>
 void animate(double seconds, double delay, unsigned long options, Animations animations,
              const Completion& ended) {
-  auto block = objc::block<void()>(animations);
+  auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "animateWithDuration:delay:options:animations:completion:">(
       objc_getClass("UIView"), seconds, delay, options, block.get(), ended.get());
 }
@@ -45,7 +47,7 @@ void animate(double seconds, double delay, unsigned long options, Animations ani
 template <class Animations>
 void animateSpring(double seconds, double damping, double velocity, unsigned long options,
                    Animations animations) {
-  auto block = objc::block<void()>(animations);
+  auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "animateWithDuration:delay:usingSpringWithDamping:initialSpringVelocity:options:"
                    "animations:completion:">(objc_getClass("UIView"), seconds, 0.0, damping,
                                              velocity, options, block.get(),
@@ -62,7 +64,7 @@ inline void transition(UIView from, UIView to, double seconds, unsigned long opt
 
 template <class Animations>
 void transition(UIView view, double seconds, unsigned long options, Animations animations) {
-  auto block = objc::block<void()>(animations);
+  auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "transitionWithView:duration:options:animations:completion:">(
       objc_getClass("UIView"), view, seconds, options, block.get(),
       objc::Block<void(bool)>(nullptr));

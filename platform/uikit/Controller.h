@@ -1,6 +1,8 @@
 // UIKit's view controllers, windows, alerts and the application.
 #pragma once
 
+#include <utility>
+
 #include "objc/Block.h"
 #include "platform/uikit/View.h"
 
@@ -72,7 +74,8 @@ struct UIAlertAction : objc::Object {
   template <class Handler>
   static UIAlertAction make(NSString title, Handler handler) {
     constexpr long defaultStyle = 0;
-    auto block = objc::block<void(UIAlertAction)>([handler](UIAlertAction) { handler(); });
+    auto block = objc::block<void(UIAlertAction)>(
+        [handler = std::move(handler)](UIAlertAction) { handler(); });
     return objc::send<UIAlertAction, "actionWithTitle:style:handler:">(
         objc_getClass("UIAlertAction"), title, defaultStyle, block.get());
   }

@@ -77,13 +77,14 @@ void Dozewell2ViewController::validateButtonClicked() {
   engine.cancelTimer();
   const long mode = selectedMode();
   engine.startTimerWithMode_andValue(mode, pickedValue(chooseSnoozeTimeView, mode));
-  dispatch::onMain([this] {
-    transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(true);
-    hideBottomButtons(true);
+  dispatch::onMain([panel = retained()] {
+    panel->transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(true);
+    panel->hideBottomButtons(true);
     // Never cancelled: it closes whatever the panel shows by then.
-    NSObject(self()).performSelectorAfterDelay(
-        objc::selector<"dismissDozewell">(),
-        Dozewell2StorageManager::sharedInstance().confirmViewAutoDismissTime);
+    NSObject(panel->self())
+        .performSelectorAfterDelay(
+            objc::selector<"dismissDozewell">(),
+            Dozewell2StorageManager::sharedInstance().confirmViewAutoDismissTime);
   });
 }
 

@@ -1,5 +1,7 @@
 #include "tweak/panel/ShortcutCheck.h"
 
+#include <utility>
+
 #include "platform/Runwright.h"
 #include "tweak/support/CorvaneTweakUtils.h"
 
@@ -14,11 +16,11 @@ void ask(NSString title, NSString message, NSString yes, UIControl box, Accepted
   const auto buttons = NSMutableArray::array();
   buttons.addObject(yes);
   buttons.addObject("Later"_ns);
-  auto answered = objc::block<void(NSString)>(
-      [yes = objc::retain(yes), box = objc::retain(box), accepted](NSString pressed) {
-        if (pressed.isEqualToString(yes)) accepted();
-        box->setSelected(false);
-      });
+  auto answered = objc::block<void(NSString)>([yes = objc::retain(yes), box = objc::retain(box),
+                                               accepted = std::move(accepted)](NSString pressed) {
+    if (pressed.isEqualToString(yes)) accepted();
+    box->setSelected(false);
+  });
   CorvaneTweakUtils::showAlertWithTitle_message_buttonsText_completionHandler(
       title, message, buttons, answered.get());
 }

@@ -76,14 +76,14 @@ void Dozewell2ViewController::fadeIn() {
   view().setFrame(containerFrame);
   UIKit::animate(
       seconds,
-      [this] {
-        view().setAlpha(1);
-        setAlpha(transitionViews, 0);
+      [panel = retained()] {
+        panel->view().setAlpha(1);
+        setAlpha(panel->transitionViews, 0);
       },
-      UIKit::completion([this] {
-        setHidden(transitionViews, true);
-        setAlpha(transitionViews, 1);
-        hasBeenShownUsingSlideAnimation = false;
+      UIKit::completion([panel = retained()] {
+        setHidden(panel->transitionViews, true);
+        setAlpha(panel->transitionViews, 1);
+        panel->hasBeenShownUsingSlideAnimation = false;
       }));
 }
 
@@ -91,16 +91,16 @@ void Dozewell2ViewController::slideIn() {
   view().setFrame(below(containerFrame));
   UIKit::animate(
       seconds, 0, noOptions,
-      [this] {
-        forEachView(transitionViews, [](UIView host, unsigned long) {
+      [panel = retained()] {
+        forEachView(panel->transitionViews, [](UIView host, unsigned long) {
           const auto [origin, size] = host.frame();
           host.setFrame(rect(origin.x, -size.height, size.width, size.height));
         });
-        view().setFrame(containerFrame);
+        panel->view().setFrame(panel->containerFrame);
       },
-      UIKit::completion([this] {
-        setHidden(transitionViews, true);
-        hasBeenShownUsingSlideAnimation = true;
+      UIKit::completion([panel = retained()] {
+        setHidden(panel->transitionViews, true);
+        panel->hasBeenShownUsingSlideAnimation = true;
       }));
 }
 
@@ -108,14 +108,14 @@ void Dozewell2ViewController::slideOut() {
   setHidden(transitionViews, false);
   UIKit::animate(
       seconds, 0, noOptions,
-      [this] {
-        forEachView(transitionViews, [this](UIView host, unsigned long index) {
-          const auto frame = transitionViewsOriginalFramesArray->objectAtIndex(index);
+      [panel = retained()] {
+        forEachView(panel->transitionViews, [&panel](UIView host, unsigned long index) {
+          const auto frame = panel->transitionViewsOriginalFramesArray->objectAtIndex(index);
           host.setFrame(objc::as<NSValue>(frame).CGRectValue());
         });
-        view().setFrame(below(containerFrame));
+        panel->view().setFrame(below(panel->containerFrame));
       },
-      UIKit::completion([this] { view().setHidden(true); }));
+      UIKit::completion([panel = retained()] { panel->view().setHidden(true); }));
 }
 
 void Dozewell2ViewController::fadeOut() {
@@ -123,13 +123,13 @@ void Dozewell2ViewController::fadeOut() {
   setAlpha(transitionViews, 0);
   UIKit::animate(
       seconds,
-      [this] {
-        setAlpha(transitionViews, 1);
-        view().setAlpha(0);
+      [panel = retained()] {
+        setAlpha(panel->transitionViews, 1);
+        panel->view().setAlpha(0);
       },
-      UIKit::completion([this] {
-        view().setHidden(true);
-        view().setAlpha(1);
+      UIKit::completion([panel = retained()] {
+        panel->view().setHidden(true);
+        panel->view().setAlpha(1);
       }));
 }
 

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "objc/Check.h"
+#include "objc/ClassLookup.h"
 #include "objc/Encoding.h"
 #include "objc/Selector.h"
 

@@ -13,7 +13,7 @@ struct HBPreferences : objc::Object {
   // One object per identifier and process. nil when the library is not installed.
   static objc::Strong<HBPreferences> make(NSString identifier) {
     return objc::adopt(objc::send<HBPreferences, "initWithIdentifier:">(
-        objc_alloc(objc_getClass("HBPreferences")), identifier));
+        objc_alloc(objc::classNamed<"HBPreferences">()), identifier));
   }
   bool boolForKey(NSString key) const { return objc::send<bool, "boolForKey:">(*this, key); }
   void setBool(bool value, NSString key) const {

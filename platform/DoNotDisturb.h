@@ -11,7 +11,7 @@ struct DNDModeAssertionDetails : objc::Object {
                                                objc::Object lifetime) {
     return objc::send<DNDModeAssertionDetails,
                       "userRequestedAssertionDetailsWithIdentifier:modeIdentifier:lifetime:">(
-        objc_getClass("DNDModeAssertionDetails"), identifier, mode, lifetime);
+        objc::classNamed<"DNDModeAssertionDetails">(), identifier, mode, lifetime);
   }
 };
 
@@ -20,7 +20,7 @@ struct DNDModeAssertionService : objc::Object {
   // nil on systems without assertions.
   static DNDModeAssertionService serviceForClientIdentifier(NSString client) {
     return objc::send<DNDModeAssertionService, "serviceForClientIdentifier:">(
-        objc_getClass("DNDModeAssertionService"), client);
+        objc::classNamed<"DNDModeAssertionService">(), client);
   }
   // The assertion; nil if it was refused. `error` may be null.
   objc::Object takeModeAssertionWithDetails(DNDModeAssertionDetails details, id* error) const {
@@ -31,7 +31,7 @@ struct DNDModeAssertionService : objc::Object {
 struct BBSettingsGateway : objc::Object {
   using Object::Object;
   static objc::Strong<BBSettingsGateway> make() {
-    return objc::adopt(BBSettingsGateway(objc_alloc_init(objc_getClass("BBSettingsGateway"))));
+    return objc::adopt(BBSettingsGateway(objc_alloc_init(objc::classNamed<"BBSettingsGateway">())));
   }
   // 1: on.
   void setBehaviorOverrideStatus(long status) const {

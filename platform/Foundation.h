@@ -13,7 +13,7 @@ struct NSArray;
 struct NSString : objc::Object {
   using Object::Object;
   static NSString string(const char* utf8) {
-    return objc::send<NSString, "stringWithUTF8String:">(objc_getClass("NSString"), utf8);
+    return objc::send<NSString, "stringWithUTF8String:">(objc::classNamed<"NSString">(), utf8);
   }
   const char* UTF8String() const { return objc::send<const char*, "UTF8String">(*this); }
   bool isEqual(objc::Object other) const { return objc::send<bool, "isEqual:">(*this, other); }
@@ -30,12 +30,12 @@ struct NSString : objc::Object {
   }
   template <class Argument>
   static NSString stringWithFormat(NSString format, Argument argument) {
-    return objc::sendVariadic<NSString, "stringWithFormat:">(objc_getClass("NSString"), format,
+    return objc::sendVariadic<NSString, "stringWithFormat:">(objc::classNamed<"NSString">(), format,
                                                              argument);
   }
   NSString stringByTrimmingWhitespaceAndNewlines() const {
     const auto blanks = objc::send<objc::Object, "whitespaceAndNewlineCharacterSet">(
-        objc_getClass("NSCharacterSet"));
+        objc::classNamed<"NSCharacterSet">());
     return objc::send<NSString, "stringByTrimmingCharactersInSet:">(*this, blanks);
   }
   unsigned long length() const { return objc::send<unsigned long, "length">(*this); }
@@ -58,7 +58,7 @@ inline NSString operator""_ns(const char* text, std::size_t) {
 struct NSMutableString : NSString {
   using NSString::NSString;
   static NSMutableString string() {
-    return objc::send<NSMutableString, "string">(objc_getClass("NSMutableString"));
+    return objc::send<NSMutableString, "string">(objc::classNamed<"NSMutableString">());
   }
   void appendString(NSString text) const { objc::send<void, "appendString:">(*this, text); }
 };
@@ -87,19 +87,20 @@ struct NSObject : objc::Object {
 struct NSNumber : objc::Object {
   using Object::Object;
   static NSNumber numberWithBool(bool value) {
-    return objc::send<NSNumber, "numberWithBool:">(objc_getClass("NSNumber"), value);
+    return objc::send<NSNumber, "numberWithBool:">(objc::classNamed<"NSNumber">(), value);
   }
   static NSNumber numberWithInteger(long value) {
-    return objc::send<NSNumber, "numberWithInteger:">(objc_getClass("NSNumber"), value);
+    return objc::send<NSNumber, "numberWithInteger:">(objc::classNamed<"NSNumber">(), value);
   }
   long integerValue() const { return objc::send<long, "integerValue">(*this); }
 };
 
 struct NSDate : objc::Object {
   using Object::Object;
-  static NSDate date() { return objc::send<NSDate, "date">(objc_getClass("NSDate")); }
+  static NSDate date() { return objc::send<NSDate, "date">(objc::classNamed<"NSDate">()); }
   static NSDate dateWithTimeIntervalSinceNow(double seconds) {
-    return objc::send<NSDate, "dateWithTimeIntervalSinceNow:">(objc_getClass("NSDate"), seconds);
+    return objc::send<NSDate, "dateWithTimeIntervalSinceNow:">(objc::classNamed<"NSDate">(),
+                                                               seconds);
   }
   double timeIntervalSinceNow() const {  // seconds; negative in the past; 0 for nil
     return objc::send<double, "timeIntervalSinceNow">(*this);
@@ -109,14 +110,14 @@ struct NSDate : objc::Object {
 struct NSDictionary : objc::Object {
   using Object::Object;
   static NSDictionary dictionaryWithContentsOfFile(NSString path) {  // nil: not a dictionary
-    return objc::send<NSDictionary, "dictionaryWithContentsOfFile:">(objc_getClass("NSDictionary"),
-                                                                     path);
+    return objc::send<NSDictionary, "dictionaryWithContentsOfFile:">(
+        objc::classNamed<"NSDictionary">(), path);
   }
   objc::Object objectForKey(objc::Object key) const {
     return objc::send<objc::Object, "objectForKey:">(*this, key);
   }
   static NSDictionary dictionary() {
-    return objc::send<NSDictionary, "dictionary">(objc_getClass("NSDictionary"));
+    return objc::send<NSDictionary, "dictionary">(objc::classNamed<"NSDictionary">());
   }
 };
 
@@ -138,7 +139,7 @@ struct NSArray : objc::Object {
 struct NSBundle : objc::Object {
   using Object::Object;
   static NSBundle bundleWithPath(NSString path) {  // nil when there is no such directory
-    return objc::send<NSBundle, "bundleWithPath:">(objc_getClass("NSBundle"), path);
+    return objc::send<NSBundle, "bundleWithPath:">(objc::classNamed<"NSBundle">(), path);
   }
   // The layout's top-level objects. Raises when there is no such layout.
   NSArray loadNibNamed(NSString name, objc::Object owner) const {
@@ -157,10 +158,10 @@ struct NSBundle : objc::Object {
 struct NSLocale : objc::Object {
   using Object::Object;
   static NSLocale currentLocale() {
-    return objc::send<NSLocale, "currentLocale">(objc_getClass("NSLocale"));
+    return objc::send<NSLocale, "currentLocale">(objc::classNamed<"NSLocale">());
   }
   static NSLocale localeWithLocaleIdentifier(NSString identifier) {
-    return objc::send<NSLocale, "localeWithLocaleIdentifier:">(objc_getClass("NSLocale"),
+    return objc::send<NSLocale, "localeWithLocaleIdentifier:">(objc::classNamed<"NSLocale">(),
                                                                identifier);
   }
   NSString localeIdentifier() const { return objc::send<NSString, "localeIdentifier">(*this); }
@@ -169,7 +170,7 @@ struct NSLocale : objc::Object {
 struct NSNumberFormatter : objc::Object {
   using Object::Object;
   static objc::Strong<NSNumberFormatter> make() {
-    return objc::adopt(NSNumberFormatter(objc_alloc_init(objc_getClass("NSNumberFormatter"))));
+    return objc::adopt(NSNumberFormatter(objc_alloc_init(objc::classNamed<"NSNumberFormatter">())));
   }
   void setLocale(NSLocale locale) const { objc::send<void, "setLocale:">(*this, locale); }
   NSString stringFromNumber(NSNumber number) const {
@@ -184,7 +185,7 @@ inline NSArray NSString::componentsSeparatedByString(NSString separator) const {
 struct NSMutableArray : NSArray {
   using NSArray::NSArray;
   static NSMutableArray array() {
-    return objc::send<NSMutableArray, "array">(objc_getClass("NSMutableArray"));
+    return objc::send<NSMutableArray, "array">(objc::classNamed<"NSMutableArray">());
   }
   void addObject(objc::Object object) const { objc::send<void, "addObject:">(*this, object); }
   void addObjectsFromArray(NSArray objects) const {
@@ -195,7 +196,7 @@ struct NSMutableArray : NSArray {
 struct NSFileManager : objc::Object {
   using Object::Object;
   static NSFileManager defaultManager() {
-    return objc::send<NSFileManager, "defaultManager">(objc_getClass("NSFileManager"));
+    return objc::send<NSFileManager, "defaultManager">(objc::classNamed<"NSFileManager">());
   }
   bool fileExistsAtPath(NSString path) const {
     return objc::send<bool, "fileExistsAtPath:">(*this, path);
@@ -206,7 +207,7 @@ struct NSUserDefaults : objc::Object {
   using Object::Object;
   // The host process's own.
   static NSUserDefaults standardUserDefaults() {
-    return objc::send<NSUserDefaults, "standardUserDefaults">(objc_getClass("NSUserDefaults"));
+    return objc::send<NSUserDefaults, "standardUserDefaults">(objc::classNamed<"NSUserDefaults">());
   }
   objc::Object objectForKey(NSString key) const {
     return objc::send<objc::Object, "objectForKey:">(*this, key);
@@ -225,7 +226,7 @@ struct NSTimer : objc::Object {
   static NSTimer scheduledTimer(double seconds, bool repeats, Tick tick) {
     auto block = objc::block<void(NSTimer)>([tick = std::move(tick)](NSTimer) { tick(); });
     return objc::send<NSTimer, "scheduledTimerWithTimeInterval:repeats:block:">(
-        objc_getClass("NSTimer"), seconds, repeats, block.get());
+        objc::classNamed<"NSTimer">(), seconds, repeats, block.get());
   }
   void invalidate() const { objc::send<void, "invalidate">(*this); }
   NSDate fireDate() const { return objc::send<NSDate, "fireDate">(*this); }
@@ -234,7 +235,7 @@ struct NSTimer : objc::Object {
 struct NSRunLoop : objc::Object {
   using Object::Object;
   static NSRunLoop mainRunLoop() {
-    return objc::send<NSRunLoop, "mainRunLoop">(objc_getClass("NSRunLoop"));
+    return objc::send<NSRunLoop, "mainRunLoop">(objc::classNamed<"NSRunLoop">());
   }
   // Every mode in which the user may be touching something.
   static NSString commonModes() {
@@ -247,13 +248,15 @@ struct NSRunLoop : objc::Object {
 
 struct NSThread : objc::Object {
   using Object::Object;
-  static bool isMainThread() { return objc::send<bool, "isMainThread">(objc_getClass("NSThread")); }
+  static bool isMainThread() {
+    return objc::send<bool, "isMainThread">(objc::classNamed<"NSThread">());
+  }
 };
 
 struct NSProcessInfo : objc::Object {
   using Object::Object;
   static NSProcessInfo processInfo() {
-    return objc::send<NSProcessInfo, "processInfo">(objc_getClass("NSProcessInfo"));
+    return objc::send<NSProcessInfo, "processInfo">(objc::classNamed<"NSProcessInfo">());
   }
   NSString processName() const { return objc::send<NSString, "processName">(*this); }
 };
@@ -261,7 +264,8 @@ struct NSProcessInfo : objc::Object {
 struct NSNotificationCenter : objc::Object {
   using Object::Object;
   static NSNotificationCenter defaultCenter() {
-    return objc::send<NSNotificationCenter, "defaultCenter">(objc_getClass("NSNotificationCenter"));
+    return objc::send<NSNotificationCenter, "defaultCenter">(
+        objc::classNamed<"NSNotificationCenter">());
   }
   // The observer is not retained. A nil sender means any.
   void addObserver(objc::Object observer, SEL selector, NSString name, objc::Object sender) const {

@@ -8,13 +8,14 @@ struct PCSimpleTimer : NSObject {
 
   // One shot, `seconds` after it is scheduled. Calls `selector` on `target`, which it keeps, on
   // the run loop it is scheduled in. The identifier names who woke the phone.
-  static objc::Strong<PCSimpleTimer> make(Class cls, double seconds, NSString serviceIdentifier,
+  static objc::Strong<PCSimpleTimer> make(double seconds, NSString serviceIdentifier,
                                           objc::Object target, SEL selector,
                                           objc::Object userInfo) {
     return objc::adopt(
         objc::send<PCSimpleTimer, "initWithTimeInterval:serviceIdentifier:target:selector:"
-                                  "userInfo:">(objc_alloc(cls), seconds, serviceIdentifier, target,
-                                               selector, userInfo));
+                                  "userInfo:">(objc_alloc(objc::classNamed<"PCSimpleTimer">()),
+                                               seconds, serviceIdentifier, target, selector,
+                                               userInfo));
   }
   void scheduleInRunLoop(NSRunLoop runLoop) const {
     objc::send<void, "scheduleInRunLoop:">(*this, runLoop);

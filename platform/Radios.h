@@ -6,7 +6,7 @@
 struct RadiosPreferences : objc::Object {
   using Object::Object;
   static objc::Strong<RadiosPreferences> make() {
-    return objc::adopt(RadiosPreferences(objc_alloc_init(objc_getClass("RadiosPreferences"))));
+    return objc::adopt(RadiosPreferences(objc_alloc_init(objc::classNamed<"RadiosPreferences">())));
   }
   void setAirplaneMode(bool on) const { objc::send<void, "setAirplaneMode:">(*this, on); }
   void synchronize() const { objc::send<void, "synchronize">(*this); }
@@ -20,7 +20,7 @@ struct BluetoothDevice : objc::Object {
 struct BluetoothManager : objc::Object {
   using Object::Object;
   static BluetoothManager sharedInstance() {
-    return objc::send<BluetoothManager, "sharedInstance">(objc_getClass("BluetoothManager"));
+    return objc::send<BluetoothManager, "sharedInstance">(objc::classNamed<"BluetoothManager">());
   }
   NSArray connectedDevices() const { return objc::send<NSArray, "connectedDevices">(*this); }
   // Keeps the pairing.

@@ -6,7 +6,7 @@
 struct RunwrightManager : objc::Object {
   using Object::Object;
   static RunwrightManager sharedManager() {  // nil when the library is not installed
-    return objc::send<RunwrightManager, "sharedManager">(objc_getClass("RunwrightManager"));
+    return objc::send<RunwrightManager, "sharedManager">(objc::classNamed<"RunwrightManager">());
   }
   NSArray workflowNames() const { return objc::send<NSArray, "workflowNames">(*this); }
   void runWorkflowWithName(NSString name) const {

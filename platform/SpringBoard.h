@@ -12,7 +12,7 @@ struct SBBacklightController : objc::Object {
   using Object::Object;
   static SBBacklightController sharedInstance() {
     return objc::send<SBBacklightController, "sharedInstance">(
-        objc_getClass("SBBacklightController"));
+        objc::classNamed<"SBBacklightController">());
   }
   bool screenIsOn() const { return objc::send<bool, "screenIsOn">(*this); }
 };
@@ -36,7 +36,7 @@ struct SBApplication : objc::Object {
 struct SBMediaController : NSObject {
   using NSObject::NSObject;
   static SBMediaController sharedInstance() {  // nil when the class does not exist
-    return objc::send<SBMediaController, "sharedInstance">(objc_getClass("SBMediaController"));
+    return objc::send<SBMediaController, "sharedInstance">(objc::classNamed<"SBMediaController">());
   }
   bool canPause() const { return objc::respondsTo<"pause">(*this); }
   void pause() const { objc::send<void, "pause">(*this); }

@@ -25,15 +25,15 @@ Completion completion(Function function) {
 template <class Animations>
 void animate(double seconds, Animations animations) {
   auto block = objc::block<void()>(std::move(animations));
-  objc::send<void, "animateWithDuration:animations:">(objc_getClass("UIView"), seconds,
+  objc::send<void, "animateWithDuration:animations:">(objc::classNamed<"UIView">(), seconds,
                                                       block.get());
 }
 
 template <class Animations>
 void animate(double seconds, Animations animations, const Completion& ended) {
   auto block = objc::block<void()>(std::move(animations));
-  objc::send<void, "animateWithDuration:animations:completion:">(objc_getClass("UIView"), seconds,
-                                                                 block.get(), ended.get());
+  objc::send<void, "animateWithDuration:animations:completion:">(objc::classNamed<"UIView">(),
+                                                                 seconds, block.get(), ended.get());
 }
 
 template <class Animations>
@@ -41,7 +41,7 @@ void animate(double seconds, double delay, unsigned long options, Animations ani
              const Completion& ended) {
   auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "animateWithDuration:delay:options:animations:completion:">(
-      objc_getClass("UIView"), seconds, delay, options, block.get(), ended.get());
+      objc::classNamed<"UIView">(), seconds, delay, options, block.get(), ended.get());
 }
 
 template <class Animations>
@@ -49,7 +49,7 @@ void animateSpring(double seconds, double damping, double velocity, unsigned lon
                    Animations animations) {
   auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "animateWithDuration:delay:usingSpringWithDamping:initialSpringVelocity:options:"
-                   "animations:completion:">(objc_getClass("UIView"), seconds, 0.0, damping,
+                   "animations:completion:">(objc::classNamed<"UIView">(), seconds, 0.0, damping,
                                              velocity, options, block.get(),
                                              objc::Block<void(bool)>(nullptr));
 }
@@ -59,14 +59,14 @@ void animateSpring(double seconds, double damping, double velocity, unsigned lon
 inline void transition(UIView from, UIView to, double seconds, unsigned long options,
                        const Completion& ended) {
   objc::send<void, "transitionFromView:toView:duration:options:completion:">(
-      objc_getClass("UIView"), from, to, seconds, options, ended.get());
+      objc::classNamed<"UIView">(), from, to, seconds, options, ended.get());
 }
 
 template <class Animations>
 void transition(UIView view, double seconds, unsigned long options, Animations animations) {
   auto block = objc::block<void()>(std::move(animations));
   objc::send<void, "transitionWithView:duration:options:animations:completion:">(
-      objc_getClass("UIView"), view, seconds, options, block.get(),
+      objc::classNamed<"UIView">(), view, seconds, options, block.get(),
       objc::Block<void(bool)>(nullptr));
 }
 

@@ -9,7 +9,7 @@ struct UIColor : objc::Object {
   static UIColor black() { return named<"blackColor">(); }
   static UIColor clear() { return named<"clearColor">(); }
   static UIColor rgb(double red, double green, double blue, double alpha) {  // 0 to 1 each
-    return objc::send<UIColor, "colorWithRed:green:blue:alpha:">(objc_getClass("UIColor"), red,
+    return objc::send<UIColor, "colorWithRed:green:blue:alpha:">(objc::classNamed<"UIColor">(), red,
                                                                  green, blue, alpha);
   }
   UIColor withAlpha(double alpha) const {
@@ -20,7 +20,7 @@ struct UIColor : objc::Object {
  private:
   template <objc::FixedString Name>
   static UIColor named() {
-    return objc::send<UIColor, Name>(objc_getClass("UIColor"));
+    return objc::send<UIColor, Name>(objc::classNamed<"UIColor">());
   }
 };
 
@@ -28,10 +28,11 @@ struct UIFont : objc::Object {
   using Object::Object;
   static constexpr double weightSemibold = 0.3;
   static UIFont system(double points) {
-    return objc::send<UIFont, "systemFontOfSize:">(objc_getClass("UIFont"), points);
+    return objc::send<UIFont, "systemFontOfSize:">(objc::classNamed<"UIFont">(), points);
   }
   static UIFont system(double points, double weight) {
-    return objc::send<UIFont, "systemFontOfSize:weight:">(objc_getClass("UIFont"), points, weight);
+    return objc::send<UIFont, "systemFontOfSize:weight:">(objc::classNamed<"UIFont">(), points,
+                                                          weight);
   }
 };
 
@@ -39,7 +40,7 @@ struct UIImage : objc::Object {
   using Object::Object;
   enum class RenderingMode : long { automatic = 0, alwaysOriginal = 1, alwaysTemplate = 2 };
   static UIImage imageWithContentsOfFile(NSString path) {  // nil when there is no such image
-    return objc::send<UIImage, "imageWithContentsOfFile:">(objc_getClass("UIImage"), path);
+    return objc::send<UIImage, "imageWithContentsOfFile:">(objc::classNamed<"UIImage">(), path);
   }
   UIImage imageWithRenderingMode(RenderingMode mode) const {
     return objc::send<UIImage, "imageWithRenderingMode:">(*this, mode);

@@ -40,8 +40,8 @@ struct UIStackView : UIView {
   enum class Distribution : long { fill = 0, fillEqually = 1 };
   enum class Alignment : long { fill = 0, leading = 1, center = 3 };
   static objc::Strong<UIStackView> make(CGRect frame) {
-    return objc::adopt(
-        objc::send<UIStackView, "initWithFrame:">(objc_alloc(objc_getClass("UIStackView")), frame));
+    return objc::adopt(objc::send<UIStackView, "initWithFrame:">(
+        objc_alloc(objc::classNamed<"UIStackView">()), frame));
   }
   void setAxis(Axis axis) const { objc::send<void, "setAxis:">(*this, axis); }
   void setDistribution(Distribution distribution) const {
@@ -61,7 +61,7 @@ struct UIDatePicker : UIControl {
   static constexpr long countDownTimerMode = 3;
   static objc::Strong<UIDatePicker> make(CGRect frame) {
     return objc::adopt(objc::send<UIDatePicker, "initWithFrame:">(
-        objc_alloc(objc_getClass("UIDatePicker")), frame));
+        objc_alloc(objc::classNamed<"UIDatePicker">()), frame));
   }
   void setDatePickerMode(long mode) const { objc::send<void, "setDatePickerMode:">(*this, mode); }
   long minuteInterval() const { return objc::send<long, "minuteInterval">(*this); }
@@ -83,7 +83,7 @@ struct UIPickerView : UIView {
   using UIView::UIView;
   static objc::Strong<UIPickerView> make(CGRect frame) {
     return objc::adopt(objc::send<UIPickerView, "initWithFrame:">(
-        objc_alloc(objc_getClass("UIPickerView")), frame));
+        objc_alloc(objc::classNamed<"UIPickerView">()), frame));
   }
   // Neither is retained.
   void setDataSource(objc::Object source) const {

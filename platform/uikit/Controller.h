@@ -9,7 +9,7 @@
 struct UIViewController : NSObject {
   using NSObject::NSObject;
   static objc::Strong<UIViewController> make() {
-    return objc::adopt(UIViewController(objc_alloc_init(objc_getClass("UIViewController"))));
+    return objc::adopt(UIViewController(objc_alloc_init(objc::classNamed<"UIViewController">())));
   }
   UIView view() const { return objc::send<UIView, "view">(*this); }  // loads it if need be
   UIViewController parentViewController() const {
@@ -29,7 +29,7 @@ struct UIWindow : UIView {
   static constexpr double alertLevel = 2000.0;  // UIWindowLevelAlert
   static objc::Strong<UIWindow> make(CGRect frame) {
     return objc::adopt(
-        objc::send<UIWindow, "initWithFrame:">(objc_alloc(objc_getClass("UIWindow")), frame));
+        objc::send<UIWindow, "initWithFrame:">(objc_alloc(objc::classNamed<"UIWindow">()), frame));
   }
   UIViewController rootViewController() const {
     return objc::send<UIViewController, "rootViewController">(*this);
@@ -44,14 +44,14 @@ struct UIWindow : UIView {
 struct NSURL : objc::Object {
   using Object::Object;
   static NSURL URLWithString(NSString text) {  // nil for what is no URL
-    return objc::send<NSURL, "URLWithString:">(objc_getClass("NSURL"), text);
+    return objc::send<NSURL, "URLWithString:">(objc::classNamed<"NSURL">(), text);
   }
 };
 
 struct UIApplication : NSObject {
   using NSObject::NSObject;
   static UIApplication sharedApplication() {
-    return objc::send<UIApplication, "sharedApplication">(objc_getClass("UIApplication"));
+    return objc::send<UIApplication, "sharedApplication">(objc::classNamed<"UIApplication">());
   }
   UIWindow keyWindow() const { return objc::send<UIWindow, "keyWindow">(*this); }
   void openURL(NSURL url) const {
@@ -63,7 +63,7 @@ struct UIApplication : NSObject {
 struct UIPasteboard : objc::Object {
   using Object::Object;
   static UIPasteboard generalPasteboard() {
-    return objc::send<UIPasteboard, "generalPasteboard">(objc_getClass("UIPasteboard"));
+    return objc::send<UIPasteboard, "generalPasteboard">(objc::classNamed<"UIPasteboard">());
   }
   void setString(NSString text) const { objc::send<void, "setString:">(*this, text); }
 };
@@ -77,7 +77,7 @@ struct UIAlertAction : objc::Object {
     auto block = objc::block<void(UIAlertAction)>(
         [handler = std::move(handler)](UIAlertAction) { handler(); });
     return objc::send<UIAlertAction, "actionWithTitle:style:handler:">(
-        objc_getClass("UIAlertAction"), title, defaultStyle, block.get());
+        objc::classNamed<"UIAlertAction">(), title, defaultStyle, block.get());
   }
 };
 
@@ -86,7 +86,7 @@ struct UIAlertController : UIViewController {
   static UIAlertController make(NSString title, NSString message) {
     constexpr long alertStyle = 1;
     return objc::send<UIAlertController, "alertControllerWithTitle:message:preferredStyle:">(
-        objc_getClass("UIAlertController"), title, message, alertStyle);
+        objc::classNamed<"UIAlertController">(), title, message, alertStyle);
   }
   void addAction(UIAlertAction action) const { objc::send<void, "addAction:">(*this, action); }
 };

@@ -7,7 +7,7 @@
 struct UIDevice : NSObject {
   using NSObject::NSObject;
   static UIDevice currentDevice() {
-    return objc::send<UIDevice, "currentDevice">(objc_getClass("UIDevice"));
+    return objc::send<UIDevice, "currentDevice">(objc::classNamed<"UIDevice">());
   }
   NSString systemVersion() const { return objc::send<NSString, "systemVersion">(*this); }
   // Private: 0 none, 1 the first generation of haptics, 2 the current one.
@@ -19,7 +19,7 @@ struct UIDevice : NSObject {
 struct UIScreen : objc::Object {
   using Object::Object;
   static UIScreen mainScreen() {
-    return objc::send<UIScreen, "mainScreen">(objc_getClass("UIScreen"));
+    return objc::send<UIScreen, "mainScreen">(objc::classNamed<"UIScreen">());
   }
   CGRect bounds() const { return objc::send<CGRect, "bounds">(*this); }
 };
@@ -28,7 +28,7 @@ struct UIImpactFeedbackGenerator : objc::Object {
   using Object::Object;
   static objc::Strong<UIImpactFeedbackGenerator> make(long style) {
     return objc::adopt(objc::send<UIImpactFeedbackGenerator, "initWithStyle:">(
-        objc_alloc(objc_getClass("UIImpactFeedbackGenerator")), style));
+        objc_alloc(objc::classNamed<"UIImpactFeedbackGenerator">()), style));
   }
   void impactOccurred() const { objc::send<void, "impactOccurred">(*this); }
 };
@@ -37,7 +37,7 @@ struct UINotificationFeedbackGenerator : objc::Object {
   using Object::Object;
   static objc::Strong<UINotificationFeedbackGenerator> make() {
     return objc::adopt(UINotificationFeedbackGenerator(
-        objc_alloc_init(objc_getClass("UINotificationFeedbackGenerator"))));
+        objc_alloc_init(objc::classNamed<"UINotificationFeedbackGenerator">())));
   }
   void notificationOccurred(long type) const {
     objc::send<void, "notificationOccurred:">(*this, type);

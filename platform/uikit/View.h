@@ -47,7 +47,7 @@ struct UIView : NSObject {
 struct NSValue : objc::Object {
   using Object::Object;
   static NSValue valueWithCGRect(CGRect rectangle) {
-    return objc::send<NSValue, "valueWithCGRect:">(objc_getClass("NSValue"), rectangle);
+    return objc::send<NSValue, "valueWithCGRect:">(objc::classNamed<"NSValue">(), rectangle);
   }
   CGRect CGRectValue() const { return objc::send<CGRect, "CGRectValue">(*this); }
 };
@@ -62,7 +62,7 @@ struct UILabel : UIView {
   enum class Alignment : long { left = 0, center = 1, right = 2 };
   static objc::Strong<UILabel> make(CGRect frame) {
     return objc::adopt(
-        objc::send<UILabel, "initWithFrame:">(objc_alloc(objc_getClass("UILabel")), frame));
+        objc::send<UILabel, "initWithFrame:">(objc_alloc(objc::classNamed<"UILabel">()), frame));
   }
   NSString text() const { return objc::send<NSString, "text">(*this); }
   void setText(NSString text) const { objc::send<void, "setText:">(*this, text); }

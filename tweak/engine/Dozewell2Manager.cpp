@@ -14,13 +14,6 @@ namespace {
 // The host's timer that will end the current duration; empty when none is scheduled.
 objc::Global<objc::Strong<PCSimpleTimer>> systemTimer;
 
-// The class is looked up on first use and kept.
-Class simpleTimerClass() {
-  static Class known;
-  if (known == nullptr) known = objc_getClass("PCSimpleTimer");
-  return known;
-}
-
 NSDate fireDate() {
   return systemTimer->get().fireTimer().fireDate();
 }
@@ -64,9 +57,9 @@ void Dozewell2Manager::startTimerWithMode_andValue(long mode, long value) {
 void Dozewell2Manager::startTimerWithTimeInterval(long seconds) {
   timerModeIsRunning = true;
   // A timer that still runs is let go, not invalidated: whoever wants it stopped cancels it first.
-  *systemTimer = PCSimpleTimer::make(simpleTimerClass(), double(seconds),
-                                     "com.corvane.dozewell2"_ns, objc::Object(self()),
-                                     objc::selector<"timerDidFire">(), NSDictionary::dictionary());
+  *systemTimer =
+      PCSimpleTimer::make(double(seconds), "com.corvane.dozewell2"_ns, objc::Object(self()),
+                          objc::selector<"timerDidFire">(), NSDictionary::dictionary());
   if (NSThread::isMainThread()) {
     scheduleSystemTimer();
   } else {

@@ -2,18 +2,6 @@
 
 #include "tweak/support/BundleHelper.h"
 
-namespace {
-
-// Looked up on first use and kept.
-template <objc::FixedString Name>
-Class kept() {
-  static Class known;
-  if (known == nullptr) known = objc_getClass(Name.c_str());
-  return known;
-}
-
-}  // namespace
-
 id allSublayersFromLayer(id layer) {
   const auto layers = NSMutableArray::array();
   if (layer == nullptr) return layers.get();
@@ -26,10 +14,10 @@ id allSublayersFromLayer(id layer) {
 
 id getDndCAPackageView(double size) {
   constexpr double scale = 0.7;
-  const auto description = CCUICAPackageDescription::make(
-      kept<"CCUICAPackageDescription">(), "DozewellButtonDark"_ns, BundleHelper::getBundle());
-  const auto package = description->package(kept<"CAPackage">());
-  auto view = CCUICAPackageView::make(kept<"CCUICAPackageView">(), rect(0, 0, size, size));
+  const auto description =
+      CCUICAPackageDescription::make("DozewellButtonDark"_ns, BundleHelper::getBundle());
+  const auto package = description->package();
+  auto view = CCUICAPackageView::make(rect(0, 0, size, size));
   view->setPackage(package);
   view->setScale(scale);
   return objc::autorelease(std::move(view)).get();

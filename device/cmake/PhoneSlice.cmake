@@ -18,19 +18,21 @@ cmake_path(NORMAL_PATH PHONE_DIR)
 set(PHONE_PYTHON ${Python3_EXECUTABLE} -B)
 
 set(PHONE_COMPILE_FLAGS
-    -nostdinc++ -nostdlibinc  # SHELL: keeps CMake from dropping the repeated word
+    -nostdinc++  # SHELL: keeps CMake from dropping the repeated word
     "SHELL:-isystem ${PHONE_DIR}include/libcxx"  # before the library: its configuration
     "SHELL:-isystem ${PHONE_LIBCXX}"
-    "SHELL:-isystem ${PHONE_DIR}include/c"
-    "SHELL:-isystem ${PHONE_CLANG_RESOURCES}/include"
     -Wall -Wextra -Wpedantic -Wshadow -Werror
     -fvisibility=hidden -fvisibility-inlines-hidden
     # What these would need of the C++ library is not in its headers.
     -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-c++-static-destructors
     -fno-stack-protector)
-set(PHONE_COMPILE_FLAGS_arm64 --target=arm64-apple-ios15.0)
+set(PHONE_C_HEADERS -nostdlibinc "SHELL:-isystem ${PHONE_DIR}include/c"
+                    "SHELL:-isystem ${PHONE_CLANG_RESOURCES}/include")
+set(PHONE_COMPILE_FLAGS_arm64 --target=arm64-apple-ios15.0 ${PHONE_C_HEADERS})
 set(PHONE_COMPILE_FLAGS_arm64e --target=arm64e-apple-ios15.0 -fptrauth-calls -fptrauth-returns
-                               -fptrauth-intrinsics)
+                               -fptrauth-intrinsics ${PHONE_C_HEADERS})
+# This machine's own target: for the simulator, which plays what ships.
+set(PHONE_COMPILE_FLAGS_linux)
 
 set(PHONE_LINK_FLAGS
     # arm64 for both: the linker has no arm64e, and refuses chained fixups for what it does not know.
@@ -50,7 +52,8 @@ file(GLOB PHONE_TOOLS CONFIGURE_DEPENDS ${PHONE_DIR}*.py ${PHONE_DIR}macho/*.py)
 # phone_objects(NAME ARCH SOURCES...): the object library NAME.
 function(phone_objects name arch)
   add_library(${name} OBJECT ${ARGN})
-  target_compile_options(${name} PRIVATE ${PHONE_COMPILE_FLAGS_${arch}} ${PHONE_COMPILE_FLAGS})
+  # Headers are searched in the order given: the C++ library's come before those of C.
+  target_compile_options(${name} PRIVATE ${PHONE_COMPILE_FLAGS} ${PHONE_COMPILE_FLAGS_${arch}})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
 endfunction()
 

@@ -15,7 +15,7 @@ struct Association {
     return T(objc_getAssociatedObject(owner.get(), selector<Getter>()));
   }
 
-  // nil removes the value.
+  // nil removes the value. Only then may the owner be nil: the runtime ends the program otherwise.
   static void set(Object owner, T value) {
     objc_setAssociatedObject(owner.get(), selector<Getter>(), value.get(),
                              OBJC_ASSOCIATION_RETAIN_NONATOMIC);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/Instances.h"
 #include "simulator/runtime/Send.h"
 #include "simulator/runtime/Shards.h"
@@ -94,7 +95,12 @@ Association take(id object, const void* key) {
 
 void objc_setAssociatedObject(id object, const void* key, id value, objc_AssociationPolicy policy) {
   if (object == nullptr) {
-    return;
+    // Removing what nil cannot have is harmless, on the platform too.
+    if (value == nullptr) {
+      return;
+    }
+    fatal("objc_setAssociatedObject: the object is nil, its value would be an instance of %s",
+          object_getClassName(value));
   }
   // Other people's code (retain, copy, dealloc) runs outside the lock.
   releaseOwned(value != nullptr ? exchange(object, {key, acquire(value, policy), policy})

@@ -83,10 +83,15 @@ TEST_F(Associations, AreFoundUnderTheSelectorOfTheirGetter) {
 }
 
 TEST_F(Associations, OfNilAreNil) {
-  Owner value = make();
-  Attached::set(nullptr, value.get());
+  Attached::set(nullptr, nullptr);
   EXPECT_FALSE(Attached::get(nullptr));
-  EXPECT_EQ(value->retainCount(), 1u);
+}
+
+using AssociationsDeathTest = Associations;
+
+TEST_F(AssociationsDeathTest, NilCanHaveNone) {
+  Owner value = make();
+  EXPECT_DEATH(Attached::set(nullptr, value.get()), "the object is nil");
 }
 
 }  // namespace

@@ -113,11 +113,16 @@ TEST(AssociationsOfOneObject, mayBeOfAClass) {
 }
 
 TEST(AssociationsOfOneObject, nilHasNone) {
-  id value = make(rootClass());
-  objc_setAssociatedObject(nullptr, &keys[0], value, OBJC_ASSOCIATION_RETAIN_NONATOMIC);
+  objc_setAssociatedObject(nullptr, &keys[0], nullptr, OBJC_ASSOCIATION_RETAIN_NONATOMIC);
   EXPECT_EQ(objc_getAssociatedObject(nullptr, &keys[0]), nullptr);
   objc_removeAssociatedObjects(nullptr);
-  EXPECT_EQ(countOf(value), 1u);
+}
+
+TEST(AssociationsDeathTest, ofNilWithAValueAreFatal) {
+  id value = make(makeClass("Value"));
+  EXPECT_DEATH(
+      objc_setAssociatedObject(nullptr, &keys[0], value, OBJC_ASSOCIATION_RETAIN_NONATOMIC),
+      "objc_setAssociatedObject: the object is nil, its value would be an instance of Value");
   objc_release(value);
 }
 

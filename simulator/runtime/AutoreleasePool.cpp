@@ -13,7 +13,7 @@ namespace simulator::runtime {
 namespace {
 
 // All pools of one thread: the objects of the inner pools follow those of the outer ones; nil
-// marks where a pool begins.
+// marks where a pool begins. What was autoreleased without a pool lies below the first.
 class PoolStack {
  public:
   static PoolStack& current();
@@ -21,6 +21,7 @@ class PoolStack {
   // The token is the pool's position plus one, so that no pool is the null pointer.
   void* push() {
     entries_.push_back(nullptr);
+    ++pools_;
     return reinterpret_cast<void*>(entries_.size());
   }
 
@@ -31,26 +32,28 @@ class PoolStack {
     if (size == 0 || size > entries_.size() || entries_[size - 1] != nullptr) {
       fatal("invalid or prematurely freed autorelease pool %p", token);
     }
+    releaseDownTo(size);
+    releaseDownTo(size - 1);
+  }
+
+  void add(id object) { entries_.push_back(object); }
+  bool hasPool() const { return pools_ > 0; }
+
+  // The thread ends.
+  void releaseAll() { releaseDownTo(0); }
+
+ private:
+  void releaseDownTo(std::size_t size) {
     while (entries_.size() > size) {
       id object = entries_.back();
       entries_.pop_back();
+      pools_ -= object == nullptr ? 1 : 0;
       objc_release(object);
     }
-    entries_.pop_back();
   }
 
-  bool add(id object) {
-    if (entries_.empty()) {
-      return false;
-    }
-    entries_.push_back(object);
-    return true;
-  }
-
-  bool empty() const { return entries_.empty(); }
-
- private:
   std::vector<id> entries_;
+  std::size_t pools_ = 0;
 };
 
 thread_local PoolStack* currentStack = nullptr;
@@ -59,9 +62,7 @@ void endThread(void* memory) {
   auto* stack = static_cast<PoolStack*>(memory);
   // Other keys' destructors may already have run; this thread's pools must still be found.
   currentStack = stack;
-  if (!stack->empty()) {
-    stack->pop(reinterpret_cast<void*>(std::uintptr_t{1}));
-  }
+  stack->releaseAll();
   currentStack = nullptr;
   delete stack;
 }
@@ -90,13 +91,15 @@ PoolStack& PoolStack::current() {
 }  // namespace
 
 id addToAutoreleasePool(id object) {
-  if (!PoolStack::current().add(object)) {
+  PoolStack& stack = PoolStack::current();
+  if (!stack.hasPool()) {
     std::fprintf(stderr,
                  "objc[%d]: MISSING POOLS: Object %p of class %s autoreleased with no pool in "
-                 "place - just leaking\n",
+                 "place - kept until its thread ends\n",
                  static_cast<int>(getpid()), static_cast<void*>(object),
                  object_getClassName(object));
   }
+  stack.add(object);
   return object;
 }
 

@@ -6,7 +6,8 @@
 namespace simulator::runtime {
 
 // NSObject's autorelease: leaves the caller's reference to the innermost pool. Without a pool it
-// prints a line on stderr and leaks, as the platform does. Returns the object.
+// prints a line on stderr, and the reference goes when the thread ends; on the main thread, whose
+// end is the program's, never. Returns the object.
 id addToAutoreleasePool(id object);
 
 }  // namespace simulator::runtime

@@ -69,14 +69,45 @@ TEST_F(AutoreleasePools, objectsAutoreleasedWhileEmptyingGoToo) {
   EXPECT_EQ(liveInstanceCount(chainClass), 0u);
 }
 
-TEST_F(AutoreleasePools, withoutOneALineIsPrintedAndTheObjectLeaks) {
+TEST_F(AutoreleasePools, withoutOneALineIsPrintedAndTheThreadsEndReleases) {
   testing::internal::CaptureStderr();
-  id object = objc_autorelease(make(cls_));
+  std::thread([this] {
+    objc_autorelease(make(cls_));
+    objc_autorelease(make(cls_));
+    EXPECT_EQ(liveInstanceCount(cls_), 2u);
+  }).join();
   const std::string printed = testing::internal::GetCapturedStderr();
-  EXPECT_NE(printed.find("MISSING POOLS"), std::string::npos) << printed;
+  const std::size_t first = printed.find("MISSING POOLS");
+  EXPECT_NE(first, std::string::npos) << printed;
+  EXPECT_NE(printed.find("MISSING POOLS", first + 1), std::string::npos) << printed;
   EXPECT_NE(printed.find(class_getName(cls_)), std::string::npos) << printed;
-  EXPECT_EQ(liveInstanceCount(cls_), 1u);
-  objc_release(object);
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+}
+
+TEST_F(AutoreleasePools, doNotTakeAlongWhatWasThereBeforeThem) {
+  testing::internal::CaptureStderr();
+  std::thread([this] {
+    objc_autorelease(make(cls_));
+    void* pool = objc_autoreleasePoolPush();
+    objc_autorelease(make(cls_));
+    objc_autoreleasePoolPop(pool);
+    EXPECT_EQ(liveInstanceCount(cls_), 1u);
+  }).join();
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+  const std::string printed = testing::internal::GetCapturedStderr();
+  const std::size_t first = printed.find("MISSING POOLS");
+  EXPECT_NE(first, std::string::npos) << printed;
+  EXPECT_EQ(printed.find("MISSING POOLS", first + 1), std::string::npos) << printed;
+}
+
+TEST_F(AutoreleasePools, whatIsAutoreleasedAtTheThreadsEndGoesToo) {
+  testing::internal::CaptureStderr();
+  chainClass = makeClass("Chained");
+  addMethod(cls_, "dealloc", &deallocThatAutoreleases);
+  std::thread([this] { objc_autorelease(make(cls_)); }).join();
+  testing::internal::GetCapturedStderr();
+  EXPECT_EQ(liveInstanceCount(cls_), 0u);
+  EXPECT_EQ(liveInstanceCount(chainClass), 0u);
 }
 
 TEST_F(AutoreleasePools, belongToTheirThread) {

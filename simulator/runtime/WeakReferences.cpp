@@ -1,15 +1,14 @@
 #include "simulator/runtime/WeakReferences.h"
 
-#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <mutex>
 #include <unordered_map>
 #include <utility>
-#include <vector>
 
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/Instances.h"
+#include "simulator/runtime/LocationSet.h"
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Shards.h"
 
@@ -20,7 +19,7 @@ namespace {
 // lock and still finds the object in a registered location may touch it.
 struct WeakTable {
   std::mutex lock;
-  std::unordered_map<id, std::vector<id*>> locations;  // by object referred to
+  std::unordered_map<id, LocationSet> locations;  // by object referred to
 };
 
 WeakTable& tableOf(id object) {
@@ -38,7 +37,7 @@ void write(id* location, id object) {
 // Both are called with the lock of the object's table held.
 void add(WeakTable& table, id object, id* location) {
   leaveTrace(object, kHasWeakReferences);
-  table.locations[object].push_back(location);
+  table.locations[object].add(location);
 }
 
 void remove(WeakTable& table, id object, id* location) {
@@ -46,13 +45,8 @@ void remove(WeakTable& table, id object, id* location) {
   if (entry == table.locations.end()) {
     return;
   }
-  auto& locations = entry->second;
-  if (const auto found = std::find(locations.begin(), locations.end(), location);
-      found != locations.end()) {
-    *found = locations.back();
-    locations.pop_back();
-  }
-  if (locations.empty()) {
+  entry->second.remove(location);
+  if (entry->second.empty()) {
     table.locations.erase(entry);
   }
 }
@@ -88,6 +82,22 @@ void requireAlive(id object) {
   }
 }
 
+// Forgets the location without writing to it: it may be on its way out with all around it.
+void forget(id* location) {
+  for (;;) {
+    id object = read(location);
+    if (object == nullptr) {
+      return;
+    }
+    WeakTable& table = tableOf(object);
+    const std::lock_guard guard(table.lock);
+    if (read(location) == object) {
+      remove(table, object, location);
+      return;
+    }
+  }
+}
+
 // Other threads see what the location referred to or what it refers to then, nothing between.
 void exchange(id* location, id object) {
   for (;;) {
@@ -117,9 +127,7 @@ void clearWeakReferences(id object) {
   if (entry == table.locations.end()) {
     return;
   }
-  for (id* location : entry->second) {
-    write(location, nullptr);
-  }
+  entry->second.forEach([](id* location) { write(location, nullptr); });
   table.locations.erase(entry);
 }
 
@@ -156,7 +164,7 @@ id objc_loadWeak(id* location) {
 }
 
 void objc_destroyWeak(id* location) {
-  exchange(location, nullptr);
+  forget(location);
 }
 
 void objc_copyWeak(id* to, id* from) {

@@ -109,6 +109,16 @@ TEST(WeakReferences, destroyedOnesAreNotWritten) {
   EXPECT_EQ(weak, garbage());
 }
 
+TEST(WeakReferences, destroyingLeavesTheBits) {
+  id object = make(rootClass());
+  id weak = garbage();
+  objc_initWeak(&weak, object);
+  objc_destroyWeak(&weak);
+  EXPECT_EQ(weak, object);
+  objc_release(object);
+  EXPECT_EQ(weak, object);
+}
+
 TEST(WeakReferences, copiesAreTrackedOnTheirOwn) {
   id object = make(rootClass());
   id weak = garbage();
@@ -145,6 +155,25 @@ TEST(WeakReferences, allReferencesToOneObjectReadNil) {
   }
   objc_release(object);
   EXPECT_EQ(weak, std::vector<id>(100));
+}
+
+TEST(WeakReferences, manyToOneObjectComeAndGoInAnyOrder) {
+  id object = make(rootClass());
+  id other = make(rootClass());
+  constexpr std::size_t kMany = 5000;
+  std::vector<id> weak(kMany);
+  for (id& one : weak) objc_initWeak(&one, object);
+  for (std::size_t i = 0; i < kMany; i += 2) objc_storeWeak(&weak[i], other);
+  for (std::size_t i = kMany; i > 0; i -= 5) objc_destroyWeak(&weak[i - 1]);
+  for (std::size_t i = kMany; i > 0; i -= 5) weak[i - 1] = garbage();
+  objc_release(object);
+  for (std::size_t i = 0; i < kMany; ++i) {
+    EXPECT_EQ(weak[i], (i + 1) % 5 == 0 ? garbage() : i % 2 == 0 ? other : nullptr) << i;
+  }
+  objc_release(other);
+  for (std::size_t i = 0; i < kMany; ++i) {
+    EXPECT_EQ(weak[i], (i + 1) % 5 == 0 ? garbage() : nullptr) << i;
+  }
 }
 
 TEST(WeakReferences, toClassesLastForever) {

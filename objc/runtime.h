@@ -27,7 +27,8 @@ using SEL = objc_selector*;
 using Method = objc_method*;
 using Ivar = objc_ivar*;
 using objc_property_t = objc_property*;
-using IMP = void (*)();  // cast to the exact prototype before a call
+using Protocol = objc_object;  // an object, as its name in Objective-C says
+using IMP = void (*)();        // cast to the exact prototype before a call
 
 // What class_addProperty takes: {"T", "q"}, {"N", ""}, {"&", ""}, {"G", "getter"} ...
 struct objc_property_attribute_t {
@@ -88,14 +89,25 @@ id class_createInstance(Class cls, std::size_t extraBytes);
 bool class_addMethod(Class cls, SEL selector, IMP implementation, const char* types);
 // The implementation replaced, or nil. `types` counts only when the method is new.
 IMP class_replaceMethod(Class cls, SEL selector, IMP implementation, const char* types);
+// These ask the class's resolveInstanceMethod: or resolveClassMethod: before they say no, and so
+// does class_respondsToSelector.
 Method class_getInstanceMethod(Class cls, SEL selector);
 Method class_getClassMethod(Class cls, SEL selector);
+// Never nil for a class: what nobody implements is forwarded when it is called.
 IMP class_getMethodImplementation(Class cls, SEL selector);
-Method* class_copyMethodList(Class cls, unsigned int* count);  // free() it
+#if defined(__x86_64__)
+// The same for methods that return a large structure; differs in what it gives for unknown ones.
+IMP class_getMethodImplementation_stret(Class cls, SEL selector);
+#endif
+Method* class_copyMethodList(Class cls, unsigned int* count);  // newest first; free() it
 
 SEL method_getName(Method method);
 IMP method_getImplementation(Method method);
 const char* method_getTypeEncoding(Method method);
+unsigned int method_getNumberOfArguments(Method method);  // self and _cmd count
+char* method_copyReturnType(Method method);               // free() it
+// nil when there is no such argument; 0 is self. free() it.
+char* method_copyArgumentType(Method method, unsigned int index);
 IMP method_setImplementation(Method method, IMP implementation);  // returns the one replaced
 void method_exchangeImplementations(Method one, Method other);
 
@@ -110,13 +122,34 @@ std::ptrdiff_t ivar_getOffset(Ivar ivar);
 id object_getIvar(id object, Ivar ivar);
 void object_setIvar(id object, Ivar ivar, id value);
 
-// NO when the class has the property already.
+// A method implementation that calls the block with the receiver and the arguments, but without
+// the selector. Copies the block; imp_removeBlock releases it.
+IMP imp_implementationWithBlock(id block);
+id imp_getBlock(IMP implementation);       // +0; nil for other implementations
+bool imp_removeBlock(IMP implementation);  // NO for others; the implementation is gone afterwards
+
+// NO when the class or a superclass has a property of that name. Attributes without value are left
+// out; an empty one is a value.
 bool class_addProperty(Class cls, const char* name, const objc_property_attribute_t* attributes,
                        unsigned int count);
 objc_property_t class_getProperty(Class cls, const char* name);
-objc_property_t* class_copyPropertyList(Class cls, unsigned int* count);  // free() it
+objc_property_t* class_copyPropertyList(Class cls, unsigned int* count);  // newest first; free() it
 const char* property_getName(objc_property_t property);
 const char* property_getAttributes(objc_property_t property);
+
+// Protocols: names that classes adopt. nil when there is no protocol of that name.
+Protocol* objc_getProtocol(const char* name);
+Protocol* objc_allocateProtocol(const char* name);  // nil when the name is taken
+void objc_registerProtocol(Protocol* protocol);
+// Only between objc_allocateProtocol and objc_registerProtocol; `addition` is registered.
+void protocol_addProtocol(Protocol* protocol, Protocol* addition);
+const char* protocol_getName(Protocol* protocol);
+bool protocol_conformsToProtocol(Protocol* protocol, Protocol* other);
+bool protocol_isEqual(Protocol* protocol, Protocol* other);
+bool class_addProtocol(Class cls, Protocol* protocol);  // NO when the class conforms already
+// Of the class alone; the method conformsToProtocol: asks the superclasses too.
+bool class_conformsToProtocol(Class cls, Protocol* protocol);
+Protocol** class_copyProtocolList(Class cls, unsigned int* count);  // newest first; free() it
 
 // Objects.
 Class object_getClass(id object);
@@ -140,11 +173,11 @@ id objc_initWeak(id* location, id object);
 id objc_storeWeak(id* location, id object);
 id objc_loadWeak(id* location);          // +0, autoreleased
 id objc_loadWeakRetained(id* location);  // +1
-void objc_destroyWeak(id* location);
+void objc_destroyWeak(id* location);     // leaves the bits there as they are
 void objc_copyWeak(id* to, id* from);
 void objc_moveWeak(id* to, id* from);
 
-// Associations. Setting nil removes one.
+// Associations. Setting nil removes one; a value for nil as the object ends the program.
 void objc_setAssociatedObject(id object, const void* key, id value, objc_AssociationPolicy policy);
 id objc_getAssociatedObject(id object, const void* key);
 void objc_removeAssociatedObjects(id object);

@@ -19,6 +19,10 @@ std::atomic_ref<std::int32_t> flagsOf(const void* block) {
   return std::atomic_ref(layoutOf(block)->flags);
 }
 
+std::atomic_ref<std::uint32_t> tracesOf(const void* block) {
+  return std::atomic_ref(layoutOf(block)->traces);
+}
+
 const BlockHelpers* helpersOf(const BlockLayout& block) {
   return (block.flags & kBlockHasCopyDispose) != 0
              ? reinterpret_cast<const BlockHelpers*>(block.descriptor + 1)
@@ -72,12 +76,27 @@ void* copyToHeap(const BlockLayout& source) {
     helpers->copy(copy, &source);
   }
   copy->isa = _NSConcreteMallocBlock;
-  copy->isCounted = 1;
+  copy->traces = kCountedBlock;
   countLiveBlocks(1);
   return copy;
 }
 
 }  // namespace
+
+void leaveTraceInBlock(id block, ObjectTrace trace) {
+  if ((flagsOf(block).load() & kBlockNeedsFree) != 0) {
+    tracesOf(block).fetch_or(trace, std::memory_order_release);
+  }
+}
+
+bool returnsLargeStructure([[maybe_unused]] id block) {
+#if defined(__x86_64__)
+  constexpr std::int32_t kMarks = kBlockUseStret | kBlockHasSignature;
+  return (flagsOf(block).load() & kMarks) == kMarks;
+#else
+  return false;
+#endif
+}
 
 bool tryRetainBlock(id block) {
   return (flagsOf(block).load() & kBlockNeedsFree) == 0 || retainHeapBlock(block);
@@ -124,8 +143,10 @@ void _Block_release(const void* block) {
   if (const BlockHelpers* helpers = helpersOf(*layoutOf(block))) {
     helpers->dispose(block);
   }
-  destructObject(reinterpret_cast<id>(layoutOf(block)));
-  // Blocks that their makers put on the heap themselves were never counted.
-  if (layoutOf(block)->isCounted != 0) countLiveBlocks(-1);
+  const std::uint32_t traces = tracesOf(block).load(std::memory_order_acquire);
+  forgetTraces(reinterpret_cast<id>(layoutOf(block)), traces);
+  if ((traces & kCountedBlock) != 0) {
+    countLiveBlocks(-1);
+  }
   std::free(layoutOf(block));
 }

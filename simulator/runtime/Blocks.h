@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "objc/runtime.h"
+#include "simulator/runtime/Instances.h"
 
 namespace simulator::runtime {
 
@@ -22,7 +23,7 @@ struct BlockHelpers {
 struct BlockLayout {
   void* isa;
   std::int32_t flags;
-  std::int32_t isCounted;  // the ABI's reserved word: 1 if _Block_copy made this block
+  std::uint32_t traces;  // the ABI's reserved word: ObjectTrace and kCountedBlock
   void (*invoke)();
   BlockDescriptor* descriptor;
 };
@@ -34,7 +35,20 @@ enum BlockFlag : std::int32_t {
   kBlockNeedsFree = 1 << 24,  // on the heap
   kBlockHasCopyDispose = 1 << 25,
   kBlockIsGlobal = 1 << 28,
+  kBlockUseStret = 1 << 29,  // meaningful with a signature only
+  kBlockHasSignature = 1 << 30,
 };
+
+// Beside the bits of ObjectTrace: _Block_copy made the block, and so the live ones count it. Blocks
+// that their makers put on the heap themselves have zero there.
+inline constexpr std::uint32_t kCountedBlock = 1u << 31;
+
+// Nothing for blocks that are not on the heap: they have no end, and may be read-only.
+void leaveTraceInBlock(id block, ObjectTrace trace);
+
+// Whether callers of the block pass the place for its result: on x86-64, as its maker has marked
+// it.
+bool returnsLargeStructure(id block);
 
 bool tryRetainBlock(id block);
 bool isBlockDeallocating(id block);

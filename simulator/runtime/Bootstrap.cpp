@@ -4,6 +4,7 @@
 #include "simulator/runtime/Blocks.h"
 #include "simulator/runtime/ClassRegistry.h"
 #include "simulator/runtime/NSObject.h"
+#include "simulator/runtime/Protocols.h"
 
 namespace simulator::runtime {
 namespace {
@@ -31,6 +32,7 @@ void ensureBootstrapped() {
   }
   begun = true;
   registerRootClass();
+  registerProtocolClass();
   registerBlockClasses();
   finished.store(true, std::memory_order_release);
 }

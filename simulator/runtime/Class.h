@@ -9,6 +9,7 @@
 #include <string>
 #include <thread>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "objc/runtime.h"
@@ -24,6 +25,7 @@ enum ClassFlag : std::uint32_t {
   kInitialized = 1u << 2,       // +initialize has returned
   kInlineReferences = 1u << 3,  // inherits NSObject's retain, release and autorelease
   kBlockClass = 1u << 4,        // instances are blocks: no InstanceHeader in front of them
+  kCxxDestruct = 1u << 5,       // has or inherits a .cxx_destruct
 };
 }  // namespace simulator::runtime
 
@@ -71,9 +73,11 @@ struct ClassData {
 
   std::vector<std::unique_ptr<objc_method>> methods;  // in the order they were added
   std::unordered_map<SEL, objc_method*> methodsBySelector;
+  std::unordered_set<SEL> unanswered;  // what the resolvers were asked for and did not bring
   std::vector<std::unique_ptr<objc_ivar>> ivars;
   std::vector<std::unique_ptr<objc_property>> properties;
-  std::size_t instanceSize = 0;  // bytes, not rounded: a subclass's ivars may fill the rest
+  std::vector<Protocol*> protocols;  // adopted by the class itself, newest first
+  std::size_t instanceSize = 0;      // bytes, not rounded: a subclass's ivars may fill the rest
 
   // Other threads may still be probing a cache that was outgrown, so it lives as long as its class.
   std::vector<MethodCache*> outgrownCaches;
@@ -81,6 +85,7 @@ struct ClassData {
   // Guarded by the lock of Initialization.cpp.
   bool initializing = false;
   std::thread::id initializingThread;
+  std::vector<Class> initializedEarly;  // subclasses whose end of +initialize waits for this one's
 };
 
 inline id asObject(Class cls) {

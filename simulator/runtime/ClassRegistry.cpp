@@ -54,7 +54,7 @@ void initClass(Class cls, Class isa, Class superclass, std::uint32_t flags) {
   if (superclass != nullptr) {
     superclass->data->subclasses.push_back(cls);
     cls->data->instanceSize = superclass->data->instanceSize;
-    flags |= superclass->flags.load() & (kInlineReferences | kBlockClass);
+    flags |= superclass->flags.load() & (kInlineReferences | kBlockClass | kCxxDestruct);
   } else {
     cls->data->instanceSize = sizeof(objc_object);
   }

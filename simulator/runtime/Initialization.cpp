@@ -2,8 +2,10 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <utility>
 
 #include "simulator/runtime/Class.h"
+#include "simulator/runtime/MethodResolution.h"
 #include "simulator/runtime/Send.h"
 
 namespace simulator::runtime {
@@ -35,11 +37,26 @@ bool begin(Class cls) {
   return true;
 }
 
-void finish(Class cls) {
-  const std::lock_guard guard(monitor().lock);
+// Called with the monitor's lock held.
+void openToAll(Class cls) {
   cls->data->initializing = false;
   cls->isa->flags.fetch_or(kInitialized, std::memory_order_release);
   cls->flags.fetch_or(kInitialized, std::memory_order_release);
+  for (Class subclass : std::exchange(cls->data->initializedEarly, {})) {
+    openToAll(subclass);
+  }
+}
+
+void finish(Class cls) {
+  const std::lock_guard guard(monitor().lock);
+  Class superclass = cls->superclass;
+  if (superclass != nullptr && !superclass->has(kInitialized)) {
+    // The calling thread is still in the superclass's +initialize and has come here from inside
+    // it. Other threads must not get past that one by way of the subclass.
+    superclass->data->initializedEarly.push_back(cls);
+    return;
+  }
+  openToAll(cls);
   monitor().finished.notify_all();
 }
 
@@ -58,7 +75,7 @@ void initializeIfNeeded(Class cls) {
   }
   static const SEL initialize = sel_registerName("initialize");
   // A root class of its own may have none.
-  if (class_respondsToSelector(target->isa, initialize)) {
+  if (hasMethod(target->isa, initialize)) {
     send<void>(asObject(target), initialize);
   }
   finish(target);

@@ -7,7 +7,8 @@ namespace simulator::runtime {
 
 // Sends +initialize to the class (of a metaclass: to its class) unless that has happened,
 // superclasses first. Waits while another thread is doing it; returns at once to the thread that
-// is doing it.
+// is doing it. A subclass
+// that is initialized from inside waits with the rest until its superclass is.
 void initializeIfNeeded(Class cls);
 
 }  // namespace simulator::runtime

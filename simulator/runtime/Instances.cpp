@@ -3,8 +3,11 @@
 #include <cstdlib>
 #include <new>
 
+#include "simulator/runtime/Blocks.h"
 #include "simulator/runtime/Class.h"
+#include "simulator/runtime/ClassRegistry.h"
 #include "simulator/runtime/LiveObjects.h"
+#include "simulator/runtime/Methods.h"
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Send.h"
 #include "simulator/runtime/WeakReferences.h"
@@ -19,22 +22,51 @@ ObjectKind kindOf(id object) {
   return cls->has(kBlockClass) ? ObjectKind::kBlock : ObjectKind::kInstance;
 }
 
-void leaveTrace(id object, ObjectTrace trace) {
-  if (kindOf(object) == ObjectKind::kInstance) {
-    headerOf(object).traces.fetch_or(trace, std::memory_order_release);
+namespace {
+
+IMP ownImplementation(Class cls, SEL selector) {
+  const std::lock_guard guard(runtimeLock());
+  const Method method = findOwnMethod(cls, selector);
+  return method != nullptr ? method->implementation.load() : nullptr;
+}
+
+// Each class destroys its own members, subclasses first. Not a message: an inherited one would run
+// twice.
+void destructMembers(id object) {
+  for (Class cls = object_getClass(object); cls != nullptr && cls->has(kCxxDestruct);
+       cls = cls->superclass) {
+    if (const IMP destruct = ownImplementation(cls, cxxDestruct())) {
+      reinterpret_cast<void (*)(id, SEL)>(destruct)(object, cxxDestruct());
+    }
   }
 }
 
-void destructObject(id object) {
-  const bool isInstance = kindOf(object) == ObjectKind::kInstance;
-  // Blocks have nowhere to keep traces: look for them in both tables.
-  const auto mayHave = [&](ObjectTrace trace) {
-    return !isInstance || (headerOf(object).traces.load(std::memory_order_acquire) & trace) != 0;
-  };
-  if (mayHave(kHasAssociations)) {
+}  // namespace
+
+void leaveTrace(id object, ObjectTrace trace) {
+  switch (kindOf(object)) {
+    case ObjectKind::kInstance:
+      headerOf(object).traces.fetch_or(trace, std::memory_order_release);
+      break;
+    case ObjectKind::kBlock:
+      leaveTraceInBlock(object, trace);
+      break;
+    case ObjectKind::kClass:
+      break;  // has no end
+  }
+}
+
+void destructInstance(id object) {
+  destructMembers(object);
+  // Read only now: destructors may have left some.
+  forgetTraces(object, headerOf(object).traces.load(std::memory_order_acquire));
+}
+
+void forgetTraces(id object, std::uint32_t traces) {
+  if ((traces & kHasAssociations) != 0) {
     objc_removeAssociatedObjects(object);
   }
-  if (mayHave(kHasWeakReferences)) {
+  if ((traces & kHasWeakReferences) != 0) {
     clearWeakReferences(object);
   }
 }
@@ -64,7 +96,7 @@ id object_dispose(id object) {
   if (object == nullptr || kindOf(object) != ObjectKind::kInstance) {
     return nullptr;
   }
-  destructObject(object);
+  destructInstance(object);
   InstanceHeader& header = headerOf(object);
   leaveLiveObject(header);
   header.references.store(kFreed, std::memory_order_relaxed);

@@ -9,6 +9,7 @@
 
 namespace simulator::runtime {
 
+// Which side tables know an object.
 enum ObjectTrace : std::uint32_t {
   kHasAssociations = 1u << 0,
   kHasWeakReferences = 1u << 1,
@@ -19,7 +20,7 @@ struct alignas(16) InstanceHeader {
   InstanceHeader* previous;
   InstanceHeader* next;
   std::atomic<std::uint32_t> references;  // see ReferenceCounting.cpp
-  std::atomic<std::uint32_t> traces;      // ObjectTrace: which side tables know the object
+  std::atomic<std::uint32_t> traces;      // of ObjectTrace
 };
 
 inline InstanceHeader& headerOf(id object) {
@@ -36,7 +37,11 @@ ObjectKind kindOf(id object);
 // Remembers that a side table knows the object, so that its end has to look there.
 void leaveTrace(id object, ObjectTrace trace);
 
-// What happens between dealloc and free: associations go, then weak references read nil.
-void destructObject(id object);
+// What happens between dealloc and free: the members are destroyed, associations go, then weak
+// references read nil.
+void destructInstance(id object);
+
+// The last two of these, for the bits of ObjectTrace in `traces`.
+void forgetTraces(id object, std::uint32_t traces);
 
 }  // namespace simulator::runtime

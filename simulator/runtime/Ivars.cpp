@@ -58,7 +58,7 @@ Ivar class_getInstanceVariable(Class cls, const char* name) {
 
 Ivar* class_copyIvarList(Class cls, unsigned int* count) {
   const std::lock_guard guard(runtimeLock());
-  return copyList(cls != nullptr ? &cls->data->ivars : nullptr, count);
+  return copyOldestFirst(cls != nullptr ? &cls->data->ivars : nullptr, count);
 }
 
 const char* ivar_getName(Ivar ivar) {

@@ -1,6 +1,7 @@
-// What class_copyMethodList, class_copyIvarList and class_copyPropertyList share.
+// What class_copyMethodList, class_copyIvarList and their kin share.
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <new>
@@ -11,23 +12,43 @@ namespace simulator::runtime {
 // A malloc'ed array with a terminating null, for the caller to free(); nullptr when there is
 // nothing. `count` may be null.
 template <typename T>
-T** copyList(const std::vector<std::unique_ptr<T>>* list, unsigned int* count) {
-  const std::size_t size = list != nullptr ? list->size() : 0;
+T** copyList(const std::vector<T*>& list, unsigned int* count) {
   if (count != nullptr) {
-    *count = static_cast<unsigned int>(size);
+    *count = static_cast<unsigned int>(list.size());
   }
-  if (size == 0) {
+  if (list.empty()) {
     return nullptr;
   }
-  auto** copy = static_cast<T**>(std::malloc((size + 1) * sizeof(T*)));
+  auto** copy = static_cast<T**>(std::malloc((list.size() + 1) * sizeof(T*)));
   if (copy == nullptr) {
     throw std::bad_alloc();
   }
-  for (std::size_t i = 0; i < size; ++i) {
-    copy[i] = (*list)[i].get();
-  }
-  copy[size] = nullptr;
+  *std::copy(list.begin(), list.end(), copy) = nullptr;
   return copy;
+}
+
+// `owners` may be null: nothing.
+template <typename T>
+T** copyOldestFirst(const std::vector<std::unique_ptr<T>>* owners, unsigned int* count) {
+  std::vector<T*> list;
+  if (owners != nullptr) {
+    for (const auto& one : *owners) {
+      list.push_back(one.get());
+    }
+  }
+  return copyList(list, count);
+}
+
+// Every addition to a class is put in front of what is there.
+template <typename T>
+T** copyNewestFirst(const std::vector<std::unique_ptr<T>>* owners, unsigned int* count) {
+  std::vector<T*> list;
+  if (owners != nullptr) {
+    for (auto one = owners->rbegin(); one != owners->rend(); ++one) {
+      list.push_back(one->get());
+    }
+  }
+  return copyList(list, count);
 }
 
 }  // namespace simulator::runtime

@@ -7,17 +7,16 @@
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/Initialization.h"
 #include "simulator/runtime/MethodCache.h"
+#include "simulator/runtime/MethodResolution.h"
 #include "simulator/runtime/Methods.h"
+#include "simulator/runtime/Send.h"
 
 namespace simulator::runtime {
 
-IMP lookUpImplementation(Class cls, SEL selector) {
-  ensureBootstrapped();
-  if (const IMP cached = cachedImplementation(cls, selector)) {
-    return cached;
-  }
-  initializeIfNeeded(cls);
-  // Search and fill under one lock: between the two nobody replaces the method.
+namespace {
+
+// Search and fill under one lock: between the two nobody replaces the method.
+IMP findAndCache(Class cls, SEL selector) {
   const std::lock_guard guard(runtimeLock());
   const Method method = findMethod(cls, selector);
   if (method == nullptr) {
@@ -31,17 +30,39 @@ IMP lookUpImplementation(Class cls, SEL selector) {
   return implementation;
 }
 
-void unrecognizedSelectorImplementation(id receiver, SEL selector) {
-  unrecognizedSelector(receiver, selector);
+}  // namespace
+
+IMP lookUpImplementation(Class cls, SEL selector) {
+  ensureBootstrapped();
+  if (const IMP cached = cachedImplementation(cls, selector)) {
+    return cached;
+  }
+  initializeIfNeeded(cls);
+  if (const IMP found = findAndCache(cls, selector)) {
+    return found;
+  }
+  return findOrResolveMethod(cls, selector) != nullptr ? findAndCache(cls, selector) : nullptr;
 }
 
 }  // namespace simulator::runtime
 
+using namespace simulator::runtime;
+
 IMP simulatorRuntimeLookUp(id receiver, SEL selector, Class cls) {
-  using namespace simulator::runtime;
-  const IMP found = cls != nullptr ? lookUpImplementation(cls, selector) : nullptr;
-  if (found == nullptr) {
+  if (cls == nullptr) {
     unrecognizedSelector(receiver, selector);
   }
-  return found;
+  return lookUpImplementation(cls, selector);
+}
+
+id simulatorRuntimeForwardingTarget(id receiver, SEL selector) {
+  static const SEL forwardingTarget = sel_registerName("forwardingTargetForSelector:");
+  // A root class of its own may have no such method.
+  id target = class_respondsToSelector(object_getClass(receiver), forwardingTarget)
+                  ? send<id>(receiver, forwardingTarget, selector)
+                  : nullptr;
+  if (target == nullptr || target == receiver) {
+    unrecognizedSelector(receiver, selector);
+  }
+  return target;
 }

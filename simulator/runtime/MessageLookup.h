@@ -1,22 +1,33 @@
 // The slow half of a message: what the assembly calls when the cache has no answer.
 //
-// Dynamic resolution (resolveInstanceMethod:) and forwarding (forwardingTargetForSelector:,
-// forwardInvocation:) are left out: a selector that no class in the chain implements is fatal.
+// Who implements nothing of the name may still provide it (MethodResolution.h) or name another
+// object (forwardingTargetForSelector:). forwardInvocation: is left out: what is not answered then
+// is fatal.
 #pragma once
 
 #include "objc/runtime.h"
 
 namespace simulator::runtime {
 
-// Sends +initialize if that is due, searches the superclasses too and fills the cache.
-// nullptr when nobody implements the selector.
+// Sends +initialize if that is due, searches the superclasses too, asks the resolver and fills the
+// cache. nullptr when nobody implements the selector.
 IMP lookUpImplementation(Class cls, SEL selector);
-
-// What class_getMethodImplementation gives for a method that does not exist: fatal when called.
-void unrecognizedSelectorImplementation(id receiver, SEL selector);
 
 }  // namespace simulator::runtime
 
-// Never nil. `cls` is the class to search first, nil above a root class.
-extern "C" [[gnu::visibility("hidden")]] IMP simulatorRuntimeLookUp(id receiver, SEL selector,
-                                                                    Class cls);
+extern "C" {
+
+// nil when the message is to be forwarded. `cls` is the class to search first, nil above a root
+// class.
+[[gnu::visibility("hidden")]] IMP simulatorRuntimeLookUp(id receiver, SEL selector, Class cls);
+
+// Whom the receiver names for the message; never nil: with nobody named the program ends.
+[[gnu::visibility("hidden")]] id simulatorRuntimeForwardingTarget(id receiver, SEL selector);
+
+// The implementation of every method that does not exist: sends the message to that object, the
+// arguments as they are. In assembly.
+[[gnu::visibility("hidden")]] void simulatorRuntimeForward();
+#if defined(__x86_64__)
+[[gnu::visibility("hidden")]] void simulatorRuntimeForward_stret();
+#endif
+}

@@ -9,6 +9,7 @@
 #define TO_SUPER2 2  // a struct objc_super: the class whose superclass to search
 
     .hidden simulatorRuntimeLookUp
+    .hidden simulatorRuntimeForwardingTarget
 
 // x8 is where a structure in memory goes.
 .macro SAVE_ARGUMENTS
@@ -96,6 +97,7 @@
 .if \target != TO_OBJECT
     ldr x0, [x0]
 .endif
+    cbz x17, simulatorRuntimeForward
     br x17
 .if \target == TO_OBJECT
 4:  // nil: zero in every register that can carry a result; a structure in memory is left alone
@@ -110,6 +112,24 @@
     .cfi_endproc
     .size \name, . - \name
 .endm
+
+// Sends the message on to the object that the receiver names.
+    .text
+    .globl simulatorRuntimeForward
+    .hidden simulatorRuntimeForward
+    .type simulatorRuntimeForward, %function
+    .p2align 4
+simulatorRuntimeForward:
+    .cfi_startproc
+    hint #34  // bti c
+    SAVE_ARGUMENTS
+    bl simulatorRuntimeForwardingTarget
+    mov x17, x0
+    RESTORE_ARGUMENTS
+    mov x0, x17
+    b objc_msgSend
+    .cfi_endproc
+    .size simulatorRuntimeForward, . - simulatorRuntimeForward
 
     MESSAGE objc_msgSend, TO_OBJECT
     MESSAGE objc_msgSendSuper, TO_SUPER

@@ -15,6 +15,7 @@
 #define TO_SUPER2 2  // a struct objc_super: the class whose superclass to search
 
     .hidden simulatorRuntimeLookUp
+    .hidden simulatorRuntimeForwardingTarget
 
 // Saves what may carry arguments (%al: the number of vector registers of a variadic call) and
 // realigns nothing: %rbp is 16-byte aligned after the push.
@@ -65,7 +66,7 @@
 
 // \first and \selector: the registers of the first two Objective-C arguments. Only %r10 and %r11
 // are free here.
-.macro MESSAGE name, first, selector, target, stret
+.macro MESSAGE name, first, selector, target, stret, forward
     .text
     .globl \name
     .type \name, @function
@@ -121,6 +122,8 @@
 .if \target != TO_OBJECT
     movq (\first), \first
 .endif
+    testq %r11, %r11
+    jz \forward
     jmp *%r11
 .if \target == TO_OBJECT
 4:  // nil: zero in every register that can carry a result; a structure in memory is left alone
@@ -138,14 +141,39 @@
     .size \name, . - \name
 .endm
 
-    MESSAGE objc_msgSend, %rdi, %rsi, TO_OBJECT, 0
-    MESSAGE objc_msgSendSuper, %rdi, %rsi, TO_SUPER, 0
-    MESSAGE objc_msgSendSuper2, %rdi, %rsi, TO_SUPER2, 0
+// Sends the message on to the object that the receiver names.
+.macro FORWARD name, first, selector, send
+    .text
+    .globl \name
+    .hidden \name
+    .type \name, @function
+    .p2align 4
+\name:
+    .cfi_startproc
+    _CET_ENDBR
+    SAVE_ARGUMENTS
+    movq \first, %rdi
+    movq \selector, %rsi
+    call simulatorRuntimeForwardingTarget
+    movq %rax, %r11
+    RESTORE_ARGUMENTS
+    movq %r11, \first
+    jmp \send@PLT
+    .cfi_endproc
+    .size \name, . - \name
+.endm
+
+    FORWARD simulatorRuntimeForward, %rdi, %rsi, objc_msgSend
+    FORWARD simulatorRuntimeForward_stret, %rsi, %rdx, objc_msgSend_stret
+
+    MESSAGE objc_msgSend, %rdi, %rsi, TO_OBJECT, 0, simulatorRuntimeForward
+    MESSAGE objc_msgSendSuper, %rdi, %rsi, TO_SUPER, 0, simulatorRuntimeForward
+    MESSAGE objc_msgSendSuper2, %rdi, %rsi, TO_SUPER2, 0, simulatorRuntimeForward
 
     // %rdi: where the structure goes
-    MESSAGE objc_msgSend_stret, %rsi, %rdx, TO_OBJECT, 1
-    MESSAGE objc_msgSendSuper_stret, %rsi, %rdx, TO_SUPER, 1
-    MESSAGE objc_msgSendSuper2_stret, %rsi, %rdx, TO_SUPER2, 1
+    MESSAGE objc_msgSend_stret, %rsi, %rdx, TO_OBJECT, 1, simulatorRuntimeForward_stret
+    MESSAGE objc_msgSendSuper_stret, %rsi, %rdx, TO_SUPER, 1, simulatorRuntimeForward_stret
+    MESSAGE objc_msgSendSuper2_stret, %rsi, %rdx, TO_SUPER2, 1, simulatorRuntimeForward_stret
 
 #endif
 

@@ -5,10 +5,10 @@
 #include "simulator/runtime/Class.h"
 #include "simulator/runtime/ClassChanges.h"
 #include "simulator/runtime/ClassRegistry.h"
-#include "simulator/runtime/Initialization.h"
 #include "simulator/runtime/Lists.h"
 #include "simulator/runtime/MessageLookup.h"
 #include "simulator/runtime/MethodCache.h"
+#include "simulator/runtime/MethodResolution.h"
 
 namespace simulator::runtime {
 
@@ -16,6 +16,11 @@ Method findOwnMethod(Class cls, SEL selector) {
   const auto& methods = cls->data->methodsBySelector;
   const auto found = methods.find(selector);
   return found != methods.end() ? found->second : nullptr;
+}
+
+SEL cxxDestruct() {
+  static const SEL selector = sel_registerName(".cxx_destruct");
+  return selector;
 }
 
 Method findMethod(Class cls, SEL selector) {
@@ -46,11 +51,31 @@ void noticeReferenceMethod(Class cls, SEL selector) {
   }
 }
 
+// Instances are to run it at their end: see destructInstance.
+void noticeCxxDestruct(Class cls) {
+  cls->flags.fetch_or(kCxxDestruct, std::memory_order_release);
+  for (const Class subclass : cls->data->subclasses) {
+    noticeCxxDestruct(subclass);
+  }
+}
+
+// A resolver may now know what it did not know before.
+void forgetUnanswered(Class cls) {
+  cls->data->unanswered.clear();
+  for (const Class subclass : cls->data->subclasses) {
+    forgetUnanswered(subclass);
+  }
+}
+
 void addNewMethod(Class cls, SEL selector, IMP implementation, const char* types) {
   auto& added = cls->data->methods.emplace_back(
       new objc_method{selector, types != nullptr ? types : "", implementation, cls});
   cls->data->methodsBySelector.emplace(selector, added.get());
   noticeReferenceMethod(cls, selector);
+  if (selector == cxxDestruct()) {
+    noticeCxxDestruct(cls);
+  }
+  forgetUnanswered(cls);
   refreshCaches(cls, selector, implementation);
 }
 
@@ -97,8 +122,7 @@ IMP class_replaceMethod(Class cls, SEL selector, IMP implementation, const char*
 }
 
 Method class_getInstanceMethod(Class cls, SEL selector) {
-  const std::lock_guard guard(runtimeLock());
-  return findMethod(cls, selector);
+  return findOrResolveMethod(cls, selector);
 }
 
 Method class_getClassMethod(Class cls, SEL selector) {
@@ -111,20 +135,27 @@ IMP class_getMethodImplementation(Class cls, SEL selector) {
     return nullptr;
   }
   const IMP found = lookUpImplementation(cls, selector);
-  return found != nullptr ? found : reinterpret_cast<IMP>(&unrecognizedSelectorImplementation);
+  return found != nullptr ? found : &simulatorRuntimeForward;
 }
+
+#if defined(__x86_64__)
+IMP class_getMethodImplementation_stret(Class cls, SEL selector) {
+  const IMP found = class_getMethodImplementation(cls, selector);
+  return found == &simulatorRuntimeForward ? &simulatorRuntimeForward_stret : found;
+}
+#endif
 
 bool class_respondsToSelector(Class cls, SEL selector) {
   if (cls == nullptr || selector == nullptr) {
     return false;
   }
   return cachedImplementation(cls, selector) != nullptr ||
-         class_getInstanceMethod(cls, selector) != nullptr;
+         findOrResolveMethod(cls, selector) != nullptr;
 }
 
 Method* class_copyMethodList(Class cls, unsigned int* count) {
   const std::lock_guard guard(runtimeLock());
-  return copyList(cls != nullptr ? &cls->data->methods : nullptr, count);
+  return copyNewestFirst(cls != nullptr ? &cls->data->methods : nullptr, count);
 }
 
 SEL method_getName(Method method) {

@@ -1,4 +1,4 @@
-// Method lists of classes. All functions here are called with runtimeLock() held.
+// Method lists of classes. The functions that search are called with runtimeLock() held.
 #pragma once
 
 #include "objc/runtime.h"
@@ -10,5 +10,8 @@ Method findOwnMethod(Class cls, SEL selector);
 
 // Searches the superclasses too. `cls` may be nil.
 Method findMethod(Class cls, SEL selector);
+
+// .cxx_destruct: what a compiler generates to destroy the instance variables of one class.
+SEL cxxDestruct();
 
 }  // namespace simulator::runtime

@@ -90,6 +90,18 @@ bool isMemberOfClass(id self, SEL, Class cls) {
 bool isSubclassOfClass(id self, SEL, Class cls) {
   return inherits(asClass(self), cls);
 }
+bool anyConforms(Class cls, Protocol* protocol) {
+  while (cls != nullptr && !class_conformsToProtocol(cls, protocol)) {
+    cls = class_getSuperclass(cls);
+  }
+  return cls != nullptr;
+}
+bool conformsToProtocol(id self, SEL, Protocol* protocol) {
+  return anyConforms(object_getClass(self), protocol);
+}
+bool classConformsToProtocol(id self, SEL, Protocol* protocol) {
+  return anyConforms(asClass(self), protocol);
+}
 bool isProxy(id, SEL) {
   return false;
 }
@@ -115,6 +127,12 @@ id performSelectorWithObject(id self, SEL, SEL selector, id argument) {
 }
 id performSelectorWithObjects(id self, SEL, SEL selector, id first, id second) {
   return send<id>(self, selector, first, second);
+}
+bool resolveNoMethod(id, SEL, SEL) {
+  return false;
+}
+id forwardNowhere(id, SEL, SEL) {
+  return nullptr;
 }
 void doesNotRecognizeSelector(id self, SEL, SEL selector) {
   unrecognizedSelector(self, selector);
@@ -149,12 +167,14 @@ void addInstanceMethods(Class cls) {
   add(cls, "superclass", &superclassOfInstance, "#@:");
   add(cls, "isKindOfClass:", &isKindOfClass, "B@:#");
   add(cls, "isMemberOfClass:", &isMemberOfClass, "B@:#");
+  add(cls, "conformsToProtocol:", &conformsToProtocol, "B@:@");
   add(cls, "isProxy", &isProxy, "B@:");
   add(cls, "respondsToSelector:", &respondsToSelector, "B@::");
   add(cls, "methodForSelector:", &methodForSelector, "^?@::");
   add(cls, "performSelector:", &performSelector, "@@::");
   add(cls, "performSelector:withObject:", &performSelectorWithObject, "@@::@");
   add(cls, "performSelector:withObject:withObject:", &performSelectorWithObjects, "@@::@@");
+  add(cls, "forwardingTargetForSelector:", &forwardNowhere, "@@::");
   add(cls, "doesNotRecognizeSelector:", &doesNotRecognizeSelector, "v@::");
   add(cls, "self", &itself, "@@:");
   add(cls, "isEqual:", &isEqual, "B@:@");
@@ -179,6 +199,9 @@ void addClassMethods(Class metaclass) {
   add(metaclass, "class", &classOfClass, "#@:");
   add(metaclass, "superclass", &superclassOfClass, "#@:");
   add(metaclass, "isSubclassOfClass:", &isSubclassOfClass, "B@:#");
+  add(metaclass, "conformsToProtocol:", &classConformsToProtocol, "B@:@");
+  add(metaclass, "resolveInstanceMethod:", &resolveNoMethod, "B@::");
+  add(metaclass, "resolveClassMethod:", &resolveNoMethod, "B@::");
   add(metaclass, "instancesRespondToSelector:", &instancesRespondToSelector, "B@::");
   add(metaclass, "instanceMethodForSelector:", &instanceMethodForSelector, "^?@::");
 }

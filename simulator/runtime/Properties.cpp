@@ -20,17 +20,27 @@ objc_property_t findOwnProperty(Class cls, const char* name) {
   return nullptr;
 }
 
+// Called with runtimeLock() held. Searches the superclasses too.
+objc_property_t findProperty(Class cls, const char* name) {
+  for (; cls != nullptr; cls = cls->superclass) {
+    if (const objc_property_t property = findOwnProperty(cls, name)) {
+      return property;
+    }
+  }
+  return nullptr;
+}
+
 // As the compiler writes it: T@"A",&,N,V_p. A name of more than one letter stands in quotes.
 std::string attributeString(const objc_property_attribute_t* attributes, unsigned int count) {
   std::string text;
   for (unsigned int i = 0; i < count; ++i) {
     const std::string_view name = attributes[i].name != nullptr ? attributes[i].name : "";
-    if (name.empty()) {
+    if (name.empty() || attributes[i].value == nullptr) {
       continue;
     }
     text += text.empty() ? "" : ",";
     text += name.size() > 1 ? '"' + std::string(name) + '"' : std::string(name);
-    text += attributes[i].value != nullptr ? attributes[i].value : "";
+    text += attributes[i].value;
   }
   return text;
 }
@@ -45,7 +55,7 @@ bool class_addProperty(Class cls, const char* name, const objc_property_attribut
   const std::string text = attributeString(attributes, count);
   {
     const std::lock_guard guard(runtimeLock());
-    if (findOwnProperty(cls, name) != nullptr) {
+    if (findProperty(cls, name) != nullptr) {
       return false;
     }
     cls->data->properties.emplace_back(new objc_property{name, text});
@@ -61,17 +71,12 @@ objc_property_t class_getProperty(Class cls, const char* name) {
     return nullptr;
   }
   const std::lock_guard guard(runtimeLock());
-  for (; cls != nullptr; cls = cls->superclass) {
-    if (const objc_property_t property = findOwnProperty(cls, name)) {
-      return property;
-    }
-  }
-  return nullptr;
+  return findProperty(cls, name);
 }
 
 objc_property_t* class_copyPropertyList(Class cls, unsigned int* count) {
   const std::lock_guard guard(runtimeLock());
-  return copyList(cls != nullptr ? &cls->data->properties : nullptr, count);
+  return copyNewestFirst(cls != nullptr ? &cls->data->properties : nullptr, count);
 }
 
 const char* property_getName(objc_property_t property) {

@@ -179,6 +179,34 @@ TEST_F(Blocks, mayHaveAssociations) {
   objc_release(value);
 }
 
+TEST_F(Blocks, builtOnTheHeapByHandLoseTheirTracesToo) {
+  static const char key = 0;
+  auto* block = static_cast<Block*>(std::malloc(sizeof(Block)));
+  *block = stackBlock(7);
+  block->isa = _NSConcreteMallocBlock;
+  block->flags = kNeedsFree | 2;
+  id value = make(rootClass());
+  id weak = nullptr;
+  objc_initWeak(&weak, asObject(*block));
+  objc_setAssociatedObject(asObject(*block), &key, value, OBJC_ASSOCIATION_RETAIN_NONATOMIC);
+  _Block_release(block);
+  EXPECT_EQ(weak, nullptr);
+  EXPECT_EQ(send<std::size_t>(value, "retainCount"), 1u);
+  objc_release(value);
+}
+
+// What is known of a block on a stack is known of that one, not of its copy.
+TEST_F(Blocks, copiesInheritNoTraces) {
+  static const char key = 0;
+  Block block = stackBlock(7);
+  objc_setAssociatedObject(asObject(block), &key, asObject(block), OBJC_ASSOCIATION_ASSIGN);
+  EXPECT_EQ(block.reserved, 0);
+  auto* copy = static_cast<id>(_Block_copy(&block));
+  EXPECT_EQ(objc_getAssociatedObject(copy, &key), nullptr);
+  _Block_release(copy);
+  objc_removeAssociatedObjects(asObject(block));
+}
+
 TEST_F(Blocks, threadsLoseNoReference) {
   Block block = stackBlock(7);
   block.flags = kCopyDispose;

@@ -67,6 +67,7 @@ TEST_F(Initialize, lookingAClassUpDoesNotSendIt) {
   objc_getClass(class_getName(cls));
   class_respondsToSelector(cls, sel("self"));
   class_getInstanceMethod(cls, sel("self"));
+  class_conformsToProtocol(cls, objc_getProtocol("NSObject"));
   EXPECT_TRUE(initialized.empty());
   class_getMethodImplementation(cls, sel("self"));
   EXPECT_EQ(initialized.size(), 1u);
@@ -128,6 +129,43 @@ TEST_F(Initialize, otherThreadsWaitForItsEnd) {
   }
   EXPECT_EQ(started, 1);
   EXPECT_EQ(sawUnfinished, 0);
+}
+
+Class inner;
+
+// Reaches a subclass from inside: that is ready for this thread alone.
+void initializeThroughASubclass(id self, SEL) {
+  send(inner, "check");
+  slowInitialize(self, nullptr);
+  send(inner, "check");
+}
+
+TEST_F(Initialize, otherThreadsWaitForItsEndThroughASubclassToo) {
+  started = 0;
+  finished = false;
+  sawUnfinished = 0;
+  Class cls = makeClass("Shared");
+  inner = makeClass("Inner", makeClass("Between", cls));
+  addClassMethod(class_getSuperclass(inner), "initialize", &recordInitialize);
+  addClassMethod(inner, "initialize", &recordInitialize);
+  addClassMethod(cls, "initialize", &initializeThroughASubclass);
+  addClassMethod(cls, "check", &check);
+  initializer = std::this_thread::get_id();
+  std::thread first([cls] {
+    initializer = std::this_thread::get_id();
+    send<Class>(cls, "class");
+  });
+  while (started == 0) std::this_thread::yield();
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([] { send(inner, "check"); });
+  }
+  for (std::thread& thread : threads) thread.join();
+  first.join();
+  EXPECT_EQ(started, 1);
+  EXPECT_EQ(sawUnfinished, 0);
+  EXPECT_EQ(initialized, (std::vector<std::string>{class_getName(class_getSuperclass(inner)),
+                                                   class_getName(inner)}));
 }
 
 }  // namespace

@@ -102,18 +102,22 @@ TEST(Methods, setImplementationGivesTheOldOne) {
   EXPECT_EQ(method_getImplementation(method), asImplementation(&two));
 }
 
-TEST(Methods, listHoldsOwnMethodsInOrder) {
+TEST(Methods, listHoldsOwnMethodsNewestFirst) {
   Class base = makeClass("Base");
-  Class derived = makeClass("Derived", base);
   addMethod(base, "inherited", &one);
+  Class derived = objc_allocateClassPair(base, "MethodList", 0);
   addMethod(derived, "first", &one);
   addMethod(derived, "second", &two);
+  objc_registerClassPair(derived);
+  class_replaceMethod(derived, sel("third"), asImplementation(&three), "i@:");
+  class_replaceMethod(derived, sel("first"), asImplementation(&three), "i@:");
   unsigned int count = 77;
   Method* methods = class_copyMethodList(derived, &count);
-  ASSERT_EQ(count, 2u);
-  EXPECT_EQ(method_getName(methods[0]), sel("first"));
+  ASSERT_EQ(count, 3u);
+  EXPECT_EQ(method_getName(methods[0]), sel("third"));
   EXPECT_EQ(method_getName(methods[1]), sel("second"));
-  EXPECT_EQ(methods[2], nullptr);
+  EXPECT_EQ(method_getName(methods[2]), sel("first"));
+  EXPECT_EQ(methods[3], nullptr);
   std::free(methods);
 }
 

@@ -1,0 +1,158 @@
+"""Builds one mutant after the other and plays scripts until one notices."""
+
+import concurrent.futures
+import hashlib
+import json
+import pathlib
+import re
+import tempfile
+import threading
+
+from player import MODEL
+
+NOTICED, SURVIVED, UNBUILDABLE, SAME = "noticed", "survived", "does not compile", "same code"
+
+
+class Judge:
+    def __init__(self, project, world, objects, player, coverage, users, results):
+        self.project = project
+        self.world = world  # decides, with a mutant and a script, how the script ends
+        self.player = player
+        self.coverage = coverage
+        self.users = users  # of each file, the sources compiled from it
+        self.results = results
+        self.objects = objects
+        self.lock = threading.Lock()
+        self.noticers = {}  # (file, enclosing): how often each test has noticed something there
+        self.breadths = {name: coverage.breadth(name) for name in player.tests}
+
+    def judge_all(self, mutants, report):
+        with concurrent.futures.ThreadPoolExecutor(self.project.jobs) as pool:
+            runs = {pool.submit(self.judge, mutant): mutant for mutant in mutants}
+            for run in concurrent.futures.as_completed(runs):
+                mutant, result = runs[run], run.result()
+                with self.lock:
+                    self.results[mutant.identity] = result
+                    report(mutant, result)
+
+    def judge(self, mutant):
+        earlier = self.results.get(mutant.identity, {})
+        key = self.key(mutant)
+        if earlier.get("key") != key:
+            earlier = {"by": earlier.get("by")}
+        elif earlier["verdict"] in (UNBUILDABLE, SAME) or self.still_noticed(earlier):
+            return earlier
+        with tempfile.TemporaryDirectory(prefix="mutant") as folder:
+            return {"key": key} | self.judge_in(pathlib.Path(folder), mutant, earlier)
+
+    def judge_in(self, folder, mutant, earlier):
+        tests = self.tests_for(mutant, earlier)
+        played = set(earlier.get("played", []))
+        todo = [test for test in tests if test.digest not in played]
+        survived = {"verdict": SURVIVED, "played": sorted(test.digest for test in tests)}
+        if earlier and not todo and "played" in earlier:
+            return survived
+        library = folder / self.project.library.name
+        verdict = self.build(folder, library, mutant)
+        if verdict:
+            return {"verdict": verdict}
+        found = self.player.noticed(library, todo)
+        if found:
+            test, how = found
+            with self.lock:
+                counts = self.noticers.setdefault((mutant.file, mutant.enclosing), {})
+                counts[test.name] = counts.get(test.name, 0) + 1
+            return {"verdict": NOTICED, "by": test.name, "digest": test.digest, "how": how}
+        if not played and self.optimised_equal(folder, mutant):
+            return {"verdict": SAME}
+        return survived
+
+    def key(self, mutant):
+        digest = hashlib.sha256(self.world.encode())
+        digest.update(repr([edit[2] for edit in mutant.edits]).encode())
+        return digest.hexdigest()[:16]
+
+    def still_noticed(self, earlier):
+        test = self.player.tests.get(earlier.get("by"))
+        return earlier["verdict"] == NOTICED and test and test.digest == earlier["digest"]
+
+    # Building
+
+    def overlay(self, folder, mutant):
+        original = self.project.root / mutant.file
+        text = mutant.apply(original.read_bytes())
+        changed = folder / original.name
+        changed.write_bytes(text)
+        overlay = folder / "overlay.yaml"
+        overlay.write_text(json.dumps({"version": 0, "roots": [
+            {"type": "file", "name": str(original), "external-contents": str(changed)}]}))
+        return overlay
+
+    def build(self, folder, library, mutant):
+        overlay = self.overlay(folder, mutant)
+        objects = dict(self.objects)
+        for source in self.users[mutant.file]:
+            output = folder / self.project.object_name(source)
+            if self.project.compile(source, output, overlay).returncode != 0:
+                return UNBUILDABLE
+            objects[source] = output
+        if all(same_bytes(objects[source], self.objects[source]) for source in self.users[mutant.file]):
+            return SAME
+        return UNBUILDABLE if self.project.link(objects.values(), library).returncode != 0 else None
+
+    def optimised_equal(self, folder, mutant):
+        """Whether nobody can tell them apart: optimised, both are the same machine code."""
+        overlay = folder / "overlay.yaml"
+        for source in self.users[mutant.file]:
+            pair = folder / "one.o", folder / "other.o"
+            for output, replaced in zip(pair, (None, overlay)):
+                self.project.compile(source, output, replaced, ["-O2"])
+            if not same_bytes(*pair):
+                return False
+        return True
+
+    # What to play, and in which order
+
+    def tests_for(self, mutant, earlier):
+        covering = self.covering(mutant)
+        words = set(re.findall(r"\w{5,}", " ".join(edit[2] for edit in mutant.edits) + mutant.what))
+        words |= {mutant.enclosing.split("::")[-1]}
+        with self.lock:
+            counts = dict(self.noticers.get((mutant.file, mutant.enclosing), {}))
+
+        def rank(test):
+            mentions = sum(word in test.text for word in words)
+            return (test.name != earlier.get("by"), -counts.get(test.name, 0), test.name == MODEL,
+                    test.seconds > 1, -mentions, self.breadths[test.name], test.name)
+        return sorted((self.player.tests[name] for name in covering), key=rank)
+
+    def covering(self, mutant):
+        found = self.coverage.tests_of(mutant.file, mutant.first_line, mutant.last_line)
+        if found is None:
+            found = self.by_name(mutant)
+        return self.player.tests.keys() if found is None else found
+
+    def by_name(self, mutant):
+        """For a constant: the tests that execute a line which names it."""
+        name = mutant.enclosing.split("::")[-1]
+        if not re.fullmatch(r"\w+", name):
+            return None
+        found = None
+        for file in self.users:
+            lines = (self.project.root / file).read_text().split("\n")
+            for number, line in enumerate(lines, 1):
+                if re.search(rf"\b{name}\b", line):
+                    more = self.coverage.tests_of(file, number, number)
+                    if more is None and self.is_code_elsewhere(file, number, mutant):
+                        return None
+                    found = (found or set()) | (more or set())
+        return found
+
+    @staticmethod
+    def is_code_elsewhere(file, number, mutant):
+        """A name that is used where no code is: in another constant, or in a declaration."""
+        return (file, number) != (mutant.file, mutant.first_line)
+
+
+def same_bytes(one, other):
+    return one.read_bytes() == other.read_bytes()

@@ -1,0 +1,145 @@
+"""How the library is built: the build's own commands, with clang, without optimisation, and with
+the headers that no mutant changes read in advance. That makes a mutant a matter of a second."""
+
+import concurrent.futures
+import hashlib
+import json
+import os
+import pathlib
+import re
+import shlex
+import subprocess
+import sys
+
+COMPILER = "clang++-14"
+# Of the build's own: what its compiler alone knows, what costs time, and names of files.
+LEFT_OUT = re.compile(r"-[OgW].*|-Winvalid-pch|-MD")
+OWN = ["-w", "-O0", "-fno-pch-timestamp"]
+COVERAGE = ["-gline-tables-only", "-fsanitize-coverage=trace-pc-guard,pc-table,no-prune"]
+PREAMBLE = """
+namespace mutation {
+template <class T> struct Bare { using Type = T; };
+template <class T> struct Bare<T&> { using Type = T; };
+template <class T> struct Bare<T&&> { using Type = T; };
+template <class T> struct Bare<const T> { using Type = T; };
+template <class T> struct Bare<const T&> { using Type = T; };
+template <class T> using Nothing = typename Bare<T>::Type;  // what an argument left out would be
+}
+"""
+
+
+class Project:
+    """One library of a build folder, and the folder of sources in which mutants are made."""
+
+    def __init__(self, build, library, subject):
+        self.root = pathlib.Path(__file__).resolve().parents[2]
+        self.build = build.resolve()
+        self.library = library.resolve()
+        self.subject = self.root / subject
+        self.jobs = os.cpu_count()
+        self.work = self.build / "mutation" / self.library.stem
+        self.work.mkdir(parents=True, exist_ok=True)
+        self.objects, self.link_words = self.link_command()
+        self.sources, self.flags = self.compile_commands()
+
+    def link_command(self):
+        name = str(self.library.relative_to(self.build))
+        listing = subprocess.run(["ninja", "-C", self.build, "-t", "commands", name], check=True,
+                                 text=True, capture_output=True).stdout
+        words = shlex.split(listing.splitlines()[-1])
+        objects = [word for word in words if word.endswith(".o")]
+        kept = [word for word in words if word.startswith("-Wl,--version-script") or word.endswith(".a")]
+        return objects, kept
+
+    def compile_commands(self):
+        """{source: its object in the build} and the flags, which all of them share."""
+        sources, flags = {}, None
+        for entry in json.loads((self.build / "compile_commands.json").read_text()):
+            words = shlex.split(entry["command"])
+            output = words[words.index("-o") + 1]
+            if output not in self.objects:
+                continue
+            at = words.index("-o")
+            kept = [word for word in words[1:at] if not LEFT_OUT.fullmatch(word)]
+            if flags not in (None, kept):
+                sys.exit(f"{entry['file']} is not compiled as the others are")
+            flags = kept
+            sources[pathlib.Path(entry["file"])] = output
+        if not sources:
+            sys.exit(f"{self.build} does not say how {self.library} is compiled")
+        return sources, flags
+
+    # Headers read in advance
+
+    def precompile(self):
+        lines = set()
+        for file in self.subject.rglob("*"):
+            if file.suffix in (".h", ".cpp"):
+                lines |= set(re.findall(r"^#include .*$", file.read_text(), re.MULTILINE))
+        own = f'#include "{self.subject.relative_to(self.root)}/'
+        outside = sorted(line for line in lines if not line.startswith(own))
+        header = self.work / "outside.h"
+        header.write_text("\n".join(outside) + PREAMBLE)
+        for coverage in ([], COVERAGE):
+            output = self.header(coverage)
+            run([COMPILER, *self.flags, *OWN[:2], "-Xclang", OWN[2], "-fpch-instantiate-templates",
+                 *coverage, "-x", "c++-header", header, "-o", output])
+
+    def header(self, coverage):
+        return self.work / ("covered.pch" if coverage else "outside.pch")
+
+    def parse_arguments(self):
+        return [*self.flags, "-w", "-include-pch", str(self.header([]))]
+
+    # Objects and libraries
+
+    def compile(self, source, output, replaced=None, options=()):
+        """The compiler's run. `replaced` is a virtual file system in which one file is another."""
+        words = [COMPILER, *self.flags, "-w", "-O0", *options]
+        if "-O2" in options:  # what was precompiled was not optimised
+            words += ["-include", self.work / "outside.h"]
+        else:
+            words += ["-include-pch", self.header(options)]
+        if replaced:
+            words += ["-ivfsoverlay", replaced]
+        return subprocess.run([*words, "-c", source, "-o", output], text=True, capture_output=True)
+
+    def object_name(self, source):
+        return "-".join(source.relative_to(self.root).with_suffix(".o").parts)
+
+    def build_all(self, folder, options=()):
+        """Every source as it is; the objects, by source."""
+        folder.mkdir(parents=True, exist_ok=True)
+        objects = {source: folder / self.object_name(source) for source in self.sources}
+        with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
+            runs = pool.map(lambda one: self.compile(one[0], one[1], options=options), objects.items())
+            for failed in (one for one in runs if one.returncode != 0):
+                sys.exit(failed.stderr)
+        return objects
+
+    def link(self, objects, library, more=()):
+        return subprocess.run([COMPILER, "-shared", "-fuse-ld=lld", *objects, *more, *self.link_archives(),
+                               "-o", library], text=True, capture_output=True)
+
+    def link_archives(self):
+        return [str(self.build / word) if word.endswith(".a") else word for word in self.link_words]
+
+    def texts(self):
+        """A hash of the sources, with where their lines are."""
+        return fingerprint(sorted(file for file in self.subject.rglob("*")
+                                  if file.suffix in (".h", ".cpp")))
+
+
+def fingerprint(files):
+    digest = hashlib.sha256()
+    for file in files:
+        content = file.read_bytes() if file and file.is_file() else b""
+        digest.update(b"%d\0" % len(content) + content)
+    return digest.hexdigest()
+
+
+def run(words):
+    done = subprocess.run(words, text=True, capture_output=True)
+    if done.returncode != 0:
+        sys.exit(f"{shlex.join(map(str, words))}\n{done.stdout}{done.stderr}")
+    return done

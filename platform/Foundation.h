@@ -12,6 +12,7 @@ struct NSArray;
 
 struct NSString : objc::Object {
   using Object::Object;
+  static Class cls() { return objc::classNamed<"NSString">(); }
   static NSString string(const char* utf8) {
     return objc::send<NSString, "stringWithUTF8String:">(objc::classNamed<"NSString">(), utf8);
   }
@@ -28,10 +29,11 @@ struct NSString : objc::Object {
     return objc::send<NSString, "stringByReplacingOccurrencesOfString:withString:">(*this, wanted,
                                                                                     replacement);
   }
-  template <class Argument>
-  static NSString stringWithFormat(NSString format, Argument argument) {
-    return objc::sendVariadic<NSString, "stringWithFormat:">(objc::classNamed<"NSString">(), format,
-                                                             argument);
+  // The arguments are those of the format, as the platform reads them: int for "%d", long for
+  // "%ld", double for "%g", an object for "%@".
+  template <class... Arguments>
+  static NSString stringWithFormat(NSString format, Arguments... arguments) {
+    return objc::sendVariadic<NSString, "stringWithFormat:">(cls(), format, arguments...);
   }
   NSString stringByTrimmingWhitespaceAndNewlines() const {
     const auto blanks = objc::send<objc::Object, "whitespaceAndNewlineCharacterSet">(
@@ -84,6 +86,13 @@ struct NSObject : objc::Object {
   }
 };
 
+// Whether the object is of the view's class, or of one below it; false for nil, and when there is
+// no such class.
+template <objc::View T>
+bool isKindOf(objc::Object object) {
+  return objc::as<NSObject>(object).isKindOfClass(T::cls());
+}
+
 struct NSNumber : objc::Object {
   using Object::Object;
   static NSNumber numberWithBool(bool value) {
@@ -93,6 +102,14 @@ struct NSNumber : objc::Object {
     return objc::send<NSNumber, "numberWithInteger:">(objc::classNamed<"NSNumber">(), value);
   }
   long integerValue() const { return objc::send<long, "integerValue">(*this); }
+
+  // Of a value of any type, as a file may hold: NO and 0 for what has no such value.
+  static bool boolValueOf(objc::Object value) {
+    return objc::respondsTo<"boolValue">(value) && objc::send<bool, "boolValue">(value);
+  }
+  static long integerValueOf(objc::Object value) {
+    return objc::respondsTo<"integerValue">(value) ? objc::as<NSNumber>(value).integerValue() : 0;
+  }
 };
 
 struct NSDate : objc::Object {
@@ -104,6 +121,11 @@ struct NSDate : objc::Object {
   }
   double timeIntervalSinceNow() const {  // seconds; negative in the past; 0 for nil
     return objc::send<double, "timeIntervalSinceNow">(*this);
+  }
+  // Of a value of any type: 0 for what is no date.
+  static double timeIntervalSinceNowOf(objc::Object value) {
+    if (!objc::respondsTo<"timeIntervalSinceNow">(value)) return 0;
+    return objc::as<NSDate>(value).timeIntervalSinceNow();
   }
 };
 
@@ -267,8 +289,10 @@ struct NSNotificationCenter : objc::Object {
     return objc::send<NSNotificationCenter, "defaultCenter">(
         objc::classNamed<"NSNotificationCenter">());
   }
-  // The observer is not retained. A nil sender means any.
+  // The observer is not retained. A nil sender means any. A nil name, of a notification that this
+  // host does not have, registers nothing: the host would take it for every notification there is.
   void addObserver(objc::Object observer, SEL selector, NSString name, objc::Object sender) const {
+    if (!name) return;
     objc::send<void, "addObserver:selector:name:object:">(*this, observer, selector, name, sender);
   }
   // By identity alone: the observer may be gone already.

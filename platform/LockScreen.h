@@ -7,6 +7,7 @@
 // The countdown on the lock screen.
 struct CSTimerViewController : UIViewController {
   using UIViewController::UIViewController;
+  static Class cls() { return objc::classNamed<"CSTimerViewController">(); }
   void setEndDate(NSDate end) const {  // nil removes the countdown
     objc::send<void, "setEndDate:">(*this, end);
   }
@@ -20,6 +21,7 @@ struct SBUILegibilityLabel : objc::Object {
 // The line under the lock screen's clock.
 struct SBFLockScreenDateSubtitleDateView : NSObject {
   using NSObject::NSObject;
+  static Class cls() { return objc::classNamed<"SBFLockScreenDateSubtitleDateView">(); }
   SBUILegibilityLabel label() const {
     return objc::as<SBUILegibilityLabel>(valueForKey("_label"_ns));
   }

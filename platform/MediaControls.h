@@ -9,6 +9,7 @@ enum MRULayout : long { minimizedLayout = 0, routingLayout = 1, expandedLayout =
 // The round button at the right end of the module's header.
 struct MRUNowPlayingRoutingButton : UIControl {
   using UIControl::UIControl;
+  static Class cls() { return objc::classNamed<"MRUNowPlayingRoutingButton">(); }
   UIView packageView() const { return objc::send<UIView, "packageView">(*this); }
   void setPackageView(UIView view) const { objc::send<void, "setPackageView:">(*this, view); }
   void setActive(bool active) const { objc::send<void, "setActive:">(*this, active); }
@@ -16,6 +17,7 @@ struct MRUNowPlayingRoutingButton : UIControl {
 
 struct MRUNowPlayingHeaderView : UIView {
   using UIView::UIView;
+  static Class cls() { return objc::classNamed<"MRUNowPlayingHeaderView">(); }
   UIView routingButton() const { return objc::send<UIView, "routingButton">(*this); }
   UIView labelView() const { return objc::send<UIView, "labelView">(*this); }
   long layout() const { return objc::send<long, "layout">(*this); }
@@ -36,6 +38,7 @@ struct MRUEmbeddingView : UIView {
 
 struct MRUNowPlayingViewController : UIViewController {
   using UIViewController::UIViewController;
+  static Class cls() { return objc::classNamed<"MRUNowPlayingViewController">(); }
   long layout() const { return objc::send<long, "layout">(*this); }
   UIViewController routingViewController() const {
     return objc::send<UIViewController, "routingViewController">(*this);
@@ -47,6 +50,12 @@ struct MRUNowPlayingViewController : UIViewController {
   void didSelectRoutingButton(objc::Object sender) const {
     objc::send<void, "didSelectRoutingButton:">(*this, sender);
   }
+};
+
+// What holds the module's controller in Control Center.
+struct MRUControlCenterViewController : UIViewController {
+  using UIViewController::UIViewController;
+  static Class cls() { return objc::classNamed<"MRUControlCenterViewController">(); }
 };
 
 struct UIMotionEvent : objc::Object {

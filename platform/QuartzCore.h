@@ -5,6 +5,7 @@
 
 struct CAShapeLayer : CALayer {
   using CALayer::CALayer;
+  static Class cls() { return objc::classNamed<"CAShapeLayer">(); }
   void setFillColor(id color) const {  // a CGColorRef
     objc::send<void, "setFillColor:">(*this, color);
   }

@@ -5,8 +5,10 @@
 
 struct RunwrightManager : objc::Object {
   using Object::Object;
+  static Class cls() { return objc::classNamed<"RunwrightManager">(); }
+  static bool isInstalled() { return cls() != nullptr; }
   static RunwrightManager sharedManager() {  // nil when the library is not installed
-    return objc::send<RunwrightManager, "sharedManager">(objc::classNamed<"RunwrightManager">());
+    return objc::send<RunwrightManager, "sharedManager">(cls());
   }
   NSArray workflowNames() const { return objc::send<NSArray, "workflowNames">(*this); }
   void runWorkflowWithName(NSString name) const {

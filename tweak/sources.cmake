@@ -1,13 +1,10 @@
 # The extension's sources, for both of its homes; paths from the top of the repository.
 set(DOZEWELL_TWEAK_SOURCES
-    tweak/actions/PhoneActions.cpp
-    tweak/actions/SpecialActions.cpp
     tweak/actions/SpecialTasksHelper.cpp
-    tweak/actions/Volume.cpp
-    tweak/engine/CompanionTweaks.cpp
     tweak/engine/Dozewell2Manager.cpp
-    tweak/engine/Persistence.cpp
-    tweak/engine/TrackCounting.cpp
+    tweak/engine/Dozewell2ManagerCompanions.cpp
+    tweak/engine/Dozewell2ManagerPersistence.cpp
+    tweak/engine/Dozewell2ManagerTracks.cpp
     tweak/hooks/ButtonPlacement.cpp
     tweak/hooks/DozewellButton.cpp
     tweak/hooks/Embedding.cpp
@@ -18,19 +15,21 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/hooks/Startup.cpp
     tweak/hooks/Tracing.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp
+    tweak/indicators/LockScreenViews.cpp
     tweak/indicators/TimeFormat.cpp
     tweak/panel/ButtonWithIncreasedTouchArea.cpp
     tweak/panel/CheckboxButton.cpp
-    tweak/panel/ChooseModes.cpp
     tweak/panel/ChooseSnoozeTimeView.cpp
+    tweak/panel/ChooseSnoozeTimeViewModes.cpp
+    tweak/panel/ChooseSnoozeTimeViewSongs.cpp
     tweak/panel/CurrentTimerView.cpp
     tweak/panel/Dozewell2ImageButton.cpp
     tweak/panel/Dozewell2ViewController.cpp
+    tweak/panel/Dozewell2ViewControllerActions.cpp
+    tweak/panel/Dozewell2ViewControllerTransitions.cpp
     tweak/panel/OnTimerEndsSettingsView.cpp
-    tweak/panel/PanelActions.cpp
+    tweak/panel/PageLayout.cpp
     tweak/panel/ShortcutCheck.cpp
-    tweak/panel/ShowAndHide.cpp
-    tweak/panel/SongsPicker.cpp
     tweak/settings/Dozewell2StorageManager.cpp
     tweak/settings/Registration.cpp
     tweak/support/BundleHelper.cpp

@@ -19,6 +19,9 @@ struct UIControl : UIView {
 struct UIButton : UIControl {
   using UIControl::UIControl;
   enum class Type : long { custom = 0, system = 1 };
+  static Class cls() { return objc::classNamed<"UIButton">(); }
+  static UIButton buttonWithType(Type type) { return buttonWithType(cls(), type); }
+  // Of a class below UIButton.
   static UIButton buttonWithType(Class cls, Type type) {
     return objc::send<UIButton, "buttonWithType:">(cls, type);
   }
@@ -76,6 +79,12 @@ struct UIDatePicker : UIControl {
   }
   void setPrivateTextColor(UIColor color) const {
     objc::send<void, "_setTextColor:">(*this, color);
+  }
+  // Private, and not on every system: there nothing happens. `value` is handed on as the object it
+  // is, to a method that takes a plain BOOL.
+  void performSetHighlightsToday(NSNumber value) const {
+    if (objc::respondsTo<"setHighlightsToday:">(*this))
+      performSelector(objc::selector<"setHighlightsToday:">(), value);
   }
 };
 

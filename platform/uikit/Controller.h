@@ -54,6 +54,10 @@ struct UIApplication : NSObject {
     return objc::send<UIApplication, "sharedApplication">(objc::classNamed<"UIApplication">());
   }
   UIWindow keyWindow() const { return objc::send<UIWindow, "keyWindow">(*this); }
+  // Private: a UIInterfaceOrientation; 0 where the key is missing.
+  long activeInterfaceOrientation() const {
+    return objc::as<NSNumber>(safeValueForKey("_activeInterfaceOrientation"_ns)).integerValue();
+  }
   void openURL(NSURL url) const {
     objc::send<void, "openURL:options:completionHandler:">(*this, url, NSDictionary::dictionary(),
                                                            objc::Block<void(bool)>(nullptr));
@@ -83,10 +87,11 @@ struct UIAlertAction : objc::Object {
 
 struct UIAlertController : UIViewController {
   using UIViewController::UIViewController;
+  static Class cls() { return objc::classNamed<"UIAlertController">(); }
   static UIAlertController make(NSString title, NSString message) {
     constexpr long alertStyle = 1;
     return objc::send<UIAlertController, "alertControllerWithTitle:message:preferredStyle:">(
-        objc::classNamed<"UIAlertController">(), title, message, alertStyle);
+        cls(), title, message, alertStyle);
   }
   void addAction(UIAlertAction action) const { objc::send<void, "addAction:">(*this, action); }
 };

@@ -10,6 +10,11 @@ struct UIDevice : NSObject {
     return objc::send<UIDevice, "currentDevice">(objc::classNamed<"UIDevice">());
   }
   NSString systemVersion() const { return objc::send<NSString, "systemVersion">(*this); }
+  // Whether this is that version of the system or a later one. "14.8.1" is 14.8: what follows the
+  // second point is not looked at.
+  static bool systemIsAtLeast(float version) {
+    return currentDevice().systemVersion().floatValue() >= version;
+  }
   // Private: 0 none, 1 the first generation of haptics, 2 the current one.
   long feedbackSupportLevel() const {
     return objc::as<NSNumber>(valueForKey("_feedbackSupportLevel"_ns)).integerValue();
@@ -26,9 +31,10 @@ struct UIScreen : objc::Object {
 
 struct UIImpactFeedbackGenerator : objc::Object {
   using Object::Object;
+  static Class cls() { return objc::classNamed<"UIImpactFeedbackGenerator">(); }
   static objc::Strong<UIImpactFeedbackGenerator> make(long style) {
-    return objc::adopt(objc::send<UIImpactFeedbackGenerator, "initWithStyle:">(
-        objc_alloc(objc::classNamed<"UIImpactFeedbackGenerator">()), style));
+    return objc::adopt(
+        objc::send<UIImpactFeedbackGenerator, "initWithStyle:">(objc_alloc(cls()), style));
   }
   void impactOccurred() const { objc::send<void, "impactOccurred">(*this); }
 };

@@ -1,38 +1,28 @@
 // What the timer does to the phone: pausing, the volume, and the user's start and end actions.
 #pragma once
 
-#include "objc/Class.h"
-#include "platform/SpringBoard.h"
+#include "platform/Foundation.h"
 
-// Main thread.
-struct SpecialTasksHelper : objc::Implementation<SpecialTasksHelper> {
-  double volumeBeforeFadeOut;  // 0 to 1
+// Main thread. What the phone does not have is skipped in silence; nothing reports failure.
+struct SpecialTasksHelper : NSObject {
+  using NSObject::NSObject;
 
-  static SpecialTasksHelper& getInstance();
+  static SpecialTasksHelper getInstance() {
+    return objc::send<SpecialTasksHelper, "getInstance">(cls());
+  }
 
-  void pauseMusic();  // and runs the end actions
-  void pauseMusicWithFadeOutVolume(int seconds);
-  // One step of a fade-out. The argument is the volume that a step takes away, not a count.
-  void doVolumeFadeOutWithSteps(float decrement);
+  // Pauses what plays, then runs the end actions.
+  void pauseMusic() const { objc::send<void, "pauseMusic">(*this); }
+  // The same, once the volume has gone down to silence over about that many seconds. It cannot be
+  // called off; two seconds after the pause the volume is what it was before.
+  void pauseMusicWithFadeOutVolume(int seconds) const {
+    objc::send<void, "pauseMusicWithFadeOutVolume:">(*this, seconds);
+  }
+  // The start actions that the user has chosen.
+  void performSpecialActionsOnTimerStart() const {
+    objc::send<void, "performSpecialActionsOnTimerStart">(*this);
+  }
 
-  void setVolume(double volume);  // 0 to 1, not clamped here
-  void changeVolumeBy(double difference);
-  double getVolume();
-  SBVolumeControl getSBVolumeControl();
-  void skipSong();
-
-  // The actions that the user has chosen, in a fixed order, each setting read just before its
-  // step. None waits for another, and none is skipped because another failed.
-  void performSpecialActionsOnTimerStart();
-  void performSpecialActionsOnTimerEnd();
-
-  void enablePlaneMode();
-  void enableDND();
-  void disconnectBluetoothDevice(NSString name);  // all of that exact name; nil: every device
-  void disableBluetooth();
-  void setCustomVolume();
-  void executeShortcutIfPossibleWithName(NSString name);
-  void killNowPlayingApp();
-
+  static Class cls();  // nil until it is registered
   static Class registerClass();
 };

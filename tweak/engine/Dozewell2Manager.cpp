@@ -5,9 +5,11 @@
 #include "platform/MediaRemote.h"
 #include "platform/PersistentConnection.h"
 #include "tweak/actions/SpecialTasksHelper.h"
+#include "tweak/engine/Dozewell2ManagerImplementation.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
-#include "tweak/panel/Dozewell2ViewController.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
+
+using Engine = Dozewell2ManagerImplementation;
 
 namespace {
 
@@ -28,11 +30,7 @@ void post(NSString name) {
 
 }  // namespace
 
-Dozewell2Manager& Dozewell2Manager::sharedInstance() {
-  return shared();
-}
-
-id Dozewell2Manager::init() {
+id Engine::init() {
   id initialised = super<id, "init">();
   NSNotificationCenter::defaultCenter().addObserver(
       objc::Object(initialised), objc::selector<"mediaDidChange:">(),
@@ -40,12 +38,12 @@ id Dozewell2Manager::init() {
   return initialised;
 }
 
-void Dozewell2Manager::startTimerWithMode_andValue(long mode, long value) {
-  if (mode == songCountMode) {
+void Engine::startTimerWithMode_andValue(long mode, long value) {
+  if (mode == Dozewell2Manager::songCountMode) {
     startTimerWithNbTracks(value);
     persistTimerWithNbTracks(value);
     lastChosenNbSongsSelected = value;
-  } else if (mode == durationMode) {
+  } else if (mode == Dozewell2Manager::durationMode) {
     startTimerWithTimeInterval(value);
     persistTimerWithTimeInterval(value);
     lastChosenNbSeconds = value;
@@ -54,7 +52,7 @@ void Dozewell2Manager::startTimerWithMode_andValue(long mode, long value) {
   SpecialTasksHelper::getInstance().performSpecialActionsOnTimerStart();
 }
 
-void Dozewell2Manager::startTimerWithTimeInterval(long seconds) {
+void Engine::startTimerWithTimeInterval(long seconds) {
   timerModeIsRunning = true;
   // A timer that still runs is let go, not invalidated: whoever wants it stopped cancels it first.
   *systemTimer =
@@ -70,7 +68,7 @@ void Dozewell2Manager::startTimerWithTimeInterval(long seconds) {
   Dozewell2TimeLeftIndicatorsManager::sharedInstance().startTimerWithDate(fireDate());
 }
 
-void Dozewell2Manager::restartTimerWithLastChosenValue() {
+void Engine::restartTimerWithLastChosenValue() {
   // No start actions, and an end that waits for the track goes on waiting.
   if (timerModeIsRunning && lastChosenNbSeconds != 0) {
     cancelAllPersistedTimers();
@@ -83,37 +81,37 @@ void Dozewell2Manager::restartTimerWithLastChosenValue() {
   }
 }
 
-void Dozewell2Manager::timerDidFire() {
+void Engine::timerDidFire() {
   // The engine stays in duration mode: the next track change ends it.
-  if (Dozewell2StorageManager::sharedInstance().letTheSongFinishEnabled) {
+  if (Dozewell2StorageManager::sharedInstance().letTheSongFinishEnabled()) {
     shouldPauseMusicAtTheEndOfThisTrack = true;
     return;
   }
   timerOrNbTracksDidEnd();
 }
 
-void Dozewell2Manager::timerOrNbTracksDidEnd() {
-  const auto& settings = Dozewell2StorageManager::sharedInstance();
-  auto& tasks = SpecialTasksHelper::getInstance();
+void Engine::timerOrNbTracksDidEnd() {
+  const auto settings = Dozewell2StorageManager::sharedInstance();
+  const auto tasks = SpecialTasksHelper::getInstance();
   // Only a duration that ends by itself fades: between two songs there is nothing to fade.
-  if (timerModeIsRunning && settings.volumeFadeOutEnabled && settings.volumeFadeOutTime > 0 &&
+  if (timerModeIsRunning && settings.volumeFadeOutEnabled() && settings.volumeFadeOutTime() > 0 &&
       !shouldPauseMusicAtTheEndOfThisTrack) {
-    tasks.pauseMusicWithFadeOutVolume(int(settings.volumeFadeOutTime));
+    tasks.pauseMusicWithFadeOutVolume(int(settings.volumeFadeOutTime()));
   } else {
     tasks.pauseMusic();
   }
   reinit();
-  if (isShowingDozewellUI) Dozewell2ViewController::dismissDozewell(dozewell2VC);
+  if (isShowingDozewellUI) dozewell2VC->dismissDozewell();
 }
 
-void Dozewell2Manager::cancelTimer() {
+void Engine::cancelTimer() {
   if (!*systemTimer) return;
   systemTimer->get().invalidate();
   *systemTimer = nullptr;
 }
 
-void Dozewell2Manager::reinit() {
-  auto& indicators = Dozewell2TimeLeftIndicatorsManager::sharedInstance();
+void Engine::reinit() {
+  const auto indicators = Dozewell2TimeLeftIndicatorsManager::sharedInstance();
   // When both modes are flagged, the duration goes first and the song count stays.
   if (timerModeIsRunning) {
     timerModeIsRunning = false;
@@ -129,12 +127,19 @@ void Dozewell2Manager::reinit() {
   cancelAllPersistedTimers();
 }
 
-double Dozewell2Manager::getTimerRemainingTime() const {
+double Engine::getTimerRemainingTime() const {
   return fireDate().timeIntervalSinceNow();
 }
 
+Class Dozewell2Manager::cls() {
+  return Engine::cls();
+}
+
+SleepTimer SleepTimer::sharedInstance() {
+  return Dozewell2Manager::sharedInstance();
+}
+
 Class Dozewell2Manager::registerClass() {
-  using Engine = Dozewell2Manager;
   return objc::ClassBuilder<Engine>("Dozewell2Manager", "NSObject")
       .property<"timerModeIsRunning", &Engine::timerModeIsRunning>()
       .property<"nbSongsModeIsRunning", &Engine::nbSongsModeIsRunning>()

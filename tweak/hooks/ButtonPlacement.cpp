@@ -7,14 +7,15 @@
 
 namespace {
 
-using Button = MRUNowPlayingRoutingButton;
+using Button = DozewellButton;
+using State = DozewellButton::State;
 
 bool isRunning() {
   return Dozewell2Manager::sharedInstance().isRunning();
 }
 
 void showOrdinaryState(Button button) {
-  updateForNewState(button, isRunning() ? ButtonState::running : ButtonState::idle);
+  button.updateForNewState(isRunning() ? State::running : State::idle);
 }
 
 CGRect moved(CGRect frame, double x, double y) {
@@ -25,7 +26,7 @@ CGRect moved(CGRect frame, double x, double y) {
 
 CGRect placeInMinimizedLayout(UIView routing, Button button) {
   auto frame = routing.frame();
-  if (Dozewell2StorageManager::sharedInstance().showDozewellButtonInCCMinimizedMediaPlayer) {
+  if (Dozewell2StorageManager::sharedInstance().showDozewellButtonInCCMinimizedMediaPlayer()) {
     frame.origin.x = 0;
   } else {
     button.setHidden(true);
@@ -35,7 +36,9 @@ CGRect placeInMinimizedLayout(UIView routing, Button button) {
 }
 
 // Beside the routing button, or below it where the text takes the width. Each pass moves the
-// routing button up again, deliberately; the routing layout puts it back.
+// routing button up from where the last one left it, as the extension always has: while a long
+// title is shown, the two climb with every pass until the routing layout puts them back. Moved from
+// its own place instead, they would stand still (button-moves-up-by-passes).
 CGRect placeInExpandedLayout(UIView labels, UIView routing, Button button) {
   constexpr double tallLabels = 40, up = 18, below = 33, beside = 40;  // points
   CGRect frame;
@@ -55,8 +58,8 @@ CGRect placeInRoutingLayout(UIView routing, Button button) {
   const auto frame = routing.frame();
   if (shouldShowDozewellEmbeddedVCInsteadOfAirPlay) {
     routing.setHidden(true);
-    updateForNewState(
-        button, isRunning() ? ButtonState::runningInRoutingPlace : ButtonState::idleInRoutingPlace);
+    button.updateForNewState(isRunning() ? State::runningInRoutingPlace
+                                         : State::idleInRoutingPlace);
   } else {
     button.setHidden(true);
   }
@@ -85,9 +88,9 @@ CGRect place(MRUNowPlayingHeaderView header, UIView routing, Button button) {
 }  // namespace
 
 void setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(id headerObject) {
-  const MRUNowPlayingHeaderView header(headerObject);
+  const DozewellNowPlayingHeader header(headerObject);
   const auto routing = header.routingButton();
-  const auto button = objc::send<Button, "dozewellButton">(header);
+  const auto button = header.dozewellButton();
   routing.setHidden(false);
   button.setHidden(false);
   button.setFrame(place(header, routing, button));

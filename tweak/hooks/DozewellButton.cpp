@@ -7,7 +7,8 @@
 
 namespace {
 
-using Button = MRUNowPlayingRoutingButton;
+using Button = DozewellButton;
+using State = DozewellButton::State;
 using CurrentState = objc::Association<"currentState", NSNumber>;
 
 long currentState(Button self) {
@@ -27,8 +28,7 @@ void setMoonColor(Button self, objc::Object color) {
   const auto fill = objc::as<UIColor>(color).CGColor();
   for (unsigned long i = 0; i < layers.count(); ++i) {
     const auto layer = layers.objectAtIndex(i);
-    if (objc::as<NSObject>(layer).isKindOfClass(objc_getClass("CAShapeLayer")))
-      objc::as<CAShapeLayer>(layer).setFillColor(fill);
+    if (isKindOf<CAShapeLayer>(layer)) objc::as<CAShapeLayer>(layer).setFillColor(fill);
   }
 }
 
@@ -39,41 +39,56 @@ void setCircleBackgroundVisible(Button self, bool visible) {
 
 void show(Button self, bool active, UIColor moon, bool circle) {
   self.setActive(active);
-  objc::send<void, "setMoonColor:">(self, moon);
-  objc::send<void, "setCircleBackgroundVisible:">(self, circle);
+  self.setMoonColor(moon);
+  self.setCircleBackgroundVisible(circle);
 }
 
 void showState(Button self, int state) {
   const auto runningColor = UIColor::rgb(0.415, 0.365, 0.861, 1);
-  switch (ButtonState(state)) {
-    case ButtonState::idle:
+  switch (State(state)) {
+    case State::idle:
       return show(self, false, UIColor::white(), false);
-    case ButtonState::idleInRoutingPlace:
+    case State::idleInRoutingPlace:
       return show(self, false, UIColor::black(), true);
-    case ButtonState::running:
+    case State::running:
       return show(self, true, runningColor, false);
-    case ButtonState::runningInRoutingPlace:
+    case State::runningInRoutingPlace:
       return show(self, true, runningColor, true);
   }
 }
 
 void updateState(Button self, int state) {
   constexpr double seconds = 0.1;
-  objc::send<void, "setCurrentState:">(self, long(state));
+  self.setCurrentState(state);
   UIKit::animate(seconds, [self = objc::retain(self), state] { showState(self, state); });
 }
 
-}  // namespace
-
-void addDozewellButtonClass() {
-  Class superclass = objc_getClass("MRUNowPlayingRoutingButton");
-  if (superclass == nullptr) return;
-  Class button = objc_allocateClassPair(superclass, "DozewellButton", 0);
-  if (button == nullptr) return;
-  objc_registerClassPair(button);
+void addMembers(Class button) {
   objc::addAttachedProperty<"currentState", &currentState, &setCurrentState>(button, "q");
   objc::hook<"DozewellButton", "updatePackage", keepPackage>();
   objc::addMethod<"setMoonColor:", &setMoonColor>(button);
   objc::addMethod<"setCircleBackgroundVisible:", &setCircleBackgroundVisible>(button);
   objc::addMethod<"updateForNewState:", &updateState>(button);
+}
+
+Class buttonClass;  // nil until it is registered
+
+}  // namespace
+
+objc::Strong<DozewellButton> DozewellButton::make() {
+  return objc::adopt(DozewellButton(objc_alloc_init(cls())));
+}
+
+Class DozewellButton::cls() {
+  return buttonClass;
+}
+
+void DozewellButton::registerClass() {
+  Class superclass = MRUNowPlayingRoutingButton::cls();
+  if (superclass == nullptr) return;
+  Class button = objc_allocateClassPair(superclass, "DozewellButton", 0);
+  if (button == nullptr) return;
+  objc_registerClassPair(button);
+  buttonClass = button;
+  addMembers(button);
 }

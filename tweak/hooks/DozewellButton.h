@@ -2,19 +2,34 @@
 // is the host's, so that it looks and behaves like the host's own button.
 #pragma once
 
+#include "objc/Ownership.h"
 #include "platform/MediaControls.h"
 
-// Creates DozewellButton under the host's routing button and gives it its members. Without that
-// class there is no timer button.
-void addDozewellButtonClass();
+// Main thread.
+struct DozewellButton : MRUNowPlayingRoutingButton {
+  using MRUNowPlayingRoutingButton::MRUNowPlayingRoutingButton;
+  enum class State : int {
+    idle = 0,
+    idleInRoutingPlace = 1,
+    running = 2,
+    runningInRoutingPlace = 3
+  };
 
-enum class ButtonState : int {
-  idle = 0,
-  idleInRoutingPlace = 1,
-  running = 2,
-  runningInRoutingPlace = 3
+  // Without the moon, and in no state. Empty when the class is not there.
+  static objc::Strong<DozewellButton> make();
+
+  // Remembered at once, seen over a tenth of a second.
+  void updateForNewState(State state) const {
+    objc::send<void, "updateForNewState:">(*this, int(state));
+  }
+  void setCurrentState(long state) const { objc::send<void, "setCurrentState:">(*this, state); }
+  void setMoonColor(UIColor color) const { objc::send<void, "setMoonColor:">(*this, color); }
+  void setCircleBackgroundVisible(bool visible) const {
+    objc::send<void, "setCircleBackgroundVisible:">(*this, visible);
+  }
+
+  static Class cls();  // nil until it is registered
+  // Creates the class under the host's routing button and gives it its members. Without that class
+  // there is no timer button.
+  static void registerClass();
 };
-
-inline void updateForNewState(MRUNowPlayingRoutingButton button, ButtonState state) {
-  objc::send<void, "updateForNewState:">(button, int(state));
-}

@@ -1,6 +1,7 @@
 #include "tweak/hooks/Embedding.h"
 
 #include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/panel/Dozewell2ViewController.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/HapticFeedbackHelper.h"
 #include "tweak/support/Log.h"
@@ -13,12 +14,8 @@ namespace {
 
 constexpr double panelHeight = 250;  // points
 
-Dozewell2Manager& engine() {
+Dozewell2Manager engine() {
   return Dozewell2Manager::sharedInstance();
-}
-
-const void* address(objc::Object object) {
-  return object.get();
 }
 
 }  // namespace
@@ -27,33 +24,31 @@ const void* address(objc::Object object) {
 void viewDidAppear(objc::Original<void(Controller, bool)> original, Controller self,
                    bool animated) {
   original(self, animated);
-  engine().currentNowPlayingVC = objc::retain(self);
+  engine().setCurrentNowPlayingVC(self);
 }
 
 void viewDidLoad(objc::Original<void(Controller)> original, Controller self) {
   original(self);
-  engine().currentNowPlayingVC = objc::retain(self);
+  engine().setCurrentNowPlayingVC(self);
 }
 
 void didSelectDozewellButton(Controller self, objc::Object sender) {
-  (LogLine() << "-[<MRUNowPlayingViewController: " << address(self)
-             << "> didSelectDozewellButton:" << sender << "]")
-      .write();
+  logCall("MRUNowPlayingViewController", self, "didSelectDozewellButton:", sender);
   if (self.layout() != routingLayout) {
-    objc::send<void, "dozewell_expandDozewell:">(self, true);
+    self.dozewell_expandDozewell(true);
     return;
   }
-  objc::send<void, "dismissCurrentView">(engine().dozewell2VC.get());
-  objc::send<void, "dozewell_expandDozewell:">(self, false);
+  Dozewell2ViewController::preloaded().dismissCurrentView();
+  self.dozewell_expandDozewell(false);
 }
 
 // The host itself changes its layout: it believes that its routing button was tapped.
 void expandDozewell(Controller self, bool expand) {
   if (!expand && self.layout() != routingLayout) return;
-  if (expand) objc::send<void, "dozewell_updateEmbeddedVCWithDozewellVC:">(self, true);
+  if (expand) self.dozewell_updateEmbeddedVCWithDozewellVC(true);
   shouldReplaceRoutingActionByDozewell = true;
   self.didSelectRoutingButton(nullptr);
-  if (expand) engine().isShowingDozewellUI = true;
+  if (expand) engine().setIsShowingDozewellUI(true);
 }
 
 void didSelectRoutingButton(objc::Original<void(Controller, objc::Object)> original,
@@ -61,7 +56,7 @@ void didSelectRoutingButton(objc::Original<void(Controller, objc::Object)> origi
   if (shouldReplaceRoutingActionByDozewell) {
     shouldReplaceRoutingActionByDozewell = false;
   } else {
-    objc::send<void, "dozewell_updateEmbeddedVCWithDozewellVC:">(self, false);
+    self.dozewell_updateEmbeddedVCWithDozewellVC(false);
   }
   original(self, sender);
 }
@@ -70,32 +65,27 @@ void updateEmbeddedController(Controller self, bool useDozewell) {
   shouldShowDozewellEmbeddedVCInsteadOfAirPlay = useDozewell;
   const auto embedding = self.collapsedEmbeddingView();
   embedding.removeViewController();
-  embedding.setEmbeddedViewController(useDozewell ? engine().dozewell2VC
+  embedding.setEmbeddedViewController(useDozewell ? engine().dozewell2VC()
                                                   : self.routingViewController());
   embedding.showViewController();
 }
 
 CGSize sizeThatFits(objc::Original<CGSize(MRUEmbeddingView, CGSize)> original,
                     MRUEmbeddingView self, CGSize size) {
-  (LogLine() << "-[<MRUEmbeddingView: " << address(self) << "> sizeThatFits:{" << size.width << ", "
-             << size.height << "}]")
-      .write();
+  logCall("MRUEmbeddingView", self, "sizeThatFits:{", size.width, ", ", size.height, "}");
   if (shouldShowDozewellEmbeddedVCInsteadOfAirPlay) return {self.frame().size.width, panelHeight};
   return original(self, size);
 }
 
 void showViewController(objc::Original<void(MRUEmbeddingView)> original, MRUEmbeddingView self) {
-  (LogLine() << "-[<MRUEmbeddingView: " << address(self) << "> showViewController]").write();
+  logCall("MRUEmbeddingView", self, "showViewController");
   original(self);
   if (!shouldShowDozewellEmbeddedVCInsteadOfAirPlay) return;
-  const auto panel = engine().dozewell2VC.get();
-  const UIView noTransition(nullptr);
+  const auto panel = Dozewell2ViewController::preloaded();
   if (engine().isRunning()) {
-    objc::send<void, "showCurrentTimerView:transitionView:slideAnimated:">(panel, true,
-                                                                           noTransition, false);
+    panel.showCurrentTimerView_transitionView_slideAnimated(true, nullptr, false);
   } else {
-    objc::send<void, "showChooseSnoozeTimeView:transitionView:slideAnimated:">(panel, true,
-                                                                               noTransition, false);
+    panel.showChooseSnoozeTimeView_transitionView_slideAnimated(true, nullptr, false);
   }
 }
 
@@ -104,7 +94,7 @@ void setShakeState(objc::Original<void(UIMotionEvent, int)> original, UIMotionEv
   constexpr int shaken = 0;
   constexpr long error = 2;  // the notification haptic
   original(self, state);
-  if (!Dozewell2StorageManager::sharedInstance().shakeToRestartTimerEnabled || state != shaken ||
+  if (!Dozewell2StorageManager::sharedInstance().shakeToRestartTimerEnabled() || state != shaken ||
       !engine().isRunning())
     return;
   engine().restartTimerWithLastChosenValue();

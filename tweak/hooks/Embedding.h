@@ -2,7 +2,7 @@
 #pragma once
 
 #include "objc/Hook.h"
-#include "platform/MediaControls.h"
+#include "tweak/engine/DozewellNowPlayingController.h"
 
 extern "C" {
 // The embedding view holds the panel. It stays set after the panel is closed, until the user taps
@@ -14,7 +14,7 @@ extern __attribute__((visibility("default"))) bool shouldReplaceRoutingActionByD
 
 namespace Embedding {
 
-using Controller = MRUNowPlayingViewController;
+using Controller = DozewellNowPlayingController;
 
 // MRUNowPlayingViewController
 void viewDidAppear(objc::Original<void(Controller, bool)> original, Controller self, bool animated);

@@ -1,6 +1,5 @@
 #include "tweak/hooks/LockScreen.h"
 
-#include "objc/Global.h"
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
@@ -11,10 +10,6 @@
 namespace LockScreen {
 namespace {
 
-// Kept alive until the host makes the next one.
-objc::Global<objc::Strong<CSTimerViewController>> newestTimerController;
-objc::Global<objc::Strong<SBFLockScreenDateSubtitleDateView>> newestDateView;
-
 NSString tracksLeftText(long tracks) {
   if (tracks == 1) return BundleHelper::getLocalizedStringFor("1_SONG"_ns);
   return NSString::stringWithFormat(BundleHelper::getLocalizedStringFor("N_SONG"_ns),
@@ -23,67 +18,56 @@ NSString tracksLeftText(long tracks) {
 
 }  // namespace
 
-CSTimerViewController timerController() {
-  return *newestTimerController;
-}
-SBFLockScreenDateSubtitleDateView dateView() {
-  return *newestDateView;
-}
-
 CSTimerViewController initTimerController(
     objc::Original<CSTimerViewController(CSTimerViewController, NSString, NSBundle)> original,
     CSTimerViewController self, NSString nibName, NSBundle bundle) {
   const auto made = original(self, nibName, bundle);
-  *newestTimerController = objc::retain(made);
+  DozewellTimerController::setNewest(made);
   return made;
 }
 
-void startCountdown(CSTimerViewController self, objc::Object end) {
+void startCountdown(DozewellTimerController self, objc::Object end) {
   self.setEndDate(objc::as<NSDate>(end));
 }
 
-void stopCountdown(CSTimerViewController self) {
+void stopCountdown(DozewellTimerController self) {
   self.setEndDate(nullptr);
 }
 
-void setDate(
-    objc::Original<void(SBFLockScreenDateSubtitleDateView, objc::Object, objc::Object)> original,
-    SBFLockScreenDateSubtitleDateView self, objc::Object date, objc::Object timeZone) {
+void setDate(objc::Original<void(DozewellDateView, objc::Object, objc::Object)> original,
+             DozewellDateView self, objc::Object date, objc::Object timeZone) {
   original(self, date, timeZone);
-  *newestDateView = objc::retain(self);
+  DozewellDateView::setNewest(self);
   // The host redraws the date when it likes; the songs left must survive it.
-  if (Dozewell2StorageManager::sharedInstance().showIndicatorOnNC &&
-      Dozewell2Manager::sharedInstance().nbSongsModeIsRunning)
-    objc::send<void, "dozewell_setNbTracksLeftText">(self);
+  if (Dozewell2StorageManager::sharedInstance().showIndicatorOnNC() &&
+      Dozewell2Manager::sharedInstance().nbSongsModeIsRunning())
+    self.dozewell_setNbTracksLeftText();
 }
 
-void setTracksLeftText(SBFLockScreenDateSubtitleDateView self) {
+void setTracksLeftText(DozewellDateView self) {
   const long tracks = Dozewell2Manager::sharedInstance().getTimerRemainingTracks();
-  objc::send<void, "dozewell_setText:">(self, tracksLeftText(tracks));
+  self.dozewell_setText(tracksLeftText(tracks));
 }
 
-void setText(SBFLockScreenDateSubtitleDateView self, objc::Object text) {
+void setText(DozewellDateView self, objc::Object text) {
   self.label().setString(objc::as<NSString>(text));
   self.sizeToFit();
 }
 
-void restoreOriginalText(SBFLockScreenDateSubtitleDateView self) {
+void restoreOriginalText(DozewellDateView self) {
   self.setDate(NSDate::date());
 }
 
 void setModuleExpanded(
     objc::Original<void(CCUIContentModuleContainerViewController, bool)> original,
     CCUIContentModuleContainerViewController self, bool expanded) {
-  (LogLine() << "-[<CCUIContentModuleContainerViewController: "
-             << static_cast<const void*>(self.get()) << "> setExpanded:" << (expanded ? "1" : "0")
-             << "]")
-      .write();
+  logCall("CCUIContentModuleContainerViewController", self, "setExpanded:", expanded ? "1" : "0");
   original(self, expanded);
   if (!self.moduleIdentifier().isEqualToString(
           "com.apple.mediaremote.controlcenter.nowplaying"_ns) ||
-      !Dozewell2Manager::sharedInstance().timerModeIsRunning)
+      !Dozewell2Manager::sharedInstance().timerModeIsRunning())
     return;
-  auto& indicators = Dozewell2TimeLeftIndicatorsManager::sharedInstance();
+  const auto indicators = Dozewell2TimeLeftIndicatorsManager::sharedInstance();
   if (expanded) {
     indicators.startUpdatingRemainingTimeLabelsInCC();
   } else {

@@ -3,14 +3,13 @@
 #include "objc/Association.h"
 #include "objc/Property.h"
 #include "tweak/engine/Dozewell2Manager.h"
-#include "tweak/hooks/DozewellButton.h"
 #include "tweak/hooks/Glyph.h"
 #include "tweak/panel/Dozewell2ViewController.h"
 
 namespace NowPlayingHeader {
 namespace {
 
-using Button = MRUNowPlayingRoutingButton;
+using Button = DozewellButton;
 using AttachedButton = objc::Association<"dozewellButton", Button>;
 
 Button dozewellButton(Header self) {
@@ -24,9 +23,8 @@ void setDozewellButton(Header self, Button button) {
 // screen, for one) there is no timer button.
 UIViewController controllerInControlCenter(Header header) {
   const auto controller = header.viewControllerForAncestor();
-  const bool fits = controller.isKindOfClass(objc_getClass("MRUNowPlayingViewController")) &&
-                    controller.parentViewController().isKindOfClass(
-                        objc_getClass("MRUControlCenterViewController"));
+  const bool fits = isKindOf<MRUNowPlayingViewController>(controller) &&
+                    isKindOf<MRUControlCenterViewController>(controller.parentViewController());
   return fits ? controller : UIViewController(nullptr);
 }
 
@@ -46,17 +44,19 @@ void observeTimer(Header header) {
 }
 
 void createButton(Header header, UIViewController controller) {
-  const auto made = objc::adopt(Button(objc_alloc_init(objc_getClass("DozewellButton"))));
+  const auto made = Button::make();
   const Button button = made;
-  objc::send<void, "setDozewellButton:">(header, button);
+  header.setDozewellButton(button);
   button.addTarget(controller, objc::selector<"didSelectDozewellButton:">(),
                    UIControl::touchUpInside);
   showMoon(button);
-  updateForNewState(button, Dozewell2Manager::sharedInstance().isRunning() ? ButtonState::running
-                                                                           : ButtonState::idle);
+  button.updateForNewState(Dozewell2Manager::sharedInstance().isRunning() ? Button::State::running
+                                                                          : Button::State::idle);
   header.addSubview(button);
   observeTimer(header);
-  // Twice, deliberately.
+  // One after the other, as the extension always has: it leaves the button inactive even while a
+  // timer runs. Without the two no user would see a difference, for the placing that follows gives
+  // the state again; another extension's hook on setActive: would (button-made-while-a-timer-runs).
   button.setActive(true);
   button.setActive(false);
 }
@@ -69,7 +69,7 @@ void place(Header header) {
 
 void addButtonProperty() {
   objc::addAttachedProperty<"dozewellButton", &dozewellButton, &setDozewellButton>(
-      objc_getClass("MRUNowPlayingHeaderView"), "@\"DozewellButton\"");
+      MRUNowPlayingHeaderView::cls(), "@\"DozewellButton\"");
 }
 
 void layoutSubviews(objc::Original<void(Header)> original, Header self) {
@@ -82,10 +82,10 @@ void layoutSubviews(objc::Original<void(Header)> original, Header self) {
 }
 
 void setLayout(objc::Original<void(Header, long)> original, Header self, long layout) {
-  auto& engine = Dozewell2Manager::sharedInstance();
-  if (layout != routingLayout && self.layout() == routingLayout && engine.isShowingDozewellUI) {
-    engine.isShowingDozewellUI = false;
-    objc::send<void, "dismissCurrentView">(engine.dozewell2VC.get());
+  const auto engine = Dozewell2Manager::sharedInstance();
+  if (layout != routingLayout && self.layout() == routingLayout && engine.isShowingDozewellUI()) {
+    engine.setIsShowingDozewellUI(false);
+    Dozewell2ViewController::preloaded().dismissCurrentView();
   }
   original(self, layout);
   place(self);
@@ -100,7 +100,10 @@ void stateChanged(Header self, objc::Object) {
   place(self);
 }
 
-// The host's teardown first, deliberately: what is left of the header is its identity.
+// The host's teardown first, as the extension always has done it: what is left of the header is its
+// identity, and the notification centre compares no more than that. The other way round, a start or
+// stop that the host's teardown brings about would no longer reach it
+// (button-goes-with-its-header).
 void dealloc(objc::Original<void(Header)> original, Header self) {
   original(self);
   NSNotificationCenter::defaultCenter().removeObserver(self);

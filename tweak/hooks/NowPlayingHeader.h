@@ -2,7 +2,20 @@
 #pragma once
 
 #include "objc/Hook.h"
-#include "platform/MediaControls.h"
+#include "tweak/hooks/DozewellButton.h"
+
+// Main thread.
+struct DozewellNowPlayingHeader : MRUNowPlayingHeaderView {
+  using MRUNowPlayingHeaderView::MRUNowPlayingHeaderView;
+
+  // Kept by the header; nil until it was first laid out in Control Center, and anywhere else.
+  DozewellButton dozewellButton() const {
+    return objc::send<DozewellButton, "dozewellButton">(*this);
+  }
+  void setDozewellButton(DozewellButton button) const {
+    objc::send<void, "setDozewellButton:">(*this, button);
+  }
+};
 
 // A header without a timer button only has its routing button shown and moved.
 extern "C" __attribute__((visibility("default"))) void
@@ -10,7 +23,7 @@ setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(id header);
 
 namespace NowPlayingHeader {
 
-using Header = MRUNowPlayingHeaderView;
+using Header = DozewellNowPlayingHeader;
 
 void addButtonProperty();  // MRUNowPlayingHeaderView dozewellButton
 

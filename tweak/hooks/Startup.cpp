@@ -15,8 +15,11 @@
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
 #include "tweak/panel/ButtonWithIncreasedTouchArea.h"
 #include "tweak/panel/CheckboxButton.h"
+#include "tweak/panel/ChooseSnoozeTimeView.h"
+#include "tweak/panel/CurrentTimerView.h"
 #include "tweak/panel/Dozewell2ImageButton.h"
 #include "tweak/panel/Dozewell2ViewController.h"
+#include "tweak/panel/OnTimerEndsSettingsView.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/settings/Registration.h"
 #include "tweak/support/BundleHelper.h"
@@ -52,11 +55,11 @@ bool isHomeScreenProcess() {
 }
 
 bool isEnabled() {
-  return Dozewell2StorageManager::sharedInstance().enabled;
+  return Dozewell2StorageManager::sharedInstance().enabled();
 }
 
 void installHeaderHooks() {
-  Class header = objc_getClass("MRUNowPlayingHeaderView");
+  Class header = MRUNowPlayingHeaderView::cls();
   NowPlayingHeader::addButtonProperty();
   objc::hook<"MRUNowPlayingHeaderView", "layoutSubviews", NowPlayingHeader::layoutSubviews>();
   objc::hook<"MRUNowPlayingHeaderView", "setLayout:", NowPlayingHeader::setLayout>();
@@ -67,7 +70,7 @@ void installHeaderHooks() {
 }
 
 void installControllerHooks() {
-  Class controller = objc_getClass("MRUNowPlayingViewController");
+  Class controller = MRUNowPlayingViewController::cls();
   objc::hook<"MRUNowPlayingViewController", "viewDidAppear:", Embedding::viewDidAppear>();
   objc::hook<"MRUNowPlayingViewController", "viewDidLoad", Embedding::viewDidLoad>();
   objc::addMethod<"didSelectDozewellButton:", &Embedding::didSelectDozewellButton>(controller);
@@ -83,7 +86,7 @@ void installControllerHooks() {
 void installHooks() {
   objc::hook<"CCUICAPackageDescription",
              "initWithPackageName:inBundle:", tracePackageDescription>();
-  addDozewellButtonClass();
+  DozewellButton::registerClass();
   installHeaderHooks();
   installControllerHooks();
   objc::hook<"SpringBoard", "applicationDidFinishLaunching:", applicationDidFinishLaunching>();
@@ -91,11 +94,11 @@ void installHooks() {
 }
 
 void installIndicatorHooks() {
-  Class timer = objc_getClass("CSTimerViewController");
+  Class timer = CSTimerViewController::cls();
   objc::hook<"CSTimerViewController", "initWithNibName:bundle:", LockScreen::initTimerController>();
   objc::addMethod<"dozewell_startTimerWithDate:", &LockScreen::startCountdown>(timer);
   objc::addMethod<"dozewell_stopTimer", &LockScreen::stopCountdown>(timer);
-  Class date = objc_getClass("SBFLockScreenDateSubtitleDateView");
+  Class date = SBFLockScreenDateSubtitleDateView::cls();
   objc::hook<"SBFLockScreenDateSubtitleDateView", "_setDate:inTimeZone:", LockScreen::setDate>();
   objc::addMethod<"dozewell_setNbTracksLeftText", &LockScreen::setTracksLeftText>(date);
   objc::addMethod<"dozewell_setText:", &LockScreen::setText>(date);

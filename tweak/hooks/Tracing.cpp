@@ -5,8 +5,6 @@
 CCUICAPackageDescription tracePackageDescription(
     objc::Original<CCUICAPackageDescription(CCUICAPackageDescription, NSString, NSBundle)> original,
     CCUICAPackageDescription self, NSString name, NSBundle bundle) {
-  (LogLine() << "-[<CCUICAPackageDescription: " << static_cast<const void*>(self.get())
-             << "> initWithPackageName:" << name << " inBundle:" << bundle << "]")
-      .write();
+  logCall("CCUICAPackageDescription", self, "initWithPackageName:", name, " inBundle:", bundle);
   return original(self, name, bundle);
 }

@@ -1,67 +1,94 @@
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
 
+#include "objc/Class.h"
 #include "platform/Dispatch.h"
 #include "platform/SpringBoard.h"
-#include "tweak/engine/Dozewell2Manager.h"
-#include "tweak/hooks/LockScreen.h"
+#include "tweak/indicators/LockScreenViews.h"
+#include "tweak/indicators/SleepTimer.h"
 #include "tweak/indicators/TimeFormat.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/LocalizationHelper.h"
 
-using Indicators = Dozewell2TimeLeftIndicatorsManager;
+namespace {
 
-Indicators& Dozewell2TimeLeftIndicatorsManager::sharedInstance() {
-  return shared();
-}
+struct Dozewell2TimeLeftIndicatorsManagerImplementation
+    : objc::Implementation<Dozewell2TimeLeftIndicatorsManagerImplementation> {
+  objc::Strong<NSTimer> updateRemainingTimeLabelsTimer;  // nil: not refreshing
+  objc::Strong<UILabel> dozewellVcTimeLeftLabel;         // the panel's; nil until it has one
 
-void Dozewell2TimeLeftIndicatorsManager::startTimerWithDate(NSDate end) {
-  if (Dozewell2StorageManager::sharedInstance().showIndicatorOnNC)
-    objc::send<void, "dozewell_startTimerWithDate:">(LockScreen::timerController(), end);
+  static Dozewell2TimeLeftIndicatorsManagerImplementation& sharedInstance() { return shared(); }
+
+  void startTimerWithDate(NSDate end);  // may be nil
+  void stopTimer();
+  void updateCounterWithNbTracks();
+  void stopCounter();
+  void startUpdatingRemainingTimeLabelsInCC();
+  void stopUpdatingRemainingTimeLabelsInCC();
+
+ private:
+  void refresh();
+  void showRemainingTime();
+};
+
+using Indicators = Dozewell2TimeLeftIndicatorsManagerImplementation;
+
+void Indicators::startTimerWithDate(NSDate end) {
+  if (Dozewell2StorageManager::sharedInstance().showIndicatorOnNC())
+    DozewellTimerController::newest().dozewell_startTimerWithDate(end);
   startUpdatingRemainingTimeLabelsInCC();
 }
 
 // Whatever the setting: it may have been on when the timer started.
-void Dozewell2TimeLeftIndicatorsManager::stopTimer() {
-  objc::send<void, "dozewell_stopTimer">(LockScreen::timerController());
+void Indicators::stopTimer() {
+  DozewellTimerController::newest().dozewell_stopTimer();
   stopUpdatingRemainingTimeLabelsInCC();
 }
 
-void Dozewell2TimeLeftIndicatorsManager::updateCounterWithNbTracks() {
-  if (Dozewell2StorageManager::sharedInstance().showIndicatorOnNC)
-    objc::send<void, "dozewell_setNbTracksLeftText">(LockScreen::dateView());
+void Indicators::updateCounterWithNbTracks() {
+  if (Dozewell2StorageManager::sharedInstance().showIndicatorOnNC())
+    DozewellDateView::newest().dozewell_setNbTracksLeftText();
   dozewellVcTimeLeftLabel->setText(LocalizationHelper::getLocalizedNumberStringFrom(
-      Dozewell2Manager::sharedInstance().getTimerRemainingTracks()));
+      SleepTimer::sharedInstance().getTimerRemainingTracks()));
 }
 
-void Dozewell2TimeLeftIndicatorsManager::stopCounter() {
-  objc::send<void, "dozewell_restoreOriginalText">(LockScreen::dateView());
+void Indicators::stopCounter() {
+  DozewellDateView::newest().dozewell_restoreOriginalText();
 }
 
-void Dozewell2TimeLeftIndicatorsManager::startUpdatingRemainingTimeLabelsInCC() {
+void Indicators::startUpdatingRemainingTimeLabelsInCC() {
   if (updateRemainingTimeLabelsTimer) return;
+  // The label shows the new time in the next turn, not a second later. Not in this one: a timer
+  // that was made off the main thread has no date yet.
   dispatch::onMain([] { sharedInstance().showRemainingTime(); });
   const auto timer = NSTimer::scheduledTimer(1.0, true, [] { sharedInstance().refresh(); });
   updateRemainingTimeLabelsTimer = objc::retain(timer);
-  // So that it goes on while the user scrolls.
+  // So that it ticks on while the user scrolls.
   NSRunLoop::mainRunLoop().addTimer(timer, NSRunLoop::commonModes());
 }
 
-void Dozewell2TimeLeftIndicatorsManager::stopUpdatingRemainingTimeLabelsInCC() {
+void Indicators::stopUpdatingRemainingTimeLabelsInCC() {
   if (!updateRemainingTimeLabelsTimer) return;
   updateRemainingTimeLabelsTimer->invalidate();
   updateRemainingTimeLabelsTimer = nullptr;
 }
 
-void Dozewell2TimeLeftIndicatorsManager::refresh() {
+void Indicators::refresh() {
+  // Nobody sees it; the timer ticks on, and the label is right a second after the screen is on.
   if (!SBBacklightController::sharedInstance().screenIsOn()) return;
   showRemainingTime();
   // After the last value has been shown once more.
-  if (!Dozewell2Manager::sharedInstance().timerModeIsRunning) stopUpdatingRemainingTimeLabelsInCC();
+  if (!SleepTimer::sharedInstance().timerModeIsRunning()) stopUpdatingRemainingTimeLabelsInCC();
 }
 
-void Dozewell2TimeLeftIndicatorsManager::showRemainingTime() {
-  const double seconds = Dozewell2Manager::sharedInstance().getTimerRemainingTime();
+void Indicators::showRemainingTime() {
+  const double seconds = SleepTimer::sharedInstance().getTimerRemainingTime();
   dozewellVcTimeLeftLabel->setText(NSString(timeFormatted(wholeSeconds(seconds))));
+}
+
+}  // namespace
+
+Class Dozewell2TimeLeftIndicatorsManager::cls() {
+  return Indicators::cls();
 }
 
 Class Dozewell2TimeLeftIndicatorsManager::registerClass() {

@@ -1,26 +1,20 @@
 #include "tweak/indicators/TimeFormat.h"
 
-#include "tweak/support/Decimal.h"
+#include "tweak/support/Arithmetic.h"
 #include "tweak/support/LocalizationHelper.h"
 
+// C++ and the format cut and fill negative numbers alike on both processors: -5 is "00:-5".
 id timeFormatted(int seconds) {
-  constexpr int width = 2;
-  const auto text = NSMutableString::string();
-  if (seconds >= 3600) {
-    text.appendString(NSString::string(Decimal(seconds / 3600, width).text()));
-    text.appendString(":"_ns);
-  }
-  text.appendString(NSString::string(Decimal(seconds / 60 % 60, width).text()));
-  text.appendString(":"_ns);
-  text.appendString(NSString::string(Decimal(seconds % 60, width).text()));
+  const int minutes = seconds / 60 % 60;
+  const auto text =
+      seconds < 3600
+          ? NSString::stringWithFormat("%02d:%02d"_ns, minutes, seconds % 60)
+          : NSString::stringWithFormat("%02d:%02d:%02d"_ns, seconds / 3600, minutes, seconds % 60);
   return LocalizationHelper::replaceNumbersWithLocalizedNumbersFromString(text).get();
 }
 
-// Out of range the phone's processor saturates; C++ leaves it open, so it is written out.
+// Through single precision, as the label has always been told it: of a night of ten hours it keeps
+// steps of four milliseconds, so that 35999.999 seconds read as ten hours.
 int wholeSeconds(double seconds) {
-  constexpr float limit = 2147483648.0f;
-  const auto narrowed = float(seconds);
-  if (narrowed >= limit) return 2147483647;
-  if (narrowed < -limit) return -2147483647 - 1;
-  return int(narrowed);
+  return saturatingCast<int>(float(seconds));
 }

@@ -1,14 +1,13 @@
 // A small icon button that is easy to hit and answers with a tap.
 #pragma once
 
-#include "objc/Class.h"
 #include "platform/UIKit.h"
 
-struct ButtonWithIncreasedTouchArea : objc::Implementation<ButtonWithIncreasedTouchArea> {
-  static objc::Strong<UIButton> make();  // of the custom type
+struct ButtonWithIncreasedTouchArea : UIButton {
+  using UIButton::UIButton;
 
-  bool pointInside_withEvent(CGPoint point, objc::Object event);
-  void sendAction_to_forEvent(SEL action, objc::Object target, objc::Object event);
+  // Of the custom type, without title and image.
+  static objc::Strong<ButtonWithIncreasedTouchArea> make();
 
   static Class registerClass();
 };

@@ -1,40 +1,61 @@
 #include "tweak/panel/CheckboxButton.h"
 
+#include "objc/Class.h"
 #include "tweak/support/HapticFeedbackHelper.h"
 
-id CheckboxButton::init() {
+namespace {
+
+struct CheckboxButtonImplementation : objc::Implementation<CheckboxButtonImplementation> {
+  // What setIsChecked: stores, and nothing reads: the selected state is what counts.
+  bool declaredChecked;
+
+  id init();
+  id initWithCoder(objc::Object coder);
+  void checkboxSelected(CheckboxButton sender);  // its own action when it is touched
+  void toggleCheck();
+  void check(bool checked);
+  bool isChecked();
+  void setSelected(bool selected);
+
+ private:
+  id listening(id button);
+};
+
+using Checkbox = CheckboxButtonImplementation;
+
+id Checkbox::init() {
   return listening(super<id, "init">());
 }
 
-id CheckboxButton::initWithCoder(objc::Object coder) {
+id Checkbox::initWithCoder(objc::Object coder) {
   return listening(super<id, "initWithCoder:">(coder));
 }
 
-id CheckboxButton::listening(id button) {
+id Checkbox::listening(id button) {
   UIControl(button).addTarget(objc::Object(button), objc::selector<"checkboxSelected:">(),
                               UIControl::touchUpInside);
   return button;
 }
 
-void CheckboxButton::checkboxSelected(objc::Object sender) {
-  objc::send<void, "toggleCheck">(sender);
+void Checkbox::checkboxSelected(CheckboxButton sender) {
+  sender.toggleCheck();
   HapticFeedbackHelper::sendImpact();
 }
 
-void CheckboxButton::toggleCheck() {
+void Checkbox::toggleCheck() {
   UIControl(self()).setSelected(!isChecked());
 }
 
-void CheckboxButton::check(bool checked) {
+void Checkbox::check(bool checked) {
   UIControl(self()).setSelected(checked);
 }
 
-bool CheckboxButton::isChecked() {
+bool Checkbox::isChecked() {
   return UIControl(self()).isSelected();
 }
 
 // Also a programmatic change bounces.
-void CheckboxButton::setSelected(bool selected) {
+void Checkbox::setSelected(bool selected) {
   constexpr double seconds = 0.3, damping = 0.3, velocity = 5.0;
   super<void, "setSelected:">(selected);
   const UIView box(self());
@@ -45,15 +66,17 @@ void CheckboxButton::setSelected(bool selected) {
       [box = objc::retain(box)] { box->setTransform(CGAffineTransform::identity()); });
 }
 
+}  // namespace
+
 Class CheckboxButton::registerClass() {
-  return objc::ClassBuilder<CheckboxButton>("CheckboxButton", "UIButton")
-      .method<"init", &CheckboxButton::init>()
-      .method<"initWithCoder:", &CheckboxButton::initWithCoder>()
-      .method<"checkboxSelected:", &CheckboxButton::checkboxSelected>()
-      .method<"toggleCheck", &CheckboxButton::toggleCheck>()
-      .method<"check:", &CheckboxButton::check>()
-      .method<"isChecked", &CheckboxButton::isChecked>()
-      .property<"isChecked", &CheckboxButton::declaredChecked>()
-      .method<"setSelected:", &CheckboxButton::setSelected>()
+  return objc::ClassBuilder<Checkbox>("CheckboxButton", "UIButton")
+      .method<"init", &Checkbox::init>()
+      .method<"initWithCoder:", &Checkbox::initWithCoder>()
+      .method<"checkboxSelected:", &Checkbox::checkboxSelected>()
+      .method<"toggleCheck", &Checkbox::toggleCheck>()
+      .method<"check:", &Checkbox::check>()
+      .method<"isChecked", &Checkbox::isChecked>()
+      .property<"isChecked", &Checkbox::declaredChecked>()
+      .method<"setSelected:", &Checkbox::setSelected>()
       .finish();
 }

@@ -1,23 +1,16 @@
 // An icon that is checked or not: dimmed when it is not, with a bounce at every change.
 #pragma once
 
-#include "objc/Class.h"
 #include "platform/UIKit.h"
 
-struct CheckboxButton : objc::Implementation<CheckboxButton> {
-  // What setIsChecked: stores, and nothing reads: the selected state is what counts.
-  bool declaredChecked;
+// Layouts make these. A box toggles itself when it is touched.
+struct CheckboxButton : UIButton {
+  using UIButton::UIButton;
 
-  id init();
-  id initWithCoder(objc::Object coder);
-  void checkboxSelected(objc::Object sender);  // its own action when it is touched
-  void toggleCheck();
-  void check(bool checked);
-  bool isChecked();
-  void setSelected(bool selected);
+  bool isChecked() const { return objc::send<bool, "isChecked">(*this); }
+  // Bounces, whether it changes anything or not.
+  void check(bool checked) const { objc::send<void, "check:">(*this, checked); }
+  void toggleCheck() const { objc::send<void, "toggleCheck">(*this); }
 
   static Class registerClass();
-
- private:
-  id listening(id button);
 };

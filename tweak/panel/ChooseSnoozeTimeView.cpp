@@ -1,9 +1,9 @@
 #include "tweak/panel/ChooseSnoozeTimeView.h"
 
-#include "tweak/panel/ButtonWithIncreasedTouchArea.h"
+#include "tweak/panel/ChooseSnoozeTimeViewImplementation.h"
 #include "tweak/support/BundleHelper.h"
 
-using Page = ChooseSnoozeTimeView;
+using Page = ChooseSnoozeTimeViewImplementation;
 
 namespace {
 
@@ -25,14 +25,14 @@ CGRect topLeftFrame() {
 }
 
 objc::Strong<UIButton> barButton(const char* titleKey) {
-  const auto button = UIButton::buttonWithType(objc_getClass("UIButton"), UIButton::Type::system);
+  const auto button = UIButton::buttonWithType(UIButton::Type::system);
   button.setTitle(BundleHelper::getLocalizedStringFor(NSString::string(titleKey)));
   button.titleLabel().setFont(UIFont::system(15));
   button.setTintColor(UIColor::white());
   return objc::retain(button);
 }
 
-objc::Strong<UIButton> cornerButton(const char* image, CGRect frame) {
+objc::Strong<ButtonWithIncreasedTouchArea> cornerButton(const char* image, CGRect frame) {
   auto button = ButtonWithIncreasedTouchArea::make();
   button->setFrame(frame);
   button->setImage(BundleHelper::getImageWithName(NSString::string(image)));
@@ -42,30 +42,35 @@ objc::Strong<UIButton> cornerButton(const char* image, CGRect frame) {
 
 }  // namespace
 
-id ChooseSnoozeTimeView::initWithFrame(CGRect frame) {
+id Page::initWithFrame(CGRect frame) {
   const id made = super<id, "initWithFrame:">(frame);
   if (made != nullptr) of(made).setupView();
   return made;
 }
 
-CGRect ChooseSnoozeTimeView::frame() {
+// That of the view which holds this one, so that all sizes here are the container's. Were it the
+// page's own, a page that is made before it is placed would lay its elements out in no space
+// (choose-frame-is-its-superviews).
+CGRect Page::frame() {
   return view().superview().frame();
 }
 
-void ChooseSnoozeTimeView::layoutSubviews() {
+void Page::layoutSubviews() {
   super<void, "layoutSubviews">();
   const auto size = container();
   timeSelectorPickerView->setFrame(pickerFrame(size));
   nbSongsPickerView->setFrame(pickerFrame(size));
   const auto picker = nbSongsPickerView->frame().size;
-  // Another formula than at set-up, deliberately.
+  // At set-up the place depends on the letters of the text as well, and this is the one that is
+  // seen: every layout comes after it. With that formula here the caption of a long word would
+  // stand further to the left (choose-caption-at-set-up).
   musicLabel->setFrame(rect(picker.width / 2.2, picker.height * 0.5 - 15, captionWidth, rowHeight));
   bottomButtonsStackView->setFrame(barFrame(size));
   topRightCornerButton->setFrame(topRightFrame(size));
   topLeftCornerButton->setFrame(topLeftFrame());
 }
 
-void ChooseSnoozeTimeView::setupView() {
+void Page::setupView() {
   addTimeSelectorPickerView();
   addNbSongsSelectorPickerView();
   nbSongsPickerView->setHidden(true);
@@ -74,18 +79,18 @@ void ChooseSnoozeTimeView::setupView() {
   addSettingsButton();
 }
 
-void ChooseSnoozeTimeView::addTimeSelectorPickerView() {
+void Page::addTimeSelectorPickerView() {
   timeSelectorPickerView = UIDatePicker::make(pickerFrame(container()));
   timeSelectorPickerView->setDatePickerMode(UIDatePicker::countDownTimerMode);
   timeSelectorPickerView->setPrivateTextColor(UIColor::white());
-  // The boxed NO goes where a plain one is meant, deliberately.
-  if (objc::respondsTo<"setHighlightsToday:">(timeSelectorPickerView.get()))
-    timeSelectorPickerView->performSelector(objc::selector<"setHighlightsToday:">(),
-                                            NSNumber::numberWithBool(false));
+  // The boxed NO goes where a plain one is meant, which reads some part of the object's address. A
+  // plain NO would change the "today" of a calendar, which a countdown does not show: nothing that
+  // a user could see (choose-today-is-not-highlighted).
+  timeSelectorPickerView->performSetHighlightsToday(NSNumber::numberWithBool(false));
   view().addSubview(timeSelectorPickerView);
 }
 
-void ChooseSnoozeTimeView::addNbSongsSelectorPickerView() {
+void Page::addNbSongsSelectorPickerView() {
   nbSongsPickerView = UIPickerView::make(pickerFrame(container()));
   nbSongsPickerView->setDataSource(view());
   nbSongsPickerView->setDelegate(view());
@@ -104,7 +109,7 @@ void ChooseSnoozeTimeView::addNbSongsSelectorPickerView() {
   nbSongsPickerView->addSubview(musicLabel.get());
 }
 
-void ChooseSnoozeTimeView::addButtons() {
+void Page::addButtons() {
   leftButton = barButton("BACK");
   rightButton = barButton("CONFIRM");
   bottomButtonsStackView = UIStackView::make(barFrame(container()));
@@ -117,16 +122,20 @@ void ChooseSnoozeTimeView::addButtons() {
   view().addSubview(bottomButtonsStackView);
 }
 
-void ChooseSnoozeTimeView::addToggleModesButton() {
+void Page::addToggleModesButton() {
   topRightCornerButton = cornerButton("nbSongsIcon", topRightFrame(container()));
   topRightCornerButton->addTarget(view(), objc::selector<"toggleModes">(),
                                   UIControl::touchUpInside);
   view().addSubview(topRightCornerButton);
 }
 
-void ChooseSnoozeTimeView::addSettingsButton() {
+void Page::addSettingsButton() {
   topLeftCornerButton = cornerButton("settingsIcon", topLeftFrame());
   view().addSubview(topLeftCornerButton);
+}
+
+Class ChooseSnoozeTimeView::cls() {
+  return Page::cls();
 }
 
 Class ChooseSnoozeTimeView::registerClass() {

@@ -1,57 +1,46 @@
 // The panel's page on which a duration or a number of songs is picked.
 #pragma once
 
-#include "objc/Class.h"
+#include "objc/Ownership.h"
 #include "platform/UIKit.h"
 
-// Laid out with frames, deliberately: W and H are those of the view that holds this one.
-struct ChooseSnoozeTimeView : objc::Implementation<ChooseSnoozeTimeView> {
-  objc::Strong<UILabel> musicLabel;  // "song" or "songs", beside the songs picker
-  objc::Strong<NSString> musicLocalizedlabelText;
-  objc::Strong<UIStackView> bottomButtonsStackView;
-  objc::Strong<UIButton> topRightCornerButton;  // switches the mode; shows the other one's icon
-  int modeType;                                 // 0 both modes, 1 durations only, 2 songs only
-  long pickerMinutesSteps;
-  long defaultTimerPickerValue;    // minutes
-  long defaultNbSongsPickerValue;  // songs
-  objc::Strong<UIButton> leftButton;
-  objc::Strong<UIButton> rightButton;
-  objc::Strong<UIButton> topLeftCornerButton;
-  objc::Strong<UIDatePicker> timeSelectorPickerView;
-  objc::Strong<UIPickerView> nbSongsPickerView;
+struct ChooseSnoozeTimeView : UIView {
+  using UIView::UIView;
 
-  id initWithFrame(CGRect frame);
-  CGRect frame();  // of the superview, deliberately
-  void layoutSubviews();
-  void setupView();
-  void addTimeSelectorPickerView();
-  void addNbSongsSelectorPickerView();
-  void addButtons();
-  void addToggleModesButton();
-  void addSettingsButton();
+  static objc::Strong<ChooseSnoozeTimeView> make(CGRect frame) {
+    return objc::adopt(
+        objc::send<ChooseSnoozeTimeView, "initWithFrame:">(objc_alloc(cls()), frame));
+  }
 
-  long nbSongsSelected();
-  void addOrRemovePluralForRow(long row);
-  void toggleModes();
-  void showTimerMode();
-  void showSongMode();
-  void setModeType(int type);
-  void setPickerMinutesSteps(long minutes);
-  void setDefaultTimerPickerValue(long minutes);
-  void setDefaultNbSongsPickerValue(long songs);
+  // The page's own, without actions.
+  UIButton leftButton() const { return objc::send<UIButton, "leftButton">(*this); }
+  UIButton rightButton() const { return objc::send<UIButton, "rightButton">(*this); }
+  UIButton topLeftCornerButton() const {
+    return objc::send<UIButton, "topLeftCornerButton">(*this);
+  }
+  // Of the two pickers one is hidden: that tells the mode.
+  UIDatePicker timeSelectorPickerView() const {
+    return objc::send<UIDatePicker, "timeSelectorPickerView">(*this);
+  }
+  UIPickerView nbSongsPickerView() const {
+    return objc::send<UIPickerView, "nbSongsPickerView">(*this);
+  }
+  long nbSongsSelected() const { return objc::send<long, "nbSongsSelected">(*this); }  // from 1
 
-  // The songs picker's data source and delegate.
-  long numberOfComponentsInPickerView(UIPickerView picker);
-  long pickerView_numberOfRowsInComponent(UIPickerView picker, long component);
-  double pickerView_rowHeightForComponent(UIPickerView picker, long component);
-  NSString pickerView_titleForRow_forComponent(UIPickerView picker, long row, long component);
-  UIView pickerView_viewForRow_forComponent_reusingView(UIPickerView picker, long row,
-                                                        long component, UIView reusable);
-  void pickerView_didSelectRow_inComponent(UIPickerView picker, long row, long component);
+  // The presets. Each does something only when it changes, so that the user's choice stays.
+  void setPickerMinutesSteps(long minutes) const {  // and puts the duration back to one step
+    objc::send<void, "setPickerMinutesSteps:">(*this, minutes);
+  }
+  void setDefaultTimerPickerValue(long minutes) const {
+    objc::send<void, "setDefaultTimerPickerValue:">(*this, minutes);
+  }
+  void setDefaultNbSongsPickerValue(long songs) const {
+    objc::send<void, "setDefaultNbSongsPickerValue:">(*this, songs);
+  }
+  void setModeType(int type) const {  // 0 both modes, 1 durations only, 2 songs only
+    objc::send<void, "setModeType:">(*this, type);
+  }
 
+  static Class cls();  // nil until it is registered
   static Class registerClass();
-
- private:
-  UIView view() const { return UIView(self()); }
-  CGSize container() const { return view().frame().size; }
 };

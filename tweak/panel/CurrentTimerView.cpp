@@ -1,11 +1,28 @@
 #include "tweak/panel/CurrentTimerView.h"
 
+#include "objc/Class.h"
 #include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/panel/PageLayout.h"
 #include "tweak/support/BundleHelper.h"
 
-using Page = CurrentTimerView;
-
 namespace {
+
+struct CurrentTimerViewImplementation : objc::Implementation<CurrentTimerViewImplementation> {
+  // All from the layout.
+  objc::Weak<UILabel> titleLabel;
+  objc::Weak<UILabel> timerLabel;  // written by the indicators
+  objc::Weak<UILabel> subtitleLabel;
+  objc::Weak<UIButton> backButton;
+  objc::Weak<UIButton> cancelTimerButton;
+  objc::Weak<NSLayoutConstraint> bottomButtonHeightConstraint;
+
+  id init();  // the view that the layout holds, in place of this one
+  CGRect frame();
+  void setupViewWithMode(long mode);
+  void hideBottomButtons(bool hide);
+};
+
+using Page = CurrentTimerViewImplementation;
 
 constexpr double barHeight = 50;  // points
 
@@ -13,31 +30,32 @@ NSString localized(const char* key) {
   return BundleHelper::getLocalizedStringFor(NSString::string(key));
 }
 
+// The unit of the largest field shown: a clock of three fields begins with hours.
 const char* durationUnit(NSString clock) {
   return clock.componentsSeparatedByString(":"_ns).count() > 2 ? "HOURS" : "MINUTES";
 }
 
+// What is no number reads as 0, which takes the plural.
 const char* songUnit(NSString number) {
   return number.integerValue() == 1 ? "SONG" : "SONGS";
 }
 
-}  // namespace
-
-id CurrentTimerView::init() {
-  const auto owner = objc::adopt(objc::Object(self()));  // init gives up the object it returns not
-  auto page = objc::retain(objc::as<UIView>(
-      BundleHelper::getBundle().loadNibNamed("CurrentTimerView"_ns, owner).firstObject()));
+id Page::init() {
+  auto page = pageFromLayout("CurrentTimerView"_ns, self());
   if (!page) return nullptr;
   of(page.get()).backButton.load()->setTitle(localized("BACK"));
   of(page.get()).cancelTimerButton.load()->setTitle(localized("CANCEL"));
   return page.detach().get();
 }
 
-CGRect CurrentTimerView::frame() {
+// That of the view which holds this one: whoever asks is told the place that the page fills. Told
+// its own, the panel's dissolve would give the next page this one's frame instead of the panel's
+// (current-frame-is-its-superviews).
+CGRect Page::frame() {
   return UIView(self()).superview().frame();
 }
 
-void CurrentTimerView::setupViewWithMode(long mode) {
+void Page::setupViewWithMode(long mode) {
   if (mode != Dozewell2Manager::durationMode && mode != Dozewell2Manager::songCountMode) return;
   const auto left = timerLabel.load()->text();
   titleLabel.load()->setText(localized("YOUR_MUSIC_WILL_STOP_IN"));
@@ -45,10 +63,16 @@ void CurrentTimerView::setupViewWithMode(long mode) {
       localized(mode == Dozewell2Manager::durationMode ? durationUnit(left) : songUnit(left)));
 }
 
-void CurrentTimerView::hideBottomButtons(bool hide) {
+void Page::hideBottomButtons(bool hide) {
   backButton.load()->setHidden(hide);
   cancelTimerButton.load()->setHidden(hide);
   bottomButtonHeightConstraint.load()->setConstant(hide ? 0 : barHeight);
+}
+
+}  // namespace
+
+objc::Strong<CurrentTimerView> CurrentTimerView::make() {
+  return Page::make<CurrentTimerView>();
 }
 
 Class CurrentTimerView::registerClass() {

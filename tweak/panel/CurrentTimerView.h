@@ -1,23 +1,25 @@
 // The panel's page while a timer runs: a title, what is left, its unit, and two buttons.
 #pragma once
 
-#include "objc/Class.h"
+#include "objc/Ownership.h"
 #include "platform/UIKit.h"
 
-struct CurrentTimerView : objc::Implementation<CurrentTimerView> {
-  // All from the layout.
-  objc::Weak<UILabel> titleLabel;
-  objc::Weak<UILabel> timerLabel;  // written by the indicators
-  objc::Weak<UILabel> subtitleLabel;
-  objc::Weak<UIButton> backButton;
-  objc::Weak<UIButton> cancelTimerButton;
-  objc::Weak<NSLayoutConstraint> bottomButtonHeightConstraint;
+struct CurrentTimerView : UIView {
+  using UIView::UIView;
 
-  id init();       // the view that the layout holds, in place of this one
-  CGRect frame();  // of the superview, deliberately
-  // From what stands in timerLabel: the unit is that of the largest field shown.
-  void setupViewWithMode(long mode);
-  void hideBottomButtons(bool hide);
+  // From its layout; empty without the resource bundle.
+  static objc::Strong<CurrentTimerView> make();
+
+  // Each belongs to the page; nil when the layout has none.
+  UILabel timerLabel() const { return objc::send<UILabel, "timerLabel">(*this); }
+  UIButton backButton() const { return objc::send<UIButton, "backButton">(*this); }
+  UIButton cancelTimerButton() const { return objc::send<UIButton, "cancelTimerButton">(*this); }
+
+  // Fills title and unit from what stands in timerLabel, which must be right by then. The mode is
+  // a timer mode; any other changes nothing.
+  void setupViewWithMode(long mode) const { objc::send<void, "setupViewWithMode:">(*this, mode); }
+  // Hidden, their bar takes no place either.
+  void hideBottomButtons(bool hide) const { objc::send<void, "hideBottomButtons:">(*this, hide); }
 
   static Class registerClass();
 };

@@ -1,10 +1,31 @@
 #include "tweak/panel/Dozewell2ImageButton.h"
 
+#include "objc/Class.h"
 #include "tweak/support/BundleHelper.h"
 
-using ImageButton = Dozewell2ImageButton;
-
 namespace {
+
+struct Dozewell2ImageButtonImplementation
+    : objc::Implementation<Dozewell2ImageButtonImplementation> {
+  // All from the layout; nil without it.
+  objc::Strong<UIView> contentView;
+  objc::Weak<UIImageView> iconImage;
+  objc::Weak<UILabel> textLabel;
+  objc::Weak<NSLayoutConstraint> iconAspectRatioConstraint;  // in force while the icon is shown
+  objc::Weak<NSLayoutConstraint> iconWidthConstraint;        // in force while it is hidden
+  objc::Weak<NSLayoutConstraint> labelLeadingConstraint;     // from the icon to the text
+
+  id initWithFrame(CGRect frame);
+  id initWithCoder(objc::Object coder);
+  id initWithImage_font(UIImage image, UIFont font);
+  void customInit();
+  void setIconHidden(bool hidden);
+  void setHighlighted(bool highlighted);
+  void setSelected(bool selected);
+  void setTintColor(UIColor color);
+};
+
+using ImageButton = Dozewell2ImageButtonImplementation;
 
 constexpr double dimmed = 0.7;
 constexpr float inForce = 999, outOfForce = 250;  // layout priorities
@@ -12,21 +33,19 @@ constexpr double gapToText = 6;                   // points
 constexpr unsigned long flexibleWidthAndHeight = 18;
 
 id customised(id button) {
-  objc::send<void, "customInit">(button);
+  Dozewell2ImageButton(button).customInit();
   return button;
 }
 
-}  // namespace
-
-id Dozewell2ImageButton::initWithFrame(CGRect frame) {
+id ImageButton::initWithFrame(CGRect frame) {
   return customised(super<id, "initWithFrame:">(frame));
 }
 
-id Dozewell2ImageButton::initWithCoder(objc::Object coder) {
+id ImageButton::initWithCoder(objc::Object coder) {
   return customised(super<id, "initWithCoder:">(coder));
 }
 
-id Dozewell2ImageButton::initWithImage_font(UIImage image, UIFont font) {
+id ImageButton::initWithImage_font(UIImage image, UIFont font) {
   const id made = super<id, "init">();  // reaches initWithFrame:, and so customInit
   if (made == nullptr) return nullptr;
   of(made).iconImage.load()->setImage(image);
@@ -34,7 +53,7 @@ id Dozewell2ImageButton::initWithImage_font(UIImage image, UIFont font) {
   return made;
 }
 
-void Dozewell2ImageButton::customInit() {
+void ImageButton::customInit() {
   const UIView button(self());
   BundleHelper::getBundle().loadNibNamed("ImageButton"_ns, button);
   button.addSubview(contentView);
@@ -42,30 +61,33 @@ void Dozewell2ImageButton::customInit() {
   contentView->setAutoresizingMask(flexibleWidthAndHeight);
 }
 
-void Dozewell2ImageButton::setIconHidden(bool hidden) {
+void ImageButton::setIconHidden(bool hidden) {
   iconImage.load()->setHidden(hidden);
   iconAspectRatioConstraint.load()->setPriority(hidden ? outOfForce : inForce);
   iconWidthConstraint.load()->setPriority(hidden ? inForce : outOfForce);
   labelLeadingConstraint.load()->setConstant(hidden ? 0 : gapToText);
 }
 
-// Pressed and selected look the same, on purpose.
-void Dozewell2ImageButton::setHighlighted(bool highlighted) {
+// Pressed and selected look the same: a button that stays chosen stays dimmed
+// (panel-button-image-pressed).
+void ImageButton::setHighlighted(bool highlighted) {
   super<void, "setHighlighted:">(highlighted);
   UIView(self()).setAlpha(highlighted ? dimmed : 1.0);
 }
 
-void Dozewell2ImageButton::setSelected(bool selected) {
+void ImageButton::setSelected(bool selected) {
   super<void, "setSelected:">(selected);
   UIView(self()).setAlpha(selected ? dimmed : 1.0);
 }
 
-void Dozewell2ImageButton::setTintColor(UIColor color) {
+void ImageButton::setTintColor(UIColor color) {
   super<void, "setTintColor:">(color);
   textLabel.load()->setTextColor(color);
   iconImage.load()->setTintColor(color);
   UIButton(self()).setTitleColor(color);
 }
+
+}  // namespace
 
 Class Dozewell2ImageButton::registerClass() {
   return objc::ClassBuilder<ImageButton>("Dozewell2ImageButton", "UIButton")

@@ -2,10 +2,11 @@
 
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/panel/Dozewell2ViewControllerImplementation.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/HapticFeedbackHelper.h"
 
-using Panel = Dozewell2ViewController;
+using Panel = Dozewell2ViewControllerImplementation;
 
 namespace {
 
@@ -14,29 +15,25 @@ constexpr double pageAlpha = 0.85, backgroundAlpha = 0.2;
 
 bool isLandscape() {
   enum { landscapeRight = 3, landscapeLeft = 4 };
-  const auto orientation = objc::as<NSNumber>(
-      UIApplication::sharedApplication().safeValueForKey("_activeInterfaceOrientation"_ns));
-  const long value = orientation.integerValue();
-  return value == landscapeRight || value == landscapeLeft;
+  const long orientation = UIApplication::sharedApplication().activeInterfaceOrientation();
+  return orientation == landscapeRight || orientation == landscapeLeft;
 }
 
 }  // namespace
 
-void Dozewell2ViewController::preloadViewController() {
-  auto& engine = Dozewell2Manager::sharedInstance();
-  if (engine.dozewell2VC) return;
-  engine.dozewell2VC = make<UIViewController>();
-  if (!engine.dozewell2VC) return;
-  engine.dozewell2VC->view().setFrame(rect(0, 0, panelWidth, panelHeight));
-  of(engine.dozewell2VC).chooseSnoozeTimeView->layoutSubviews();
-}
-
-void Dozewell2ViewController::dismissDozewell(UIViewController panel) {
-  objc::send<void, "dismissDozewell">(panel);
+void Panel::preloadViewController() {
+  const auto engine = Dozewell2Manager::sharedInstance();
+  if (engine.dozewell2VC()) return;
+  const auto panel = make<Dozewell2ViewController>();
+  if (!panel) return;
+  engine.setDozewell2VC(panel);
+  panel->view().setFrame(rect(0, 0, panelWidth, panelHeight));
+  // Before the first show, so that the pickers have their places by then.
+  of(panel).chooseSnoozeTimeView->layoutSubviews();
 }
 
 // The pages come in this order, so that the actions page lies on top.
-void Dozewell2ViewController::viewDidLoad() {
+void Panel::viewDidLoad() {
   super<void, "viewDidLoad">();
   view().setBackgroundColor(UIColor::black().withAlpha(backgroundAlpha));
   initChooseSnoozeTimeView();
@@ -46,17 +43,16 @@ void Dozewell2ViewController::viewDidLoad() {
 
 // Settings that were changed elsewhere reach the pickers here. The step comes before the default
 // duration: it puts the picker back.
-void Dozewell2ViewController::viewWillLayoutSubviews() {
+void Panel::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
-  const auto& settings = Dozewell2StorageManager::sharedInstance();
-  const UIView page = chooseSnoozeTimeView;
-  objc::send<void, "setPickerMinutesSteps:">(page, settings.timerMinutesSteps);
-  objc::send<void, "setDefaultTimerPickerValue:">(page, settings.timerDefaultValue);
-  objc::send<void, "setDefaultNbSongsPickerValue:">(page, settings.nbSongsDefaultValue);
-  objc::send<void, "setModeType:">(page, int(settings.enabledModes));
+  const auto settings = Dozewell2StorageManager::sharedInstance();
+  chooseSnoozeTimeView->setPickerMinutesSteps(settings.timerMinutesSteps());
+  chooseSnoozeTimeView->setDefaultTimerPickerValue(settings.timerDefaultValue());
+  chooseSnoozeTimeView->setDefaultNbSongsPickerValue(settings.nbSongsDefaultValue());
+  chooseSnoozeTimeView->setModeType(int(settings.enabledModes()));
 }
 
-void Dozewell2ViewController::viewDidLayoutSubviews() {
+void Panel::viewDidLayoutSubviews() {
   super<void, "viewDidLayoutSubviews">();
   const auto size = view().frame().size;
   const auto frame = rect(0, 0, size.width, isLandscape() ? size.height : panelHeight);
@@ -65,7 +61,7 @@ void Dozewell2ViewController::viewDidLayoutSubviews() {
   onTimerEndsSettingsView->setFrame(frame);
 }
 
-void Dozewell2ViewController::addPage(UIView page) {
+void Panel::addPage(UIView page) {
   const auto size = view().frame().size;
   page.setFrame(rect(0, 0, size.width, size.height));
   page.setAlpha(pageAlpha);
@@ -73,60 +69,65 @@ void Dozewell2ViewController::addPage(UIView page) {
   view().addSubview(page);
 }
 
-void Dozewell2ViewController::wire(UIButton button, SEL action) {
+void Panel::wire(UIButton button, SEL action) {
   button.addTarget(objc::Object(self()), action, UIControl::touchUpInside);
 }
 
-void Dozewell2ViewController::wireWithHaptics(UIButton button, SEL action) {
+void Panel::wireWithHaptics(UIButton button, SEL action) {
   wire(button, action);
   wire(button, objc::selector<"performHapticFeedback">());
 }
 
-void Dozewell2ViewController::initChooseSnoozeTimeView() {
+void Panel::initChooseSnoozeTimeView() {
   if (chooseSnoozeTimeView) return;
   const auto size = view().frame().size;
-  chooseSnoozeTimeView = objc::adopt(objc::send<UIView, "initWithFrame:">(
-      objc_alloc(ChooseSnoozeTimeView::cls()), rect(0, 0, size.width, size.height)));
-  const auto& page = ChooseSnoozeTimeView::of(chooseSnoozeTimeView);
-  wireWithHaptics(page.leftButton, objc::selector<"backButtonClicked">());
+  chooseSnoozeTimeView = ChooseSnoozeTimeView::make(rect(0, 0, size.width, size.height));
+  const ChooseSnoozeTimeView page = chooseSnoozeTimeView;
+  wireWithHaptics(page.leftButton(), objc::selector<"backButtonClicked">());
   // The button itself answers with a tap.
-  wire(page.topLeftCornerButton, objc::selector<"showOnTimerEndsSettingsView">());
-  wireWithHaptics(page.rightButton, objc::selector<"validateButtonClicked">());
+  wire(page.topLeftCornerButton(), objc::selector<"showOnTimerEndsSettingsView">());
+  wireWithHaptics(page.rightButton(), objc::selector<"validateButtonClicked">());
   addPage(chooseSnoozeTimeView);
 }
 
-void Dozewell2ViewController::initCurrentTimerView() {
+void Panel::initCurrentTimerView() {
   if (currentTimerView) return;
-  currentTimerView = CurrentTimerView::make<UIView>();
-  wireWithHaptics(objc::send<UIButton, "backButton">(currentTimerView),
-                  objc::selector<"backButtonClicked">());
-  wireWithHaptics(objc::send<UIButton, "cancelTimerButton">(currentTimerView),
-                  objc::selector<"cancelButtonClicked">());
+  currentTimerView = CurrentTimerView::make();
+  wireWithHaptics(currentTimerView->backButton(), objc::selector<"backButtonClicked">());
+  wireWithHaptics(currentTimerView->cancelTimerButton(), objc::selector<"cancelButtonClicked">());
   addPage(currentTimerView);
-  Dozewell2TimeLeftIndicatorsManager::sharedInstance().dozewellVcTimeLeftLabel =
-      objc::retain(objc::send<UILabel, "timerLabel">(currentTimerView));
+  Dozewell2TimeLeftIndicatorsManager::sharedInstance().setDozewellVcTimeLeftLabel(
+      currentTimerView->timerLabel());
 }
 
-void Dozewell2ViewController::initOnTimerEndsSettingsView() {
+void Panel::initOnTimerEndsSettingsView() {
   if (onTimerEndsSettingsView) return;
-  onTimerEndsSettingsView = OnTimerEndsSettingsView::make<UIView>();
-  wireWithHaptics(objc::send<UIButton, "backButton">(onTimerEndsSettingsView),
+  onTimerEndsSettingsView = OnTimerEndsSettingsView::make();
+  wireWithHaptics(onTimerEndsSettingsView->backButton(),
                   objc::selector<"hideOnTimerEndsSettingsView">());
   addPage(onTimerEndsSettingsView);
 }
 
 // What the page shows decides, never the engine.
-long Dozewell2ViewController::selectedMode() {
-  const auto songs = objc::send<UIPickerView, "nbSongsPickerView">(chooseSnoozeTimeView);
-  return songs.isHidden() ? Dozewell2Manager::durationMode : Dozewell2Manager::songCountMode;
+long Panel::selectedMode() {
+  return chooseSnoozeTimeView->nbSongsPickerView().isHidden() ? Dozewell2Manager::durationMode
+                                                              : Dozewell2Manager::songCountMode;
 }
 
-void Dozewell2ViewController::performHapticFeedback() {
+void Panel::performHapticFeedback() {
   HapticFeedbackHelper::sendImpact();
 }
 
-bool Dozewell2ViewController::canShowWhileLocked() {
+bool Panel::canShowWhileLocked() {
   return true;
+}
+
+Dozewell2ViewController Dozewell2ViewController::preloaded() {
+  return objc::as<Dozewell2ViewController>(Dozewell2Manager::sharedInstance().dozewell2VC());
+}
+
+Class Dozewell2ViewController::cls() {
+  return Panel::cls();
 }
 
 Class Dozewell2ViewController::registerClass() {
@@ -160,7 +161,7 @@ Class Dozewell2ViewController::registerClass() {
       .method<"showOnTimerEndsSettingsView", &Panel::showOnTimerEndsSettingsView>()
       .method<"hideOnTimerEndsSettingsView", &Panel::hideOnTimerEndsSettingsView>()
       .method<"dismissCurrentView", &Panel::dismissCurrentView>()
-      .method<"dismissDozewell", static_cast<void (Panel::*)()>(&Panel::dismissDozewell)>()
+      .method<"dismissDozewell", &Panel::dismissDozewell>()
       .method<"validateButtonClicked", &Panel::validateButtonClicked>()
       .method<"cancelButtonClicked", &Panel::cancelButtonClicked>()
       .method<"backButtonClicked", &Panel::backButtonClicked>()

@@ -1,49 +1,78 @@
 #include "tweak/panel/OnTimerEndsSettingsView.h"
 
+#include "objc/Class.h"
+#include "platform/Cephei.h"
+#include "tweak/panel/CheckboxButton.h"
+#include "tweak/panel/PageLayout.h"
 #include "tweak/panel/ShortcutCheck.h"
 #include "tweak/support/BundleHelper.h"
 #include "tweak/support/HapticFeedbackHelper.h"
 
-using Page = OnTimerEndsSettingsView;
-
 namespace {
+
+struct OnTimerEndsSettingsViewImplementation
+    : objc::Implementation<OnTimerEndsSettingsViewImplementation> {
+  bool currentStateIsStart;
+  // All from the layout.
+  objc::Weak<UILabel> titleLabel;
+  objc::Weak<UIButton> backButton;
+  objc::Weak<UIButton> toggleStartEndButton;
+  objc::Weak<CheckboxButton> planeModeButton;
+  objc::Weak<CheckboxButton> dndButton;
+  objc::Weak<CheckboxButton> runShortcutButton;
+  objc::Weak<CheckboxButton> bluetoothButton;     // end actions only
+  objc::Weak<CheckboxButton> customVolumeButton;  // start actions only
+
+  id init();  // the view that the layout holds, in place of this one
+  CGRect frame();
+  void setup();
+  void setCurrentStateIsStart(bool start);
+  void restoreSettings();
+  void saveSettingsToPrefsPlist();
+  void toggleStateButtonClicked(UIView sender);
+  void runShortcutButtonClicked(CheckboxButton sender);
+
+ private:
+  // Calls visit(box, key) for the four boxes of the current state, in order.
+  template <class Visit>
+  void forEachBox(Visit visit);
+};
+
+using Page = OnTimerEndsSettingsViewImplementation;
 
 objc::Strong<HBPreferences> openPreferences() {
   return HBPreferences::make("com.corvane.dozewell2"_ns);
 }
 
-void setIcon(const objc::Weak<UIButton>& button, const char* name) {
-  button.load()->setImage(BundleHelper::getImageWithName(NSString::string(name)));
+void setIcon(UIButton button, const char* name) {
+  button.setImage(BundleHelper::getImageWithName(NSString::string(name)));
 }
 
-}  // namespace
-
-id OnTimerEndsSettingsView::init() {
-  const auto owner = objc::adopt(objc::Object(self()));  // init gives up the object it returns not
-  auto page = objc::retain(objc::as<UIView>(
-      BundleHelper::getBundle().loadNibNamed("OnTimerEndsSettingsView"_ns, owner).firstObject()));
-  objc::send<void, "setup">(page.get());
+id Page::init() {
+  auto page = pageFromLayout("OnTimerEndsSettingsView"_ns, self());
+  objc::as<OnTimerEndsSettingsView>(page).setup();
   return page.detach().get();
 }
 
-CGRect OnTimerEndsSettingsView::frame() {
+// That of the view which holds this one, as for the other pages (end-frame-is-its-superviews).
+CGRect Page::frame() {
   return UIView(self()).superview().frame();
 }
 
-void OnTimerEndsSettingsView::setup() {
-  setIcon(planeModeButton, "airplaneIcon");
-  setIcon(bluetoothButton, "bluetoothIcon");
-  setIcon(dndButton, "dndIcon");
-  setIcon(runShortcutButton, "shortcutIcon");
-  setIcon(customVolumeButton, "customVolumeIcon");
-  setIcon(backButton, "backIcon");
-  setIcon(toggleStartEndButton, "hourglassStartIcon");
+void Page::setup() {
+  setIcon(planeModeButton.load().get(), "airplaneIcon");
+  setIcon(bluetoothButton.load().get(), "bluetoothIcon");
+  setIcon(dndButton.load().get(), "dndIcon");
+  setIcon(runShortcutButton.load().get(), "shortcutIcon");
+  setIcon(customVolumeButton.load().get(), "customVolumeIcon");
+  setIcon(backButton.load().get(), "backIcon");
+  setIcon(toggleStartEndButton.load().get(), "hourglassStartIcon");
   restoreSettings();
   setCurrentStateIsStart(true);
 }
 
 // The boxes of the state that is left are written first, under that state's keys.
-void OnTimerEndsSettingsView::setCurrentStateIsStart(bool start) {
+void Page::setCurrentStateIsStart(bool start) {
   saveSettingsToPrefsPlist();
   currentStateIsStart = start;
   bluetoothButton.load()->setHidden(start);
@@ -53,10 +82,11 @@ void OnTimerEndsSettingsView::setCurrentStateIsStart(bool start) {
   restoreSettings();
 }
 
-// The fourth box differs, deliberately: there is no Bluetooth at the start and no volume at the
-// end.
+// The fourth box differs: Bluetooth is cut at the end alone and the volume set at the start alone,
+// and there are no settings for more. A fifth box would be one that does nothing
+// (end-boxes-share-their- row, end-saves-the-start-actions, end-saves-the-end-actions).
 template <class Visit>
-void OnTimerEndsSettingsView::forEachBox(Visit visit) {
+void Page::forEachBox(Visit visit) {
   if (currentStateIsStart) {
     visit(planeModeButton, "onTimerStartsAirplane");
     visit(dndButton, "onTimerStartsDND");
@@ -70,22 +100,22 @@ void OnTimerEndsSettingsView::forEachBox(Visit visit) {
   }
 }
 
-void OnTimerEndsSettingsView::restoreSettings() {
+void Page::restoreSettings() {
   const auto preferences = openPreferences();
-  forEachBox([&preferences](const objc::Weak<UIButton>& box, const char* key) {
-    objc::send<void, "check:">(box.load().get(), preferences->boolForKey(NSString::string(key)));
+  forEachBox([&preferences](const objc::Weak<CheckboxButton>& box, const char* key) {
+    box.load()->check(preferences->boolForKey(NSString::string(key)));
   });
 }
 
-void OnTimerEndsSettingsView::saveSettingsToPrefsPlist() {
+void Page::saveSettingsToPrefsPlist() {
   const auto preferences = openPreferences();
-  forEachBox([&preferences](const objc::Weak<UIButton>& box, const char* key) {
-    preferences->setBool(objc::send<bool, "isChecked">(box.load().get()), NSString::string(key));
+  forEachBox([&preferences](const objc::Weak<CheckboxButton>& box, const char* key) {
+    preferences->setBool(box.load()->isChecked(), NSString::string(key));
   });
 }
 
 // The hourglass turns over at every tap, so that its orientation tells the state.
-void OnTimerEndsSettingsView::toggleStateButtonClicked(UIView sender) {
+void Page::toggleStateButtonClicked(UIView sender) {
   constexpr double seconds = 0.4;
   constexpr double sineOfPi = 1.2246467991473532e-16, cosineOfPi = -1;
   setCurrentStateIsStart(!currentStateIsStart);
@@ -95,9 +125,16 @@ void OnTimerEndsSettingsView::toggleStateButtonClicked(UIView sender) {
   HapticFeedbackHelper::sendImpact();
 }
 
-void OnTimerEndsSettingsView::runShortcutButtonClicked(UIControl sender) {
-  if (!objc::send<bool, "isChecked">(sender)) return;
+// Runs when the box has toggled itself.
+void Page::runShortcutButtonClicked(CheckboxButton sender) {
+  if (!sender.isChecked()) return;
   checkShortcut(sender, currentStateIsStart ? "Dozewell Start"_ns : "Dozewell End"_ns);
+}
+
+}  // namespace
+
+objc::Strong<OnTimerEndsSettingsView> OnTimerEndsSettingsView::make() {
+  return Page::make<OnTimerEndsSettingsView>();
 }
 
 Class OnTimerEndsSettingsView::registerClass() {

@@ -1,35 +1,23 @@
 // The panel's page on which the start and end actions are chosen.
 #pragma once
 
-#include "objc/Class.h"
-#include "platform/Cephei.h"
+#include "objc/Ownership.h"
 #include "platform/UIKit.h"
 
-struct OnTimerEndsSettingsView : objc::Implementation<OnTimerEndsSettingsView> {
-  bool currentStateIsStart;
-  // All from the layout.
-  objc::Weak<UILabel> titleLabel;
-  objc::Weak<UIButton> backButton;
-  objc::Weak<UIButton> toggleStartEndButton;
-  objc::Weak<UIButton> planeModeButton;
-  objc::Weak<UIButton> dndButton;
-  objc::Weak<UIButton> runShortcutButton;
-  objc::Weak<UIButton> bluetoothButton;     // end actions only
-  objc::Weak<UIButton> customVolumeButton;  // start actions only
+struct OnTimerEndsSettingsView : UIView {
+  using UIView::UIView;
 
-  id init();       // the view that the layout holds, in place of this one
-  CGRect frame();  // of the superview, deliberately
-  void setup();
-  void setCurrentStateIsStart(bool start);
-  void restoreSettings();           // from the preferences domain
-  void saveSettingsToPrefsPlist();  // to it
-  void toggleStateButtonClicked(UIView sender);
-  void runShortcutButtonClicked(UIControl sender);
+  // From its layout, set up for the start actions; empty without the resource bundle.
+  static objc::Strong<OnTimerEndsSettingsView> make();
+
+  // The page's own; nil when the layout has none.
+  UIButton backButton() const { return objc::send<UIButton, "backButton">(*this); }
+
+  void setup() const { objc::send<void, "setup">(*this); }
+  // The boxes of the actions that are shown, from the preferences domain and to it. A box that the
+  // user changes is written by the second alone.
+  void restoreSettings() const { objc::send<void, "restoreSettings">(*this); }
+  void saveSettingsToPrefsPlist() const { objc::send<void, "saveSettingsToPrefsPlist">(*this); }
 
   static Class registerClass();
-
- private:
-  // Calls visit(box, key) for the four boxes of the current state, in order.
-  template <class Visit>
-  void forEachBox(Visit visit);
 };

@@ -48,7 +48,7 @@ void tellShortcutIsMissing(UIControl box, NSString name) {
 }  // namespace
 
 void checkShortcut(UIControl box, NSString name) {
-  if (objc_getClass("RunwrightManager") == nullptr) {
+  if (!RunwrightManager::isInstalled()) {
     tellRunnerIsMissing(box);
   } else if (!RunwrightManager::sharedManager().workflowNames().containsObject(name)) {
     tellShortcutIsMissing(box, name);

@@ -1,39 +1,84 @@
 #include "tweak/settings/Dozewell2StorageManager.h"
 
-using Store = Dozewell2StorageManager;
+#include <utility>
 
-Store& Dozewell2StorageManager::sharedInstance() {
-  return shared();
+#include "objc/Class.h"
+
+namespace {
+
+// How a setting of each type is kept.
+template <class T>
+struct Field {
+  using type = T;
+};
+template <>
+struct Field<NSString> {
+  using type = objc::Strong<NSString>;
+};
+
+struct Dozewell2StorageManagerImplementation
+    : objc::Implementation<Dozewell2StorageManagerImplementation> {
+#define SETTING(number, T, name, otherwise) Field<T>::type name;
+#include "tweak/settings/Settings.def"
+  objc::Strong<NSDictionary> wholeStorageDictionary;  // reserved: nothing fills or reads it
+
+  static Dozewell2StorageManagerImplementation& sharedInstance() {
+    return shared();
+  }
+};
+
+using Store = Dozewell2StorageManagerImplementation;
+
+void bind(HBPreferences domain, bool& field, bool otherwise, NSString key) {
+  domain.registerBool(&field, otherwise, key);
+}
+void bind(HBPreferences domain, long& field, long otherwise, NSString key) {
+  domain.registerInteger(&field, otherwise, key);
+}
+void bind(HBPreferences domain, double& field, double otherwise, NSString key) {
+  domain.registerFloat(&field, otherwise, key);
+}
+void bind(HBPreferences domain, objc::Strong<NSString>& field, objc::Object otherwise,
+          NSString key) {
+  domain.registerObject(field.slot(), otherwise, key);
+}
+
+// bindSetting<NUMBER>, one for each line of the list. A number that stands there twice or not at
+// all does not compile.
+template <int number>
+void bindSetting(HBPreferences domain, Store& store) = delete;
+#define SETTING(number, T, name, otherwise)                       \
+  template <>                                                     \
+  void bindSetting<number>(HBPreferences domain, Store & store) { \
+    bind(domain, store.name, otherwise, NSString::string(#name)); \
+  }
+#include "tweak/settings/Settings.def"
+
+#define SETTING(number, T, name, otherwise) +1
+constexpr int settingCount =
+#include "tweak/settings/Settings.def"
+    ;
+
+template <int... index>
+void bindInOrder(HBPreferences domain, std::integer_sequence<int, index...>) {
+  (bindSetting<index + 1>(domain, Store::shared()), ...);
+}
+
+}  // namespace
+
+void Dozewell2StorageManager::bindTo(HBPreferences domain) {
+  bindInOrder(domain, std::make_integer_sequence<int, settingCount>());
+}
+
+Class Dozewell2StorageManager::cls() {
+  return Store::cls();
 }
 
 Class Dozewell2StorageManager::registerClass() {
-  return objc::ClassBuilder<Store>("Dozewell2StorageManager", "NSObject")
-      .classMethod<"sharedInstance", &Store::sharedInstance>()
-      .readonlyProperty<"enabled", &Store::enabled>()
-      .readonlyProperty<"enabledModes", &Store::enabledModes>()
-      .readonlyProperty<"timerDefaultValue", &Store::timerDefaultValue>()
-      .readonlyProperty<"timerMinutesSteps", &Store::timerMinutesSteps>()
-      .readonlyProperty<"volumeFadeOutEnabled", &Store::volumeFadeOutEnabled>()
-      .readonlyProperty<"volumeFadeOutTime", &Store::volumeFadeOutTime>()
-      .readonlyProperty<"letTheSongFinishEnabled", &Store::letTheSongFinishEnabled>()
-      .readonlyProperty<"nbSongsDefaultValue", &Store::nbSongsDefaultValue>()
-      .readonlyProperty<"confirmViewAutoDismissTime", &Store::confirmViewAutoDismissTime>()
-      .readonlyProperty<"showIndicatorOnNC", &Store::showIndicatorOnNC>()
-      .readonlyProperty<"onTimerEndsAirplane", &Store::onTimerEndsAirplane>()
-      .readonlyProperty<"onTimerEndsDND", &Store::onTimerEndsDND>()
-      .readonlyProperty<"onTimerEndsBluetooth", &Store::onTimerEndsBluetooth>()
-      .readonlyProperty<"onTimerEndsBluetoothMode", &Store::onTimerEndsBluetoothMode>()
-      .readonlyProperty<"onTimerEndsBluetoothDeviceName", &Store::onTimerEndsBluetoothDeviceName>()
-      .readonlyProperty<"onTimerEndsRunShortcut", &Store::onTimerEndsRunShortcut>()
-      .readonlyProperty<"onTimerEndsKillNowPlayingApp", &Store::onTimerEndsKillNowPlayingApp>()
-      .readonlyProperty<"onTimerStartsAirplane", &Store::onTimerStartsAirplane>()
-      .readonlyProperty<"onTimerStartsDND", &Store::onTimerStartsDND>()
-      .readonlyProperty<"onTimerStartsCustomVolume", &Store::onTimerStartsCustomVolume>()
-      .readonlyProperty<"onTimerStartsCustomVolumeValue", &Store::onTimerStartsCustomVolumeValue>()
-      .readonlyProperty<"onTimerStartsRunShortcut", &Store::onTimerStartsRunShortcut>()
-      .readonlyProperty<"shakeToRestartTimerEnabled", &Store::shakeToRestartTimerEnabled>()
-      .readonlyProperty<"showDozewellButtonInCCMinimizedMediaPlayer",
-                        &Store::showDozewellButtonInCCMinimizedMediaPlayer>()
-      .property<"wholeStorageDictionary", &Store::wholeStorageDictionary>()
-      .finish();
+  objc::ClassBuilder<Store> builder("Dozewell2StorageManager", "NSObject");
+  builder.classMethod<"sharedInstance", &Store::sharedInstance>();
+#define SETTING(number, T, name, otherwise) builder.readonlyProperty<#name, &Store::name>();
+#include "tweak/settings/Settings.def"
+  builder.property<"wholeStorageDictionary", &Store::wholeStorageDictionary>();
+  return builder.finish();
 }

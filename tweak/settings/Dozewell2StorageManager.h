@@ -1,38 +1,29 @@
 // Every setting of the extension, kept current by the preferences library.
 #pragma once
 
-#include "objc/Class.h"
-#include "platform/Foundation.h"
+#include "platform/Cephei.h"
 
-// Read a field at the moment of use and do not keep its value: it follows the preferences domain
-// while the host runs. Main thread. The store has no setters; writers write to the domain.
-struct Dozewell2StorageManager : objc::Implementation<Dozewell2StorageManager> {
-  bool enabled;       // off: start-up installs nothing
-  long enabledModes;  // 0 durations and songs, 1 durations only, 2 songs only
-  long timerDefaultValue;
-  long timerMinutesSteps;
-  bool volumeFadeOutEnabled;
-  long volumeFadeOutTime;  // seconds
-  bool letTheSongFinishEnabled;
-  long nbSongsDefaultValue;
-  double confirmViewAutoDismissTime;  // seconds
-  bool showIndicatorOnNC;
-  bool onTimerEndsAirplane;
-  bool onTimerEndsDND;
-  bool onTimerEndsBluetooth;
-  long onTimerEndsBluetoothMode;
-  objc::Strong<NSString> onTimerEndsBluetoothDeviceName;  // may be nil
-  bool onTimerEndsRunShortcut;
-  bool onTimerEndsKillNowPlayingApp;
-  bool onTimerStartsAirplane;
-  bool onTimerStartsDND;
-  bool onTimerStartsCustomVolume;
-  long onTimerStartsCustomVolumeValue;  // percent
-  bool onTimerStartsRunShortcut;
-  bool shakeToRestartTimerEnabled;
-  bool showDozewellButtonInCCMinimizedMediaPlayer;
-  objc::Strong<NSDictionary> wholeStorageDictionary;  // reserved
+// Ask at the moment of use and do not keep the answer: it follows the preferences domain while the
+// host runs. Main thread. The store has no setters; writers write to the domain. In a process where
+// nothing was registered, and on a phone without the preferences library, everything is 0, NO and
+// nil.
+struct Dozewell2StorageManager : NSObject {
+  using NSObject::NSObject;
 
-  static Dozewell2StorageManager& sharedInstance();
+  static Dozewell2StorageManager sharedInstance() {
+    return objc::send<Dozewell2StorageManager, "sharedInstance">(cls());
+  }
+
+  // `bool enabled()`, `long enabledModes()` and so on: Settings.def lists them, with their units.
+#define SETTING(number, T, name, otherwise) \
+  T name() const {                          \
+    return objc::send<T, #name>(*this);     \
+  }
+#include "tweak/settings/Settings.def"
+
+  // Registers every setting with the domain and binds it to its field. Once per process.
+  static void bindTo(HBPreferences domain);
+
+  static Class cls();  // nil until it is registered
   static Class registerClass();
 };

@@ -1,8 +1,7 @@
 #include "tweak/support/CorvaneTweakUtils.h"
 
+#include "objc/Class.h"
 #include "platform/Dispatch.h"
-
-using Utils = CorvaneTweakUtils;
 
 namespace {
 
@@ -14,28 +13,44 @@ void presentInWindow(UIAlertController alert) {
   const auto window = UIWindow::make(UIScreen::mainScreen().bounds());
   window->setRootViewController(controller);
   window->setBackgroundColor(UIColor::clear());
+  // Over the system's own alerts.
   window->setWindowLevel(UIWindow::alertLevel + 1.0);
   window->makeKeyAndVisible();
   controller->present(alert, true);
 }
 
-bool isAtLeastIos15() {
-  return UIDevice::currentDevice().systemVersion().floatValue() >= 15.0f;
-}
+struct CorvaneTweakUtilsImplementation : objc::Implementation<CorvaneTweakUtilsImplementation> {
+  using Answer = CorvaneTweakUtils::Answer;
 
-}  // namespace
+  static void showAlertWithTitle_message_buttonText(NSString title, NSString message,
+                                                    NSString button);
+  static void showAlertWithTitle_message_buttonsText_completionHandler(NSString title,
+                                                                       NSString message,
+                                                                       NSArray buttons,
+                                                                       Answer answer);
+  static void showAlertControllerOverEverything(UIAlertController alert);
+  static UIViewController topMostController();
+  static bool isAlreadyShowingAnAlert();
 
-void CorvaneTweakUtils::showAlertWithTitle_message_buttonText(NSString title, NSString message,
-                                                              NSString button) {
+  static bool view_isDescendentOfViewOfClass(UIView view, Class cls);  // not the view itself
+  static NSString trimmedString(NSString text);
+  static bool stringIsEmpty(NSString text);
+  static int getRandomNumberBetween_to(int from, int to);  // both included
+};
+
+using Utils = CorvaneTweakUtilsImplementation;
+
+void Utils::showAlertWithTitle_message_buttonText(NSString title, NSString message,
+                                                  NSString button) {
   const auto buttons = NSMutableArray::array();
   buttons.addObject(button);
   showAlertWithTitle_message_buttonsText_completionHandler(title, message, buttons, nullptr);
 }
 
-void CorvaneTweakUtils::showAlertWithTitle_message_buttonsText_completionHandler(NSString title,
-                                                                                 NSString message,
-                                                                                 NSArray buttons,
-                                                                                 Answer answer) {
+void Utils::showAlertWithTitle_message_buttonsText_completionHandler(NSString title,
+                                                                     NSString message,
+                                                                     NSArray buttons,
+                                                                     Answer answer) {
   const auto alert = UIAlertController::make(title, message);
   for (unsigned long i = 0; i < buttons.count(); ++i) {
     const auto text = objc::as<NSString>(buttons.objectAtIndex(i));
@@ -47,45 +62,56 @@ void CorvaneTweakUtils::showAlertWithTitle_message_buttonsText_completionHandler
   showAlertControllerOverEverything(alert);
 }
 
-void CorvaneTweakUtils::showAlertControllerOverEverything(UIAlertController alert) {
-  if (isAtLeastIos15()) {
+void Utils::showAlertControllerOverEverything(UIAlertController alert) {
+  if (UIDevice::systemIsAtLeast(15.0F)) {
     topMostController().present(alert, true);
   } else {
+    // Whatever thread asked: windows are the main thread's.
     dispatch::onMain([alert = objc::retain(alert)] { presentInWindow(alert); });
   }
 }
 
-UIViewController CorvaneTweakUtils::topMostController() {
+UIViewController Utils::topMostController() {
   auto controller = UIApplication::sharedApplication().keyWindow().rootViewController();
   while (const auto presented = controller.presentedViewController()) controller = presented;
   return controller;
 }
 
-bool CorvaneTweakUtils::isAlreadyShowingAnAlert() {
-  return topMostController().isKindOfClass(objc_getClass("UIAlertController"));
+bool Utils::isAlreadyShowingAnAlert() {
+  return isKindOf<UIAlertController>(topMostController());
 }
 
-bool CorvaneTweakUtils::view_isDescendentOfViewOfClass(UIView view, Class cls) {
+bool Utils::view_isDescendentOfViewOfClass(UIView view, Class cls) {
   for (auto ancestor = view.superview(); ancestor; ancestor = ancestor.superview()) {
     if (ancestor.isKindOfClass(cls)) return true;
   }
   return false;
 }
 
-NSString CorvaneTweakUtils::trimmedString(NSString text) {
+NSString Utils::trimmedString(NSString text) {
   return text.stringByTrimmingWhitespaceAndNewlines();
 }
 
-bool CorvaneTweakUtils::stringIsEmpty(NSString text) {
+// No string at all is not an empty one: nil is never compared. Another extension that asks would
+// be told YES for a missing text if it were (support-strings).
+bool Utils::stringIsEmpty(NSString text) {
   return trimmedString(text).isEqualToString(""_ns);
 }
 
-int CorvaneTweakUtils::getRandomNumberBetween_to(int from, int to) {
+// In unsigned arithmetic of 32 bits, which wraps. Numbers at the lower end come a little more
+// often when the range does not divide 2^32.
+int Utils::getRandomNumberBetween_to(int from, int to) {
   const unsigned int range = unsigned(to) - unsigned(from) + 1;
   auto* draw = platform::hostFunction<"arc4random", unsigned int()>();
-  // All 2^32 numbers are wanted when the range wraps to 0.
   const unsigned int drawn = draw != nullptr ? draw() : 0;
+  // A range of 0 is one of all 2^32 numbers, wrapped.
   return int(unsigned(from) + (range == 0 ? drawn : drawn % range));
+}
+
+}  // namespace
+
+Class CorvaneTweakUtils::cls() {
+  return Utils::cls();
 }
 
 Class CorvaneTweakUtils::registerClass() {

@@ -1,26 +1,23 @@
-// Alerts over everything that is on the screen, and small helpers around them.
+// Alerts over everything that is on the screen.
 #pragma once
 
-#include "objc/Class.h"
 #include "platform/UIKit.h"
 
-struct CorvaneTweakUtils : objc::Implementation<CorvaneTweakUtils> {
+// Main thread.
+struct CorvaneTweakUtils : NSObject {
+  using NSObject::NSObject;
   using Answer = objc::Block<void(NSString)>;  // is given the text of the button; may be nil
 
-  static void showAlertWithTitle_message_buttonText(NSString title, NSString message,
-                                                    NSString button);
+  // One button for each text of the list, in its order; each closes the alert. The answer is
+  // copied: the caller may let go of it.
   static void showAlertWithTitle_message_buttonsText_completionHandler(NSString title,
                                                                        NSString message,
                                                                        NSArray buttons,
-                                                                       Answer answer);
-  static void showAlertControllerOverEverything(UIAlertController alert);
-  static UIViewController topMostController();
-  static bool isAlreadyShowingAnAlert();
+                                                                       Answer answer) {
+    objc::send<void, "showAlertWithTitle:message:buttonsText:completionHandler:">(
+        cls(), title, message, buttons, answer);
+  }
 
-  static bool view_isDescendentOfViewOfClass(UIView view, Class cls);  // not the view itself
-  static NSString trimmedString(NSString text);
-  static bool stringIsEmpty(NSString text);  // no string at all is not an empty one, deliberately
-  static int getRandomNumberBetween_to(int from, int to);  // both included
-
+  static Class cls();  // nil until it is registered
   static Class registerClass();
 };

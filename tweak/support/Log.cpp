@@ -1,8 +1,5 @@
 #include "tweak/support/Log.h"
 
-#include <charconv>
-#include <cstdint>
-
 LogLine& LogLine::operator<<(const char* text) {
   text_.appendString(NSString::string(text));
   return *this;
@@ -15,11 +12,8 @@ LogLine& LogLine::operator<<(objc::Object object) {
 }
 
 LogLine& LogLine::operator<<(const void* address) {
-  char digits[] = "0x0000000000000000";
-  auto end = std::to_chars(digits + 2, digits + sizeof digits - 1,
-                           reinterpret_cast<std::uintptr_t>(address), 16);
-  *end.ptr = 0;
-  return *this << static_cast<const char*>(digits);
+  text_.appendString(NSString::stringWithFormat("%p"_ns, address));
+  return *this;
 }
 
 LogLine& LogLine::operator<<(double number) {

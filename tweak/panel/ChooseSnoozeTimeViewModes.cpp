@@ -1,6 +1,9 @@
 // The choose-time page's two modes, and the settings that preset its pickers.
-#include "tweak/panel/ChooseSnoozeTimeView.h"
+#include "tweak/panel/ChooseSnoozeTimeViewImplementation.h"
+#include "tweak/support/Arithmetic.h"
 #include "tweak/support/BundleHelper.h"
+
+using Page = ChooseSnoozeTimeViewImplementation;
 
 namespace {
 
@@ -14,7 +17,7 @@ void crossDissolve(UIView from, UIView to) {
 
 }  // namespace
 
-void ChooseSnoozeTimeView::toggleModes() {
+void Page::toggleModes() {
   if (nbSongsPickerView->isHidden()) {
     showSongMode();
   } else {
@@ -24,19 +27,19 @@ void ChooseSnoozeTimeView::toggleModes() {
   view().bringSubviewToFront(topLeftCornerButton);
 }
 
-void ChooseSnoozeTimeView::showTimerMode() {
+void Page::showTimerMode() {
   timeSelectorPickerView->setHidden(false);
   topRightCornerButton->setImage(BundleHelper::getImageWithName("nbSongsIcon"_ns));
   crossDissolve(nbSongsPickerView, timeSelectorPickerView);
 }
 
-void ChooseSnoozeTimeView::showSongMode() {
+void Page::showSongMode() {
   nbSongsPickerView->setHidden(false);
   topRightCornerButton->setImage(BundleHelper::getImageWithName("timerIcon"_ns));
   crossDissolve(timeSelectorPickerView, nbSongsPickerView);
 }
 
-void ChooseSnoozeTimeView::setModeType(int type) {
+void Page::setModeType(int type) {
   enum { bothModes = 0, durationsOnly = 1, songsOnly = 2 };
   if (type != modeType) {
     modeType = type;
@@ -49,7 +52,7 @@ void ChooseSnoozeTimeView::setModeType(int type) {
 }
 
 // Puts the picker back to one step.
-void ChooseSnoozeTimeView::setPickerMinutesSteps(long minutes) {
+void Page::setPickerMinutesSteps(long minutes) {
   if (minutes == pickerMinutesSteps) return;
   pickerMinutesSteps = minutes;
   timeSelectorPickerView->setMinuteInterval(minutes);
@@ -58,15 +61,17 @@ void ChooseSnoozeTimeView::setPickerMinutesSteps(long minutes) {
                                                60);
 }
 
-void ChooseSnoozeTimeView::setDefaultTimerPickerValue(long minutes) {
+void Page::setDefaultTimerPickerValue(long minutes) {
   if (minutes == defaultTimerPickerValue) return;
   defaultTimerPickerValue = minutes;
   timeSelectorPickerView->setCountDownDuration(double(minutes) * 60);
 }
 
-void ChooseSnoozeTimeView::setDefaultNbSongsPickerValue(long songs) {
+void Page::setDefaultNbSongsPickerValue(long songs) {
   if (songs == defaultNbSongsPickerValue) return;
   defaultNbSongsPickerValue = songs;
-  nbSongsPickerView->selectRow(songs - 1, 0, false);
-  addOrRemovePluralForRow(songs - 1);
+  // The setting may be any number; the picker takes no row that it does not have.
+  const long row = wrappingDifference(songs, 1);
+  nbSongsPickerView->selectRow(row, 0, false);
+  addOrRemovePluralForRow(row);
 }

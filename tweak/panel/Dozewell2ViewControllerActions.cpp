@@ -1,8 +1,11 @@
 // What the panel's buttons do, and how one page gives way to another.
 #include "platform/Dispatch.h"
 #include "tweak/engine/Dozewell2Manager.h"
-#include "tweak/panel/Dozewell2ViewController.h"
+#include "tweak/panel/Dozewell2ViewControllerImplementation.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
+#include "tweak/support/Arithmetic.h"
+
+using Panel = Dozewell2ViewControllerImplementation;
 
 namespace {
 
@@ -12,40 +15,28 @@ UIKit::Completion hideLater(UIView view) {
   return UIKit::completion([view = objc::retain(view)] { view->setHidden(true); });
 }
 
-// The extra second is deliberate: the first thing seen is the whole number that was picked.
-long pickedSeconds(UIView page) {
-  const auto picker = objc::send<UIDatePicker, "timeSelectorPickerView">(page);
-  return long(picker.countDownDuration() + 1.0);
+// One second more than was picked: the timer is seen a moment later, and the first number is then
+// the one that was picked. Without it 45 minutes would begin as 44:59 (panel-confirms-one-minute).
+long pickedSeconds(UIDatePicker picker) {
+  return saturatingCast<long>(picker.countDownDuration() + 1.0);
 }
 
-long pickedSongs(UIView page) {
-  return objc::send<long, "nbSongsSelected">(page);
-}
-
-long pickedValue(UIView page, long mode) {
-  if (mode == Dozewell2Manager::durationMode) return pickedSeconds(page);
-  if (mode == Dozewell2Manager::songCountMode) return pickedSongs(page);
+long pickedValue(ChooseSnoozeTimeView page, long mode) {
+  if (mode == Dozewell2Manager::durationMode) return pickedSeconds(page.timeSelectorPickerView());
+  if (mode == Dozewell2Manager::songCountMode) return page.nbSongsSelected();
   return 0;
 }
 
 }  // namespace
 
-void Dozewell2ViewController::setUpCurrentTimerView() {
-  objc::send<void, "setupViewWithMode:">(currentTimerView, selectedMode());
-}
-
-void Dozewell2ViewController::hideBottomButtons(bool hide) {
-  objc::send<void, "hideBottomButtons:">(currentTimerView, hide);
-}
-
-void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(
-    bool fromChooseTime) {
+void Panel::transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(bool fromChooseTime) {
   view().setHidden(false);
-  const UIView source = fromChooseTime ? chooseSnoozeTimeView : currentTimerView;
-  const UIView target = fromChooseTime ? currentTimerView : chooseSnoozeTimeView;
+  const UIView choosing = chooseSnoozeTimeView, running = currentTimerView;
+  const UIView source = fromChooseTime ? choosing : running;
+  const UIView target = fromChooseTime ? running : choosing;
   chooseSnoozeTimeViewShowed = !fromChooseTime;
   currentTimerViewShowed = fromChooseTime;
-  if (fromChooseTime) setUpCurrentTimerView();
+  if (fromChooseTime) currentTimerView->setupViewWithMode(selectedMode());
   target.setFrame(source.frame());
   target.setHidden(false);
   UIKit::transition(source, target, seconds,
@@ -54,45 +45,48 @@ void Dozewell2ViewController::transitionBetweenChooseTimeAndCurrentTimerViewFrom
 }
 
 // Without the option that shows and hides the two, the platform takes the first out of the panel
-// and puts the second in its place. The difference to the other transition is deliberate.
-void Dozewell2ViewController::showOnTimerEndsSettingsView() {
+// and puts the second in its place. With it, as in the transition above, the page for choosing
+// would stay in the panel beneath, and the panel would have three views where it has two: nothing
+// that a user could see, but a script or an extension that counts them
+// (panel-opens-the-actions-page).
+void Panel::showOnTimerEndsSettingsView() {
   if (!onTimerEndsSettingsView) return;
   onTimerEndsSettingsView->setHidden(false);
-  objc::send<void, "restoreSettings">(onTimerEndsSettingsView);
+  onTimerEndsSettingsView->restoreSettings();
   UIKit::transition(chooseSnoozeTimeView, onTimerEndsSettingsView, seconds,
                     UIKit::transitionCrossDissolve, hideLater(chooseSnoozeTimeView));
 }
 
-void Dozewell2ViewController::hideOnTimerEndsSettingsView() {
+void Panel::hideOnTimerEndsSettingsView() {
   if (!onTimerEndsSettingsView) return;
   chooseSnoozeTimeView->setHidden(false);
   UIKit::transition(onTimerEndsSettingsView, chooseSnoozeTimeView, seconds,
                     UIKit::transitionCrossDissolve, hideLater(onTimerEndsSettingsView));
   // At once, not when the transition has ended.
-  objc::send<void, "saveSettingsToPrefsPlist">(onTimerEndsSettingsView);
+  onTimerEndsSettingsView->saveSettingsToPrefsPlist();
 }
 
-void Dozewell2ViewController::validateButtonClicked() {
-  auto& engine = Dozewell2Manager::sharedInstance();
+void Panel::validateButtonClicked() {
+  const auto engine = Dozewell2Manager::sharedInstance();
   engine.cancelTimer();
   const long mode = selectedMode();
   engine.startTimerWithMode_andValue(mode, pickedValue(chooseSnoozeTimeView, mode));
   dispatch::onMain([panel = retained()] {
     panel->transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(true);
-    panel->hideBottomButtons(true);
+    panel->currentTimerView->hideBottomButtons(true);
     // Never cancelled: it closes whatever the panel shows by then.
     NSObject(panel->self())
         .performSelectorAfterDelay(
             objc::selector<"dismissDozewell">(),
-            Dozewell2StorageManager::sharedInstance().confirmViewAutoDismissTime);
+            Dozewell2StorageManager::sharedInstance().confirmViewAutoDismissTime());
   });
 }
 
-void Dozewell2ViewController::cancelButtonClicked() {
+void Panel::cancelButtonClicked() {
   Dozewell2Manager::sharedInstance().reinit();
   transitionBetweenChooseTimeAndCurrentTimerViewFromChooseTime(false);
 }
 
-void Dozewell2ViewController::backButtonClicked() {
+void Panel::backButtonClicked() {
   dismissDozewell();
 }

@@ -1,9 +1,12 @@
 // The engine's song-count mode, and the end that waits for a track: both watch for track changes.
 #include "platform/MediaRemote.h"
-#include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/engine/Dozewell2ManagerImplementation.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/support/Arithmetic.h"
 
-void Dozewell2Manager::startTimerWithNbTracks(long count) {
+using Engine = Dozewell2ManagerImplementation;
+
+void Engine::startTimerWithNbTracks(long count) {
   nbSongsModeIsRunning = true;
   nbSongsToPlayBeforeStop = count;
   // The remembered title stays: changes are counted away from the track that plays now.
@@ -14,17 +17,20 @@ void Dozewell2Manager::startTimerWithNbTracks(long count) {
 }
 
 // The title alone decides: the notification also tells of pauses, seeks and artwork.
-void Dozewell2Manager::mediaDidChange(objc::Object) {
+void Engine::mediaDidChange(objc::Object) {
   MediaRemote::getNowPlayingInfo([](NSDictionary info) {
-    const auto title = objc::as<NSString>(info.objectForKey(MediaRemote::infoTitleKey()));
+    const auto reported = info.objectForKey(MediaRemote::infoTitleKey());
+    // What an app reports is its own affair. What is no string is no title, and neither is nothing.
+    if (!isKindOf<NSString>(reported)) return;
+    const auto title = objc::as<NSString>(reported);
     auto& engine = sharedInstance();
-    if (!title || engine.lastSongTitleName->isEqualToString(title)) return;
+    if (engine.lastSongTitleName->isEqualToString(title)) return;
     engine.lastSongTitleName = objc::retain(title);
     engine.handleTrackChangedIfNeeded();
   });
 }
 
-void Dozewell2Manager::handleTrackChangedIfNeeded() {
+void Engine::handleTrackChangedIfNeeded() {
   if (nbSongsModeIsRunning) {
     nbSongsPlayed += 1;
     // Before the end is looked for: a restart of the host resumes with what is left.
@@ -36,8 +42,7 @@ void Dozewell2Manager::handleTrackChangedIfNeeded() {
   if (shouldPauseMusicAtTheEndOfThisTrack) timerOrNbTracksDidEnd();
 }
 
-long Dozewell2Manager::getTimerRemainingTracks() const {
-  // Wraps like the phone's arithmetic: an absurd count may be stored.
-  return long(static_cast<unsigned long>(nbSongsToPlayBeforeStop) -
-              static_cast<unsigned long>(nbSongsPlayed));
+long Engine::getTimerRemainingTracks() const {
+  // An absurd count may be stored.
+  return wrappingDifference(nbSongsToPlayBeforeStop, nbSongsPlayed);
 }

@@ -1,8 +1,9 @@
 // The choose-time page as the songs picker's data source and delegate.
-#include "tweak/panel/ChooseSnoozeTimeView.h"
+#include "tweak/panel/ChooseSnoozeTimeViewImplementation.h"
 #include "tweak/support/BundleHelper.h"
-#include "tweak/support/Decimal.h"
 #include "tweak/support/LocalizationHelper.h"
+
+using Page = ChooseSnoozeTimeViewImplementation;
 
 namespace {
 
@@ -11,31 +12,30 @@ constexpr double captionSeconds = 0.2;
 
 }  // namespace
 
-long ChooseSnoozeTimeView::nbSongsSelected() {
+long Page::nbSongsSelected() {
   return nbSongsPickerView->selectedRowInComponent(0) + 1;
 }
 
-long ChooseSnoozeTimeView::numberOfComponentsInPickerView(UIPickerView) {
+long Page::numberOfComponentsInPickerView(UIPickerView) {
   return 1;
 }
 
-long ChooseSnoozeTimeView::pickerView_numberOfRowsInComponent(UIPickerView, long) {
+long Page::pickerView_numberOfRowsInComponent(UIPickerView, long) {
   return 99;
 }
 
-double ChooseSnoozeTimeView::pickerView_rowHeightForComponent(UIPickerView, long) {
+double Page::pickerView_rowHeightForComponent(UIPickerView, long) {
   return rowHeight;
 }
 
-// Never shown: a row's view takes precedence.
-NSString ChooseSnoozeTimeView::pickerView_titleForRow_forComponent(UIPickerView, long row, long) {
-  return NSString::string(Decimal(row).text());
+// Never shown: a row's view takes precedence. Hence it counts from 0, where the view counts from 1.
+NSString Page::pickerView_titleForRow_forComponent(UIPickerView, long row, long) {
+  return NSString::stringWithFormat("%ld"_ns, row);
 }
 
 // The numbers end just left of the caption. Rows are not reused.
-UIView ChooseSnoozeTimeView::pickerView_viewForRow_forComponent_reusingView(UIPickerView picker,
-                                                                            long row, long,
-                                                                            UIView) {
+UIView Page::pickerView_viewForRow_forComponent_reusingView(UIPickerView picker, long row, long,
+                                                            UIView) {
   const double width = container().width * 0.5 + picker.frame().size.width / -5.84;
   auto holder = UILabel::make(rect(0, 0, width, rowHeight));
   const auto number = UILabel::make(rect(0, 0, numberWidth, rowHeight));
@@ -47,16 +47,18 @@ UIView ChooseSnoozeTimeView::pickerView_viewForRow_forComponent_reusingView(UIPi
   return objc::autorelease(std::move(holder));
 }
 
-void ChooseSnoozeTimeView::pickerView_didSelectRow_inComponent(UIPickerView, long row, long) {
+void Page::pickerView_didSelectRow_inComponent(UIPickerView, long row, long) {
   addOrRemovePluralForRow(row);
 }
 
-void ChooseSnoozeTimeView::addOrRemovePluralForRow(long row) {
+void Page::addOrRemovePluralForRow(long row) {
   const auto isPlural = [](UILabel caption) {
     return caption.text().isEqualToString(BundleHelper::getLocalizedStringFor("SONGS"_ns));
   };
   if (row >= 1 && isPlural(musicLabel)) return;
-  // From one song to one song the transition runs and changes nothing, deliberately.
+  // From one song to one song the transition runs and changes nothing. Left out, nothing that a
+  // user could see would be missing: a dissolve between the same two words (choose-caption-
+  // dissolves, choose-caption-stays-plural).
   UIKit::transition(musicLabel.get(), captionSeconds, UIKit::transitionCrossDissolve,
                     [caption = musicLabel, isPlural, row] {
                       if (row == 0 && isPlural(caption))

@@ -1,6 +1,8 @@
 // The panel coming and going.
 #include "tweak/engine/Dozewell2Manager.h"
-#include "tweak/panel/Dozewell2ViewController.h"
+#include "tweak/panel/Dozewell2ViewControllerImplementation.h"
+
+using Panel = Dozewell2ViewControllerImplementation;
 
 namespace {
 
@@ -28,8 +30,8 @@ CGRect below(CGRect frame) {
 
 }  // namespace
 
-void Dozewell2ViewController::showChooseSnoozeTimeView_transitionView_slideAnimated(
-    bool show, UIView transition, bool slide) {
+void Panel::showChooseSnoozeTimeView_transitionView_slideAnimated(bool show, UIView transition,
+                                                                  bool slide) {
   chooseSnoozeTimeViewShowed = show;
   currentTimerView->setHidden(true);
   if (!show) return show_slideAnimated_transitionView(false, slide, transition);
@@ -47,15 +49,14 @@ void Dozewell2ViewController::showChooseSnoozeTimeView_transitionView_slideAnima
 }
 
 // Unlike the other page, this one does not note the frames of the host's views.
-void Dozewell2ViewController::showCurrentTimerView_transitionView_slideAnimated(bool show,
-                                                                                UIView transition,
-                                                                                bool slide) {
+void Panel::showCurrentTimerView_transitionView_slideAnimated(bool show, UIView transition,
+                                                              bool slide) {
   currentTimerViewShowed = show;
   chooseSnoozeTimeView->setHidden(true);
   if (show) {
     currentTimerView->setHidden(false);
-    setUpCurrentTimerView();
-    hideBottomButtons(false);
+    currentTimerView->setupViewWithMode(selectedMode());
+    currentTimerView->hideBottomButtons(false);
     containerFrame = view().frame();
     containerView = objc::retain(transition);
     currentTimerView->setFrame(rect(0, 0, containerFrame.size.width, containerFrame.size.height));
@@ -64,14 +65,14 @@ void Dozewell2ViewController::showCurrentTimerView_transitionView_slideAnimated(
   show_slideAnimated_transitionView(show, slide, transition);
 }
 
-void Dozewell2ViewController::show_slideAnimated_transitionView(bool show, bool slide, UIView) {
+void Panel::show_slideAnimated_transitionView(bool show, bool slide, UIView) {
   if (show && slide) return slideIn();
   if (show) return fadeIn();
   if (slide) return slideOut();
   fadeOut();
 }
 
-void Dozewell2ViewController::fadeIn() {
+void Panel::fadeIn() {
   view().setAlpha(0);
   view().setFrame(containerFrame);
   UIKit::animate(
@@ -87,7 +88,7 @@ void Dozewell2ViewController::fadeIn() {
       }));
 }
 
-void Dozewell2ViewController::slideIn() {
+void Panel::slideIn() {
   view().setFrame(below(containerFrame));
   UIKit::animate(
       seconds, 0, noOptions,
@@ -104,7 +105,7 @@ void Dozewell2ViewController::slideIn() {
       }));
 }
 
-void Dozewell2ViewController::slideOut() {
+void Panel::slideOut() {
   setHidden(transitionViews, false);
   UIKit::animate(
       seconds, 0, noOptions,
@@ -118,7 +119,7 @@ void Dozewell2ViewController::slideOut() {
       UIKit::completion([panel = retained()] { panel->view().setHidden(true); }));
 }
 
-void Dozewell2ViewController::fadeOut() {
+void Panel::fadeOut() {
   setHidden(transitionViews, false);
   setAlpha(transitionViews, 0);
   UIKit::animate(
@@ -133,7 +134,7 @@ void Dozewell2ViewController::fadeOut() {
       }));
 }
 
-void Dozewell2ViewController::dismissCurrentView() {
+void Panel::dismissCurrentView() {
   if (chooseSnoozeTimeViewShowed) {
     showChooseSnoozeTimeView_transitionView_slideAnimated(false, nullptr, false);
     // The actions page is a layer over the choose-time page, not a state of its own.
@@ -143,8 +144,7 @@ void Dozewell2ViewController::dismissCurrentView() {
   }
 }
 
-void Dozewell2ViewController::dismissDozewell() {
+void Panel::dismissDozewell() {
   dismissCurrentView();
-  objc::send<void, "dozewell_expandDozewell:">(
-      Dozewell2Manager::sharedInstance().currentNowPlayingVC.get(), false);
+  Dozewell2Manager::sharedInstance().currentNowPlayingVC().dozewell_expandDozewell(false);
 }

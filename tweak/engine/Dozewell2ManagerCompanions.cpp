@@ -1,16 +1,11 @@
 // Two other makers' extensions that change the same media module: what the package manager's
 // records and their own preference files say of them.
-#include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/engine/Dozewell2ManagerImplementation.h"
 
 namespace {
 
 bool exists(NSString path) {
   return NSFileManager::defaultManager().fileExistsAtPath(path);
-}
-
-// A value of any type: what has no boolean value is not true.
-bool isTrue(objc::Object value) {
-  return objc::respondsTo<"boolValue">(value) && objc::send<bool, "boolValue">(value);
 }
 
 bool isGrupiInstalled() {
@@ -29,20 +24,20 @@ bool isGrupiInstalled() {
 }  // namespace
 
 // Installed without readable preferences counts as on.
-bool Dozewell2Manager::sylphTweakEnabled() {
+bool Dozewell2ManagerImplementation::sylphTweakEnabled() {
   if (!exists("/var/jb/var/lib/dpkg/info/ch.vorhal.sylph.list"_ns)) return false;
   const auto preferences = NSDictionary::dictionaryWithContentsOfFile(
       "/var/jb/var/mobile/Library/Preferences/ch.vorhal.sylph.plist"_ns);
   const auto enabled = preferences.objectForKey("enabled"_ns);
-  return enabled ? isTrue(enabled) : true;
+  return enabled ? NSNumber::boolValueOf(enabled) : true;
 }
 
 // Installed without readable preferences counts as off: the small controller is an option.
-bool Dozewell2Manager::grupiTweakEnabled() {
+bool Dozewell2ManagerImplementation::grupiTweakEnabled() {
   if (!isGrupiInstalled()) return false;
   const auto preferences = NSDictionary::dictionaryWithContentsOfFile(
       "/var/jb/var/mobile/Library/Preferences/com.zentrik.grupi.plist"_ns);
   const auto enabled = preferences.objectForKey("Enabled"_ns);
-  if (enabled && !isTrue(enabled)) return false;
-  return isTrue(preferences.objectForKey("SmallMusicController"_ns));
+  if (enabled && !NSNumber::boolValueOf(enabled)) return false;
+  return NSNumber::boolValueOf(preferences.objectForKey("SmallMusicController"_ns));
 }

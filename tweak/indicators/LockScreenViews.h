@@ -1,0 +1,39 @@
+// The two places of the lock screen that show what is left: the host's views with the operations
+// that the extension adds to them.
+#pragma once
+
+#include "platform/LockScreen.h"
+
+// The countdown, for a duration. Main thread.
+struct DozewellTimerController : CSTimerViewController {
+  using CSTimerViewController::CSTimerViewController;
+
+  // The one that the host made last, kept alive until it makes the next; nil before the lock
+  // screen was first shown.
+  static DozewellTimerController newest();
+  static void setNewest(CSTimerViewController controller);
+
+  // The host then counts down by itself.
+  void dozewell_startTimerWithDate(NSDate end) const {
+    objc::send<void, "dozewell_startTimerWithDate:">(*this, end);
+  }
+  void dozewell_stopTimer() const { objc::send<void, "dozewell_stopTimer">(*this); }
+};
+
+// The date line, for songs. Main thread.
+struct DozewellDateView : SBFLockScreenDateSubtitleDateView {
+  using SBFLockScreenDateSubtitleDateView::SBFLockScreenDateSubtitleDateView;
+
+  // The one that the host dated last, kept alive until it dates another; nil before.
+  static DozewellDateView newest();
+  static void setNewest(SBFLockScreenDateSubtitleDateView view);
+
+  // Puts the songs that are left in place of the date, which the host may draw again at any time.
+  void dozewell_setNbTracksLeftText() const {
+    objc::send<void, "dozewell_setNbTracksLeftText">(*this);
+  }
+  void dozewell_setText(NSString text) const { objc::send<void, "dozewell_setText:">(*this, text); }
+  void dozewell_restoreOriginalText() const {
+    objc::send<void, "dozewell_restoreOriginalText">(*this);
+  }
+};

@@ -28,7 +28,9 @@ class Judge:
 
     def judge_all(self, mutants, report):
         with concurrent.futures.ThreadPoolExecutor(self.project.jobs) as pool:
-            runs = {pool.submit(self.judge, mutant): mutant for mutant in mutants}
+            # Mixed: what is known when a run is broken off says something about the whole.
+            mixed = sorted(mutants, key=lambda mutant: mutant.digest)
+            runs = {pool.submit(self.judge, mutant): mutant for mutant in mixed}
             for run in concurrent.futures.as_completed(runs):
                 mutant, result = runs[run], run.result()
                 with self.lock:

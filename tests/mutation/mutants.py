@@ -109,6 +109,9 @@ class Finder:
             directive = line.startswith(b"#") and not line.startswith(b"#define")
             if directive or tokens[at - 1][2] in ("extern", "requires"):
                 continue
+            # `.method<"name", …>`: under another name it is the same as left out.
+            if tokens[at - 1][2] == "<" and tokens[at - 3][2] == ".":
+                continue
             if any(first <= start < last for first, last in self.skipped):
                 continue
             replacement = operators.constant(spelling)

@@ -172,7 +172,8 @@ def binary(source, cursor):
         return
     start, end, spelling = found
     if spelling in COMPARISONS:
-        yield "boundary", start, end, COMPARISONS[spelling], source.of(cursor)
+        operator = "negate" if spelling in ("==", "!=") else "boundary"
+        yield operator, start, end, COMPARISONS[spelling], source.of(cursor)
     elif spelling in ARITHMETIC:
         yield "arithmetic", start, end, ARITHMETIC[spelling], source.of(cursor)
     elif spelling in ("&&", "||"):

@@ -4,7 +4,6 @@ the headers that no mutant changes read in advance. That makes a mutant a matter
 import concurrent.futures
 import hashlib
 import json
-import os
 import pathlib
 import re
 import shlex
@@ -31,12 +30,12 @@ template <class T> using Nothing = typename Bare<T>::Type;  // what an argument 
 class Project:
     """One library of a build folder, and the folder of sources in which mutants are made."""
 
-    def __init__(self, build, library, subject):
+    def __init__(self, build, library, subject, jobs):
         self.root = pathlib.Path(__file__).resolve().parents[2]
         self.build = build.resolve()
         self.library = library.resolve()
         self.subject = self.root / subject
-        self.jobs = os.cpu_count()
+        self.jobs = jobs
         self.work = self.build / "mutation" / self.library.stem
         self.work.mkdir(parents=True, exist_ok=True)
         self.objects, self.link_words = self.link_command()

@@ -5,6 +5,7 @@ random night of the model notices. README.md beside this file says more."""
 import argparse
 import collections
 import json
+import os
 import pathlib
 import sys
 import time
@@ -37,6 +38,7 @@ def options():
                         help="those that this file names, one a line; other lines do not matter")
     choice.add_argument("--only-survivors", action="store_true",
                         help="those that survived when they were last tried")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="mutants at a time")
     parser.add_argument("--list", action="store_true", help="name them, with their changes; try none")
     parser.add_argument("--at-least", type=float, metavar="PERCENT", default=0,
                         help="fail if fewer are noticed")
@@ -98,7 +100,7 @@ def main():
     started = time.monotonic()
     build = wanted.build.resolve()
     library = wanted.library or build / "simulator/Dozewell2.so"
-    project = Project(build, library, wanted.subject)
+    project = Project(build, library, wanted.subject, wanted.jobs)
     project.precompile()
     everything, users = mutations.all_mutants(project)
     accepted = survivors.read(wanted.survivors) if wanted.survivors.exists() else {}

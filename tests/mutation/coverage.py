@@ -28,6 +28,7 @@ class Coverage:
         stamp = self.folder / "world"
         if not stamp.exists() or stamp.read_text() != world:
             shutil.rmtree(self.folder, ignore_errors=True)
+            self.folder.mkdir()
             self.build()
             stamp.write_text(world)
         with concurrent.futures.ThreadPoolExecutor(self.project.jobs) as pool:
@@ -38,7 +39,7 @@ class Coverage:
         self.read_lines()
 
     def build(self):
-        objects = self.project.build_all(self.folder, COVERAGE)
+        objects = self.project.build_all("covered", COVERAGE)
         probe = self.folder / "Probe.o"
         source = self.project.root / "tests/mutation/Probe.cpp"
         for done in (self.project.compile(source, probe),

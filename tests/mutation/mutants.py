@@ -4,9 +4,11 @@ import concurrent.futures
 import dataclasses
 import difflib
 import hashlib
+import pickle
 import re
 
 import operators
+from project import fingerprint
 from syntax import FUNCTIONS, NAMED, CursorKind, Source, TokenKind, parse, span
 
 LONGEST = 90  # characters of a name's text
@@ -174,6 +176,19 @@ def all_mutants(project):
             for mutant in mutants:
                 found.setdefault(mutant.identity, mutant)
     return sorted(found.values(), key=lambda one: one.identity), users
+
+
+def known_mutants(project, tools):
+    """The same, without looking again as long as neither the sources nor the tool changes."""
+    stamp = fingerprint(tools, [project.texts()])
+    file = project.work / "mutants.pickle"
+    if file.exists():
+        known, found = pickle.loads(file.read_bytes())
+        if known == stamp:
+            return found
+    found = all_mutants(project)
+    file.write_bytes(pickle.dumps((stamp, found)))
+    return found
 
 
 def sample(mutants, count):

@@ -40,6 +40,7 @@ class Project:
         self.work.mkdir(parents=True, exist_ok=True)
         self.objects, self.link_words = self.link_command()
         self.sources, self.flags = self.compile_commands()
+        self.stamp = ""  # of the headers from elsewhere
 
     def link_command(self):
         name = str(self.library.relative_to(self.build))
@@ -71,18 +72,34 @@ class Project:
     # Headers read in advance
 
     def precompile(self):
-        lines = set()
-        for file in self.subject.rglob("*"):
-            if file.suffix in (".h", ".cpp"):
-                lines |= set(re.findall(r"^#include .*$", file.read_text(), re.MULTILINE))
-        own = f'#include "{self.subject.relative_to(self.root)}/'
-        outside = sorted(line for line in lines if not line.startswith(own))
+        own = f'"{self.subject.relative_to(self.root)}/'
+        names = set()
+        for file in self.files(self.subject):
+            names |= set(re.findall(r"^#include (.*)$", file.read_text(), re.MULTILINE))
+        outside = sorted(name for name in names if not name.startswith(own))
         header = self.work / "outside.h"
-        header.write_text("\n".join(outside) + PREAMBLE)
+        header.write_text("".join(f"#include {name}\n" for name in outside) + PREAMBLE)
+        folders = {name[1:].split("/")[0] for name in outside if name.startswith('"')}
+        headers = [file for folder in sorted(folders) for file in self.files(self.root / folder)]
+        self.stamp = fingerprint([header, *headers], [*self.flags, COMPILER, *COVERAGE])
+        self.unless_current("precompiled", self.stamp, self.precompile_headers)
+
+    def precompile_headers(self):
         for coverage in ([], COVERAGE):
-            output = self.header(coverage)
             run([COMPILER, *self.flags, *OWN[:2], "-Xclang", OWN[2], "-fpch-instantiate-templates",
-                 *coverage, "-x", "c++-header", header, "-o", output])
+                 *coverage, "-x", "c++-header", self.work / "outside.h", "-o", self.header(coverage)])
+
+    def unless_current(self, name, stamp, make):
+        """Makes it unless it has been made with this stamp."""
+        file = self.work / f"{name}.stamp"
+        if file.exists() and file.read_text() == stamp:
+            return
+        make()
+        file.write_text(stamp)
+
+    @staticmethod
+    def files(folder):
+        return sorted(file for file in folder.rglob("*") if file.suffix in (".h", ".cpp"))
 
     def header(self, coverage):
         return self.work / ("covered.pch" if coverage else "outside.pch")
@@ -106,14 +123,18 @@ class Project:
     def object_name(self, source):
         return "-".join(source.relative_to(self.root).with_suffix(".o").parts)
 
-    def build_all(self, folder, options=()):
-        """Every source as it is; the objects, by source."""
-        folder.mkdir(parents=True, exist_ok=True)
-        objects = {source: folder / self.object_name(source) for source in self.sources}
-        with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
-            runs = pool.map(lambda one: self.compile(one[0], one[1], options=options), objects.items())
-            for failed in (one for one in runs if one.returncode != 0):
-                sys.exit(failed.stderr)
+    def build_all(self, name, options=()):
+        """Every source as it is; the objects, by source, in the folder of this name."""
+        objects = {source: self.work / name / self.object_name(source) for source in self.sources}
+        (self.work / name).mkdir(exist_ok=True)
+
+        def make():
+            with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
+                for done in pool.map(lambda one: self.compile(*one, options=options), objects.items()):
+                    if done.returncode != 0:
+                        sys.exit(done.stderr)
+
+        self.unless_current(name, self.texts(), make)
         return objects
 
     def link(self, objects, library, more=()):
@@ -124,13 +145,12 @@ class Project:
         return [str(self.build / word) if word.endswith(".a") else word for word in self.link_words]
 
     def texts(self):
-        """A hash of the sources, with where their lines are."""
-        return fingerprint(sorted(file for file in self.subject.rglob("*")
-                                  if file.suffix in (".h", ".cpp")))
+        """A hash of all that a library is made from."""
+        return fingerprint(self.files(self.subject), [self.stamp, *map(str, self.sources)])
 
 
-def fingerprint(files):
-    digest = hashlib.sha256()
+def fingerprint(files, words=()):
+    digest = hashlib.sha256("\0".join(words).encode())
     for file in files:
         content = file.read_bytes() if file and file.is_file() else b""
         digest.update(b"%d\0" % len(content) + content)

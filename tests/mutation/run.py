@@ -102,7 +102,7 @@ def main():
     library = wanted.library or build / "simulator/Dozewell2.so"
     project = Project(build, library, wanted.subject, wanted.jobs)
     project.precompile()
-    everything, users = mutations.all_mutants(project)
+    everything, users = mutations.known_mutants(project, sorted(HERE.glob("*.py")))
     accepted = survivors.read(wanted.survivors) if wanted.survivors.exists() else {}
     memory = project.work / "results.json"
     results = json.loads(memory.read_text()) if memory.exists() else {}
@@ -116,10 +116,10 @@ def main():
     model = None if wanted.no_model else build / "tests/model/model_nights"
     player = Player(project, build / "simulator/dozewell-simulator", build / "package", model,
                     sorted(wanted.scripts.glob("*.phone")))
-    objects = project.build_all(project.work / "objects")
-    world = fingerprint([*objects.values(), player.simulator, model, HERE / "Probe.cpp"])
+    objects = project.build_all("objects")
+    world = fingerprint([*objects.values(), player.simulator, model])
     coverage = Coverage(project, player)
-    coverage.record(world + project.texts())
+    coverage.record(world + fingerprint([HERE / "Probe.cpp"], [project.texts()]))
     print(f"{len(tried)} of {len(everything)} mutants against {len(player.tests)} tests, after"
           f" {time.monotonic() - started:.0f} s", flush=True)
 

@@ -12,7 +12,8 @@ import unittest
 
 HERE = pathlib.Path(__file__).resolve().parent
 SAMPLE = HERE / "sample"
-EQUIVALENT = "tests/mutation/sample/Sample.cpp | capped | boundary | value > 10 : > -> >="
+EQUIVALENT = ("tests/mutation/sample/Sample.cpp | keepLater | swap | "
+              "dispatch::onMain([value] { keep(value); }) <-> keep(9)")
 SWAPPED = "tests/mutation/sample/Sample.cpp | keepTwo | swap | keep(1) <-> keep(2)"
 
 

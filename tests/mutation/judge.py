@@ -9,6 +9,7 @@ import tempfile
 import threading
 
 from player import MODEL
+from project import OPTIMISED
 
 NOTICED, SURVIVED, UNBUILDABLE, SAME = "noticed", "survived", "does not compile", "same code"
 
@@ -23,6 +24,8 @@ class Judge:
         self.results = results
         self.objects = objects
         self.lock = threading.Lock()
+        self.optimised_known = set()
+        self.optimised_locks = {source: threading.Lock() for source in project.sources}
         self.noticers = {}  # (file, enclosing): how often each test has noticed something there
         self.breadths = {name: coverage.breadth(name) for name in player.tests}
 
@@ -104,14 +107,22 @@ class Judge:
 
     def optimised_equal(self, folder, mutant):
         """Whether nobody can tell them apart: optimised, both are the same machine code."""
-        overlay = folder / "overlay.yaml"
         for source in self.users[mutant.file]:
-            pair = folder / "one.o", folder / "other.o"
-            for output, replaced in zip(pair, (None, overlay)):
-                self.project.compile(source, output, replaced, ["-O2"])
-            if not same_bytes(*pair):
+            changed = folder / "optimised.o"
+            self.project.compile(source, changed, folder / "overlay.yaml", OPTIMISED)
+            if not same_bytes(changed, self.optimised(source)):
                 return False
         return True
+
+    def optimised(self, source):
+        """The unchanged source's object; made when it is first asked for."""
+        with self.optimised_locks[source]:
+            output = self.project.work / "optimised" / self.project.object_name(source)
+            if source not in self.optimised_known:
+                output.parent.mkdir(exist_ok=True)
+                self.project.compile(source, output, options=OPTIMISED)
+                self.optimised_known.add(source)
+            return output
 
     # What to play, and in which order
 

@@ -10,7 +10,7 @@ import time
 
 PATIENCE = 20  # times as long as with the right library, and some seconds: then it hangs
 GRACE = 5  # seconds
-NIGHTS = 60
+NIGHTS = 30
 MODEL = "model"  # stands where else a script's name does
 
 

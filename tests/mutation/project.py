@@ -13,8 +13,8 @@ import sys
 COMPILER = "clang++-14"
 # Of the build's own: what its compiler alone knows, what costs time, and names of files.
 LEFT_OUT = re.compile(r"-[OgW].*|-Winvalid-pch|-MD")
-OWN = ["-w", "-O0", "-fno-pch-timestamp"]
 COVERAGE = ["-gline-tables-only", "-fsanitize-coverage=trace-pc-guard,pc-table,no-prune"]
+OPTIMISED = ["-O2"]
 PREAMBLE = """
 namespace mutation {
 template <class T> struct Bare { using Type = T; };
@@ -81,13 +81,17 @@ class Project:
         header.write_text("".join(f"#include {name}\n" for name in outside) + PREAMBLE)
         folders = {name[1:].split("/")[0] for name in outside if name.startswith('"')}
         headers = [file for folder in sorted(folders) for file in self.files(self.root / folder)]
-        self.stamp = fingerprint([header, *headers], [*self.flags, COMPILER, *COVERAGE])
+        self.stamp = fingerprint([header, *headers], [*self.flags, COMPILER, *COVERAGE, *OPTIMISED])
         self.unless_current("precompiled", self.stamp, self.precompile_headers)
 
     def precompile_headers(self):
-        for coverage in ([], COVERAGE):
-            run([COMPILER, *self.flags, *OWN[:2], "-Xclang", OWN[2], "-fpch-instantiate-templates",
-                 *coverage, "-x", "c++-header", self.work / "outside.h", "-o", self.header(coverage)])
+        def make(options):
+            run([COMPILER, *self.flags, "-w", "-O0", "-Xclang", "-fno-pch-timestamp",
+                 "-fpch-instantiate-templates", *options,
+                 "-x", "c++-header", self.work / "outside.h", "-o", self.header(options)])
+
+        with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
+            list(pool.map(make, ([], COVERAGE, OPTIMISED)))
 
     def unless_current(self, name, stamp, make):
         """Makes it unless it has been made with this stamp."""
@@ -101,8 +105,9 @@ class Project:
     def files(folder):
         return sorted(file for file in folder.rglob("*") if file.suffix in (".h", ".cpp"))
 
-    def header(self, coverage):
-        return self.work / ("covered.pch" if coverage else "outside.pch")
+    def header(self, options):
+        kind = {"": "plain", COVERAGE[0]: "covered", OPTIMISED[0]: "optimised"}
+        return self.work / f"{kind[options[0] if options else '']}.pch"
 
     def parse_arguments(self):
         return [*self.flags, "-w", "-include-pch", str(self.header([]))]
@@ -111,11 +116,7 @@ class Project:
 
     def compile(self, source, output, replaced=None, options=()):
         """The compiler's run. `replaced` is a virtual file system in which one file is another."""
-        words = [COMPILER, *self.flags, "-w", "-O0", *options]
-        if "-O2" in options:  # what was precompiled was not optimised
-            words += ["-include", self.work / "outside.h"]
-        else:
-            words += ["-include-pch", self.header(options)]
+        words = [COMPILER, *self.flags, "-w", "-O0", *options, "-include-pch", self.header(options)]
         if replaced:
             words += ["-ivfsoverlay", replaced]
         return subprocess.run([*words, "-c", source, "-o", output], text=True, capture_output=True)

@@ -14,6 +14,11 @@ std::vector<FidelityRecord>& records() {
   return all;
 }
 
+StandIns& allStandIns() {
+  static StandIns all;
+  return all;
+}
+
 const char* gradeName(Grade grade) {
   switch (grade) {
     case Grade::real:
@@ -61,11 +66,17 @@ constexpr const char* tableHead = "\n| what | grade | difference |\n|---|---|---
 
 }  // namespace
 
+FidelityPage::FidelityPage(const char* framework, const char* cls)
+    : framework_(framework), cls_(cls) {
+  allStandIns()[cls];
+}
+
 bool FidelityPage::isPresent() const {
   return Phone::current().setup.hasClass(cls_);
 }
 
 bool FidelityPage::record(char kind, const char* name, const Rating& rating) const {
+  allStandIns()[cls_].insert(name);
   if (!isPresent() || !Phone::current().setup.hasMethod(cls_, name)) return false;
   records().push_back({framework_, cls_, kind, name, rating});
   return true;
@@ -73,6 +84,10 @@ bool FidelityPage::record(char kind, const char* name, const Rating& rating) con
 
 void recordFunction(const char* framework, const char* name, const Rating& rating) {
   records().push_back({framework, "", 'f', name, rating});
+}
+
+const StandIns& standIns() {
+  return allStandIns();
 }
 
 const std::vector<FidelityRecord>& fidelityRecords() {

@@ -1,6 +1,8 @@
 // How faithful each stand-in is: recorded where it is registered, printed as docs/fidelity.md.
 #pragma once
 
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,7 +26,7 @@ struct FidelityRecord {
 // One class's part of the record, which also asks the set-up what is missing.
 class FidelityPage {
  public:
-  FidelityPage(const char* framework, const char* cls) : framework_(framework), cls_(cls) {}
+  FidelityPage(const char* framework, const char* cls);
 
   bool isPresent() const;
   // False when the phone's set-up says that the class lacks this method.
@@ -34,6 +36,11 @@ class FidelityPage {
   const char* framework_;
   const char* cls_;
 };
+
+// Every class that asked, with the names of its methods and properties: also what the phone's
+// set-up leaves out. Empty before the phone boots.
+using StandIns = std::map<std::string, std::set<std::string>, std::less<>>;
+const StandIns& standIns();
 
 // C functions and data symbols of the host, which register themselves nowhere.
 void recordFunction(const char* framework, const char* name, const Rating& rating);

@@ -56,6 +56,12 @@ void HBPreferences::domainDidChangeElsewhere(const std::string& name) {
   });
 }
 
+std::vector<std::string> HBPreferences::keysAskedFor(const std::string& name) {
+  const auto found = instances().find(name);
+  if (found == instances().end()) return {};
+  return of(found->second.get()).domain->keysAskedFor();
+}
+
 objc::Object HBPreferences::identifier() {
   return string(domain->name());
 }

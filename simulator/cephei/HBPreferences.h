@@ -28,6 +28,10 @@ struct HBPreferences : objc::Implementation<HBPreferences> {
   // queue comes to it. Nothing happens when nobody in this process listens for that domain.
   static void domainDidChangeElsewhere(const std::string& identifier);
 
+  // The keys that this process has read, bound or given a default; none when it has not opened the
+  // domain.
+  static std::vector<std::string> keysAskedFor(const std::string& identifier);
+
   objc::Object identifier();
   objc::Object defaults() { return domain->defaults(); }
   objc::Object dictionaryRepresentation() { return domain->stored(); }

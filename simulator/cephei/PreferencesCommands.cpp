@@ -1,4 +1,5 @@
 // The script commands of the person who changes settings, in the settings application.
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <nlohmann/json.hpp>
@@ -8,6 +9,8 @@
 #include "simulator/cephei/HBPreferences.h"
 #include "simulator/cephei/PreferencesFile.h"
 #include "simulator/cephei/SettingsApp.h"
+#include "simulator/phone/KnownNames.h"
+#include "simulator/phone/NearestName.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/phone/script/Command.h"
 
@@ -56,11 +59,25 @@ SettingsValue takeValue(Arguments& words) {
                         word.text);
 }
 
+// Of a domain that an extension uses, it reads every key at some time or names it at least. Whoever
+// means another one on purpose writes the domain's file.
+void requireKey(const std::string& domain, const Word& key) {
+  Names read = HBPreferences::keysAskedFor(domain);
+  if (read.empty() && !isNamedByExtension(domain)) return;
+  if (isNamedByExtension(key.text) || std::find(read.begin(), read.end(), key.text) != read.end())
+    return;
+  if (read.empty()) read = extensionNames();
+  throw ScriptError(key.column, "no extension reads the setting " + key.text + " of " + domain +
+                                    didYouMean(key.text, read));
+}
+
 void set(Arguments& words) {
-  const std::string key = words.text("a key of the domain");
+  const Word keyWord = words.word("a key of the domain");
+  const std::string& key = keyWord.text;
   const SettingsValue value = takeValue(words);
   words.finish();
   const std::string domain = domainName();
+  Phone::current().allNames.add([domain, keyWord] { requireKey(domain, keyWord); });
   try {
     writeSetting(preferencesFile(domain), key, value);
   } catch (const std::runtime_error& error) {
@@ -71,8 +88,10 @@ void set(Arguments& words) {
 }
 
 void chooseDomain(Arguments& words) {
-  domainName() = words.text("the name of a preferences domain");
+  const Word name = words.word("the name of a preferences domain");
   words.finish();
+  domainName() = name.text;
+  Phone::current().allNames.add([name] { requireNoSlip("the domain", name, {}); });
 }
 
 }  // namespace
@@ -82,9 +101,11 @@ void addPreferencesCommands(CommandTable& table) {
   Phone::current().survives("preferences-domain",
                             {[] { return nlohmann::json(domainName()); },
                              [](const nlohmann::json& saved) { saved.get_to(domainName()); }});
-  table.add({"set", Stage::any, "set KEY YES|NO|NUMBER|STRING|data HEX|none",
-             "set volumeFadeOutTime 10",
-             "The user changes a setting; none removes it, so that its default holds again.", set});
+  table.add(
+      {"set", Stage::any, "set KEY YES|NO|NUMBER|STRING|data HEX|none", "set volumeFadeOutTime 10",
+       "The user changes a setting; none removes it, so that its default holds again. A key that "
+       "an extension which uses the domain does not read is an error.",
+       set});
   table.add({"preferences-domain", Stage::any, "preferences-domain NAME",
              "preferences-domain com.corvane.dozewell2",
              "Which preferences domain the following `set` lines change.", chooseDomain});

@@ -29,6 +29,7 @@ PreferencesDomain::PreferencesDomain(std::string name) : name_(std::move(name)) 
 }
 
 objc::Object PreferencesDomain::value(const std::string& key) const {
+  askedFor_.insert(key);
   for (const Values* values : {&stored_, &defaults_})
     if (const auto found = values->find(key); found != values->end()) return found->second.get();
   return nullptr;
@@ -39,6 +40,7 @@ void PreferencesDomain::set(const std::string& key, objc::Object value) {
 }
 
 void PreferencesDomain::setDefault(const std::string& key, objc::Object value) {
+  askedFor_.insert(key);
   assign(defaults_, key, value);
 }
 

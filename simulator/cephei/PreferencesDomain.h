@@ -2,7 +2,9 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "objc/Ownership.h"
 
@@ -17,6 +19,8 @@ class PreferencesDomain {
 
   // The stored value, else the registered default, else nil.
   objc::Object value(const std::string& key) const;
+  // The keys whose values were asked for, or have a default, in alphabetical order.
+  std::vector<std::string> keysAskedFor() const { return {askedFor_.begin(), askedFor_.end()}; }
   // nil removes the value. Not yet in the file.
   void set(const std::string& key, objc::Object value);
   void clear() { stored_.clear(); }
@@ -40,6 +44,7 @@ class PreferencesDomain {
   std::string name_;
   Values stored_;
   Values defaults_;
+  mutable std::set<std::string> askedFor_;
 };
 
 }  // namespace sim

@@ -5,6 +5,7 @@
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/UserDefaultsFile.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/phone/KnownNames.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/phone/script/Command.h"
 
@@ -47,9 +48,11 @@ PropertyListNode valueArgument(Arguments& arguments) {
 }
 
 void runDefault(Arguments& arguments) {
-  const std::string key = arguments.text("a key");
+  const Word keyWord = arguments.word("a key");
+  const std::string& key = keyWord.text;
   PropertyListNode value = valueArgument(arguments);
   arguments.finish();
+  Phone::current().allNames.add([keyWord] { requireNoSlip("the user default", keyWord, {}); });
   const bool hasClasses = objc_getClass("NSUserDefaults") != nullptr;  // the phone has booted
   if (hasClasses)
     userDefaultChanged(string(key), value ? propertyListObject(value.get()) : nullptr);

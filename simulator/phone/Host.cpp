@@ -5,7 +5,9 @@
 
 #include "objc/Ownership.h"
 #include "simulator/Frameworks.h"
+#include "simulator/phone/AbsentNames.h"
 #include "simulator/phone/ClassJournal.h"
+#include "simulator/phone/ExtensionNames.h"
 #include "simulator/phone/Phone.h"
 #include "simulator/phone/script/Tracing.h"
 
@@ -48,10 +50,15 @@ void Host::launch() {
   const objc::AutoreleasePool pool;
   const ClassJournal journal(Phone::current().setup.journalsClassChanges);
   traceMethods(Phone::current().setup.traced);
-  for (const std::filesystem::path& extension : extensions_) load(extension);
+  loadExtensions();
   launched_ = true;
   launchSpringBoard();
   Phone::current().queue.runDue();
+}
+
+void Host::loadExtensions() {
+  const AbsentNames absent;
+  for (const std::filesystem::path& extension : extensions_) load(extension);
 }
 
 void Host::load(const std::filesystem::path& extension) {
@@ -59,6 +66,7 @@ void Host::load(const std::filesystem::path& extension) {
   void* handle = dlopen(std::filesystem::absolute(extension).c_str(), RTLD_NOW | RTLD_LOCAL);
   if (handle == nullptr) throw HostError(std::string("the extension does not load: ") + dlerror());
   handles_.push_back(handle);
+  Phone::current().extensionNames.merge(namesWithin(handle));
 }
 
 std::optional<Host::Symbol> Host::symbol(const char* name) const {

@@ -40,6 +40,7 @@ class Host {
   const std::vector<std::filesystem::path>& extensions() const { return extensions_; }
 
  private:
+  void loadExtensions();
   void load(const std::filesystem::path& extension);
 
   std::vector<std::filesystem::path> extensions_;

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <nlohmann/json_fwd.hpp>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,7 @@
 #include "simulator/phone/Journal.h"
 #include "simulator/phone/MainQueue.h"
 #include "simulator/phone/Setup.h"
+#include "simulator/phone/script/NameChecks.h"
 
 namespace sim {
 
@@ -33,6 +35,9 @@ class Phone {
   MainQueue queue{clock};
   Journal journal{clock};
   Setup setup;
+  NameChecks systemNames;  // known when the host's classes are registered
+  NameChecks allNames;     // known when the extensions have loaded and the host is launched
+  std::set<std::string, std::less<>> extensionNames;  // see ExtensionNames.h
 
   // Where a path of the phone ("/var/jb/…") lies on this machine: below the root folder.
   // A path that would leave the root ("..") stays inside it.

@@ -55,7 +55,7 @@ TABLE(Blocks,
       Mistake{"Encoding", "boot\nsend Sample.new setTitle: block done \"v[\"",
               "SCRIPT:2:38: the encoding \"v[\" has a type that no method passes by value: ["},
       Mistake{"Traced", "trace NSObject +noSuchMethod\nboot",
-              "SCRIPT:2:1: there is no method +[NSObject noSuchMethod] to trace"});
+              "SCRIPT:1:16: there is no method +[NSObject noSuchMethod] to trace"});
 
 TABLE(Targets, Mistake{"Class", "boot\nget NoClass.x", "SCRIPT:2:5: there is no class NoClass"},
       Mistake{"Variable", "boot\nget $x", "SCRIPT:2:5: there is no variable $x"},

@@ -1,6 +1,7 @@
 #include "simulator/phone/script/HostCommands.h"
 
 #include "simulator/foundation/NSUserDefaults.h"
+#include "simulator/phone/script/JournalNames.h"
 #include "simulator/phone/script/PhoneCommands.h"
 #include "simulator/phone/script/Restart.h"
 #include "simulator/phone/script/Wildcard.h"
@@ -8,12 +9,18 @@
 namespace sim {
 namespace {
 
+void launchHost(Session& session) {
+  session.phone.systemNames.namesAreKnown();
+  session.state = HostState::running;
+  session.host.launch();
+  session.phone.allNames.namesAreKnown();
+}
+
 void boot(Arguments& arguments) {
   arguments.finish();
   Session& session = Session::current();
   session.host.registerClasses();
-  session.state = HostState::running;
-  session.host.launch();
+  launchHost(session);
 }
 
 void advance(Arguments& arguments) {
@@ -48,7 +55,9 @@ void kill(Arguments& arguments) {
 }
 
 void killAtText(Arguments& arguments) {
-  KillText text{arguments.text("a journal line"), 1};
+  const Word line = arguments.word("a journal line");
+  requireKnownNames(line);
+  KillText text{line.text, 1};
   if (arguments.takeKeyword("times")) text.times = arguments.integer("a number of lines");
   if (text.times < 1) arguments.failHere("expected at least one line");
   Session::current().killTexts.push_back(std::move(text));
@@ -101,8 +110,7 @@ void advanceTo(Nanoseconds uptime) {
 void relaunchHost(Nanoseconds uptime) {
   Session& session = Session::current();
   session.phone.queue.runUntil(uptime);
-  session.state = HostState::running;
-  session.host.launch();
+  launchHost(session);
 }
 
 void watchKillPoints() {

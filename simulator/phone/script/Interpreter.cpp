@@ -65,6 +65,8 @@ void Interpreter::run(const ScriptLine& line) {
     throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
   const Command& command = *known;
   session_.lineNumber = line.number;
+  session_.phone.systemNames.beginLine(line.number);
+  session_.phone.allNames.beginLine(line.number);
   try {
     requireStage(command);
     const objc::AutoreleasePool pool;

@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <optional>
 
+#include "simulator/phone/script/JournalNames.h"
 #include "simulator/phone/script/Literal.h"
 #include "simulator/phone/script/PhoneCommands.h"
 #include "simulator/phone/script/Session.h"
@@ -83,6 +84,7 @@ void expectJournal(Arguments& arguments) {
   const auto candidates = matching(wanted.text.text);
   const auto count = std::count_if(candidates.begin(), candidates.end(),
                                    [&wanted](const auto& entry) { return wanted.accepts(entry); });
+  if (count == 0) requireKnownNames(wanted.text);
   if (wanted.times ? count == *wanted.times : count > 0) return;
   throw ScriptError(wanted.text.column, "expected in the journal " + wanted.description() +
                                             ", found " + times(candidates) + lastLines());
@@ -94,6 +96,7 @@ void expectNoJournal(Arguments& arguments) {
   if (const auto found = matching(text.text); !found.empty())
     throw ScriptError(text.column, "expected nowhere in the journal " + sim::quoted(text.text) +
                                        ", found " + times(found));
+  requireKnownNames(text);
 }
 
 void expectJournalOrder(Arguments& arguments) {
@@ -104,10 +107,12 @@ void expectJournalOrder(Arguments& arguments) {
     from = std::find_if(from, entries.end(), [&text](const JournalEntry& entry) {
       return matchesWildcard(entry.text, text.text);
     });
-    if (from == entries.end())
+    if (from == entries.end()) {
+      requireKnownNames(text);
       throw ScriptError(text.column, "expected in the journal, after the lines before it, " +
                                          sim::quoted(text.text) + ", found " +
                                          times(matching(text.text)) + lastLines());
+    }
     ++from;
   }
 }

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "simulator/phone/Journal.h"
+#include "simulator/phone/KnownNames.h"
 #include "simulator/phone/script/ScriptBlock.h"
 #include "simulator/phone/script/Target.h"
 
@@ -88,8 +89,9 @@ Literal readLiteral(Arguments& arguments, std::string_view what) {
   if (text.starts_with('{')) return StructureReader(text, word.column).read();
   if (const auto number = parsedNumber(text)) return {word.column, text, *number};
   if (text == "selector") {
-    const std::string name = arguments.text("a selector's name");
-    return {word.column, "selector " + name, sel_registerName(name.c_str())};
+    const Word name = arguments.word("a selector's name");
+    requireNoSlip("the selector", name, selectorNames());
+    return {word.column, "selector " + name.text, sel_registerName(name.text.c_str())};
   }
   if (text == "block") return readBlock(word.column, arguments);
   return {word.column, text, evaluateTarget(word)};

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "simulator/phone/KnownNames.h"
 #include "simulator/phone/script/PhoneCommands.h"
 #include "simulator/phone/script/Session.h"
 #include "simulator/runtime/LiveObjects.h"
@@ -31,7 +32,7 @@ void expectLive(Arguments& words) {
   const long expected = words.integer("a number of objects");
   words.finish();
   const Class cls = objc_getClass(name.text.c_str());
-  if (cls == nullptr) throw ScriptError(name.column, "there is no class " + name.text);
+  if (cls == nullptr) throw ScriptError(name.column, noSuchClass(name.text));
   const std::size_t found = simulator::runtime::liveInstanceCount(cls);
   if (found != std::size_t(expected))
     throw ScriptError(0, "live objects of " + name.text + ": expected " + std::to_string(expected) +

@@ -2,6 +2,8 @@
 
 #include <iostream>
 
+#include "simulator/phone/KnownNames.h"
+#include "simulator/phone/NearestName.h"
 #include "simulator/phone/WorkerThread.h"
 #include "simulator/phone/script/Invocation.h"
 #include "simulator/phone/script/Literal.h"
@@ -33,7 +35,10 @@ Message readMessage(const Word& target, Arguments& arguments) {
   const SEL selector = sel_registerName(name.text.c_str());
   auto signature = methodSignature(receiver, selector);
   if (!signature)
-    throw ScriptError(name.column, receiverName(receiver) + " does not answer " + name.text);
+    throw ScriptError(name.column,
+                      receiverName(receiver) + " does not answer " + name.text +
+                          didYouMean(name.text, selectorNames(receiverName(receiver),
+                                                              object_isClass(receiver.get()))));
   std::vector<Value> values = readArguments(arguments, *signature);
   return {receiver, selector, std::move(*signature), std::move(values)};
 }

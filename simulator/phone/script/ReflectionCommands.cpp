@@ -1,6 +1,7 @@
 #include <stdexcept>
 
 #include "simulator/phone/Journal.h"
+#include "simulator/phone/KnownNames.h"
 #include "simulator/phone/script/PhoneCommands.h"
 #include "simulator/phone/script/Target.h"
 
@@ -10,7 +11,7 @@ namespace {
 Class readClass(Arguments& arguments) {
   const Word& name = arguments.word("the name of a class");
   const Class cls = objc_getClass(name.text.c_str());
-  if (cls == nullptr) throw ScriptError(name.column, "there is no class " + name.text);
+  if (cls == nullptr) throw ScriptError(name.column, noSuchClass(name.text));
   return cls;
 }
 
@@ -29,6 +30,7 @@ void expectNoClass(Arguments& arguments) {
   const Word& name = arguments.word("the name of a class");
   if (objc_getClass(name.text.c_str()) != nullptr)
     throw ScriptError(name.column, "expected no class " + name.text + ", found one");
+  requireNoSlip("the class", name, classNames());
 }
 
 std::string normalized(const Word& types) {
@@ -79,6 +81,7 @@ void expectResponds(Arguments& arguments) {
   const bool wanted = arguments.yesOrNo("an answer");
   const bool found = class_respondsToSelector(object_getClass(receiver.get()),
                                               sel_registerName(name.text.c_str()));
+  if (!found) requireNoSlip("the selector", name, selectorNames());
   if (found != wanted)
     throw ScriptError(column, "responds to " + name.text + ": expected " + notation(wanted) +
                                   ", found " + notation(found));

@@ -2,7 +2,12 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <optional>
 
+#include "objc/runtime.h"
+#include "simulator/phone/KnownNames.h"
+#include "simulator/phone/NearestName.h"
+#include "simulator/phone/script/LocaleNames.h"
 #include "simulator/phone/script/PhoneCommands.h"
 #include "simulator/phone/script/Session.h"
 
@@ -31,6 +36,8 @@ void locale(Arguments& arguments) {
       });
   if (!isIdentifier)
     throw ScriptError(word.column, "expected a locale such as en_US, found " + word.text);
+  if (!isLocale(word.text))
+    throw ScriptError(word.column, "there is no locale " + word.text + nearestLocale(word.text));
   setup().locale = word.text;
 }
 
@@ -46,12 +53,30 @@ void haptics(Arguments& arguments) {
   setup().feedbackSupportLevel = level;
 }
 
+// Whoever leaves out what no phone has leaves out nothing.
+void requireStandIn(const Word& cls, const std::optional<Word>& member) {
+  const Names classes = standInClasses();
+  if (std::find(classes.begin(), classes.end(), cls.text) == classes.end())
+    throw ScriptError(cls.column, "there is no class " + cls.text + " to leave out" +
+                                      didYouMean(cls.text, classes));
+  if (!member) return;
+  const Names members = standInMembers(cls.text);
+  if (std::find(members.begin(), members.end(), member->text) == members.end())
+    throw ScriptError(member->column, cls.text + " itself has no method or property " +
+                                          member->text + " to leave out" +
+                                          didYouMean(member->text, members));
+}
+
 void missing(Arguments& arguments) {
-  const std::string cls = arguments.text("the name of a class");
-  if (arguments.atEnd())
-    setup().missingClasses.insert(cls);
-  else
-    setup().missingMethods.insert(cls + ' ' + arguments.text("a selector"));
+  const Word cls = arguments.word("the name of a class");
+  std::optional<Word> member;
+  if (arguments.atEnd()) {
+    setup().missingClasses.insert(cls.text);
+  } else {
+    member = arguments.word("a selector");
+    setup().missingMethods.insert(cls.text + ' ' + member->text);
+  }
+  Phone::current().systemNames.add([cls, member] { requireStandIn(cls, member); });
 }
 
 void journalClassChanges(Arguments& arguments) {
@@ -59,10 +84,27 @@ void journalClassChanges(Arguments& arguments) {
   setup().journalsClassChanges = true;
 }
 
+// Before extensions load: what they add themselves cannot be traced.
+void requireMethod(const Word& cls, const Word& selector) {
+  if (objc_getClass(cls.text.c_str()) == nullptr)
+    throw ScriptError(cls.column, isKnownClass(cls.text) ? "this phone lacks the class " + cls.text
+                                                         : noSuchClass(cls.text));
+  const bool ofClass = selector.text.starts_with('+');
+  const std::string name = selector.text.substr(ofClass ? 1 : 0);
+  Class holder = objc_getClass(cls.text.c_str());
+  if (ofClass) holder = object_getClass(reinterpret_cast<id>(holder));
+  if (class_getInstanceMethod(holder, sel_registerName(name.c_str())) != nullptr) return;
+  throw ScriptError(selector.column, std::string("there is no method ") + (ofClass ? "+[" : "-[") +
+                                         cls.text + ' ' + name + "] to trace" +
+                                         didYouMean(name, selectorNames(cls.text, ofClass)));
+}
+
 void trace(Arguments& arguments) {
-  const std::string cls = arguments.text("the name of a class");
-  setup().traced.emplace_back(cls, arguments.text("a selector"));
+  const Word cls = arguments.word("the name of a class");
+  const Word selector = arguments.word("a selector");
   arguments.finish();
+  setup().traced.emplace_back(cls.text, selector.text);
+  Phone::current().systemNames.add([cls, selector] { requireMethod(cls, selector); });
 }
 
 void file(Arguments& arguments) {
@@ -84,8 +126,8 @@ void file(Arguments& arguments) {
 void addSetupCommands(CommandTable& table) {
   table.add({"ios", Stage::setup, "ios VERSION", "ios 16.1.2", "Sets the version of the system.",
              systemVersion});
-  table.add({"locale", Stage::setup, "locale ID", "locale ar_SA", "Sets the language and region.",
-             locale});
+  table.add({"locale", Stage::setup, "locale ID", "locale ar_SA",
+             "Sets the language and region, of known codes: they need not go together.", locale});
   table.add({"process", Stage::setup, "process NAME", "process Preferences",
              "Names the process that the extension is loaded into; without it, SpringBoard.",
              process});

@@ -6,6 +6,7 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/phone/KnownNames.h"
 #include "simulator/phone/script/Invocation.h"
 #include "simulator/phone/script/KeyLookup.h"
 #include "simulator/phone/script/Session.h"
@@ -65,7 +66,7 @@ Value stepInto(const Value& value, const std::string& name, std::size_t column) 
 Value startOf(const std::string& name, std::size_t column) {
   if (name.starts_with('$')) return Session::current().variables.value(name.substr(1), column);
   const Class cls = objc_getClass(name.c_str());
-  if (cls == nullptr) throw ScriptError(column, "there is no class " + name);
+  if (cls == nullptr) throw ScriptError(column, noSuchClass(name));
   return Value::ofObject(objc::Object(reinterpret_cast<id>(cls)));
 }
 

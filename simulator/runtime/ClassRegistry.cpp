@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "simulator/runtime/Absences.h"
 #include "simulator/runtime/Class.h"
 #include "simulator/runtime/ClassChanges.h"
 #include "simulator/runtime/Fatal.h"
@@ -111,7 +112,9 @@ Class objc_lookUpClass(const char* name) {
 }
 
 Class objc_getClass(const char* name) {
-  return objc_lookUpClass(name);
+  Class cls = objc_lookUpClass(name);
+  if (cls == nullptr && name != nullptr) reportAbsence({nullptr, name});
+  return cls;
 }
 
 Class objc_getMetaClass(const char* name) {

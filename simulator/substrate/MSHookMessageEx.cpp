@@ -1,4 +1,5 @@
 #include "objc/runtime.h"
+#include "simulator/runtime/Absences.h"
 #include "simulator/runtime/ClassChanges.h"
 
 void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* previous) {
@@ -10,6 +11,7 @@ void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* previous) {
     method = class_getInstanceMethod(target, selector);
   }
   if (method == nullptr) {
+    if (cls != nullptr) simulator::runtime::reportAbsence({cls, sel_getName(selector)});
     return;
   }
   // Read before the replacement: afterwards the inherited method may be somebody else's hook.

@@ -201,7 +201,9 @@ TEST_F(Blocks, copiesInheritNoTraces) {
   Block block = stackBlock(7);
   objc_setAssociatedObject(asObject(block), &key, asObject(block), OBJC_ASSOCIATION_ASSIGN);
   EXPECT_EQ(block.reserved, 0);
+  block.reserved = 3;
   auto* copy = static_cast<id>(_Block_copy(&block));
+  EXPECT_EQ(reinterpret_cast<Block*>(copy)->reserved & 3, 0);
   EXPECT_EQ(objc_getAssociatedObject(copy, &key), nullptr);
   _Block_release(copy);
   objc_removeAssociatedObjects(asObject(block));

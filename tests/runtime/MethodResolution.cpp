@@ -148,6 +148,24 @@ TEST_F(MethodResolution, ofTheRootClassSaysNo) {
   EXPECT_FALSE((send<bool>(rootClass(), "resolveClassMethod:", sel("late"))));
 }
 
+std::vector<id> askedAsInstances;
+
+// As the root class says it of all: a class object is an instance of its metaclass.
+TEST_F(MethodResolution, forAClassMethodAsksTheMetaclassLast) {
+  const Class metaclass = object_getClass(reinterpret_cast<id>(makeClass("Plain")));
+  const Class rootMetaclass = object_getClass(reinterpret_cast<id>(rootClass()));
+  const IMP before = class_replaceMethod(rootMetaclass, sel("resolveInstanceMethod:"),
+                                         asImplementation(+[](id self, SEL, SEL) {
+                                           askedAsInstances.push_back(self);
+                                           return false;
+                                         }),
+                                         "B@::");
+  EXPECT_FALSE(class_respondsToSelector(metaclass, sel("late")));
+  EXPECT_TRUE(class_respondsToSelector(object_getClass(reinterpret_cast<id>(cls_)), sel("late")));
+  class_replaceMethod(rootMetaclass, sel("resolveInstanceMethod:"), before, "B@::");
+  EXPECT_EQ(askedAsInstances, std::vector<id>{reinterpret_cast<id>(metaclass)});
+}
+
 TEST_F(MethodResolution, aRootClassMayHaveNoResolver) {
   Class bare = makeClass("Bare", nullptr);
   EXPECT_FALSE(class_respondsToSelector(bare, sel("late")));

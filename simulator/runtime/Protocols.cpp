@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -31,8 +32,13 @@ ProtocolObject& contentsOf(Protocol* protocol) {
   return *reinterpret_cast<ProtocolObject*>(&headerOf(protocol));
 }
 
-std::unordered_map<std::string_view, Protocol*>& registeredProtocols() {
-  static auto* instance = new std::unordered_map<std::string_view, Protocol*>;
+struct ProtocolTable {
+  std::vector<std::unique_ptr<ProtocolObject>> all;
+  std::unordered_map<std::string_view, Protocol*> registered;  // by name
+};
+
+ProtocolTable& table() {
+  static auto* instance = new ProtocolTable;
   return *instance;
 }
 
@@ -93,15 +99,17 @@ Protocol* objc_getProtocol(const char* name) {
   }
   ensureBootstrapped();
   const std::lock_guard guard(runtimeLock());
-  const auto found = registeredProtocols().find(name);
-  return found != registeredProtocols().end() ? found->second : nullptr;
+  const auto found = table().registered.find(name);
+  return found != table().registered.end() ? found->second : nullptr;
 }
 
 Protocol* objc_allocateProtocol(const char* name) {
   if (name == nullptr || objc_getProtocol(name) != nullptr) {
     return nullptr;
   }
-  auto* made = new ProtocolObject{{}, {objc_getClass("Protocol")}, name, false, {}};
+  Class cls = objc_getClass("Protocol");
+  const std::lock_guard guard(runtimeLock());
+  auto& made = table().all.emplace_back(new ProtocolObject{{}, {cls}, name, false, {}});
   made->header.references.store(kOneReference, std::memory_order_relaxed);
   return &made->object;
 }
@@ -112,7 +120,7 @@ void objc_registerProtocol(Protocol* protocol) {
   }
   const std::lock_guard guard(runtimeLock());
   ProtocolObject& contents = contentsOf(protocol);
-  if (!registeredProtocols().emplace(contents.name, protocol).second) {
+  if (!table().registered.emplace(contents.name, protocol).second) {
     complain("is registered already", protocol);
     return;
   }

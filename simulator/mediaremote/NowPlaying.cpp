@@ -43,6 +43,8 @@ objc::Object nowPlayingInfo() {
   };
   if (track->title)
     info.emplace_back(objc::Object(kMRMediaRemoteNowPlayingInfoTitle), string(*track->title));
+  if (track->hasNumberForTitle)
+    info.emplace_back(objc::Object(kMRMediaRemoteNowPlayingInfoTitle), number(1.0));
   add(kMRMediaRemoteNowPlayingInfoArtist, track->artist);
   add(kMRMediaRemoteNowPlayingInfoAlbum, track->album);
   return dictionary(info);

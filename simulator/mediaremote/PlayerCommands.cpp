@@ -15,7 +15,10 @@ namespace {
 
 Track takeTrack(Arguments& words) {
   Track track;
-  if (!words.takeKeyword("none")) track.title = words.text("a title");
+  if (words.takeKeyword("number"))
+    track.hasNumberForTitle = true;
+  else if (!words.takeKeyword("none"))
+    track.title = words.text("a title");
   const double length = words.number("the track's seconds");
   track.length = nanoseconds(length);
   if (track.length <= 0) words.failHere("a track lasts longer than 0 seconds");
@@ -141,7 +144,7 @@ void control(Arguments& words) {
 }
 
 void addControls(CommandTable& table) {
-  table.add({"now-playing-app", Stage::running, "now-playing-app BUNDLE TITLE|none SECONDS",
+  table.add({"now-playing-app", Stage::running, "now-playing-app BUNDLE TITLE|none|number SECONDS",
              "now-playing-app com.example.radio \"Night Talk\" 3600",
              "Another application plays one track, and the music's playlist is gone.",
              nowPlayingApp});
@@ -175,10 +178,12 @@ void addPlayerCommands(CommandTable& table) {
   // Both exist before a restart's saved state is given back to them.
   Player::current();
   AudioSystem::current();
-  table.add({"playlist", Stage::any, "playlist TITLE|none SECONDS [by ARTIST] [TITLE…]",
-             "playlist \"A\" 180 \"B\" 200 by \"The Band\"",
-             "Loads tracks and plays the first; before boot the music starts with the host.",
-             playlist});
+  table.add(
+      {"playlist", Stage::any, "playlist TITLE|none|number SECONDS [by ARTIST] [TITLE…]",
+       "playlist \"A\" 180 \"B\" 200 by \"The Band\"",
+       "Loads tracks and plays the first; before boot the music starts with the host. A number "
+       "is what some app might report where a title belongs.",
+       playlist});
   table.add(
       {"playlist-file", Stage::any, "playlist-file PATH", "playlist-file \"night.m3u8\"",
        "Loads the tracks of an M3U playlist, a file beside the script, or of the one that the "

@@ -9,6 +9,7 @@ namespace sim {
 
 static nlohmann::json saved(const Track& track) {
   return {{"title", track.title ? nlohmann::json(*track.title) : nlohmann::json()},
+          {"hasNumberForTitle", track.hasNumberForTitle},
           {"artist", track.artist},
           {"album", track.album},
           {"length", track.length}};
@@ -18,6 +19,7 @@ static Track restored(const nlohmann::json& saved) {
   Track track;
   if (const auto& title = saved.at("title"); !title.is_null())
     track.title = title.get<std::string>();
+  track.hasNumberForTitle = saved.at("hasNumberForTitle").get<bool>();
   track.artist = saved.at("artist").get<std::string>();
   track.album = saved.at("album").get<std::string>();
   track.length = saved.at("length").get<Nanoseconds>();

@@ -28,7 +28,7 @@ def classes(top):
     found = set()
     for source in [*top.glob("platform/**/*.h"), *top.glob("tweak/**/*.cpp"), *top.glob("tweak/**/*.h")]:
         text = source.read_text(encoding="utf-8")
-        found |= set(re.findall(r'objc_getClass\("(\w+)"\)', text))
+        found |= set(re.findall(r'(?:objc_getClass\(|classNamed<)"(\w+)"', text))
         found |= set(re.findall(r'objc::hook<"(\w+)"', text))
     found.discard("DozewellButton")
     return sorted(found - ESSENTIAL - OF_LAYOUTS)

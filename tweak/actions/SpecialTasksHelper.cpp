@@ -113,8 +113,8 @@ void Tasks::changeVolumeBy(double difference) {
   setVolume(getVolume() + difference);
 }
 
-// The steps are no whole number for every length, and are not rounded; what a step takes away is
-// divided in double precision and narrowed once, so that no error adds up over the fade.
+// The number of steps need not be whole, and is not rounded. The division is in double precision;
+// what a step takes away is narrowed once, to what the host's volume is told in.
 void Tasks::pauseMusicWithFadeOutVolume(int seconds) {
   volumeBeforeFadeOut = getVolume();
   const double steps = seconds / secondsPerStep;

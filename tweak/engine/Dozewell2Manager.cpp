@@ -30,6 +30,8 @@ void post(NSString name) {
 
 }  // namespace
 
+// From its creation on, whether a timer runs or not: the count is of changes away from the track
+// that plays at the start, and that must be known by then.
 id Engine::init() {
   id initialised = super<id, "init">();
   NSNotificationCenter::defaultCenter().addObserver(
@@ -54,7 +56,10 @@ void Engine::startTimerWithMode_andValue(long mode, long value) {
 
 void Engine::startTimerWithTimeInterval(long seconds) {
   timerModeIsRunning = true;
-  // A timer that still runs is let go, not invalidated: whoever wants it stopped cancels it first.
+  // A timer that still runs is let go, not invalidated: whoever wants it stopped cancels it first,
+  // as the panel does. A shake does not, and the host fires the old timer at its own time, which
+  // ends the music and the new timer with it. Invalidated here, a shake would put off the end
+  // (embedding-shake-ends-at-the-old-time, timer-started-twice-keeps-both).
   *systemTimer =
       PCSimpleTimer::make(double(seconds), "com.corvane.dozewell2"_ns, objc::Object(self()),
                           objc::selector<"timerDidFire">(), NSDictionary::dictionary());
@@ -63,13 +68,15 @@ void Engine::startTimerWithTimeInterval(long seconds) {
   } else {
     dispatch::onMain([] { scheduleSystemTimer(); });
   }
+  // After the timer is there: whoever hears of the start may ask what is left.
   post("DozewellDidStartNotification"_ns);
   // Off the main thread the timer is not scheduled yet, and there may be no date.
   Dozewell2TimeLeftIndicatorsManager::sharedInstance().startTimerWithDate(fireDate());
 }
 
 void Engine::restartTimerWithLastChosenValue() {
-  // No start actions, and an end that waits for the track goes on waiting.
+  // No start actions: the phone is as they have left it. An end that waits for the track keeps
+  // waiting. A value of 0 is none: a restored timer was not started from the panel.
   if (timerModeIsRunning && lastChosenNbSeconds != 0) {
     cancelAllPersistedTimers();
     startTimerWithTimeInterval(lastChosenNbSeconds);
@@ -100,6 +107,7 @@ void Engine::timerOrNbTracksDidEnd() {
   } else {
     tasks.pauseMusic();
   }
+  // Before the panel goes: whoever asks on its way out finds nothing running.
   reinit();
   if (isShowingDozewellUI) dozewell2VC->dismissDozewell();
 }
@@ -112,7 +120,9 @@ void Engine::cancelTimer() {
 
 void Engine::reinit() {
   const auto indicators = Dozewell2TimeLeftIndicatorsManager::sharedInstance();
-  // When both modes are flagged, the duration goes first and the song count stays.
+  // When both modes are flagged, by a start over a running count, the duration goes and the song
+  // count stays. With both gone at once the music would play on past the last song that was asked
+  // for (timer-reinit-with-both-modes).
   if (timerModeIsRunning) {
     timerModeIsRunning = false;
     cancelTimer();

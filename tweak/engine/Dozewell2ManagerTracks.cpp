@@ -16,7 +16,9 @@ void Engine::startTimerWithNbTracks(long count) {
   Dozewell2TimeLeftIndicatorsManager::sharedInstance().updateCounterWithNbTracks();
 }
 
-// The title alone decides: the notification also tells of pauses, seeks and artwork.
+// The title alone decides: the notification also tells of pauses, seeks and artwork. So a track
+// that repeats is not counted, nor a second one of the same title (songs-equal-titles,
+// songs-repeat-one).
 void Engine::mediaDidChange(objc::Object) {
   MediaRemote::getNowPlayingInfo([](NSDictionary info) {
     const auto reported = info.objectForKey(MediaRemote::infoTitleKey());

@@ -24,6 +24,8 @@ CGRect moved(CGRect frame, double x, double y) {
   return frame;
 }
 
+// At the header's left edge, opposite the routing button. Hidden by the setting, it still gets a
+// place and a look (button-hidden-in-the-small-module).
 CGRect placeInMinimizedLayout(UIView routing, Button button) {
   auto frame = routing.frame();
   if (Dozewell2StorageManager::sharedInstance().showDozewellButtonInCCMinimizedMediaPlayer()) {
@@ -43,6 +45,7 @@ CGRect placeInExpandedLayout(UIView labels, UIView routing, Button button) {
   constexpr double tallLabels = 40, up = 18, below = 33, beside = 40;  // points
   CGRect frame;
   if (labels.frame().size.height > tallLabels) {
+    // The frame is read after the move, which it contains.
     routing.setTransform(routing.transform().translated(0, -up));
     frame = moved(routing.frame(), 0, below);
   } else {
@@ -91,6 +94,7 @@ void setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(id headerObj
   const DozewellNowPlayingHeader header(headerObject);
   const auto routing = header.routingButton();
   const auto button = header.dozewellButton();
+  // Each layout hides what it has no place for.
   routing.setHidden(false);
   button.setHidden(false);
   button.setFrame(place(header, routing, button));

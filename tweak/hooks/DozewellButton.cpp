@@ -33,6 +33,7 @@ void setMoonColor(Button self, objc::Object color) {
 }
 
 void setCircleBackgroundVisible(Button self, bool visible) {
+  // The radius in both cases: the button may have changed its size since it was last visible.
   self.setBackgroundColor(visible ? UIColor::white() : UIColor::clear());
   self.layer().setCornerRadius(self.frame().size.width / 2);
 }

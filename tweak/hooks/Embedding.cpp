@@ -48,6 +48,7 @@ void expandDozewell(Controller self, bool expand) {
   if (expand) self.dozewell_updateEmbeddedVCWithDozewellVC(true);
   shouldReplaceRoutingActionByDozewell = true;
   self.didSelectRoutingButton(nullptr);
+  // Closing leaves it to the header, which hears of every way out of the routing layout.
   if (expand) engine().setIsShowingDozewellUI(true);
 }
 
@@ -73,6 +74,7 @@ void updateEmbeddedController(Controller self, bool useDozewell) {
 CGSize sizeThatFits(objc::Original<CGSize(MRUEmbeddingView, CGSize)> original,
                     MRUEmbeddingView self, CGSize size) {
   logCall("MRUEmbeddingView", self, "sizeThatFits:{", size.width, ", ", size.height, "}");
+  // The host is not asked: the panel is as high as it is.
   if (shouldShowDozewellEmbeddedVCInsteadOfAirPlay) return {self.frame().size.width, panelHeight};
   return original(self, size);
 }
@@ -94,6 +96,7 @@ void setShakeState(objc::Original<void(UIMotionEvent, int)> original, UIMotionEv
   constexpr int shaken = 0;
   constexpr long error = 2;  // the notification haptic
   original(self, state);
+  // A shake goes through other states and ends in this one: one restart for each.
   if (!Dozewell2StorageManager::sharedInstance().shakeToRestartTimerEnabled() || state != shaken ||
       !engine().isRunning())
     return;

@@ -10,6 +10,7 @@
 namespace LockScreen {
 namespace {
 
+// Text without a number for one song, as the languages want it; 0 takes the other form.
 NSString tracksLeftText(long tracks) {
   if (tracks == 1) return BundleHelper::getLocalizedStringFor("1_SONG"_ns);
   return NSString::stringWithFormat(BundleHelper::getLocalizedStringFor("N_SONG"_ns),
@@ -63,6 +64,7 @@ void setModuleExpanded(
     CCUIContentModuleContainerViewController self, bool expanded) {
   logCall("CCUIContentModuleContainerViewController", self, "setExpanded:", expanded ? "1" : "0");
   original(self, expanded);
+  // Only a duration changes the label every second, and nobody sees it while the module is small.
   if (!self.moduleIdentifier().isEqualToString(
           "com.apple.mediaremote.controlcenter.nowplaying"_ns) ||
       !Dozewell2Manager::sharedInstance().timerModeIsRunning())

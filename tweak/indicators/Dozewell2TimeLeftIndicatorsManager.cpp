@@ -57,8 +57,7 @@ void Indicators::stopCounter() {
 
 void Indicators::startUpdatingRemainingTimeLabelsInCC() {
   if (updateRemainingTimeLabelsTimer) return;
-  // The label shows the new time in the next turn, not a second later. Not in this one: a timer
-  // that was made off the main thread has no date yet.
+  // The label shows the new time in the next turn of the main queue, not a second later.
   dispatch::onMain([] { sharedInstance().showRemainingTime(); });
   const auto timer = NSTimer::scheduledTimer(1.0, true, [] { sharedInstance().refresh(); });
   updateRemainingTimeLabelsTimer = objc::retain(timer);

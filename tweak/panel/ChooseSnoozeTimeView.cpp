@@ -48,9 +48,9 @@ id Page::initWithFrame(CGRect frame) {
   return made;
 }
 
-// That of the view which holds this one, so that all sizes here are the container's. Were it the
-// page's own, a page that is made before it is placed would lay its elements out in no space
-// (choose-frame-is-its-superviews).
+// That of the view which holds this one, so that all sizes here are the panel's. With the page's
+// own, which is 250 points high upright, the bottom bar of a panel of another height would not
+// stand at that panel's lower edge (choose-frame-is-its-superviews).
 CGRect Page::frame() {
   return view().superview().frame();
 }
@@ -61,9 +61,9 @@ void Page::layoutSubviews() {
   timeSelectorPickerView->setFrame(pickerFrame(size));
   nbSongsPickerView->setFrame(pickerFrame(size));
   const auto picker = nbSongsPickerView->frame().size;
-  // At set-up the place depends on the letters of the text as well, and this is the one that is
-  // seen: every layout comes after it. With that formula here the caption of a long word would
-  // stand further to the left (choose-caption-at-set-up).
+  // At set-up the place depends on the letters of the text as well; this one is seen, for a layout
+  // comes after every set-up. With that formula here, too, the caption would stand in another place
+  // in each language (choose-caption-at-set-up).
   musicLabel->setFrame(rect(picker.width / 2.2, picker.height * 0.5 - 15, captionWidth, rowHeight));
   bottomButtonsStackView->setFrame(barFrame(size));
   topRightCornerButton->setFrame(topRightFrame(size));

@@ -5,8 +5,8 @@
 #include "tweak/panel/ButtonWithIncreasedTouchArea.h"
 #include "tweak/panel/ChooseSnoozeTimeView.h"
 
-// Laid out with frames, without constraints: W and H are those of the view that holds this one.
-// With constraints the elements would stand elsewhere on a panel of another size than today's
+// Laid out with frames, without constraints: W and H are those of the view that holds this one,
+// read at each layout. Constraints would follow the page instead, whose height upright is fixed
 // (choose-frames-at-layout).
 struct ChooseSnoozeTimeViewImplementation
     : objc::Implementation<ChooseSnoozeTimeViewImplementation> {

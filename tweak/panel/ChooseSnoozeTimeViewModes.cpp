@@ -23,6 +23,7 @@ void Page::toggleModes() {
   } else {
     showTimerMode();
   }
+  // The picker that comes in lies over them.
   view().bringSubviewToFront(topRightCornerButton);
   view().bringSubviewToFront(topLeftCornerButton);
 }

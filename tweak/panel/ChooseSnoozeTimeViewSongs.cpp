@@ -33,7 +33,9 @@ NSString Page::pickerView_titleForRow_forComponent(UIPickerView, long row, long)
   return NSString::stringWithFormat("%ld"_ns, row);
 }
 
-// The numbers end just left of the caption. Rows are not reused.
+// The numbers end just left of the caption: they are right-aligned in a label whose width, and with
+// it the picker's centre, was fitted to the caption's place. Rows are not reused: a new one is
+// right in whatever language and size the page is shown.
 UIView Page::pickerView_viewForRow_forComponent_reusingView(UIPickerView picker, long row, long,
                                                             UIView) {
   const double width = container().width * 0.5 + picker.frame().size.width / -5.84;
@@ -57,8 +59,8 @@ void Page::addOrRemovePluralForRow(long row) {
   };
   if (row >= 1 && isPlural(musicLabel)) return;
   // From one song to one song the transition runs and changes nothing. Left out, nothing that a
-  // user could see would be missing: a dissolve between the same two words (choose-caption-
-  // dissolves, choose-caption-stays-plural).
+  // user could see would be missing: a dissolve between two equal words
+  // (choose-caption-dissolves, choose-caption-stays-plural).
   UIKit::transition(musicLabel.get(), captionSeconds, UIKit::transitionCrossDissolve,
                     [caption = musicLabel, isPlural, row] {
                       if (row == 0 && isPlural(caption))

@@ -52,6 +52,8 @@ void Panel::viewWillLayoutSubviews() {
   chooseSnoozeTimeView->setModeType(int(settings.enabledModes()));
 }
 
+// Upright the pages keep their height, whatever the panel's is while the host moves it; on its side
+// there is less room.
 void Panel::viewDidLayoutSubviews() {
   super<void, "viewDidLayoutSubviews">();
   const auto size = view().frame().size;

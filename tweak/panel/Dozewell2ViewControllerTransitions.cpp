@@ -72,6 +72,8 @@ void Panel::show_slideAnimated_transitionView(bool show, bool slide, UIView) {
   fadeOut();
 }
 
+// The completion puts back what the animation changed, hidden: whoever shows the host's views again
+// finds them as they were.
 void Panel::fadeIn() {
   view().setAlpha(0);
   view().setFrame(containerFrame);

@@ -83,8 +83,8 @@ void Page::setCurrentStateIsStart(bool start) {
 }
 
 // The fourth box differs: Bluetooth is cut at the end alone and the volume set at the start alone,
-// and there are no settings for more. A fifth box would be one that does nothing
-// (end-boxes-share-their- row, end-saves-the-start-actions, end-saves-the-end-actions).
+// and there are settings for no more. A fifth box would be one that does nothing
+// (end-boxes-share-their-row, end-saves-the-start-actions, end-saves-the-end-actions).
 template <class Visit>
 void Page::forEachBox(Visit visit) {
   if (currentStateIsStart) {

@@ -4,9 +4,9 @@
 
 namespace {
 
-// Anywhere in the identifier, as the extension has always looked: "mar_IN" holds an "ar", and so
-// Marathi gets Arabic digits, which a comparison of languages would end (format-time-left-ar-
-// anywhere); "en_AR" holds none, for case counts (format-time-left-region-is-not-arabic).
+// Anywhere in the identifier, as the extension has always looked. "mar_IN" holds an "ar", and so
+// Marathi gets Arabic digits, which a comparison of languages would end; "en_AR" holds none, for
+// case counts (format-time-left-ar-anywhere, format-time-left-region-is-not-arabic).
 bool localeContains(const char* code) {
   return NSLocale::currentLocale().localeIdentifier().containsString(NSString::string(code));
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
@@ -68,8 +67,12 @@ std::string textIn(Object view) {
   return {};
 }
 
+std::string valueOf(Object view) {
+  return text(objc::send<Object, "accessibilityValue">(view));
+}
+
 std::string labelOf(Object view) {
-  if (const Object given = UIView::of(view).accessibilityLabel) return text(given);
+  if (const Object given = objc::send<Object, "accessibilityLabel">(view)) return text(given);
   if (std::string said = textIn(view); !said.empty()) return said;
   if (std::string name = nameOfImage(view); !name.empty()) return name;
   // What the class is called says something of particular ones only.
@@ -99,17 +102,9 @@ std::string unitOf(Object wheel) {
 }
 
 scene::Accessibility wheelOf(Object view) {
-  const Object given = UIView::of(UIView::of(view).parent).accessibilityLabel;
+  const Object given = objc::send<Object, "accessibilityLabel">(UIView::of(view).parent);
   return {scene::Accessibility::Role::picker, given ? text(given) : unitOf(view),
           textIn(UIPickerColumnView::of(view).selectedCell())};
-}
-
-scene::Accessibility sliderOf(Object view) {
-  const UISlider& slider = UISlider::of(view);
-  const double range = double(slider.maximumValue) - double(slider.minimumValue);
-  const double part = range > 0 ? (double(slider.value) - double(slider.minimumValue)) / range : 0;
-  return {scene::Accessibility::Role::slider, labelOf(view),
-          std::to_string(std::lround(part * 100)) + " %"};
 }
 
 bool holdsControls(Object view) {
@@ -119,29 +114,39 @@ bool holdsControls(Object view) {
   });
 }
 
+scene::Accessibility told(scene::Accessibility::Role role, Object view) {
+  const auto traits = objc::send<unsigned long, "accessibilityTraits">(view);
+  return {role, labelOf(view), valueOf(view), (traits & ViewAccessibility::notEnabled) == 0,
+          (traits & ViewAccessibility::selected) != 0};
+}
+
 std::optional<scene::Accessibility> roleOf(Object view) {
   using Role = scene::Accessibility::Role;
   if (isA<UIPickerColumnView>(view)) return wheelOf(view);
-  if (isA<UISlider>(view)) return sliderOf(view);
+  if (isA<UISlider>(view)) return told(Role::slider, view);
   if (!isA<UIControl>(view) || isA<UIDatePicker>(view)) return std::nullopt;
   if ((UIControl::of(view).allControlEvents() & UIControl::touchUpInside) == 0) return std::nullopt;
-  std::string label = labelOf(view);
-  if (label.empty()) return std::nullopt;
-  return scene::Accessibility{
-      holdsControls(view) ? Role::group : Role::button, std::move(label), {}};
+  const auto made = told(holdsControls(view) ? Role::group : Role::button, view);
+  return made.label.empty() ? std::nullopt : std::optional(made);
+}
+
+// Only where something else is told than what stands there: text is read as it stands.
+std::optional<scene::Accessibility> textRoleOf(Object view) {
+  using Role = scene::Accessibility::Role;
+  if (!objc::send<bool, "isAccessibilityElement">(view))
+    return scene::Accessibility{Role::unspoken, {}, {}};
+  auto made = told(Role::text, view);
+  if (made.label == text(UILabel::of(view).text) && made.value.empty()) return std::nullopt;
+  return made;
 }
 
 }  // namespace
 
 std::optional<scene::Accessibility> accessibilityOf(Object view) {
   if (!view) return std::nullopt;
+  if (isA<UILabel>(view)) return textRoleOf(view);
   auto made = roleOf(view);
-  if (!made || !isReachable(view)) return std::nullopt;
-  if (const UIControl* control = stateOf<UIControl>(view)) {
-    made->isEnabled = control->enabled;
-    made->isSelected = control->selected;
-  }
-  return made;
+  return made && isReachable(view) ? made : std::nullopt;
 }
 
 }  // namespace sim

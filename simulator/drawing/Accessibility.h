@@ -6,7 +6,8 @@
 
 namespace sim {
 
-// Nothing for views that are no control, and for controls that a finger does not reach.
+// Nothing for controls that a finger does not reach, for text that is read as it stands, and for
+// other views.
 std::optional<scene::Accessibility> accessibilityOf(objc::Object view);
 
 }  // namespace sim

@@ -7,6 +7,7 @@
 #include "simulator/quartzcore/CAGradientLayer.h"
 #include "simulator/quartzcore/CAShapeLayer.h"
 #include "simulator/uikit/LabelText.h"
+#include "simulator/uikit/LayoutDirection.h"
 #include "simulator/uikit/UIButton.h"
 #include "simulator/uikit/UIColor.h"
 #include "simulator/uikit/UIImage.h"
@@ -64,11 +65,20 @@ bool isTemplate(const UIImage& image, Object view) {
   return button != nullptr && button->buttonType == UIButton::system;
 }
 
+// A button's picture runs as the button does.
+bool isMirrored(const UIImage& image, Object view) {
+  const Object parent = UIView::of(view).parent;
+  return image.flipsForRightToLeftLayoutDirection &&
+         viewIsRightToLeft(isA<UIButton>(parent) ? parent : view);
+}
+
 scene::Content imageOf(Object view, const UIImageView& shown, const CGRect& bounds) {
   const UIImage* image = stateOf<UIImage>(shown.image);
   if (image == nullptr) return {};
-  scene::Image content{
-      image->file, imageFrame(bounds, image->size, UIView::of(view).contentMode), {}};
+  scene::Image content{image->file,
+                       imageFrame(bounds, image->size, UIView::of(view).contentMode),
+                       {},
+                       isMirrored(*image, view)};
   if (!isTemplate(*image, view)) return content;
   content.tint = sceneColor(objc::send<Object, "tintColor">(view));
   if (!content.tint) return {};

@@ -35,6 +35,7 @@ struct Image {
   std::string file;           // the phone's path of a PNG
   CGRect frame;               // the whole picture fills it
   std::optional<Color> tint;  // what is opaque in the picture has this colour
+  bool isMirrored = false;    // its left is on the right
   bool operator==(const Image&) const = default;
 };
 
@@ -76,13 +77,13 @@ struct Border {
   bool operator==(const Border&) const = default;
 };
 
-// What a control is for somebody who does not see it.
+// What a control is for somebody who does not see it, and text that is told in other words.
 struct Accessibility {
-  // A group is a button that others lie in.
-  enum class Role { button, group, slider, picker };
+  // A group is a button that others lie in. What is unspoken is seen, and passed over.
+  enum class Role { button, group, slider, picker, text, unspoken };
   Role role;
   std::string label;
-  std::string value;  // of what is turned; empty for buttons
+  std::string value;  // may be empty
   bool isEnabled = true;
   bool isSelected = false;
   bool operator==(const Accessibility&) const = default;

@@ -56,6 +56,7 @@ json contentJson(const scene::Text& text) {
 json contentJson(const scene::Image& image) {
   json made = {{"type", "image"}, {"file", image.file}, {"frame", rectangle(image.frame)}};
   if (image.tint) made["tint"] = written(*image.tint);
+  if (image.isMirrored) made["mirrored"] = true;
   return made;
 }
 
@@ -92,9 +93,9 @@ json matrix(const CGAffineTransform& transform) {
 }
 
 void addAccessibility(json& made, const scene::Accessibility& its) {
-  constexpr const char* roles[] = {"button", "group", "slider", "picker"};
+  constexpr const char* roles[] = {"button", "group", "slider", "picker", "text", "unspoken"};
   made["role"] = roles[int(its.role)];
-  made["label"] = its.label;
+  if (!its.label.empty()) made["label"] = its.label;
   if (!its.value.empty()) made["value"] = its.value;
   if (!its.isEnabled) made["enabled"] = false;
   if (its.isSelected) made["selected"] = true;

@@ -107,6 +107,11 @@ std::string SvgContent::tint(const scene::Color& color) {
 void SvgContent::add(const scene::Image& image, const scene::Attributes&) {
   SvgElement element("image");
   element.rect(image.frame).text("preserveAspectRatio", "none");
+  // About the middle of its frame.
+  if (image.isMirrored)
+    element.text("transform", "translate(" +
+                                  svgNumber(2 * image.frame.origin.x + image.frame.size.width) +
+                                  ") scale(-1 1)");
   if (image.tint) element.text("filter", "url(#" + tint(*image.tint) + ")");
   lines_.add(element.text("href", image_(image.file)).empty());
 }

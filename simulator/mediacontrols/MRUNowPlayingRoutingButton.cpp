@@ -2,11 +2,26 @@
 
 #include "simulator/StandIn.h"
 #include "simulator/mediacontrols/Glyphs.h"
+#include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/ViewAccessibility.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {
 
 using objc::Object;
+
+namespace {
+
+// It is a button to UIKit, too.
+unsigned long routingButtonTraits(Object self) {
+  return accessibilityTraitsOr(self.get(),
+                               ViewAccessibility::button | UIControl::of(self).spokenState());
+}
+bool routingButtonIsElement(Object self) {
+  return isAccessibilityElementOr(self.get(), true);
+}
+
+}  // namespace
 
 Object MRUNowPlayingRoutingButton::initWithFrame(CGRect frame) {
   const auto made = super<Object, "initWithFrame:">(frame);
@@ -52,6 +67,8 @@ void MRUNowPlayingRoutingButton::registerClass() {
       .method<"setActive:", &MRUNowPlayingRoutingButton::setActive>()
       .partial<"updatePackage", &MRUNowPlayingRoutingButton::updatePackage>(
           "a glyph of the simulator's own, from no package")
+      .method<"accessibilityTraits", &routingButtonTraits>()
+      .method<"isAccessibilityElement", &routingButtonIsElement>()
       .method<"layoutSubviews", &MRUNowPlayingRoutingButton::layoutSubviews>()
       .finish();
 }

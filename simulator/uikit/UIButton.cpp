@@ -6,6 +6,7 @@
 #include "simulator/uikit/UIFont.h"
 #include "simulator/uikit/UIImageView.h"
 #include "simulator/uikit/UILabel.h"
+#include "simulator/uikit/ViewAccessibility.h"
 
 namespace sim {
 namespace {
@@ -45,6 +46,18 @@ void tintColorDidChange(Object self) {
 
 void subviewDidChangeSize(Object self) {
   objc::send<void, "setNeedsLayout">(self);
+}
+
+// The title; a picture says nothing.
+Object spokenTitle(Object self) {
+  return accessibilityLabelOr(self.get(), UIButton::of(self).titles.shownIn(stateNow(self.get())));
+}
+unsigned long buttonTraits(Object self) {
+  return accessibilityTraitsOr(self.get(),
+                               ViewAccessibility::button | UIControl::of(self).spokenState());
+}
+bool buttonIsElement(Object self) {
+  return isAccessibilityElementOr(self.get(), true);
 }
 
 CGSize sizeThatFits(Object self, CGSize) {
@@ -152,6 +165,9 @@ void UIButton::registerClass() {
       .method<"setEnabled:", &setFlag<"setEnabled:">>()
       .method<"_subviewDidChangeSize", &subviewDidChangeSize>()
       .method<"tintColorDidChange", &tintColorDidChange>()
+      .method<"accessibilityLabel", &spokenTitle>()
+      .method<"accessibilityTraits", &buttonTraits>()
+      .method<"isAccessibilityElement", &buttonIsElement>()
       .partial<"intrinsicContentSize", &UIButton::intrinsicContentSize>(
           "no insets, no configurations")
       .partial<"sizeThatFits:", &sizeThatFits>("no insets, no configurations")

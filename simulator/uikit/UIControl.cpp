@@ -7,6 +7,7 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/uikit/Actions.h"
 #include "simulator/uikit/ControlTracking.h"
+#include "simulator/uikit/ViewAccessibility.h"
 
 namespace sim {
 namespace {
@@ -15,6 +16,10 @@ using objc::Object;
 
 void sendActionsForControlEvents(Object self, unsigned long events) {
   UIControl::of(self).sendActionsForEvents(events, nullptr);
+}
+
+unsigned long stateTraits(Object self) {
+  return accessibilityTraitsOr(self.get(), UIControl::of(self).spokenState());
 }
 
 }  // namespace
@@ -72,6 +77,11 @@ unsigned long UIControl::state() const {
          (selected ? selectedState : normal);
 }
 
+unsigned long UIControl::spokenState() const {
+  return (enabled ? 0 : ViewAccessibility::notEnabled) |
+         (selected ? ViewAccessibility::selected : 0);
+}
+
 void UIControl::registerClass() {
   StandIn<UIControl> control("UIKit", "UIControl", "UIView");
   addControlTracking(control);
@@ -88,6 +98,7 @@ void UIControl::registerClass() {
       .property<"highlighted", &UIControl::highlighted>()
       .readonlyProperty<"isHighlighted", &UIControl::highlighted>()
       .method<"state", &UIControl::state>()
+      .method<"accessibilityTraits", &stateTraits>()
       .finish();
 }
 

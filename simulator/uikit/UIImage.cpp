@@ -75,7 +75,9 @@ Object fileName(Object self) {
 bool isEqual(Object self, Object other) {
   const UIImage* image = stateOf<UIImage>(other);
   const UIImage& mine = UIImage::of(self);
-  return image != nullptr && image->file == mine.file && image->renderingMode == mine.renderingMode;
+  return image != nullptr && image->file == mine.file &&
+         image->renderingMode == mine.renderingMode &&
+         image->flipsForRightToLeftLayoutDirection == mine.flipsForRightToLeftLayoutDirection;
 }
 unsigned long hash(Object self) {
   return std::hash<std::string>()(UIImage::of(self).file);
@@ -98,6 +100,13 @@ Object UIImage::withRenderingMode(long mode) const {
   return autorelease(std::move(made));
 }
 
+Object UIImage::flippedForRightToLeft() const {
+  objc::Strong<Object> made = make();
+  of(made.get()) = *this;
+  of(made.get()).flipsForRightToLeftLayoutDirection = true;
+  return autorelease(std::move(made));
+}
+
 Object UIImage::description() const {
   const std::string address = addressDescription(Object(self()));
   return string(address.substr(0, address.size() - 1) + " anonymous {" + notation(size.width) +
@@ -115,6 +124,9 @@ void UIImage::registerClass() {
       .readonlyProperty<"scale", &UIImage::scale>()
       .readonlyProperty<"renderingMode", &UIImage::renderingMode>()
       .method<"imageWithRenderingMode:", &UIImage::withRenderingMode>()
+      .method<"imageFlippedForRightToLeftLayoutDirection", &UIImage::flippedForRightToLeft>()
+      .readonlyProperty<"flipsForRightToLeftLayoutDirection",
+                        &UIImage::flipsForRightToLeftLayoutDirection>()
       .partial<"isEqual:", &isEqual>("images of the same file are equal, whatever they show")
       .method<"hash", &hash>()
       .method<"description", &UIImage::description>()

@@ -12,9 +12,11 @@ struct UIImage : objc::Implementation<UIImage> {
   CGSize size;             // points
   double scale = 1;        // pixels per point
   long renderingMode = 0;  // 0 automatic, 1 original, 2 template
+  bool flipsForRightToLeftLayoutDirection = false;  // shown mirrored where the interface runs so
 
   // Autoreleased; a copy that shares nothing.
   objc::Object withRenderingMode(long mode) const;
+  objc::Object flippedForRightToLeft() const;  // likewise
   objc::Object description() const;
 
   static void registerClass();

@@ -9,6 +9,14 @@ namespace sim {
 
 using objc::Object;
 
+namespace {
+
+unsigned long pictureTraits(Object self) {
+  return accessibilityTraitsOr(self.get(), ViewAccessibility::image);
+}
+
+}  // namespace
+
 Object UIImageView::initWithFrame(CGRect frame) {
   const Object made = super<Object, "initWithFrame:">(frame);
   if (made) UIView::of(made).userInteractionEnabled = false;
@@ -40,6 +48,7 @@ void UIImageView::registerClass() {
       .method<"initWithImage:", &UIImageView::initWithImage>()
       .readonlyProperty<"image", &UIImageView::image>()
       .method<"setImage:", &UIImageView::setImage>()
+      .method<"accessibilityTraits", &pictureTraits>()
       .method<"intrinsicContentSize", &UIImageView::intrinsicContentSize>()
       .method<"sizeThatFits:", &UIImageView::sizeThatFits>()
       .finish();

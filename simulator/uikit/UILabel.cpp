@@ -32,6 +32,17 @@ void sizeMayHaveChanged(id self) {
   objc::send<void, "invalidateIntrinsicContentSize">(self);
 }
 
+// A screen reader is told the text.
+Object spokenText(Object self) {
+  return accessibilityLabelOr(self.get(), UILabel::of(self).text);
+}
+unsigned long textTraits(Object self) {
+  return accessibilityTraitsOr(self.get(), ViewAccessibility::staticText);
+}
+bool textIsElement(Object self) {
+  return isAccessibilityElementOr(self.get(), true);
+}
+
 }  // namespace
 
 Object UILabel::initWithFrame(CGRect frame) {
@@ -98,6 +109,9 @@ void UILabel::registerClass() {
       .method<"setNumberOfLines:", &UILabel::setNumberOfLines>()
       .property<"adjustsFontSizeToFitWidth", &UILabel::adjustsFontSizeToFitWidth>()
       .property<"minimumScaleFactor", &UILabel::minimumScaleFactor>()
+      .method<"accessibilityLabel", &spokenText>()
+      .method<"accessibilityTraits", &textTraits>()
+      .method<"isAccessibilityElement", &textIsElement>()
       .partial<"sizeThatFits:", &UILabel::sizeThatFits>(widths)
       .partial<"intrinsicContentSize", &UILabel::intrinsicContentSize>(widths)
       .finish();

@@ -1,8 +1,10 @@
 #include "simulator/uikit/UISlider.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Values.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UITouch.h"
 #include "simulator/uikit/UIView.h"
@@ -20,6 +22,21 @@ objc::Strong<Object> addLine(Object slider, double alpha) {
   fill(line, whiteColor(alpha), lineHeight / 2);
   objc::send<void, "setUserInteractionEnabled:">(line.get(), false);
   return line;
+}
+
+// "45%"
+Object spokenPart(Object self) {
+  const UISlider& slider = UISlider::of(self);
+  const double range = double(slider.maximumValue) - double(slider.minimumValue);
+  const double part = range > 0 ? (double(slider.value) - double(slider.minimumValue)) / range : 0;
+  return accessibilityValueOr(self.get(), string(std::to_string(std::lround(part * 100)) + '%'));
+}
+unsigned long sliderTraits(Object self) {
+  return accessibilityTraitsOr(self.get(),
+                               ViewAccessibility::adjustable | UIControl::of(self).spokenState());
+}
+bool sliderIsElement(Object self) {
+  return isAccessibilityElementOr(self.get(), true);
 }
 
 }  // namespace
@@ -87,6 +104,9 @@ void UISlider::registerClass() {
       .readonlyProperty<"value", &UISlider::value>()
       .method<"setValue:", &UISlider::setValue>()
       .partial<"setValue:animated:", &UISlider::setValueAnimated>("in place at once")
+      .method<"accessibilityValue", &spokenPart>()
+      .method<"accessibilityTraits", &sliderTraits>()
+      .method<"isAccessibilityElement", &sliderIsElement>()
       .method<"layoutSubviews", &UISlider::layoutSubviews>()
       .method<"beginTrackingWithTouch:withEvent:", &UISlider::beginTracking>()
       .method<"continueTrackingWithTouch:withEvent:", &UISlider::continueTracking>()

@@ -78,6 +78,7 @@ void UIView::registerClass() {
   addViewLayout(view);
   addAutoLayout(view);
   addViewAppearance(view);
+  addAccessibility(view);
   addHitTesting(view);
   addViewAnimations(view);
   addViewTransitions(view);

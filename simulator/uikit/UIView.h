@@ -8,6 +8,7 @@
 #include "objc/Class.h"
 #include "simulator/quartzcore/LayerGeometry.h"
 #include "simulator/uikit/Geometry.h"
+#include "simulator/uikit/ViewAccessibility.h"
 
 namespace sim {
 
@@ -20,8 +21,7 @@ struct UIView : objc::Implementation<UIView> {
   std::vector<objc::Strong<objc::Object>> children;  // back to front
   objc::Strong<objc::Object> backgroundColor;        // UIColor; nil: clear
   objc::Strong<objc::Object> tintColor;              // UIColor; nil: the superview's
-  objc::Strong<objc::Object> accessibilityLabel;     // NSString
-  objc::Strong<objc::Object> accessibilityIdentifier;
+  ViewAccessibility accessibility;
   long tag = 0;
   long semanticContentAttribute = 0;  // 0 unspecified … 3 left to right
   long contentMode = 0;

@@ -102,9 +102,7 @@ void addViewAppearance(StandIn<UIView>& view) {
       .method<"tintColorDidChange", &tintColorDidChange>()
       .property<"contentMode", &UIView::contentMode>()
       .readonlyProperty<"semanticContentAttribute", &UIView::semanticContentAttribute>()
-      .method<"setSemanticContentAttribute:", &setSemanticContentAttribute>()
-      .property<"accessibilityLabel", &UIView::accessibilityLabel>()
-      .property<"accessibilityIdentifier", &UIView::accessibilityIdentifier>();
+      .method<"setSemanticContentAttribute:", &setSemanticContentAttribute>();
 }
 
 }  // namespace sim

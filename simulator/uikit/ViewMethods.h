@@ -11,6 +11,7 @@ void addViewTree(StandIn<UIView>& view);        // superview, subviews, window
 void addViewLayout(StandIn<UIView>& view);      // setNeedsLayout, sizeToFit …
 void addAutoLayout(StandIn<UIView>& view);      // constraints
 void addViewAppearance(StandIn<UIView>& view);  // alpha, hidden, colours
+void addAccessibility(StandIn<UIView>& view);   // label, value, traits
 void addHitTesting(StandIn<UIView>& view);
 void addViewAnimations(StandIn<UIView>& view);
 void addViewTransitions(StandIn<UIView>& view);

@@ -144,6 +144,14 @@ TEST_F(SvgDocuments, TemplatesHaveTheirTintOnce) {
                 image + "  </g>\n  <g class=\"UIView\">\n" + image + "  </g>\n");
 }
 
+TEST_F(SvgDocuments, MirroredImagesStayInTheirFrame) {
+  auto node = plain(rect(0, 0, 40, 20));
+  node.attributes.content = scene::Image{"/icon@3x.png", rect(10, 0, 20, 20), {}, true};
+  EXPECT_EQ(inside(node),
+            "  <image x=\"10\" width=\"20\" height=\"20\" preserveAspectRatio=\"none\" "
+            "transform=\"translate(40) scale(-1 1)\" href=\"/icon@3x.png\"/>\n");
+}
+
 TEST_F(SvgDocuments, ImagesMayBeEmbedded) {
   std::ofstream(phone.file("/three.png"), std::ios::binary) << "abc";
   std::ofstream(phone.file("/four.png"), std::ios::binary) << "abcd";

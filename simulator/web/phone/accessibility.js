@@ -1,7 +1,13 @@
 // What a screen reader and the keyboard find on the phone's screen. The nodes say what they are;
 // they are pressed where a finger would press them.
 
-const roles = { button: "button", group: "group", slider: "slider", picker: "spinbutton" };
+const roles = {
+  button: "button",
+  group: "group",
+  slider: "slider",
+  picker: "spinbutton",
+  text: "img", // read as one, by its label, in place of what stands in it
+};
 
 export const alertKind = "_UIAlertControllerView";
 
@@ -18,9 +24,14 @@ export function describe(element, { kind, role, label, value, enabled, selected 
   const known = role && roles[role];
   element.dataset.role = role ?? "";
   set(element, "role", known);
-  set(element, "aria-label", label);
+  const isText = role === "text";
+  // The text that stands there.
+  const face = element.firstElementChild;
+  set(face, "aria-hidden", isText || role === "unspoken" ? "true" : null);
+  set(element, "aria-label", isText && value ? `${label}, ${value}` : label);
   set(element, "tabindex", presses(role) || turns(role) ? 0 : null);
   set(element, "aria-valuetext", turns(role) ? value : null);
+  set(element, "aria-description", presses(role) ? value : null);
   set(element, "aria-disabled", enabled === false ? "true" : null);
   set(element, "aria-pressed", role === "button" && selected ? "true" : null);
 }

@@ -58,6 +58,7 @@ function drawImage(image, bounds) {
   style.top = `${y - bounds[1]}px`;
   style.width = `${width}px`;
   style.height = `${height}px`;
+  if (image.mirrored) style.transform = "scaleX(-1)";
   if (image.tint) {
     style.backgroundColor = image.tint;
     style.maskImage = `url("${picture(image.file)}")`;

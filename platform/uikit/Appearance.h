@@ -26,7 +26,7 @@ struct UIColor : objc::Object {
 
 struct UIFont : objc::Object {
   using Object::Object;
-  static constexpr double weightSemibold = 0.3;
+  static constexpr double weightLight = -0.4, weightSemibold = 0.3;
   static UIFont system(double points) {
     return objc::send<UIFont, "systemFontOfSize:">(objc::classNamed<"UIFont">(), points);
   }
@@ -34,6 +34,12 @@ struct UIFont : objc::Object {
     return objc::send<UIFont, "systemFontOfSize:weight:">(objc::classNamed<"UIFont">(), points,
                                                           weight);
   }
+  // All digits as wide as each other.
+  static UIFont monospacedDigitSystem(double points, double weight) {
+    return objc::send<UIFont, "monospacedDigitSystemFontOfSize:weight:">(objc_getClass("UIFont"),
+                                                                         points, weight);
+  }
+  double pointSize() const { return objc::send<double, "pointSize">(*this); }
 };
 
 struct UIImage : objc::Object {
@@ -44,5 +50,9 @@ struct UIImage : objc::Object {
   }
   UIImage imageWithRenderingMode(RenderingMode mode) const {
     return objc::send<UIImage, "imageWithRenderingMode:">(*this, mode);
+  }
+  // One that is mirrored where the interface runs from right to left.
+  UIImage imageFlippedForRightToLeftLayoutDirection() const {
+    return objc::send<UIImage, "imageFlippedForRightToLeftLayoutDirection">(*this);
   }
 };

@@ -33,6 +33,16 @@ struct UIView : NSObject {
   void setSemanticContentAttribute(long attribute) const {
     objc::send<void, "setSemanticContentAttribute:">(*this, attribute);
   }
+  // One of UIAccessibilityTraits, in which it is bit 9.
+  static constexpr unsigned long traitUpdatesFrequently = 1 << 9;
+  // What a screen reader says of the view in place of its own words; nil gives those back.
+  void setAccessibilityLabel(NSString label) const {
+    objc::send<void, "setAccessibilityLabel:">(*this, label);
+  }
+  // Whether a screen reader stops at the view.
+  void setIsAccessibilityElement(bool is) const {
+    objc::send<void, "setIsAccessibilityElement:">(*this, is);
+  }
   CALayer layer() const { return objc::send<CALayer, "layer">(*this); }
 
   UIView superview() const { return objc::send<UIView, "superview">(*this); }
@@ -67,6 +77,7 @@ struct UILabel : UIView {
   NSString text() const { return objc::send<NSString, "text">(*this); }
   void setText(NSString text) const { objc::send<void, "setText:">(*this, text); }
   void setTextColor(UIColor color) const { objc::send<void, "setTextColor:">(*this, color); }
+  UIFont font() const { return objc::send<UIFont, "font">(*this); }
   void setFont(UIFont font) const { objc::send<void, "setFont:">(*this, font); }
   void setTextAlignment(Alignment alignment) const {
     objc::send<void, "setTextAlignment:">(*this, alignment);

@@ -3,6 +3,7 @@
 import glob
 import os
 import plistlib
+import re
 import unicodedata
 import unittest
 
@@ -26,6 +27,40 @@ WIDTHS = {
     "ON_TIMER_END": 28,
 }
 
+# What a screen reader says; nothing has to fit.
+SPOKEN = [
+    "SLEEP_TIMER",
+    "TIMER_ACTIONS",
+    "CHOOSE_SONGS",
+    "CHOOSE_DURATION",
+    "SHOW_END_ACTIONS",
+    "SHOW_START_ACTIONS",
+    "AIRPLANE_MODE",
+    "DO_NOT_DISTURB",
+    "SHORTCUT",
+    "CUSTOM_VOLUME",
+    "BLUETOOTH",
+    "PLURAL_RULE",
+    "HOURS_AND_MINUTES",
+    "TIME_LEFT",
+    "LESS_THAN_A_MINUTE",
+    "UNTIL_SONG_ENDS",
+]
+
+# The languages whose nouns follow numbers by one rule, and the forms that it asks for.
+RULES = {
+    "none": (["ja", "ko", "tr", "vi", "zh-Hans", "zh-Hant"], ["OTHER"]),
+    "one": (["de", "en", "es", "it", "nl", "sv"], ["ONE", "OTHER"]),
+    "zero-or-one": (["fr", "hi", "pt-BR"], ["ONE", "OTHER"]),
+    "hebrew": (["he"], ["ONE", "TWO", "OTHER"]),
+    "arabic": (["ar"], ["ONE", "TWO", "FEW", "MANY", "OTHER"]),
+    "polish": (["pl"], ["ONE", "FEW", "MANY"]),
+    "east-slavic": (["ru", "uk"], ["ONE", "FEW", "MANY"]),
+}
+COUNTED = ["HOURS", "MINUTES", "SONGS_LEFT"]
+# Their forms of one and two are words for the number, too.
+NUMBERS_ARE_WORDS = ["ar", "he"]
+
 # What the names of a language's letters begin with; Latin where nothing is said.
 SCRIPTS = {
     "ar": ["ARABIC"],
@@ -40,9 +75,9 @@ SCRIPTS = {
 }
 
 
-def tables():
-    """(language, texts) of every table in the bundle."""
-    for path in sorted(glob.glob(os.path.join(glob.escape(BUNDLE), "*.lproj", "Localizable.strings"))):
+def tables(name="Localizable"):
+    """(language, texts) of every table of that name in the bundle."""
+    for path in sorted(glob.glob(os.path.join(glob.escape(BUNDLE), "*.lproj", f"{name}.strings"))):
         with open(path, encoding="utf-8") as file:
             yield os.path.basename(os.path.dirname(path))[: -len(".lproj")], read_strings(file.read())
 
@@ -117,3 +152,73 @@ class Translations(unittest.TestCase):
         for language, texts in tables():
             self.assertIsNone(seen.get(tuple(texts.values())), language)
             seen[tuple(texts.values())] = language
+
+
+class SpokenTranslations(unittest.TestCase):
+    def test_are_those_that_the_bundle_promises(self):
+        self.assertEqual(
+            [language for language, _ in tables("Accessibility")],
+            [language for language, _ in tables()],
+        )
+
+    def test_count_by_the_rule_of_their_language(self):
+        rules = {language: rule for rule, (languages, _) in RULES.items() for language in languages}
+        self.assertEqual(
+            {language: texts["PLURAL_RULE"] for language, texts in tables("Accessibility")}, rules
+        )
+
+    def test_have_every_key_that_their_rule_asks_for_and_no_other(self):
+        for language, texts in tables("Accessibility"):
+            with self.subTest(language=language):
+                forms = RULES[texts["PLURAL_RULE"]][1]
+                counted = [f"{key}_{form}" for key in COUNTED for form in forms]
+                self.assertEqual(sorted(texts), sorted(SPOKEN + counted))
+
+    def test_have_placeholders_where_something_goes(self):
+        for language, texts in tables("Accessibility"):
+            for key, text in texts.items():
+                with self.subTest(language=language, key=key):
+                    self.assertEqual(self.placeholders(text), self.expected(language, key), text)
+
+    @staticmethod
+    def placeholders(text):
+        return sorted(re.findall(r"%\S?[$@]@?", text))
+
+    @staticmethod
+    def expected(language, key):
+        base, _, form = key.rpartition("_")
+        if key == "HOURS_AND_MINUTES":
+            return ["%1$@", "%2$@"]
+        if key == "TIME_LEFT":
+            return ["%@"]
+        if base not in COUNTED:
+            return []
+        return [] if language in NUMBERS_ARE_WORDS and form in ("ONE", "TWO") else ["%@"]
+
+    def test_are_words_without_space_around_them(self):
+        for language, texts in tables("Accessibility"):
+            for key, text in texts.items():
+                with self.subTest(language=language, key=key):
+                    self.assertEqual(text, text.strip())
+                    self.assertTrue(all(character.isprintable() for character in text))
+                    self.assertEqual(text, unicodedata.normalize("NFC", text))
+
+    def test_are_written_in_the_script_of_their_language(self):
+        for language, texts in tables("Accessibility"):
+            scripts = tuple(SCRIPTS.get(language, ["LATIN"]))
+            for key, text in texts.items():
+                if key in ("PLURAL_RULE", "BLUETOOTH"):  # a name that many languages keep
+                    continue
+                with self.subTest(language=language, key=key):
+                    letters = [unicodedata.name(each) for each in text if each.isalpha()]
+                    self.assertTrue(
+                        all(name.startswith(scripts) or name.endswith("SOUND MARK") for name in letters),
+                        letters,
+                    )
+
+    def test_name_every_control_differently(self):
+        # Two buttons of one page must not be told alike.
+        for language, texts in tables("Accessibility"):
+            with self.subTest(language=language):
+                labels = [texts[key] for key in SPOKEN[:11]]
+                self.assertEqual(len(set(labels)), len(labels))

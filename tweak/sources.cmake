@@ -37,3 +37,6 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/support/HapticFeedbackHelper.cpp
     tweak/support/LocalizationHelper.cpp
     tweak/support/Log.cpp)
+
+set_property(SOURCE ${PROJECT_SOURCE_DIR}/tweak/panel/ShortcutCheck.cpp
+             PROPERTY COMPILE_DEFINITIONS ${DOZEWELL_REPOSITORY_DEFINITION})

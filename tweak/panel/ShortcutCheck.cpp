@@ -7,8 +7,9 @@
 
 namespace {
 
-// Where the maker's packages are found. Part of the message and what is copied.
-constexpr const char* repositoryAddress = "https://repo.corvane.example/";
+// Where the maker's packages are found, which the build is told. Part of the message and what is
+// copied.
+constexpr const char* repositoryAddress = DOZEWELL_REPOSITORY_URL;
 
 // The two buttons of an alert; `accepted` runs when the first is pressed.
 template <class Accepted>

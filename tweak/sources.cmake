@@ -15,7 +15,9 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/hooks/Startup.cpp
     tweak/hooks/Tracing.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp
+    tweak/indicators/Dozewell2TimeLeftLabel.cpp
     tweak/indicators/LockScreenViews.cpp
+    tweak/indicators/SpokenTimeLeft.cpp
     tweak/indicators/TimeFormat.cpp
     tweak/panel/ButtonWithIncreasedTouchArea.cpp
     tweak/panel/CheckboxButton.cpp
@@ -36,7 +38,8 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/support/CorvaneTweakUtils.cpp
     tweak/support/HapticFeedbackHelper.cpp
     tweak/support/LocalizationHelper.cpp
-    tweak/support/Log.cpp)
-
+    tweak/support/Log.cpp
+    tweak/support/PluralForm.cpp
+    tweak/support/SpokenText.cpp)
 set_property(SOURCE ${PROJECT_SOURCE_DIR}/tweak/panel/ShortcutCheck.cpp
              PROPERTY COMPILE_DEFINITIONS ${DOZEWELL_REPOSITORY_DEFINITION})

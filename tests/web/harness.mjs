@@ -238,7 +238,7 @@ export const press = (page, locator) => andCommand(page, "touch ended", () => lo
 export async function openPanel(served, page) {
   await andCommand(page, "control-center open", () => page.click("#device-controls"));
   await pass(served, 1);
-  await press(page, onScreen(page, "button", "Dozewell"));
+  await press(page, onScreen(page, "button", "Sleep timer"));
   await pass(served, 1);
   await onScreen(page, "button", "Confirm").waitFor();
 }

@@ -8,8 +8,8 @@ phoneTest("the panel speaks Arabic after the change", {}, async (served, page) =
   await andRestart(page, () => page.click("#setup-apply"));
   await andCommand(page, "control-center open", () => page.click("#device-controls"));
   await pass(served, 1);
-  await onScreen(page, "button", "Dozewell").waitFor();
-  await andCommand(page, "touch ended", () => onScreen(page, "button", "Dozewell").click());
+  await onScreen(page, "button", "مؤقت النوم").waitFor();
+  await andCommand(page, "touch ended", () => onScreen(page, "button", "مؤقت النوم").click());
   await pass(served, 1);
   await onScreen(page, "button", "تأكيد").waitFor();
   // Digits too: ٥ minutes are chosen at first.

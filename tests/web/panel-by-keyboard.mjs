@@ -15,7 +15,7 @@ phoneTest("a timer is set with tab, arrows and enter", {}, async (served, page) 
   await tabTo(page, page.locator("#device-controls"));
   await andCommand(page, "control-center open", () => page.keyboard.press("Enter"));
   await pass(served, 1);
-  await tabTo(page, onScreen(page, "button", "Dozewell"));
+  await tabTo(page, onScreen(page, "button", "Sleep timer"));
   await andCommand(page, "touch ended", () => page.keyboard.press("Enter"));
   await pass(served, 1);
   await tabTo(page, onScreen(page, "spinbutton", "min"));
@@ -32,13 +32,13 @@ phoneTest("a timer is set with tab, arrows and enter", {}, async (served, page) 
 phoneTest("escape leaves Control Center", {}, async (served, page) => {
   await andCommand(page, "control-center open", () => page.click("#device-controls"));
   await pass(served, 1);
-  await onScreen(page, "button", "Dozewell").focus();
+  await onScreen(page, "button", "Sleep timer").focus();
   await andCommand(page, "control-center close", () => page.keyboard.press("Escape"));
 });
 
 phoneTest("what dissolves can be reached no more", {}, async (served, page) => {
   await openPanel(served, page);
-  await press(page, onScreen(page, "button", "Settings"));
+  await press(page, onScreen(page, "button", "Timer actions"));
   // The old page is seen until time goes on.
   const old = page.locator("#glass .node[aria-hidden] .node[tabindex]");
   await old.first().waitFor({ state: "attached" });
@@ -54,7 +54,7 @@ phoneTest("what dissolves can be reached no more", {}, async (served, page) => {
 
 phoneTest("an alert is read out and answered", {}, async (served, page) => {
   await openPanel(served, page);
-  await andCommand(page, "touch ended", () => onScreen(page, "button", "Settings").press("Enter"));
+  await andCommand(page, "touch ended", () => onScreen(page, "button", "Timer actions").press("Enter"));
   await pass(served, 1);
   await andCommand(page, "touch ended", () => onScreen(page, "button", "Shortcut").press("Enter"));
   await pass(served, 1);

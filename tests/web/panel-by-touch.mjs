@@ -21,7 +21,7 @@ const tap = (page, locator) => andCommand(page, "touch ended", () => locator.tap
 phoneTest("a finger opens the panel, turns a wheel and confirms", small, async (served, page) => {
   await andCommand(page, "control-center open", () => page.tap("#device-controls"));
   await pass(served, 1);
-  await tap(page, onScreen(page, "button", "Dozewell"));
+  await tap(page, onScreen(page, "button", "Sleep timer"));
   await pass(served, 1);
   const box = await onScreen(page, "spinbutton", "min").boundingBox();
   const middle = { x: box.x + box.width / 2, y: box.y + box.height / 2 };
@@ -38,7 +38,7 @@ phoneTest(
   async (served, page) => {
     await andCommand(page, "control-center open", () => page.tap("#device-controls"));
     await pass(served, 1);
-    await tap(page, onScreen(page, "button", "Dozewell"));
+    await tap(page, onScreen(page, "button", "Sleep timer"));
     await pass(served, 1);
     const box = await onScreen(page, "spinbutton", "hours").boundingBox();
     await andCommand(page, "touch ended", () =>

@@ -16,7 +16,6 @@ struct Dozewell2Manager : SleepTimer {
   }
 
   bool isRunning() const { return objc::send<bool, "isRunning">(*this); }
-  bool nbSongsModeIsRunning() const { return objc::send<bool, "nbSongsModeIsRunning">(*this); }
   // Whether the panel is on the screen. The end of a timer closes it.
   bool isShowingDozewellUI() const { return objc::send<bool, "isShowingDozewellUI">(*this); }
   void setIsShowingDozewellUI(bool showing) const {

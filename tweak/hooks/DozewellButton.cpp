@@ -4,6 +4,8 @@
 #include "objc/Hook.h"
 #include "objc/Property.h"
 #include "tweak/hooks/Glyph.h"
+#include "tweak/indicators/SpokenTimeLeft.h"
+#include "tweak/support/SpokenText.h"
 
 namespace {
 
@@ -64,12 +66,23 @@ void updateState(Button self, int state) {
   UIKit::animate(seconds, [self = objc::retain(self), state] { showState(self, state); });
 }
 
+// Not what the host says of its routing button.
+NSString accessibilityLabel(Button) {
+  return SpokenText::localized("SLEEP_TIMER");
+}
+
+NSString accessibilityValue(Button) {
+  return spokenTimeLeft();
+}
+
 void addMembers(Class button) {
   objc::addAttachedProperty<"currentState", &currentState, &setCurrentState>(button, "q");
   objc::hook<"DozewellButton", "updatePackage", keepPackage>();
   objc::addMethod<"setMoonColor:", &setMoonColor>(button);
   objc::addMethod<"setCircleBackgroundVisible:", &setCircleBackgroundVisible>(button);
   objc::addMethod<"updateForNewState:", &updateState>(button);
+  objc::addMethod<"accessibilityLabel", &accessibilityLabel>(button);
+  objc::addMethod<"accessibilityValue", &accessibilityValue>(button);
 }
 
 Class buttonClass;  // nil until it is registered

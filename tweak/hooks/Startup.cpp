@@ -13,6 +13,7 @@
 #include "tweak/hooks/NowPlayingHeader.h"
 #include "tweak/hooks/Tracing.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/indicators/Dozewell2TimeLeftLabel.h"
 #include "tweak/panel/ButtonWithIncreasedTouchArea.h"
 #include "tweak/panel/CheckboxButton.h"
 #include "tweak/panel/ChooseSnoozeTimeView.h"
@@ -36,6 +37,7 @@ void registerClasses() {
   Dozewell2Manager::registerClass();
   SpecialTasksHelper::registerClass();
   Dozewell2TimeLeftIndicatorsManager::registerClass();
+  Dozewell2TimeLeftLabel::registerClass();
   ButtonWithIncreasedTouchArea::registerClass();
   CheckboxButton::registerClass();
   Dozewell2ImageButton::registerClass();

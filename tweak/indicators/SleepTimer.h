@@ -11,6 +11,11 @@ struct SleepTimer : NSObject {
   static SleepTimer sharedInstance();
 
   bool timerModeIsRunning() const { return objc::send<bool, "timerModeIsRunning">(*this); }
+  bool nbSongsModeIsRunning() const { return objc::send<bool, "nbSongsModeIsRunning">(*this); }
+  // The duration is over, the track is not.
+  bool shouldPauseMusicAtTheEndOfThisTrack() const {
+    return objc::send<bool, "shouldPauseMusicAtTheEndOfThisTrack">(*this);
+  }
   // Seconds; negative once due, 0 without a timer.
   double getTimerRemainingTime() const {
     return objc::send<double, "getTimerRemainingTime">(*this);

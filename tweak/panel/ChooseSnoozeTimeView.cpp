@@ -2,6 +2,7 @@
 
 #include "tweak/panel/ChooseSnoozeTimeViewImplementation.h"
 #include "tweak/support/BundleHelper.h"
+#include "tweak/support/SpokenText.h"
 
 using Page = ChooseSnoozeTimeViewImplementation;
 
@@ -32,11 +33,13 @@ objc::Strong<UIButton> barButton(const char* titleKey) {
   return objc::retain(button);
 }
 
-objc::Strong<ButtonWithIncreasedTouchArea> cornerButton(const char* image, CGRect frame) {
+objc::Strong<ButtonWithIncreasedTouchArea> cornerButton(const char* image, const char* spokenKey,
+                                                        CGRect frame) {
   auto button = ButtonWithIncreasedTouchArea::make();
   button->setFrame(frame);
   button->setImage(BundleHelper::getImageWithName(NSString::string(image)));
   button->setTintColor(UIColor::white());
+  button->setAccessibilityLabel(SpokenText::localized(spokenKey));
   return button;
 }
 
@@ -123,14 +126,14 @@ void Page::addButtons() {
 }
 
 void Page::addToggleModesButton() {
-  topRightCornerButton = cornerButton("nbSongsIcon", topRightFrame(container()));
+  topRightCornerButton = cornerButton("nbSongsIcon", "CHOOSE_SONGS", topRightFrame(container()));
   topRightCornerButton->addTarget(view(), objc::selector<"toggleModes">(),
                                   UIControl::touchUpInside);
   view().addSubview(topRightCornerButton);
 }
 
 void Page::addSettingsButton() {
-  topLeftCornerButton = cornerButton("settingsIcon", topLeftFrame());
+  topLeftCornerButton = cornerButton("settingsIcon", "TIMER_ACTIONS", topLeftFrame());
   view().addSubview(topLeftCornerButton);
 }
 

@@ -2,6 +2,7 @@
 #include "tweak/panel/ChooseSnoozeTimeViewImplementation.h"
 #include "tweak/support/Arithmetic.h"
 #include "tweak/support/BundleHelper.h"
+#include "tweak/support/SpokenText.h"
 
 using Page = ChooseSnoozeTimeViewImplementation;
 
@@ -31,12 +32,14 @@ void Page::toggleModes() {
 void Page::showTimerMode() {
   timeSelectorPickerView->setHidden(false);
   topRightCornerButton->setImage(BundleHelper::getImageWithName("nbSongsIcon"_ns));
+  topRightCornerButton->setAccessibilityLabel(SpokenText::localized("CHOOSE_SONGS"));
   crossDissolve(nbSongsPickerView, timeSelectorPickerView);
 }
 
 void Page::showSongMode() {
   nbSongsPickerView->setHidden(false);
   topRightCornerButton->setImage(BundleHelper::getImageWithName("timerIcon"_ns));
+  topRightCornerButton->setAccessibilityLabel(SpokenText::localized("CHOOSE_DURATION"));
   crossDissolve(timeSelectorPickerView, nbSongsPickerView);
 }
 

@@ -45,6 +45,8 @@ id Page::init() {
   if (!page) return nullptr;
   of(page.get()).backButton.load()->setTitle(localized("BACK"));
   of(page.get()).cancelTimerButton.load()->setTitle(localized("CANCEL"));
+  // A screen reader is told the unit with the number.
+  of(page.get()).subtitleLabel.load()->setIsAccessibilityElement(false);
   return page.detach().get();
 }
 

@@ -7,6 +7,7 @@
 #include "tweak/panel/ShortcutCheck.h"
 #include "tweak/support/BundleHelper.h"
 #include "tweak/support/HapticFeedbackHelper.h"
+#include "tweak/support/SpokenText.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ struct OnTimerEndsSettingsViewImplementation
   void runShortcutButtonClicked(CheckboxButton sender);
 
  private:
+  void describeButtons();
   // Calls visit(box, key) for the four boxes of the current state, in order.
   template <class Visit>
   void forEachBox(Visit visit);
@@ -46,6 +48,10 @@ objc::Strong<HBPreferences> openPreferences() {
 
 void setIcon(UIButton button, const char* name) {
   button.setImage(BundleHelper::getImageWithName(NSString::string(name)));
+}
+
+void setSpoken(UIButton button, const char* key) {
+  button.setAccessibilityLabel(SpokenText::localized(key));
 }
 
 id Page::init() {
@@ -65,10 +71,23 @@ void Page::setup() {
   setIcon(dndButton.load().get(), "dndIcon");
   setIcon(runShortcutButton.load().get(), "shortcutIcon");
   setIcon(customVolumeButton.load().get(), "customVolumeIcon");
-  setIcon(backButton.load().get(), "backIcon");
+  // An arrow to where the page came from: the other side where lines run from right to left.
+  backButton.load()->setImage(
+      BundleHelper::getImageWithName("backIcon"_ns).imageFlippedForRightToLeftLayoutDirection());
   setIcon(toggleStartEndButton.load().get(), "hourglassStartIcon");
+  describeButtons();
   restoreSettings();
   setCurrentStateIsStart(true);
+}
+
+// For a screen reader; what the hourglass does depends on the state.
+void Page::describeButtons() {
+  setSpoken(planeModeButton.load().get(), "AIRPLANE_MODE");
+  setSpoken(bluetoothButton.load().get(), "BLUETOOTH");
+  setSpoken(dndButton.load().get(), "DO_NOT_DISTURB");
+  setSpoken(runShortcutButton.load().get(), "SHORTCUT");
+  setSpoken(customVolumeButton.load().get(), "CUSTOM_VOLUME");
+  backButton.load()->setAccessibilityLabel(BundleHelper::getLocalizedStringFor("BACK"_ns));
 }
 
 // The boxes of the state that is left are written first, under that state's keys.
@@ -79,6 +98,7 @@ void Page::setCurrentStateIsStart(bool start) {
   customVolumeButton.load()->setHidden(!start);
   titleLabel.load()->setText(
       BundleHelper::getLocalizedStringFor(start ? "ON_TIMER_START"_ns : "ON_TIMER_END"_ns));
+  setSpoken(toggleStartEndButton.load().get(), start ? "SHOW_END_ACTIONS" : "SHOW_START_ACTIONS");
   restoreSettings();
 }
 

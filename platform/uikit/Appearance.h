@@ -36,8 +36,8 @@ struct UIFont : objc::Object {
   }
   // All digits as wide as each other.
   static UIFont monospacedDigitSystem(double points, double weight) {
-    return objc::send<UIFont, "monospacedDigitSystemFontOfSize:weight:">(objc_getClass("UIFont"),
-                                                                         points, weight);
+    return objc::send<UIFont, "monospacedDigitSystemFontOfSize:weight:">(
+        objc::classNamed<"UIFont">(), points, weight);
   }
   double pointSize() const { return objc::send<double, "pointSize">(*this); }
 };

@@ -1,6 +1,6 @@
 # The one thing that whoever publishes the package must set: where the packages that go with the
 # extension are found. docs/publishing.md says how. DOZEWELL_REPOSITORY_DEFINITION is what the
-# extension's sources are compiled with.
+# extension is compiled with, in both of its homes.
 set(repository_placeholder "https://repo.corvane.example/")
 set(DOZEWELL_REPOSITORY_URL ${repository_placeholder} CACHE STRING
     "Address of the package repository, which the extension tells its users")

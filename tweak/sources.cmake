@@ -41,5 +41,3 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/support/Log.cpp
     tweak/support/PluralForm.cpp
     tweak/support/SpokenText.cpp)
-set_property(SOURCE ${PROJECT_SOURCE_DIR}/tweak/panel/ShortcutCheck.cpp
-             PROPERTY COMPILE_DEFINITIONS ${DOZEWELL_REPOSITORY_DEFINITION})

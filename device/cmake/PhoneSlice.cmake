@@ -55,6 +55,7 @@ function(phone_objects name arch)
   # Headers are searched in the order given: the C++ library's come before those of C.
   target_compile_options(${name} PRIVATE ${PHONE_COMPILE_FLAGS} ${PHONE_COMPILE_FLAGS_${arch}})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_compile_definitions(${name} PRIVATE ${DOZEWELL_REPOSITORY_DEFINITION})
 endfunction()
 
 # phone_assembly(NAME LIST SOURCES...): what the arm64e objects are assembled from, for the check

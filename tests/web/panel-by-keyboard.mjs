@@ -54,7 +54,9 @@ phoneTest("what dissolves can be reached no more", {}, async (served, page) => {
 
 phoneTest("an alert is read out and answered", {}, async (served, page) => {
   await openPanel(served, page);
-  await andCommand(page, "touch ended", () => onScreen(page, "button", "Timer actions").press("Enter"));
+  await andCommand(page, "touch ended", () =>
+    onScreen(page, "button", "Timer actions").press("Enter"),
+  );
   await pass(served, 1);
   await andCommand(page, "touch ended", () => onScreen(page, "button", "Shortcut").press("Enter"));
   await pass(served, 1);

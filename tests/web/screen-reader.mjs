@@ -1,7 +1,7 @@
-// What the browser's own accessibility tree says of the phone's screen: the words, values and states
-// that the extension gives its views.
+// What the browser's own accessibility tree says of the phone's screen: the words, values and
+// states that the extension gives its views.
 import assert from "node:assert/strict";
-import { andCommand, onScreen, openPanel, pass, phoneTest, press } from "./harness.mjs";
+import { onScreen, openPanel, pass, phoneTest, press } from "./harness.mjs";
 
 // Of every node in the tree that is not passed over.
 async function told(page) {

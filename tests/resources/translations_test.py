@@ -53,9 +53,9 @@ RULES = {
     "one": (["de", "en", "es", "it", "nl", "sv"], ["ONE", "OTHER"]),
     "zero-or-one": (["fr", "hi", "pt-BR"], ["ONE", "OTHER"]),
     "hebrew": (["he"], ["ONE", "TWO", "OTHER"]),
-    "arabic": (["ar"], ["ONE", "TWO", "FEW", "MANY", "OTHER"]),
-    "polish": (["pl"], ["ONE", "FEW", "MANY"]),
-    "east-slavic": (["ru", "uk"], ["ONE", "FEW", "MANY"]),
+    "arabic": (["ar"], ["ONE", "TWO", "FEW", "OTHER"]),
+    "polish": (["pl"], ["ONE", "FEW", "OTHER"]),
+    "east-slavic": (["ru", "uk"], ["ONE", "FEW", "OTHER"]),
 }
 COUNTED = ["HOURS", "MINUTES", "SONGS_LEFT"]
 # Their forms of one and two are words for the number, too.

@@ -18,8 +18,6 @@ const char* suffix(PluralForm form) {
       return "_TWO";
     case PluralForm::few:
       return "_FEW";
-    case PluralForm::many:
-      return "_MANY";
     case PluralForm::other:
       break;
   }

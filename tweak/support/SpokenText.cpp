@@ -35,6 +35,7 @@ NSString SpokenText::counted(const char* key, long number) {
   const auto whole = NSMutableString::string();
   whole.appendString(NSString::string(key));
   whole.appendString(NSString::string(suffix(form)));
+  // Not as a format: of what the table does not have, or of no table at all, nothing is made.
   return lookUp(whole).stringByReplacingOccurrencesOfString(
       "%@"_ns, LocalizationHelper::getLocalizedNumberStringFrom(number));
 }

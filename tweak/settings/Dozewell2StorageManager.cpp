@@ -54,10 +54,11 @@ void bindSetting(HBPreferences domain, Store& store) = delete;
   }
 #include "tweak/settings/Settings.def"
 
-#define SETTING(number, T, name, otherwise) +1
-constexpr int settingCount =
+enum Line : int {
+#define SETTING(number, T, name, otherwise) line_##name,
 #include "tweak/settings/Settings.def"
-    ;
+  settingCount
+};
 
 template <int... index>
 void bindInOrder(HBPreferences domain, std::integer_sequence<int, index...>) {

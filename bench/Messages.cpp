@@ -2,6 +2,7 @@
 // same work.
 #include <benchmark/benchmark.h>
 
+#include <array>
 #include <memory>
 #include <new>
 #include <string>
@@ -76,6 +77,24 @@ void bridgedSend(benchmark::State& state) {
   }
 }
 BENCHMARK(bridgedSend);
+
+// One place that sends to objects of four classes in turn, as those that go over views do.
+void bridgedSendToFourClasses(benchmark::State& state) {
+  std::array<objc::Strong<objc::Object>, 4> receivers;
+  for (std::size_t i = 0; i < receivers.size(); ++i) {
+    const std::string name = "BenchTurn" + std::to_string(i);
+    Class cls = objc_lookUpClass(name.c_str());
+    if (cls == nullptr) {
+      cls = objc_allocateClassPair(object_getClass(counter().get()), name.c_str(), 0);
+      objc_registerClassPair(cls);
+    }
+    receivers[i] = objc::adopt(objc::Object(objc_alloc_init(cls)));
+  }
+  std::size_t turn = 0;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(objc::send<long, "add:">(receivers[turn++ % 4].get(), 1L));
+}
+BENCHMARK(bridgedSendToFourClasses);
 
 void bridgedSendToNil(benchmark::State& state) {
   objc::Object receiver;

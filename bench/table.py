@@ -13,6 +13,7 @@ NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 # name: (what it is divided by, aim for the ratio) or (None, aim in nanoseconds)
 AIMS = {
     "bridgedSend": ("virtualCall", 3.0),
+    "bridgedSendToFourClasses": ("bridgedSend", 3.0),
     "bridgedSendToNil": ("virtualCall", None),
     "bridgedSendCold": ("bridgedSend", None),
     "directCall": ("virtualCall", None),

@@ -10,8 +10,8 @@
 // platform's block ABI is written out here and filled in by ordinary stores.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -47,9 +47,9 @@ struct BlockHeader {
 };
 
 enum BlockFlags : std::int32_t {
-  blockReferenceCountOfOne = 1 << 1,
-  blockNeedsFree = 1 << 24,
   blockHasCopyDispose = 1 << 25,
+  blockUseStret =
+      1 << 29,  // callers pass the place for the result; meaningful with a signature only
   blockHasSignature = 1 << 30,
 };
 
@@ -82,51 +82,68 @@ struct BlockSignature<R(Args...)> {
   static constexpr auto value = ((encode<R>() + FixedString("@?")) + ... + encode<Args>());
 };
 
-template <class Signature, class Function>
-struct HeapBlock;
+struct NoDescriptor {};
 
-// The literal lives on the heap from the start, with its descriptor behind it: it is moved
-// nowhere, so captures may be move-only and _Block_copy only counts.
+template <class Signature, class Function>
+struct BlockLiteral;
+
+// The literal is made on the stack, as the platform's compiler makes it, and the runtime's copy of
+// it on the heap is the block. So only what every compiler writes stands here, and not how the
+// runtime marks and counts blocks on the heap. The literal is copied exactly once: the copy helper
+// moves the captures, which may be move-only.
+//
+// With helpers, the descriptor is part of the literal: arm64e signs them over where they are
+// stored, which the compiler cannot do for a constant, and one that all threads share would have to
+// be filled under a guard. The copy helper signs them again in their new place.
 template <class R, class... Args, class Function>
-struct HeapBlock<R(Args...), Function> {
-  static constexpr bool disposes = !std::is_trivially_destructible_v<Function>;
-  using Descriptor = std::conditional_t<disposes, BlockDescriptor, PlainBlockDescriptor>;
+struct BlockLiteral<R(Args...), Function> {
+  static constexpr bool needsHelpers = !std::is_trivially_copyable_v<Function>;
+  using Descriptor = std::conditional_t<needsHelpers, BlockDescriptor, NoDescriptor>;
 
   BlockHeader header;
   Function function;
-  Descriptor descriptor;
+  [[no_unique_address]] Descriptor descriptor;
+
+  explicit BlockLiteral(Function&& captures) : function(std::move(captures)) {
+    storeBlockClass(&header.isa, _NSConcreteStackBlock);
+    header.flags = blockHasSignature | (needsHelpers ? blockHasCopyDispose : 0) |
+                   (returnedInMemory<R> ? blockUseStret : 0);
+    header.reserved = 0;
+    storeBlockFunction(&header.invoke, &invoke);
+    describe();
+  }
 
   // Callers know nothing of the captures: these have the prototypes that they call.
   static Wire<R> invoke(BlockHeader* literal, Wire<Args>... args) {
-    auto* self = reinterpret_cast<HeapBlock*>(literal);
+    auto* self = reinterpret_cast<BlockLiteral*>(literal);
     if constexpr (std::is_void_v<R>)
       self->function(fromWire<Args>(args)...);
     else
       return toWire<R>(self->function(fromWire<Args>(args)...));
   }
 
-  static void dispose(const void* literal) {
-    static_cast<HeapBlock*>(const_cast<void*>(literal))->function.~Function();
+  // The runtime has copied the bytes, and signed again what it knows of.
+  static void copy(void* to, const void* from) {
+    auto* copied = static_cast<BlockLiteral*>(to);
+    auto* literal = static_cast<BlockLiteral*>(const_cast<void*>(from));
+    new (&copied->function) Function(std::move(literal->function));
+    copied->describe();
   }
-  // Never run: the runtime copies only blocks that live on a stack.
-  static void copy(void*, const void*) {}
+  static void dispose(const void* literal) {
+    static_cast<BlockLiteral*>(const_cast<void*>(literal))->function.~Function();
+  }
 
-  static HeapBlock* make(Function&& function) {
-    auto* made = static_cast<HeapBlock*>(std::calloc(1, sizeof(HeapBlock)));
-    if (made == nullptr) return nullptr;
-    new (&made->function) Function(std::move(function));
-    storeBlockClass(&made->header.isa, _NSConcreteMallocBlock);
-    made->header.flags = blockNeedsFree | blockReferenceCountOfOne | blockHasSignature;
-    storeBlockFunction(&made->header.invoke, &HeapBlock::invoke);
-    made->header.descriptor = &made->descriptor;
-    made->descriptor.size = sizeof(HeapBlock);
-    made->descriptor.signature = BlockSignature<R(Args...)>::value.c_str();
-    if constexpr (disposes) {
-      made->header.flags |= blockHasCopyDispose;
-      storeBlockFunction(&made->descriptor.copy, &HeapBlock::copy);
-      storeBlockFunction(&made->descriptor.dispose, &HeapBlock::dispose);
+  void describe() {
+    static constexpr auto signature = BlockSignature<R(Args...)>::value;
+    if constexpr (needsHelpers) {
+      descriptor = {0, sizeof(BlockLiteral), nullptr, nullptr, signature.c_str()};
+      storeBlockFunction(&descriptor.copy, &copy);
+      storeBlockFunction(&descriptor.dispose, &dispose);
+      header.descriptor = &descriptor;
+    } else {
+      static PlainBlockDescriptor plain{0, sizeof(BlockLiteral), signature.c_str()};
+      header.descriptor = &plain;
     }
-    return made;
   }
 };
 
@@ -136,8 +153,8 @@ template <class Signature, class Function>
 Strong<Block<Signature>> block(Function&& function) {
   static_assert(!std::is_lvalue_reference_v<Function>, "move the lambda into its block");
   static_assert(alignof(Function) <= alignof(std::max_align_t), "captures are over-aligned");
-  auto* made = HeapBlock<Signature, Function>::make(std::move(function));
-  return adopt(Block<Signature>(reinterpret_cast<id>(made)));
+  BlockLiteral<Signature, Function> literal(std::move(function));
+  return adopt(Block<Signature>(static_cast<id>(_Block_copy(&literal))));
 }
 
 // For keeping a block that was handed in: it may still live on its maker's stack. nil gives an

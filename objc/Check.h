@@ -23,18 +23,39 @@ inline constexpr bool checksTypes = false;
 void requireSameTypes(const char* action, Class cls, SEL name, const char* mine,
                       const char* registered);
 
-// The class is remembered, so a warm call costs one load and one comparison.
+// The classes that one place has sent to and that were compared. As many as stand in `slots` cost
+// a few loads and comparisons each time; where more meet, the oldest is compared again. Threads may
+// lose or double an entry, which costs one more comparison of types.
+class CheckedClasses {
+ public:
+  bool contains(Class cls) const {
+    for (const Class& slot : slots_)
+      if (__atomic_load_n(&slot, __ATOMIC_RELAXED) == cls) return true;
+    return false;
+  }
+
+  void add(Class cls) {
+    const unsigned int next = __atomic_fetch_add(&next_, 1, __ATOMIC_RELAXED);
+    __atomic_store_n(&slots_[next % slots], cls, __ATOMIC_RELAXED);
+  }
+
+ private:
+  static constexpr unsigned int slots = 8;
+  Class slots_[slots];
+  unsigned int next_;
+};
+
 template <class R, FixedString Name, class... Args>
 void checkSend(id receiver, SEL name) {
   if constexpr (checksTypes) {
-    static Class checked;
+    static CheckedClasses checked;
     Class cls = object_getClass(receiver);
-    if (__atomic_load_n(&checked, __ATOMIC_RELAXED) == cls) return;
+    if (checked.contains(cls)) return;
     // Unknown selectors are the runtime's to report.
     if (Method method = class_getInstanceMethod(cls, name))
       requireSameTypes("send", cls, name, methodEncoding<R, Args...>.c_str(),
                        method_getTypeEncoding(method));
-    __atomic_store_n(&checked, cls, __ATOMIC_RELAXED);
+    checked.add(cls);
   }
 }
 

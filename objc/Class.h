@@ -21,11 +21,13 @@
 #pragma once
 
 #include <bit>
+#include <cstring>
 #include <type_traits>
 
 #include "objc/Method.h"
 #include "objc/Once.h"
 #include "objc/Property.h"
+#include "objc/Registration.h"
 #include "objc/Retained.h"
 
 namespace objc {
@@ -79,19 +81,20 @@ class Implementation {
   static inline std::ptrdiff_t offset_;  // of the state inside the object, bytes
 };
 
+// The runtime gives objects memory of this alignment, whatever their state asks for.
+inline constexpr std::size_t objectAlignment = 16;
+
 // Registers one class. When the base does not exist, or the name is taken, nothing is registered
-// and finish() gives nil.
+// and finish() gives no class but the reason. Names live as long as the program.
 template <class Self>
 class ClassBuilder {
  public:
   ClassBuilder(const char* name, const char* superclass)
       : ClassBuilder(name, objc_getClass(superclass)) {}
 
-  ClassBuilder(const char* name, Class superclass) {
-    if (superclass != nullptr) class_ = objc_allocateClassPair(superclass, name, 0);
+  ClassBuilder(const char* name, Class superclass) : name_(name), stateName_(name) {
+    class_ = allocate(superclass);
     if (class_ == nullptr) return;
-    constexpr auto alignment = std::uint8_t(std::countr_zero(alignof(Self)));
-    class_addIvar(class_, stateName, sizeof(Self), alignment, "?");
     Implementation<Self>::class_ = class_;
     method<"dealloc", &destroy>();
   }
@@ -126,21 +129,67 @@ class ClassBuilder {
     return *this;
   }
 
-  Class finish() {
-    if (class_ == nullptr) return nullptr;
+  Registration finish() {
+    if (class_ == nullptr) return Registration(refusal_);
     objc_registerClassPair(class_);
-    Implementation<Self>::offset_ = ivar_getOffset(class_getInstanceVariable(class_, stateName));
-    return class_;
+    Implementation<Self>::offset_ =
+        ivar_getOffset(class_getInstanceVariable(class_, stateName_.text));
+    return Registration(&Implementation<Self>::class_);
   }
 
  private:
-  static constexpr const char* stateName = "_state";
+  // "_Counter_state", as each class of a line has one; cut off where it is too long.
+  struct StateName {
+    explicit StateName(const char* className) {
+      char* end = append(text, "_");
+      append(append(end, className), "_state");
+    }
+    char text[128] = {};
 
+   private:
+    char* append(char* to, const char* from) {
+      while (*from != 0 && to < text + sizeof text - 1) *to++ = *from++;
+      return to;
+    }
+  };
+
+  Class allocate(Class superclass) {
+    if (superclass == nullptr) return refuse("its superclass does not exist");
+    Class made = objc_allocateClassPair(superclass, name_, 0);
+    if (made == nullptr) return refuse("the name is taken");
+    if (addState(made)) return made;
+    objc_disposeClassPair(made);
+    return refuse("there is no place for its state");
+  }
+
+  bool addState(Class made) {
+    static_assert(
+        alignof(Self) <= objectAlignment,
+        "a state is aligned to 16 bytes at most, as objects are: hold the rest by pointer");
+    constexpr auto alignment = std::uint8_t(std::countr_zero(alignof(Self)));
+    return class_addIvar(made, stateName_.text, sizeof(Self), alignment, "?");
+  }
+
+  Class refuse(const char* reason) {
+    refusal_ = {name_, reason};
+    return nullptr;
+  }
+
+  // A superclass may message an overridden method on its way out, and the destructor of one member
+  // may come back before the next has run. Owners empty themselves before they let go; at the end
+  // the whole state is what it was at the beginning, and so is valid again.
   static void destroy(id object) {
-    Implementation<Self>::of(object).~Self();
+    Self* state = &Implementation<Self>::of(object);
+    state->~Self();
+    std::memset(static_cast<void*>(state), 0, sizeof(Self));
+    // Writes to an object that has ended count for nothing, unless somebody may look.
+    asm volatile("" : : "r"(state) : "memory");
     sendSuper<void, "dealloc">(object, Implementation<Self>::class_);
   }
 
+  const char* name_;
+  StateName stateName_;
+  Refusal refusal_;
   Class class_ = nullptr;
 };
 

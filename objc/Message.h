@@ -17,6 +17,9 @@
 
 namespace objc {
 
+template <class T>
+class Strong;  // objc/Ownership.h
+
 // What crosses the call: views travel as the pointer they are.
 template <class T>
 using Wire = std::conditional_t<std::is_base_of_v<Object, T>, id, T>;
@@ -125,6 +128,12 @@ R send(Object receiver, Args... args) {
   return send<R, Name>(receiver.get(), args...);
 }
 
+// The receiver may be a temporary owner, which lives until the message has been answered.
+template <class R, FixedString Name, class... Args, class T>
+R send(const Strong<T>& receiver, Args... args) {
+  return send<R, Name>(receiver.get().get(), args...);
+}
+
 // A class method. A class that does not exist is nil.
 template <class R, FixedString Name, class... Args>
 R send(Class receiver, Args... args) {
@@ -163,6 +172,10 @@ R sendSuper(id receiver, Class implementing, Args... args) {
 template <FixedString Name>
 bool respondsTo(Object object) {
   return object && class_respondsToSelector(object_getClass(object.get()), selector<Name>());
+}
+template <FixedString Name, class T>
+bool respondsTo(const Strong<T>& owner) {
+  return respondsTo<Name>(owner.get());
 }
 
 }  // namespace objc

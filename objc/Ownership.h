@@ -21,9 +21,10 @@ class Strong {
   constexpr Strong(std::nullptr_t) {}
   Strong(const Strong& other) : view_(T(objc_retain(other.view_.get()))) {}
   Strong(Strong&& other) noexcept : view_(other.detach()) {}
+  // Empty before the object is released, whose dealloc may come back to whoever holds this owner.
   ~Strong() {
     static_assert(View<T>, "only views can be owned");
-    objc_release(view_.get());
+    objc_release(detach().get());
   }
 
   // By value: the old object is released last, after the new one is in place.
@@ -32,8 +33,12 @@ class Strong {
     return *this;
   }
 
+  // The view of a temporary owner lives until the end of the full expression. That is long enough
+  // for an argument, which says get(); a variable would dangle. So a temporary does not convert by
+  // itself, except as the receiver of a message.
   T get() const { return view_; }
-  operator T() const { return view_; }
+  operator T() const& { return view_; }
+  operator T() const&& = delete;
   T* operator->() { return &view_; }
   const T* operator->() const { return &view_; }
   explicit operator bool() const { return bool(view_); }
@@ -84,7 +89,8 @@ class Weak {
   explicit Weak(T view) { objc_initWeak(&location_, view.get()); }
   Weak(const Weak& other) { objc_copyWeak(&location_, &other.location_); }
   Weak(Weak&& other) noexcept { objc_moveWeak(&location_, &other.location_); }
-  ~Weak() { objc_destroyWeak(&location_); }
+  // Not objc_destroyWeak, which leaves the address of the object where it is: see ~Strong.
+  ~Weak() { objc_storeWeak(&location_, nullptr); }
 
   Weak& operator=(const Weak& other) {
     if (this != &other) objc_storeWeak(&location_, other.load().get().get());

@@ -10,6 +10,7 @@
 
 struct HBPreferences : objc::Object {
   using Object::Object;
+  static bool isInstalled() { return objc::classNamed<"HBPreferences">() != nullptr; }
   // One object per identifier and process. nil when the library is not installed.
   static objc::Strong<HBPreferences> make(NSString identifier) {
     return objc::adopt(objc::send<HBPreferences, "initWithIdentifier:">(

@@ -28,7 +28,7 @@ void journal(const std::string& message) {
 }
 
 void put(KeyTable& table, Object key, Object value) {
-  table.put(objc::adopt(objc::send<Object, "copy">(key)), value);
+  table.put(objc::adopt(objc::send<Object, "copy">(key)).get(), value);
 }
 
 }  // namespace

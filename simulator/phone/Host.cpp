@@ -36,6 +36,12 @@ Host::Symbol described(void* address) {
   return {address, type == STT_OBJECT ? Kind::variable : Kind::other, symbol->st_size};
 }
 
+void registerForeignClass(const std::string& name) {
+  Class made = objc_allocateClassPair(objc_getClass("NSObject"), name.c_str(), 0);
+  if (made == nullptr) throw HostError("there is a class named " + name + " already");
+  objc_registerClassPair(made);
+}
+
 }  // namespace
 
 void Host::registerClasses() {
@@ -48,6 +54,7 @@ void Host::registerClasses() {
 void Host::launch() {
   registerClasses();
   const objc::AutoreleasePool pool;
+  for (const std::string& name : Phone::current().setup.foreignClasses) registerForeignClass(name);
   const ClassJournal journal(Phone::current().setup.journalsClassChanges);
   traceMethods(Phone::current().setup.traced);
   loadExtensions();

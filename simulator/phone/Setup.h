@@ -24,6 +24,7 @@ struct Setup {
   std::set<std::string, std::less<>> missingClasses;
   // "SBMediaController pause": the class exists without this method.
   std::set<std::string, std::less<>> missingMethods;
+  std::vector<std::string> foreignClasses;  // of other extensions, which have loaded before
 
   bool journalsClassChanges = false;  // what extensions do to classes as they load
   std::vector<std::pair<std::string, std::string>> traced;  // class and selector, see Tracing.h

@@ -58,7 +58,7 @@ std::vector<Object> UIStackView::visible() const {
 
 double UIStackView::spacingAfter(Object view) const {
   for (const auto& [each, points] : customSpacings)
-    if (each.load() == view) return points;
+    if (each.load().get() == view) return points;
   return spacing;
 }
 

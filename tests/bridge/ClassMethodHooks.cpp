@@ -67,7 +67,7 @@ TEST_F(ClassMethodHooks, OnAnInheritedOneLeaveTheBaseAlone) {
 
 TEST_F(ClassMethodHooks, PreferTheInstanceMethodOfTheName) {
   EXPECT_TRUE((objc::hook<"Center", "both", plusOne>()));
-  EXPECT_EQ((objc::send<long, "both">(Center::make())), 31);
+  EXPECT_EQ((objc::send<long, "both">(Center::make().get())), 31);
   EXPECT_EQ((objc::send<long, "both">(Center::cls())), 20);
 }
 

@@ -14,7 +14,10 @@ using bridge::ProbeView;
 static_assert(!std::is_convertible_v<id, Owner>, "a raw object never turns into an owner");
 static_assert(!std::is_convertible_v<ProbeView, Owner>, "nor does a view");
 static_assert(!std::is_constructible_v<Owner, ProbeView>, "retain() or adopt() says which");
-static_assert(std::is_convertible_v<Owner, ProbeView>);
+static_assert(std::is_convertible_v<Owner&, ProbeView>);
+static_assert(std::is_convertible_v<const Owner&, objc::Object>);
+static_assert(!std::is_convertible_v<Owner, ProbeView>, "it would dangle");
+static_assert(!std::is_convertible_v<const Owner, objc::Object>);
 static_assert(sizeof(Owner) == sizeof(id));
 
 struct StrongReferences : bridge::ProbeTest {

@@ -73,8 +73,8 @@ TEST_F(NowPlayingTest, WithoutMusicThereIsNoInformation) {
 TEST_F(NowPlayingTest, TellsTheTrackAndItsPosition) {
   playTracks();
   advance(4);
-  EXPECT_EQ(text(infoValue(kMRMediaRemoteNowPlayingInfoTitle)), "A");
-  EXPECT_EQ(text(infoValue(kMRMediaRemoteNowPlayingInfoArtist)), "The Band");
+  EXPECT_EQ(text(infoValue(kMRMediaRemoteNowPlayingInfoTitle).get()), "A");
+  EXPECT_EQ(text(infoValue(kMRMediaRemoteNowPlayingInfoArtist).get()), "The Band");
   EXPECT_FALSE(infoValue(kMRMediaRemoteNowPlayingInfoAlbum));
   const auto value = [this](id key) {
     return objc::send<double, "doubleValue">(infoValue(key).get());

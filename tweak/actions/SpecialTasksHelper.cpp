@@ -242,7 +242,7 @@ Class SpecialTasksHelper::cls() {
   return Tasks::cls();
 }
 
-Class SpecialTasksHelper::registerClass() {
+objc::Registration SpecialTasksHelper::registerClass() {
   return objc::ClassBuilder<Tasks>("SpecialTasksHelper", "NSObject")
       .property<"volumeBeforeFadeOut", &Tasks::volumeBeforeFadeOut>()
       .classMethod<"getInstance", &Tasks::getInstance>()

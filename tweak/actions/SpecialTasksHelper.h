@@ -1,6 +1,7 @@
 // What the timer does to the phone: pausing, the volume, and the user's start and end actions.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/Foundation.h"
 
 // Main thread. What the phone does not have is skipped in silence; nothing reports failure.
@@ -24,5 +25,5 @@ struct SpecialTasksHelper : NSObject {
   }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

@@ -149,7 +149,7 @@ SleepTimer SleepTimer::sharedInstance() {
   return Dozewell2Manager::sharedInstance();
 }
 
-Class Dozewell2Manager::registerClass() {
+objc::Registration Dozewell2Manager::registerClass() {
   return objc::ClassBuilder<Engine>("Dozewell2Manager", "NSObject")
       .property<"timerModeIsRunning", &Engine::timerModeIsRunning>()
       .property<"nbSongsModeIsRunning", &Engine::nbSongsModeIsRunning>()

@@ -1,6 +1,7 @@
 // The sleep timer: at most one at a time, a duration or a number of songs.
 #pragma once
 
+#include "objc/Registration.h"
 #include "tweak/engine/DozewellNowPlayingController.h"
 #include "tweak/engine/TimerPanel.h"
 #include "tweak/indicators/SleepTimer.h"
@@ -50,5 +51,5 @@ struct Dozewell2Manager : SleepTimer {
   void restoreDozewellIfNeeded() const { objc::send<void, "restoreDozewellIfNeeded">(*this); }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

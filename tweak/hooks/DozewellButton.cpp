@@ -97,6 +97,10 @@ Class DozewellButton::cls() {
   return buttonClass;
 }
 
+bool DozewellButton::nameIsTaken() {
+  return objc_lookUpClass("DozewellButton") != nullptr;
+}
+
 void DozewellButton::registerClass() {
   Class superclass = MRUNowPlayingRoutingButton::cls();
   if (superclass == nullptr) return;

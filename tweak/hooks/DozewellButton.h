@@ -29,6 +29,8 @@ struct DozewellButton : MRUNowPlayingRoutingButton {
   }
 
   static Class cls();  // nil until it is registered
+  // Whether there is a class of that name already, of somebody else.
+  static bool nameIsTaken();
   // Creates the class under the host's routing button and gives it its members. Without that class
   // there is no timer button.
   static void registerClass();

@@ -2,8 +2,10 @@
 //
 // Two initialisers run, in this order, when the library is loaded: before the host's main, on the
 // loading thread. Nothing is ever unhooked.
+#include "objc/ClassGroup.h"
 #include "objc/Hook.h"
 #include "objc/Ownership.h"
+#include "platform/Cephei.h"
 #include "tweak/actions/SpecialTasksHelper.h"
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/hooks/DozewellButton.h"
@@ -27,28 +29,36 @@
 #include "tweak/support/CorvaneTweakUtils.h"
 #include "tweak/support/HapticFeedbackHelper.h"
 #include "tweak/support/LocalizationHelper.h"
+#include "tweak/support/Log.h"
 
 namespace {
 
 // The extension's own classes exist in every process that loads it, as they would if the compiler
-// had laid them out.
-void registerClasses() {
-  Dozewell2StorageManager::registerClass();
-  Dozewell2Manager::registerClass();
-  SpecialTasksHelper::registerClass();
-  Dozewell2TimeLeftIndicatorsManager::registerClass();
-  Dozewell2TimeLeftLabel::registerClass();
-  ButtonWithIncreasedTouchArea::registerClass();
-  CheckboxButton::registerClass();
-  Dozewell2ImageButton::registerClass();
-  ChooseSnoozeTimeView::registerClass();
-  CurrentTimerView::registerClass();
-  OnTimerEndsSettingsView::registerClass();
-  Dozewell2ViewController::registerClass();
-  CorvaneTweakUtils::registerClass();
-  BundleHelper::registerClass();
-  LocalizationHelper::registerClass();
-  HapticFeedbackHelper::registerClass();
+// had laid them out. All of them or none: each relies on the others.
+objc::Refusal registerClasses() {
+  // Made later, and only where its superclass exists; its name must be free for that now.
+  if (DozewellButton::nameIsTaken()) return {"DozewellButton", "the name is taken"};
+  return objc::registerTogether<Dozewell2StorageManager, Dozewell2Manager, SpecialTasksHelper,
+                                Dozewell2TimeLeftIndicatorsManager, Dozewell2TimeLeftLabel,
+                                ButtonWithIncreasedTouchArea, CheckboxButton, Dozewell2ImageButton,
+                                ChooseSnoozeTimeView, CurrentTimerView, OnTimerEndsSettingsView,
+                                Dozewell2ViewController, CorvaneTweakUtils, BundleHelper,
+                                LocalizationHelper, HapticFeedbackHelper>();
+}
+
+// So that whoever looks for the timer finds out why it is not there. The host goes on without it.
+void logRefusal(const objc::Refusal& refused) {
+  (LogLine() << "Dozewell is not installed: class " << refused.className
+             << " cannot be registered: " << refused.reason)
+      .write();
+}
+
+void logMissingLibrary() {
+  (LogLine() << "Dozewell is not installed: the preferences library is missing").write();
+}
+
+bool hasClasses() {
+  return Dozewell2StorageManager::cls() != nullptr;
 }
 
 bool isHomeScreenProcess() {
@@ -111,15 +121,16 @@ void installIndicatorHooks() {
 
 __attribute__((constructor)) void loadSettingsAndHooks() {
   objc::AutoreleasePool pool;
-  registerClasses();
+  if (const objc::Refusal refused = registerClasses()) return logRefusal(refused);
   if (!isHomeScreenProcess()) return;
+  if (!HBPreferences::isInstalled()) return logMissingLibrary();
   registerSettings();
   if (isEnabled()) installHooks();
 }
 
 __attribute__((constructor)) void loadIndicators() {
   objc::AutoreleasePool pool;
-  if (!isHomeScreenProcess()) return;
+  if (!hasClasses() || !isHomeScreenProcess()) return;
   if (isEnabled()) installIndicatorHooks();
 }
 

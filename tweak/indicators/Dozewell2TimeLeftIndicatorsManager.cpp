@@ -90,7 +90,7 @@ Class Dozewell2TimeLeftIndicatorsManager::cls() {
   return Indicators::cls();
 }
 
-Class Dozewell2TimeLeftIndicatorsManager::registerClass() {
+objc::Registration Dozewell2TimeLeftIndicatorsManager::registerClass() {
   return objc::ClassBuilder<Indicators>("Dozewell2TimeLeftIndicatorsManager", "NSObject")
       .property<"dozewellVcTimeLeftLabel", &Indicators::dozewellVcTimeLeftLabel>()
       .property<"updateRemainingTimeLabelsTimer", &Indicators::updateRemainingTimeLabelsTimer>()

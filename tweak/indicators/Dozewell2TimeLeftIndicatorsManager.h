@@ -2,6 +2,7 @@
 // duration) and in the lock screen's date line (songs).
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 // Main thread.
@@ -33,5 +34,5 @@ struct Dozewell2TimeLeftIndicatorsManager : NSObject {
   }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

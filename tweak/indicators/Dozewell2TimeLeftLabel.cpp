@@ -40,7 +40,7 @@ unsigned long Label::accessibilityTraits() {
 
 }  // namespace
 
-Class Dozewell2TimeLeftLabel::registerClass() {
+objc::Registration Dozewell2TimeLeftLabel::registerClass() {
   return objc::ClassBuilder<Label>("Dozewell2TimeLeftLabel", "UILabel")
       .method<"initWithCoder:", &Label::initWithCoder>()
       .method<"accessibilityLabel", &Label::accessibilityLabel>()

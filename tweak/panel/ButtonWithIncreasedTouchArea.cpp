@@ -32,7 +32,7 @@ objc::Strong<ButtonWithIncreasedTouchArea> ButtonWithIncreasedTouchArea::make() 
   return objc::retain(objc::as<ButtonWithIncreasedTouchArea>(made));
 }
 
-Class ButtonWithIncreasedTouchArea::registerClass() {
+objc::Registration ButtonWithIncreasedTouchArea::registerClass() {
   return objc::ClassBuilder<IconButton>("ButtonWithIncreasedTouchArea", "UIButton")
       .method<"pointInside:withEvent:", &IconButton::pointInside_withEvent>()
       .method<"sendAction:to:forEvent:", &IconButton::sendAction_to_forEvent>()

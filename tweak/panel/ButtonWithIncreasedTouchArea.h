@@ -1,6 +1,7 @@
 // A small icon button that is easy to hit and answers with a tap.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 struct ButtonWithIncreasedTouchArea : UIButton {
@@ -9,5 +10,5 @@ struct ButtonWithIncreasedTouchArea : UIButton {
   // Of the custom type, without title and image.
   static objc::Strong<ButtonWithIncreasedTouchArea> make();
 
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

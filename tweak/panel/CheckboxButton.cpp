@@ -68,7 +68,7 @@ void Checkbox::setSelected(bool selected) {
 
 }  // namespace
 
-Class CheckboxButton::registerClass() {
+objc::Registration CheckboxButton::registerClass() {
   return objc::ClassBuilder<Checkbox>("CheckboxButton", "UIButton")
       .method<"init", &Checkbox::init>()
       .method<"initWithCoder:", &Checkbox::initWithCoder>()

@@ -1,6 +1,7 @@
 // An icon that is checked or not: dimmed when it is not, with a bounce at every change.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 // Layouts make these. A box toggles itself when it is touched.
@@ -12,5 +13,5 @@ struct CheckboxButton : UIButton {
   void check(bool checked) const { objc::send<void, "check:">(*this, checked); }
   void toggleCheck() const { objc::send<void, "toggleCheck">(*this); }
 
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

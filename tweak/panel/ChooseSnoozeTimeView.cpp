@@ -141,7 +141,7 @@ Class ChooseSnoozeTimeView::cls() {
   return Page::cls();
 }
 
-Class ChooseSnoozeTimeView::registerClass() {
+objc::Registration ChooseSnoozeTimeView::registerClass() {
   return objc::ClassBuilder<Page>("ChooseSnoozeTimeView", "UIView")
       .method<"setModeType:", &Page::setModeType>()
       .method<"setPickerMinutesSteps:", &Page::setPickerMinutesSteps>()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "objc/Ownership.h"
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 struct ChooseSnoozeTimeView : UIView {
@@ -42,5 +43,5 @@ struct ChooseSnoozeTimeView : UIView {
   }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

@@ -77,7 +77,7 @@ objc::Strong<CurrentTimerView> CurrentTimerView::make() {
   return Page::make<CurrentTimerView>();
 }
 
-Class CurrentTimerView::registerClass() {
+objc::Registration CurrentTimerView::registerClass() {
   return objc::ClassBuilder<Page>("CurrentTimerView", "UIView")
       .property<"titleLabel", &Page::titleLabel>()
       .property<"timerLabel", &Page::timerLabel>()

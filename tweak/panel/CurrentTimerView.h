@@ -2,6 +2,7 @@
 #pragma once
 
 #include "objc/Ownership.h"
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 struct CurrentTimerView : UIView {
@@ -21,5 +22,5 @@ struct CurrentTimerView : UIView {
   // Hidden, their bar takes no place either.
   void hideBottomButtons(bool hide) const { objc::send<void, "hideBottomButtons:">(*this, hide); }
 
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

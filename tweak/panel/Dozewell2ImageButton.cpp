@@ -89,7 +89,7 @@ void ImageButton::setTintColor(UIColor color) {
 
 }  // namespace
 
-Class Dozewell2ImageButton::registerClass() {
+objc::Registration Dozewell2ImageButton::registerClass() {
   return objc::ClassBuilder<ImageButton>("Dozewell2ImageButton", "UIButton")
       .property<"contentView", &ImageButton::contentView>()
       .property<"iconImage", &ImageButton::iconImage>()

@@ -132,7 +132,7 @@ Class Dozewell2ViewController::cls() {
   return Panel::cls();
 }
 
-Class Dozewell2ViewController::registerClass() {
+objc::Registration Dozewell2ViewController::registerClass() {
   return objc::ClassBuilder<Panel>("Dozewell2ViewController", "UIViewController")
       .property<"chooseSnoozeTimeView", &Panel::chooseSnoozeTimeView>()
       .property<"currentTimerView", &Panel::currentTimerView>()

@@ -1,6 +1,7 @@
 // The timer panel: three pages on top of each other, of which one is seen at most.
 #pragma once
 
+#include "objc/Registration.h"
 #include "tweak/engine/TimerPanel.h"
 
 // Main thread.
@@ -28,5 +29,5 @@ struct Dozewell2ViewController : TimerPanel {
   void dismissCurrentView() const { objc::send<void, "dismissCurrentView">(*this); }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

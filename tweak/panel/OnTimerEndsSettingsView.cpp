@@ -157,7 +157,7 @@ objc::Strong<OnTimerEndsSettingsView> OnTimerEndsSettingsView::make() {
   return Page::make<OnTimerEndsSettingsView>();
 }
 
-Class OnTimerEndsSettingsView::registerClass() {
+objc::Registration OnTimerEndsSettingsView::registerClass() {
   return objc::ClassBuilder<Page>("OnTimerEndsSettingsView", "UIView")
       .method<"setCurrentStateIsStart:", &Page::setCurrentStateIsStart>()
       .property<"currentStateIsStart", &Page::currentStateIsStart>()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "objc/Ownership.h"
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 struct OnTimerEndsSettingsView : UIView {
@@ -19,5 +20,5 @@ struct OnTimerEndsSettingsView : UIView {
   void restoreSettings() const { objc::send<void, "restoreSettings">(*this); }
   void saveSettingsToPrefsPlist() const { objc::send<void, "saveSettingsToPrefsPlist">(*this); }
 
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

@@ -75,7 +75,7 @@ Class Dozewell2StorageManager::cls() {
   return Store::cls();
 }
 
-Class Dozewell2StorageManager::registerClass() {
+objc::Registration Dozewell2StorageManager::registerClass() {
   objc::ClassBuilder<Store> builder("Dozewell2StorageManager", "NSObject");
   builder.classMethod<"sharedInstance", &Store::sharedInstance>();
 #define SETTING(number, T, name, otherwise) builder.readonlyProperty<#name, &Store::name>();

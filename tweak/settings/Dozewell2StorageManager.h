@@ -1,6 +1,7 @@
 // Every setting of the extension, kept current by the preferences library.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/Cephei.h"
 
 // Ask at the moment of use and do not keep the answer: it follows the preferences domain while the
@@ -25,5 +26,5 @@ struct Dozewell2StorageManager : NSObject {
   static void bindTo(HBPreferences domain);
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

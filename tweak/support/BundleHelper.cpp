@@ -30,7 +30,7 @@ Class BundleHelper::cls() {
   return BundleHelperImplementation::cls();
 }
 
-Class BundleHelper::registerClass() {
+objc::Registration BundleHelper::registerClass() {
   using Self = BundleHelperImplementation;
   return objc::ClassBuilder<Self>("BundleHelper", "NSObject")
       .classMethod<"getBundle", &Self::getBundle>()

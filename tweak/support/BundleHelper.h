@@ -1,6 +1,7 @@
 // The resource bundle that is installed beside the library: images, texts and layouts.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 // Main thread. Nothing is kept: every call reads the bundle again.
@@ -19,5 +20,5 @@ struct BundleHelper : NSObject {
   }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

@@ -114,7 +114,7 @@ Class CorvaneTweakUtils::cls() {
   return Utils::cls();
 }
 
-Class CorvaneTweakUtils::registerClass() {
+objc::Registration CorvaneTweakUtils::registerClass() {
   return objc::ClassBuilder<Utils>("CorvaneTweakUtils", "NSObject")
       .classMethod<"showAlertWithTitle:message:buttonText:",
                    &Utils::showAlertWithTitle_message_buttonText>()

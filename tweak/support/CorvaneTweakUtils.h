@@ -1,6 +1,7 @@
 // Alerts over everything that is on the screen.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/UIKit.h"
 
 // Main thread.
@@ -19,5 +20,5 @@ struct CorvaneTweakUtils : NSObject {
   }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

@@ -47,7 +47,7 @@ Class HapticFeedbackHelper::cls() {
   return HapticFeedbackHelperImplementation::cls();
 }
 
-Class HapticFeedbackHelper::registerClass() {
+objc::Registration HapticFeedbackHelper::registerClass() {
   using Self = HapticFeedbackHelperImplementation;
   return objc::ClassBuilder<Self>("HapticFeedbackHelper", "NSObject")
       .classMethod<"sendImpact", &Self::sendImpact>()

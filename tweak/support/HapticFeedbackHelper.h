@@ -1,6 +1,7 @@
 // Taps and buzzes. A phone that cannot make one stays still.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/Foundation.h"
 
 // Main thread.
@@ -15,5 +16,5 @@ struct HapticFeedbackHelper : NSObject {
   }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

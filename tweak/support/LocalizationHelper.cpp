@@ -57,7 +57,7 @@ Class LocalizationHelper::cls() {
   return LocalizationHelperImplementation::cls();
 }
 
-Class LocalizationHelper::registerClass() {
+objc::Registration LocalizationHelper::registerClass() {
   using Self = LocalizationHelperImplementation;
   return objc::ClassBuilder<Self>("LocalizationHelper", "NSObject")
       .classMethod<"getLocalizedNumberStringFrom:", &Self::getLocalizedNumberStringFrom>()

@@ -1,6 +1,7 @@
 // Numbers in the digits that the user reads.
 #pragma once
 
+#include "objc/Registration.h"
 #include "platform/Foundation.h"
 
 // Any thread.
@@ -17,5 +18,5 @@ struct LocalizationHelper : NSObject {
   }
 
   static Class cls();  // nil until it is registered
-  static Class registerClass();
+  static objc::Registration registerClass();
 };

@@ -79,6 +79,11 @@ void missing(Arguments& arguments) {
   Phone::current().systemNames.add([cls, member] { requireStandIn(cls, member); });
 }
 
+void foreignClass(Arguments& arguments) {
+  setup().foreignClasses.push_back(arguments.text("the name of a class"));
+  arguments.finish();
+}
+
 void journalClassChanges(Arguments& arguments) {
   arguments.finish();
   setup().journalsClassChanges = true;
@@ -138,6 +143,8 @@ void addSetupCommands(CommandTable& table) {
   table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]", "missing SBMediaController pause",
              "Leaves a class of the system, or one of its methods or properties, out of the phone.",
              missing});
+  table.add({"class", Stage::setup, "class NAME", "class SleepTimer",
+             "Has another extension load first, with a class of that name.", foreignClass});
   table.add({"journal-class-changes", Stage::setup, "journal-class-changes",
              "journal-class-changes",
              "Journals every class, method, property and hook that the extension adds as it loads.",

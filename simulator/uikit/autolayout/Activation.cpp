@@ -24,7 +24,7 @@ void addConstraint(Object view, Object constraint) {
   if (!constraint) return;
   NSLayoutConstraint& state = NSLayoutConstraint::of(constraint);
   const auto kept = objc::retain(constraint);
-  const Object before = state.owner.load();
+  const auto before = state.owner.load();
   if (before == view) return;
   if (before) removeConstraint(before, constraint);
   constraintsOf(view).owned.push_back(kept);
@@ -46,8 +46,8 @@ void removeConstraint(Object view, Object constraint) {
 void setConstraintActive(Object constraint, bool active) {
   NSLayoutConstraint& state = NSLayoutConstraint::of(constraint);
   if (state.isActive() == active) return;
-  if (!active) return removeConstraint(state.owner.load(), constraint);
-  const Object first = state.firstItem.load(), second = state.secondItem.load();
+  if (!active) return removeConstraint(state.owner.load().get(), constraint);
+  const auto first = state.firstItem.load(), second = state.secondItem.load();
   const Object owner = second ? commonAncestor(first, second) : first;
   if (!owner)
     raiseException("NSGenericException",
@@ -60,7 +60,7 @@ void setConstraintActive(Object constraint, bool active) {
 
 void dropConstraintsAcross(Object view) {
   const auto isInside = [view](const objc::Weak<Object>& item) {
-    const Object loaded = item.load();
+    const auto loaded = item.load();
     return loaded && isDescendant(loaded, view);
   };
   for (Object above = UIView::of(view).parent; above; above = UIView::of(above).parent) {

@@ -36,7 +36,7 @@ void addAllConstraints(LayoutProblem& problem) {
 // An item that has gone takes its constraints along.
 void addLayoutConstraint(LayoutProblem& problem, Object constraint) {
   const NSLayoutConstraint& state = NSLayoutConstraint::of(constraint);
-  const Object first = state.firstItem.load(), second = state.secondItem.load();
+  const auto first = state.firstItem.load(), second = state.secondItem.load();
   if (!first || (!second && state.secondAttribute != attribute::none)) return;
   const Space space = spaceOf(state, first, second);
   if (!space.view || !isDescendant(space.view, problem.root())) return;

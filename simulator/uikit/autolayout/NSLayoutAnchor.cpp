@@ -32,8 +32,8 @@ Object toAnchor(Object self, Object other, double multiplier, double constant) {
   const NSLayoutAnchor& first = NSLayoutAnchor::of(self);
   const NSLayoutAnchor& second = NSLayoutAnchor::of(other);
   return NSLayoutConstraint::make(reinterpret_cast<id>(NSLayoutConstraint::cls()),
-                                  first.item.load(), first.attribute, relation, second.item.load(),
-                                  second.attribute, multiplier, constant);
+                                  first.item.load().get(), first.attribute, relation,
+                                  second.item.load().get(), second.attribute, multiplier, constant);
 }
 template <long relation>
 Object toAnchorAlone(Object self, Object other) {
@@ -51,7 +51,7 @@ template <long relation>
 Object toConstant(Object self, double constant) {
   const NSLayoutAnchor& first = NSLayoutAnchor::of(self);
   return NSLayoutConstraint::make(reinterpret_cast<id>(NSLayoutConstraint::cls()),
-                                  first.item.load(), first.attribute, relation, nullptr,
+                                  first.item.load().get(), first.attribute, relation, nullptr,
                                   attribute::none, 1, constant);
 }
 

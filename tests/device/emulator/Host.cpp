@@ -17,7 +17,7 @@ namespace {
 
 struct BlockDescriptor {
   std::uintptr_t reserved, size;
-  void *copy, *dispose;  // only with the flag hasDispose
+  void *copy, *dispose;  // only with the flag hasHelpers
 };
 
 struct Block {
@@ -27,7 +27,8 @@ struct Block {
   BlockDescriptor* descriptor;
 };
 
-constexpr std::int32_t oneReference = 2, referenceCount = 0xFFFE, hasDispose = 1 << 25;
+constexpr std::int32_t oneReference = 2, referenceCount = 0xFFFE, needsFree = 1 << 24,
+                       hasHelpers = 1 << 25;
 
 const Signing* signing;
 void *mallocBlock[32], *stackBlock[32], *mainQueue[32], *theClass[32], *theObject[32];
@@ -37,11 +38,34 @@ std::vector<Block*> queue;
 void release(Block* block) {
   block->flags -= oneReference;
   if ((block->flags & referenceCount) != 0) return;
-  if (block->flags & hasDispose) {
+  if (block->flags & hasHelpers) {
     void* dispose = signing->checkStoredFunction(&block->descriptor->dispose, "a dispose helper");
     reinterpret_cast<void (*)(Block*)>(dispose)(block);
   }
   std::free(block);
+}
+
+// The bytes first, then what is signed over its place, then the captures, as on a phone.
+Block* copyFromStack(Block* block) {
+  void* invoke = signing->checkStoredFunction(&block->invoke, "a block's function");
+  auto* made = static_cast<Block*>(std::malloc(block->descriptor->size));
+  std::memcpy(static_cast<void*>(made), block, block->descriptor->size);
+  signing->storeFunction(&made->invoke, invoke);
+  made->flags = (block->flags & ~referenceCount) | needsFree | oneReference;
+  if (block->flags & hasHelpers) {
+    void* copy = signing->checkStoredFunction(&block->descriptor->copy, "a copy helper");
+    reinterpret_cast<void (*)(Block*, Block*)>(copy)(made, block);
+  }
+  signing->storeIsa(&made->isa, mallocBlock);
+  return made;
+}
+
+Block* copyBlock(Block* block) {
+  void* isa = signing->checkIsa(&block->isa, "a block's isa");
+  if (isa == stackBlock) return copyFromStack(block);
+  if (isa != mallocBlock) fail("a block has an unknown class");
+  block->flags += oneReference;
+  return block;
 }
 
 void original(void*, const char*) {
@@ -57,6 +81,9 @@ void* allocateClassPair(void*, const char*, std::size_t) {
   return theClass;
 }
 void ignore(void*) {}
+void clear(void* place, std::size_t bytes) {
+  std::memset(place, 0, bytes);
+}
 const char* registerName(const char* name) {
   return name;
 }
@@ -92,10 +119,7 @@ void sendMessage(void*, const char* selector) {
   journal += std::string(" ") + selector;
 }
 void dispatchAsync(void*, Block* block) {
-  void* isa = signing->checkIsa(&block->isa, "a block's isa");
-  if (isa != mallocBlock && isa != stackBlock) fail("a block has an unknown class");
-  block->flags += oneReference;
-  queue.push_back(block);
+  queue.push_back(copyBlock(block));
 }
 
 template <class T>
@@ -107,11 +131,12 @@ void* address(T* thing) {
 
 void* resolve(const std::string& symbol) {
   static const std::map<std::string, void*> symbols = {
-      {"__NSConcreteMallocBlock", mallocBlock},
+      {"__Block_copy", address(&copyBlock)},
       {"__NSConcreteStackBlock", stackBlock},
       {"__dispatch_main_q", mainQueue},
-      {"_calloc", address(&std::calloc)},
+      {"_bzero", address(&clear)},
       {"_memcpy", address(&std::memcpy)},
+      {"_memset", address(&std::memset)},
       {"_class_addIvar", address(&addNothing)},
       {"_class_addMethod", address(&addMethod)},
       {"_class_addProperty", address(&addNothing)},
@@ -121,6 +146,7 @@ void* resolve(const std::string& symbol) {
       {"_ivar_getOffset", address(&ivarOffset)},
       {"_object_getClass", address(&getClass)},
       {"_objc_allocateClassPair", address(&allocateClassPair)},
+      {"_objc_disposeClassPair", address(&ignore)},
       {"_objc_getClass", address(&getClass)},
       {"_objc_msgSend", address(&sendMessage)},
       {"_objc_msgSendSuper2", address(&sendMessage)},

@@ -26,6 +26,10 @@ std::uint64_t bits(void* const* slot) {
   return reinterpret_cast<std::uint64_t>(slot);
 }
 
+std::uint64_t isaModifier(void* const* slot) {
+  return (bits(slot) & 0xFFFFFFFFFFFF) | isaDiscriminator << 48;
+}
+
 }  // namespace
 
 void* Signing::signFunction(void* plain) const {
@@ -48,10 +52,21 @@ void* Signing::checkStoredFunction(void* const* slot, const char* what) const {
   return require(pointer, bits(*slot), what);
 }
 
+void Signing::storeFunction(void** slot, void* plain) const {
+  std::uint64_t pointer = bits(plain);
+  if (on_) asm("pacia %0, %1" : "+r"(pointer) : "r"(bits(slot)));
+  *slot = reinterpret_cast<void*>(pointer);
+}
+
 void* Signing::checkIsa(void* const* slot, const char* what) const {
   if (!on_) return *slot;
   std::uint64_t pointer = bits(*slot);
-  const std::uint64_t modifier = (bits(slot) & 0xFFFFFFFFFFFF) | isaDiscriminator << 48;
-  asm("autda %0, %1" : "+r"(pointer) : "r"(modifier));
+  asm("autda %0, %1" : "+r"(pointer) : "r"(isaModifier(slot)));
   return require(pointer, bits(*slot), what);
+}
+
+void Signing::storeIsa(void** slot, void* plain) const {
+  std::uint64_t pointer = bits(plain);
+  if (on_) asm("pacda %0, %1" : "+r"(pointer) : "r"(isaModifier(slot)));
+  *slot = reinterpret_cast<void*>(pointer);
 }

@@ -14,8 +14,10 @@ class Signing {
   void* checkFunction(void* function, const char* what) const;
   // A code pointer that is signed over the address where it is stored.
   void* checkStoredFunction(void* const* slot, const char* what) const;
+  void storeFunction(void** slot, void* plain) const;
   // The class pointer of a block.
   void* checkIsa(void* const* slot, const char* what) const;
+  void storeIsa(void** slot, void* plain) const;
 
  private:
   bool on_;

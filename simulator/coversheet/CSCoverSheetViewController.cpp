@@ -95,7 +95,7 @@ void Controller::updateMediaControls() {
     mediaControlsViewController = CSMediaControlsViewController::make();
     addChildController(Object(self()), mediaControlsViewController);
   } else {
-    removeChildController(std::exchange(mediaControlsViewController, nullptr));
+    removeChildController(std::exchange(mediaControlsViewController, nullptr).get());
   }
 }
 

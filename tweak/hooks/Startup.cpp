@@ -119,7 +119,8 @@ void installIndicatorHooks() {
              "setExpanded:", LockScreen::setModuleExpanded>();
 }
 
-__attribute__((constructor)) void loadSettingsAndHooks() {
+// Priorities, because a compiler that optimises may turn functions round and their order with it.
+__attribute__((constructor(101))) void loadSettingsAndHooks() {
   objc::AutoreleasePool pool;
   if (const objc::Refusal refused = registerClasses()) return logRefusal(refused);
   if (!isHomeScreenProcess()) return;
@@ -128,7 +129,7 @@ __attribute__((constructor)) void loadSettingsAndHooks() {
   if (isEnabled()) installHooks();
 }
 
-__attribute__((constructor)) void loadIndicators() {
+__attribute__((constructor(102))) void loadIndicators() {
   objc::AutoreleasePool pool;
   if (!hasClasses() || !isHomeScreenProcess()) return;
   if (isEnabled()) installIndicatorHooks();

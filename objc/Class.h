@@ -129,6 +129,13 @@ class ClassBuilder {
     return *this;
   }
 
+  // `getter` is a member function without arguments.
+  template <FixedString Name, auto getter>
+  ClassBuilder& computedProperty() {
+    addComputedProperty<Self, Name, getter>(class_);
+    return *this;
+  }
+
   Registration finish() {
     if (class_ == nullptr) return Registration(refusal_);
     objc_registerClassPair(class_);

@@ -76,6 +76,16 @@ void addProperty(Class cls, bool readonly) {
   if (!readonly) addMethod<Self, setterName<Name>(), &Access::write>(cls);
 }
 
+// A read-only property that nothing stores: `getter` is a member function without arguments.
+template <class Self, FixedString Name, auto getter>
+void addComputedProperty(Class cls) {
+  if (cls == nullptr) return;
+  static constexpr auto type = encode<std::invoke_result_t<decltype(getter), Self&>>();
+  const objc_property_attribute_t attributes[] = {{"T", type.c_str()}, {"R", ""}, {"N", ""}};
+  class_addProperty(cls, Name.c_str(), attributes, 3);
+  addMethod<Self, Name, getter>(cls);
+}
+
 // A property of a host class, with functions as accessors; their first parameter is the receiver.
 // `type` is the "T" attribute, which may name a class: @"NSString". Objects are marked as owned.
 template <FixedString Name, auto getter, auto setter>

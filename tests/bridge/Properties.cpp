@@ -16,6 +16,8 @@ struct Settings : objc::Implementation<Settings> {
   Owner probe;
   ProbeView parent;  // not owned
 
+  bool isLoud() const { return volume > 0.5; }
+
   static Class registerClass() {
     return objc::ClassBuilder<Settings>("Settings", "NSObject")
         .property<"count", &Settings::count>()
@@ -24,6 +26,7 @@ struct Settings : objc::Implementation<Settings> {
         .property<"probe", &Settings::probe>()
         .readonlyProperty<"fixedProbe", &Settings::probe>()
         .property<"parent", &Settings::parent>()
+        .computedProperty<"isLoud", &Settings::isLoud>()
         .finish();
   }
 };
@@ -50,6 +53,7 @@ TEST_F(Properties, AreDeclared) {
   EXPECT_STREQ(attributes("probe"), "T@,&,N");
   EXPECT_STREQ(attributes("fixedProbe"), "T@,R,N");
   EXPECT_STREQ(attributes("parent"), "T@,N");
+  EXPECT_STREQ(attributes("isLoud"), "TB,R,N");
 }
 
 TEST_F(Properties, HaveAccessorsUnderTheirNames) {
@@ -68,6 +72,13 @@ TEST_F(Properties, ReadAndWriteTheMember) {
   EXPECT_TRUE((objc::send<bool, "enabled">(settings)));
   objc::send<void, "setURL:">(settings, 0.5);
   EXPECT_EQ((objc::send<double, "URL">(settings)), 0.5);
+}
+
+TEST_F(Properties, MayBeComputed) {
+  EXPECT_FALSE((objc::send<bool, "isLoud">(settings)));
+  objc::send<void, "setURL:">(settings, 0.6);
+  EXPECT_TRUE((objc::send<bool, "isLoud">(settings)));
+  EXPECT_FALSE(responds("setIsLoud:"));
 }
 
 TEST_F(Properties, OfOwnersRetainAndRelease) {

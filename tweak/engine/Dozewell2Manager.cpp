@@ -167,7 +167,7 @@ objc::Registration Dozewell2Manager::registerClass() {
       .classMethod<"sylphTweakEnabled", &Engine::sylphTweakEnabled>()
       .classMethod<"grupiTweakEnabled", &Engine::grupiTweakEnabled>()
       .method<"init", &Engine::init>()
-      .method<"isRunning", &Engine::isRunning>()
+      .computedProperty<"isRunning", &Engine::isRunning>()
       .method<"startTimerWithMode:andValue:", &Engine::startTimerWithMode_andValue>()
       .method<"startTimerWithTimeInterval:", &Engine::startTimerWithTimeInterval>()
       .method<"startTimerWithNbTracks:", &Engine::startTimerWithNbTracks>()

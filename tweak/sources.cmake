@@ -15,7 +15,6 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/hooks/Startup.cpp
     tweak/hooks/Tracing.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp
-    tweak/indicators/Dozewell2TimeLeftLabel.cpp
     tweak/indicators/LockScreenViews.cpp
     tweak/indicators/SpokenTimeLeft.cpp
     tweak/indicators/TimeFormat.cpp

@@ -33,11 +33,19 @@ struct UIView : NSObject {
   void setSemanticContentAttribute(long attribute) const {
     objc::send<void, "setSemanticContentAttribute:">(*this, attribute);
   }
-  // One of UIAccessibilityTraits, in which it is bit 9.
-  static constexpr unsigned long traitUpdatesFrequently = 1 << 9;
+  // Of UIAccessibilityTraits.
+  static constexpr unsigned long traitStaticText = 1 << 6, traitUpdatesFrequently = 1 << 9;
   // What a screen reader says of the view in place of its own words; nil gives those back.
   void setAccessibilityLabel(NSString label) const {
     objc::send<void, "setAccessibilityLabel:">(*this, label);
+  }
+  // What it says after the label.
+  void setAccessibilityValue(NSString value) const {
+    objc::send<void, "setAccessibilityValue:">(*this, value);
+  }
+  // In place of those of the view's class.
+  void setAccessibilityTraits(unsigned long traits) const {
+    objc::send<void, "setAccessibilityTraits:">(*this, traits);
   }
   // Whether a screen reader stops at the view.
   void setIsAccessibilityElement(bool is) const {

@@ -15,7 +15,6 @@
 #include "tweak/hooks/NowPlayingHeader.h"
 #include "tweak/hooks/Tracing.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
-#include "tweak/indicators/Dozewell2TimeLeftLabel.h"
 #include "tweak/panel/ButtonWithIncreasedTouchArea.h"
 #include "tweak/panel/CheckboxButton.h"
 #include "tweak/panel/ChooseSnoozeTimeView.h"
@@ -39,11 +38,11 @@ objc::Refusal registerClasses() {
   // Made later, and only where its superclass exists; its name must be free for that now.
   if (DozewellButton::nameIsTaken()) return {"DozewellButton", "the name is taken"};
   return objc::registerTogether<Dozewell2StorageManager, Dozewell2Manager, SpecialTasksHelper,
-                                Dozewell2TimeLeftIndicatorsManager, Dozewell2TimeLeftLabel,
-                                ButtonWithIncreasedTouchArea, CheckboxButton, Dozewell2ImageButton,
-                                ChooseSnoozeTimeView, CurrentTimerView, OnTimerEndsSettingsView,
-                                Dozewell2ViewController, CorvaneTweakUtils, BundleHelper,
-                                LocalizationHelper, HapticFeedbackHelper>();
+                                Dozewell2TimeLeftIndicatorsManager, ButtonWithIncreasedTouchArea,
+                                CheckboxButton, Dozewell2ImageButton, ChooseSnoozeTimeView,
+                                CurrentTimerView, OnTimerEndsSettingsView, Dozewell2ViewController,
+                                CorvaneTweakUtils, BundleHelper, LocalizationHelper,
+                                HapticFeedbackHelper>();
 }
 
 // So that whoever looks for the timer finds out why it is not there. The host goes on without it.

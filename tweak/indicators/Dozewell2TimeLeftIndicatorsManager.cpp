@@ -5,6 +5,7 @@
 #include "platform/SpringBoard.h"
 #include "tweak/indicators/LockScreenViews.h"
 #include "tweak/indicators/SleepTimer.h"
+#include "tweak/indicators/SpokenTimeLeft.h"
 #include "tweak/indicators/TimeFormat.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/LocalizationHelper.h"
@@ -15,6 +16,7 @@ struct Dozewell2TimeLeftIndicatorsManagerImplementation
     : objc::Implementation<Dozewell2TimeLeftIndicatorsManagerImplementation> {
   objc::Strong<NSTimer> updateRemainingTimeLabelsTimer;  // nil: not refreshing
   objc::Strong<UILabel> dozewellVcTimeLeftLabel;         // the panel's; nil until it has one
+  long toldMinutes;  // which of minutesToTell() the label's spoken value says
 
   static Dozewell2TimeLeftIndicatorsManagerImplementation& sharedInstance() { return shared(); }
 
@@ -28,6 +30,7 @@ struct Dozewell2TimeLeftIndicatorsManagerImplementation
  private:
   void refresh();
   void showRemainingTime();
+  void tellRemainingTime();
 };
 
 using Indicators = Dozewell2TimeLeftIndicatorsManagerImplementation;
@@ -49,6 +52,8 @@ void Indicators::updateCounterWithNbTracks() {
     DozewellDateView::newest().dozewell_setNbTracksLeftText();
   dozewellVcTimeLeftLabel->setText(LocalizationHelper::getLocalizedNumberStringFrom(
       SleepTimer::sharedInstance().getTimerRemainingTracks()));
+  dozewellVcTimeLeftLabel->setAccessibilityValue(spokenTimeLeft());
+  toldMinutes = 0;
 }
 
 void Indicators::stopCounter() {
@@ -82,6 +87,15 @@ void Indicators::refresh() {
 void Indicators::showRemainingTime() {
   const double seconds = SleepTimer::sharedInstance().getTimerRemainingTime();
   dozewellVcTimeLeftLabel->setText(NSString(timeFormatted(wholeSeconds(seconds))));
+  tellRemainingTime();
+}
+
+// Texts are looked up once a minute, not at every tick.
+void Indicators::tellRemainingTime() {
+  const long minutes = minutesToTell();
+  if (!dozewellVcTimeLeftLabel || minutes == toldMinutes) return;
+  toldMinutes = minutes;
+  dozewellVcTimeLeftLabel->setAccessibilityValue(spokenTimeLeft());
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 namespace {
 
 // Full hours are said without minutes.
-NSString spokenDuration(int minutes) {
-  const int hours = minutes / 60;
+NSString spokenDuration(long minutes) {
+  const long hours = minutes / 60;
   if (hours == 0) return SpokenText::counted("MINUTES", minutes);
   const auto spokenHours = SpokenText::counted("HOURS", hours);
   if (minutes % 60 == 0) return spokenHours;
@@ -18,18 +18,29 @@ NSString spokenDuration(int minutes) {
                                             SpokenText::counted("MINUTES", minutes % 60));
 }
 
-NSString spokenSeconds(int seconds) {
-  if (seconds < 60) return SpokenText::localized("LESS_THAN_A_MINUTE");
+// In place of minutes, of which the last has none left.
+enum : long { noDuration = 0, untilTheSongEnds = -1, lessThanAMinute = -2 };
+
+NSString spokenMinutes(long minutes) {
+  if (minutes == untilTheSongEnds) return SpokenText::localized("UNTIL_SONG_ENDS");
+  if (minutes == lessThanAMinute) return SpokenText::localized("LESS_THAN_A_MINUTE");
   return SpokenText::localized("TIME_LEFT")
-      .stringByReplacingOccurrencesOfString("%@"_ns, spokenDuration(seconds / 60));
+      .stringByReplacingOccurrencesOfString("%@"_ns, spokenDuration(minutes));
 }
 
 }  // namespace
 
-NSString spokenTimeLeft() {
+long minutesToTell() {
   const auto timer = SleepTimer::sharedInstance();
-  if (!timer.timerModeIsRunning() && !timer.nbSongsModeIsRunning()) return nullptr;
-  if (timer.shouldPauseMusicAtTheEndOfThisTrack()) return SpokenText::localized("UNTIL_SONG_ENDS");
-  if (timer.timerModeIsRunning()) return spokenSeconds(wholeSeconds(timer.getTimerRemainingTime()));
+  if (!timer.timerModeIsRunning()) return noDuration;
+  if (timer.shouldPauseMusicAtTheEndOfThisTrack()) return untilTheSongEnds;
+  const int seconds = wholeSeconds(timer.getTimerRemainingTime());
+  return seconds < 60 ? long(lessThanAMinute) : seconds / 60;
+}
+
+NSString spokenTimeLeft() {
+  if (const long minutes = minutesToTell(); minutes != noDuration) return spokenMinutes(minutes);
+  const auto timer = SleepTimer::sharedInstance();
+  if (!timer.nbSongsModeIsRunning()) return nullptr;
   return SpokenText::counted("SONGS_LEFT", timer.getTimerRemainingTracks());
 }

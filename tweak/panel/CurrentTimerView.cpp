@@ -4,6 +4,7 @@
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/panel/PageLayout.h"
 #include "tweak/support/BundleHelper.h"
+#include "tweak/support/SpokenText.h"
 
 namespace {
 
@@ -18,6 +19,7 @@ struct CurrentTimerViewImplementation : objc::Implementation<CurrentTimerViewImp
 
   id init();  // the view that the layout holds, in place of this one
   CGRect frame();
+  void setUpClock();
   void setupViewWithMode(long mode);
   void hideBottomButtons(bool hide);
 };
@@ -45,9 +47,20 @@ id Page::init() {
   if (!page) return nullptr;
   of(page.get()).backButton.load()->setTitle(localized("BACK"));
   of(page.get()).cancelTimerButton.load()->setTitle(localized("CANCEL"));
-  // A screen reader is told the unit with the number.
-  of(page.get()).subtitleLabel.load()->setIsAccessibilityElement(false);
+  of(page.get()).setUpClock();
   return page.detach().get();
+}
+
+void Page::setUpClock() {
+  const auto clock = timerLabel.load();
+  // With digits of different widths the text would jump sideways as it counts. The weight is the
+  // layout's; a font does not tell its own.
+  clock->setFont(UIFont::monospacedDigitSystem(clock->font().pointSize(), UIFont::weightLight));
+  // A screen reader is told what is left in words, which the indicators give as the label's value:
+  // with their unit, so that the unit line is passed over.
+  clock->setAccessibilityLabel(SpokenText::localized("SLEEP_TIMER"));
+  clock->setAccessibilityTraits(UIView::traitStaticText | UIView::traitUpdatesFrequently);
+  subtitleLabel.load()->setIsAccessibilityElement(false);
 }
 
 // That of the view which holds this one: whoever asks is told the place that the page fills. Told

@@ -21,7 +21,7 @@ set(PHONE_COMPILE_FLAGS
     -nostdinc++  # SHELL: keeps CMake from dropping the repeated word
     "SHELL:-isystem ${PHONE_DIR}include/libcxx"  # before the library: its configuration
     "SHELL:-isystem ${PHONE_LIBCXX}"
-    -Wall -Wextra -Wpedantic -Wshadow -Werror
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Werror
     -fvisibility=hidden -fvisibility-inlines-hidden
     # What these would need of the C++ library is not in its headers.
     -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-c++-static-destructors

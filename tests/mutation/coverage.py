@@ -43,7 +43,7 @@ class Coverage:
         probe = self.folder / "Probe.o"
         source = self.project.root / "tests/mutation/Probe.cpp"
         for done in (self.project.compile(source, probe),
-                     self.project.link(objects.values(), self.library, [probe])):
+                     self.project.link([*objects.values(), probe], self.library)):
             if done.returncode != 0:
                 sys.exit(done.stderr)
 
@@ -67,8 +67,8 @@ class Coverage:
         addresses = [int(line, 16) for line in (self.folder / "blocks").read_text().split()]
         order = sorted(range(len(addresses)), key=addresses.__getitem__)
         ordered = [addresses[block] for block in order]
-        listing = subprocess.run(["llvm-dwarfdump-14", "--debug-line", self.library], check=True, text=True,
-                                 capture_output=True).stdout
+        listing = subprocess.run(["llvm-dwarfdump-14", "--debug-line", self.library], check=True,
+                                 text=True, capture_output=True).stdout
         files, folders = {}, {}
         for line in listing.splitlines():
             row = re.match(r"0x([0-9a-f]+)\s+(\d+)\s+\d+\s+(\d+)", line)
@@ -111,7 +111,8 @@ class Coverage:
         blocks = self.blocks(file, first, last)
         if not blocks:
             return None
-        return {name for name, hits in self.hits.items() if any(hits[block] for block in blocks if hits)}
+        return {name for name, hits in self.hits.items()
+                if hits and any(hits[block] for block in blocks)}
 
     def breadth(self, name):
         """How much a test executes in all."""

@@ -23,6 +23,7 @@ class Judge:
         self.users = users  # of each file, the sources compiled from it
         self.results = results
         self.objects = objects
+        self.objects_by_name = {one.name: one for one in objects.values()}
         self.lock = threading.Lock()
         self.optimised_known = set()
         self.optimised_locks = {source: threading.Lock() for source in project.sources}
@@ -101,9 +102,11 @@ class Judge:
             if self.project.compile(source, output, overlay).returncode != 0:
                 return UNBUILDABLE
             objects[source] = output
-        if all(same_bytes(objects[source], self.objects[source]) for source in self.users[mutant.file]):
+        changed = [objects[source] for source in self.users[mutant.file]]
+        if all(same_bytes(one, self.objects_by_name[one.name]) for one in changed):
             return SAME
-        return UNBUILDABLE if self.project.link(objects.values(), library).returncode != 0 else None
+        linked = self.project.link([*objects.values(), self.project.header_object], library)
+        return None if linked.returncode == 0 else UNBUILDABLE
 
     def optimised_equal(self, folder, mutant):
         """Whether nobody can tell them apart: optimised, both are the same machine code."""

@@ -1,4 +1,4 @@
-"""All mutants of a folder, each with a name that stays the same while the code around it changes."""
+"""All mutants of a folder. Each has a name that stays when the code around it changes."""
 
 import concurrent.futures
 import dataclasses
@@ -41,9 +41,8 @@ class Mutant:
 
     def diff(self, root):
         before = (root / self.file).read_bytes()
-        lines = difflib.unified_diff(before.decode().splitlines(), self.apply(before).decode().splitlines(),
-                                     self.file, self.file, lineterm="", n=2)
-        return "\n".join(lines)
+        lines = [text.decode().splitlines() for text in (before, self.apply(before))]
+        return "\n".join(difflib.unified_diff(*lines, self.file, self.file, lineterm="", n=2))
 
 
 def even(text):
@@ -96,7 +95,8 @@ class Finder:
         if context:
             what = f"{even(context[0])} : {before} -> {replacement}"
         elif operator == "negate":
-            what = even(before or self.source.slice(self.source.text.rfind(b"(", 0, start) + 1, start))
+            opening = self.source.text.rfind(b"(", 0, start) + 1
+            what = even(before or self.source.slice(opening, start))
         else:
             what = even(before)
         self.found.append((operator, ((start, end, replacement),), what, owner))
@@ -120,7 +120,8 @@ class Finder:
             if replacement is not None:
                 holders = [name for first, last, name in self.owners if first <= start < last]
                 around = " ".join(token[2] for token in tokens[max(at - 3, 0):at + 3])
-                self.add("constant", (start, end, replacement, around), holders[-1] if holders else "")
+                owner = holders[-1] if holders else ""
+                self.add("constant", (start, end, replacement, around), owner)
 
     def mutants(self):
         result, seen, texts = [], {}, set()

@@ -78,7 +78,8 @@ def swapped(parent):
                 return None
             statement = inner[0]
         inner = bare(statement)
-        return inner if statement.kind.is_expression() and inner.kind == CursorKind.CALL_EXPR else None
+        is_call = statement.kind.is_expression() and inner.kind == CursorKind.CALL_EXPR
+        return inner if is_call else None
 
     children = list(parent.get_children())
     for one, other in zip(children, children[1:]):
@@ -160,7 +161,8 @@ def infix(source, cursor):
         return None
     if len(operands) != 2:
         return None
-    for start, end, spelling, _ in source.tokens.between(span(operands[0])[1], span(operands[1])[0]):
+    between = source.tokens.between(span(operands[0])[1], span(operands[1])[0])
+    for start, end, spelling, _ in between:
         if spelling not in "()":
             return start, end, spelling
     return None
@@ -216,7 +218,8 @@ def dropped(source, cursor):
         literal = inner.kind in LITERALS or source.of(inner).startswith('"')
         if literal or inner.kind in (CursorKind.LAMBDA_EXPR, CursorKind.INIT_LIST_EXPR):
             continue
-        yield "argument", start, end, f"mutation::Nothing<decltype(({source.slice(start, end)}))>{{}}"
+        kind = f"decltype(({source.slice(start, end)}))"
+        yield "argument", start, end, f"mutation::Nothing<{kind}>{{}}"
 
 
 def link_left_out(source, cursor):

@@ -80,7 +80,8 @@ class Operators(unittest.TestCase):
         self.assertEqual(self.function("a.setHidden(true);", "constant", "Label a"),
                          ["a.setHidden(false);"])
         self.assertEqual(self.function("show(Page::second);", "constant"), ["show(Page::first);"])
-        self.assertEqual(self.changes('const char* a = "b";', "constant"), ['const char* a = "Xb";'])
+        self.assertEqual(self.changes('const char* a = "b";', "constant"),
+                         ['const char* a = "Xb";'])
         self.assertEqual(self.changes("long a = 2'000;", "constant"), ["long a = 2001;"])
         self.assertEqual(self.changes("double a = 0.3;", "constant"), ["double a = (0.3 + 1);"])
         self.assertEqual(self.changes('static_assert(2 > 1, "c");', "constant"), [])

@@ -77,8 +77,9 @@ class Player:
         at, size = 0, 1
         while at < len(tests):
             batch = tests[at:at + size]
-            if any(test.name == MODEL for test in batch):
-                batch = batch[:1] if batch[0].name == MODEL else batch[:[t.name for t in batch].index(MODEL)]
+            alone = [index for index, test in enumerate(batch) if test.name == MODEL]
+            if alone:
+                batch = batch[:max(alone[0], 1)]
             found = self.play(library, batch, patience=self.patience(batch))
             if found:
                 return found

@@ -15,6 +15,8 @@ COMPILER = "clang++-14"
 LEFT_OUT = re.compile(r"-[OgW].*|-Winvalid-pch|-MD")
 COVERAGE = ["-gline-tables-only", "-fsanitize-coverage=trace-pc-guard,pc-table,no-prune"]
 OPTIMISED = ["-O2"]
+PLAIN = []
+QUICK = ["-w", "-O0"]
 PREAMBLE = """
 namespace mutation {
 template <class T> struct Bare { using Type = T; };
@@ -41,6 +43,7 @@ class Project:
         self.objects, self.link_words = self.link_command()
         self.sources, self.flags = self.compile_commands()
         self.stamp = ""  # of the headers from elsewhere
+        self.header_object = self.work / "outside.o"
 
     def link_command(self):
         name = str(self.library.relative_to(self.build))
@@ -48,7 +51,8 @@ class Project:
                                  text=True, capture_output=True).stdout
         words = shlex.split(listing.splitlines()[-1])
         objects = [word for word in words if word.endswith(".o")]
-        kept = [word for word in words if word.startswith("-Wl,--version-script") or word.endswith(".a")]
+        kept = [word for word in words
+                if word.startswith("-Wl,--version-script") or word.endswith(".a")]
         return objects, kept
 
     def compile_commands(self):
@@ -81,17 +85,25 @@ class Project:
         header.write_text("".join(f"#include {name}\n" for name in outside) + PREAMBLE)
         folders = {name[1:].split("/")[0] for name in outside if name.startswith('"')}
         headers = [file for folder in sorted(folders) for file in self.files(self.root / folder)]
-        self.stamp = fingerprint([header, *headers], [*self.flags, COMPILER, *COVERAGE, *OPTIMISED])
+        words = [COMPILER, *self.flags, *QUICK, *COVERAGE, *OPTIMISED]
+        self.stamp = fingerprint([header, *headers], words)
         self.unless_current("precompiled", self.stamp, self.precompile_headers)
 
     def precompile_headers(self):
+        """What they hold themselves is compiled here, too, and not again with every mutant."""
+        header = self.work / "outside.h"
+
         def make(options):
-            run([COMPILER, *self.flags, "-w", "-O0", "-Xclang", "-fno-pch-timestamp",
-                 "-fpch-instantiate-templates", *options,
-                 "-x", "c++-header", self.work / "outside.h", "-o", self.header(options)])
+            once = ["-fpch-codegen"] if options == PLAIN else []
+            output = self.header(options)
+            run([COMPILER, *self.flags, *QUICK, "-Xclang", "-fno-pch-timestamp",
+                 "-fpch-instantiate-templates", *once, *options,
+                 "-x", "c++-header", header, "-o", output])
+            if once:
+                run([COMPILER, "-fPIC", *QUICK, "-c", output, "-o", self.header_object])
 
         with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
-            list(pool.map(make, ([], COVERAGE, OPTIMISED)))
+            list(pool.map(make, (PLAIN, COVERAGE, OPTIMISED)))
 
     def unless_current(self, name, stamp, make):
         """Makes it unless it has been made with this stamp."""
@@ -106,17 +118,17 @@ class Project:
         return sorted(file for file in folder.rglob("*") if file.suffix in (".h", ".cpp"))
 
     def header(self, options):
-        kind = {"": "plain", COVERAGE[0]: "covered", OPTIMISED[0]: "optimised"}
-        return self.work / f"{kind[options[0] if options else '']}.pch"
+        names = ((PLAIN, "plain"), (COVERAGE, "covered"), (OPTIMISED, "optimised"))
+        return self.work / next(f"{name}.pch" for kind, name in names if kind == options)
 
     def parse_arguments(self):
-        return [*self.flags, "-w", "-include-pch", str(self.header([]))]
+        return [*self.flags, "-w", "-include-pch", str(self.header(PLAIN))]
 
     # Objects and libraries
 
-    def compile(self, source, output, replaced=None, options=()):
+    def compile(self, source, output, replaced=None, options=PLAIN):
         """The compiler's run. `replaced` is a virtual file system in which one file is another."""
-        words = [COMPILER, *self.flags, "-w", "-O0", *options, "-include-pch", self.header(options)]
+        words = [COMPILER, *self.flags, *QUICK, *options, "-include-pch", self.header(options)]
         if replaced:
             words += ["-ivfsoverlay", replaced]
         return subprocess.run([*words, "-c", source, "-o", output], text=True, capture_output=True)
@@ -124,23 +136,26 @@ class Project:
     def object_name(self, source):
         return "-".join(source.relative_to(self.root).with_suffix(".o").parts)
 
-    def build_all(self, name, options=()):
+    def build_all(self, name, options=PLAIN):
         """Every source as it is; the objects, by source, in the folder of this name."""
         objects = {source: self.work / name / self.object_name(source) for source in self.sources}
         (self.work / name).mkdir(exist_ok=True)
 
         def make():
+            def compile_one(pair):
+                return self.compile(*pair, options=options)
+
             with concurrent.futures.ThreadPoolExecutor(self.jobs) as pool:
-                for done in pool.map(lambda one: self.compile(*one, options=options), objects.items()):
+                for done in pool.map(compile_one, objects.items()):
                     if done.returncode != 0:
                         sys.exit(done.stderr)
 
         self.unless_current(name, self.texts(), make)
         return objects
 
-    def link(self, objects, library, more=()):
-        return subprocess.run([COMPILER, "-shared", "-fuse-ld=lld", *objects, *more, *self.link_archives(),
-                               "-o", library], text=True, capture_output=True)
+    def link(self, objects, library):
+        words = [COMPILER, "-shared", "-fuse-ld=lld", *objects, *self.link_archives()]
+        return subprocess.run([*words, "-o", library], text=True, capture_output=True)
 
     def link_archives(self):
         return [str(self.build / word) if word.endswith(".a") else word for word in self.link_words]

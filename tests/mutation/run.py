@@ -39,7 +39,10 @@ def options():
     choice.add_argument("--only-survivors", action="store_true",
                         help="those that survived when they were last tried")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="mutants at a time")
-    parser.add_argument("--list", action="store_true", help="name them, with their changes; try none")
+    parser.add_argument("--list", action="store_true",
+                        help="name them, with their changes; try none")
+    parser.add_argument("--report", action="store_true",
+                        help="what earlier runs have found; try none")
     parser.add_argument("--at-least", type=float, metavar="PERCENT", default=0,
                         help="fail if fewer are noticed")
     return parser.parse_args()
@@ -57,7 +60,8 @@ def chosen(wanted, everything, accepted, results):
     if wanted.only_survivors:
         found = [one for one in found if results.get(one.identity, {}).get("verdict") == SURVIVED]
     if wanted.sample:
-        found = mutations.sample([one for one in found if one.identity not in accepted], wanted.sample)
+        open_ones = [one for one in found if one.identity not in accepted]
+        found = mutations.sample(open_ones, wanted.sample)
     return found
 
 
@@ -112,12 +116,15 @@ def main():
         for mutant in tried:
             print(f"{mutant.identity}\n{mutant.diff(ROOT)}\n")
         return 0
+    if wanted.report:
+        summary([one for one in tried if one.identity in results], results, accepted)
+        return 0
 
     model = None if wanted.no_model else build / "tests/model/model_nights"
     player = Player(project, build / "simulator/dozewell-simulator", build / "package", model,
                     sorted(wanted.scripts.glob("*.phone")))
     objects = project.build_all("objects")
-    world = fingerprint([*objects.values(), player.simulator, model])
+    world = fingerprint([*objects.values(), project.header_object, player.simulator, model])
     coverage = Coverage(project, player)
     coverage.record(world + fingerprint([HERE / "Probe.cpp"], [project.texts()]))
     print(f"{len(tried)} of {len(everything)} mutants against {len(player.tests)} tests, after"

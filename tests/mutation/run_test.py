@@ -20,7 +20,8 @@ SWAPPED = "tests/mutation/sample/Sample.cpp | keepTwo | swap | keep(1) <-> keep(
 def run(scripts, listed, *options):
     done = subprocess.run([sys.executable, HERE / "run.py", "--build", BUILD, "--library", LIBRARY,
                            "--subject", "tests/mutation/sample", "--scripts", SAMPLE / scripts,
-                           "--no-model", "--survivors", listed, *options], text=True, capture_output=True)
+                           "--no-model", "--survivors", listed, *options],
+                          text=True, capture_output=True)
     return done.returncode, done.stdout + done.stderr
 
 

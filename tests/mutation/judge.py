@@ -144,9 +144,13 @@ class Judge:
 
     def covering(self, mutant):
         found = self.coverage.tests_of(mutant.file, mutant.first_line, mutant.last_line)
-        if found is None:
-            found = self.by_name(mutant)
-        return self.player.tests.keys() if found is None else found
+        if found:
+            return found
+        # No code, or none that is executed: it may have been at compile time.
+        named = self.by_name(mutant)
+        if found is None and not named:
+            return self.player.tests.keys()
+        return named or set()
 
     def by_name(self, mutant):
         """For a constant: the tests that execute a line which names it."""

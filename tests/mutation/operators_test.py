@@ -129,6 +129,10 @@ class Names(unittest.TestCase):
         self.assertEqual(len(names), len(set(names)))
         self.assertIn("Code.cpp | f | leave-out | one() #3", names)
 
+    def test_enumerator(self):
+        self.assertIn("Code.cpp | Mode::songs | constant | , songs = 1 } ; : 1 -> 2",
+                      self.names("enum Mode { duration = 0, songs = 1 };"))
+
     def test_sample_is_spread_and_always_the_same(self):
         found = list(mutants_of(self.CODE))
         chosen = mutants.sample(found, 4)

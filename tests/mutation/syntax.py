@@ -17,7 +17,8 @@ FUNCTIONS = {
 }
 NAMED = FUNCTIONS | {
     CursorKind.VAR_DECL, CursorKind.FIELD_DECL, CursorKind.STRUCT_DECL, CursorKind.CLASS_DECL,
-    CursorKind.CLASS_TEMPLATE, CursorKind.ENUM_DECL, CursorKind.NAMESPACE,
+    CursorKind.CLASS_TEMPLATE, CursorKind.ENUM_DECL, CursorKind.ENUM_CONSTANT_DECL,
+    CursorKind.NAMESPACE,
 }
 LITERALS = {
     CursorKind.INTEGER_LITERAL, CursorKind.FLOATING_LITERAL, CursorKind.STRING_LITERAL,

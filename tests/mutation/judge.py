@@ -24,6 +24,7 @@ class Judge:
         self.results = results
         self.objects = objects
         self.objects_by_name = {one.name: one for one in objects.values()}
+        self.emitters = project.emitters(objects)
         self.lock = threading.Lock()
         self.optimised_known = set()
         self.optimised_locks = {source: threading.Lock() for source in project.sources}
@@ -94,15 +95,22 @@ class Judge:
             {"type": "file", "name": str(original), "external-contents": str(changed)}]}))
         return overlay
 
+    def affected(self, mutant):
+        """The sources to compile. Of an inline function the linker takes the first it finds."""
+        if not mutant.symbol:
+            return self.users[mutant.file]
+        holders = self.emitters.get(mutant.symbol, [])
+        return sorted(holders, key=lambda source: self.objects[source].stat().st_size)[:1]
+
     def build(self, folder, library, mutant):
         overlay = self.overlay(folder, mutant)
-        objects = dict(self.objects)
-        for source in self.users[mutant.file]:
+        objects = {source: None for source in self.affected(mutant)} | self.objects
+        for source in self.affected(mutant):
             output = folder / self.project.object_name(source)
             if self.project.compile(source, output, overlay).returncode != 0:
                 return UNBUILDABLE
             objects[source] = output
-        changed = [objects[source] for source in self.users[mutant.file]]
+        changed = [objects[source] for source in self.affected(mutant)]
         if all(same_bytes(one, self.objects_by_name[one.name]) for one in changed):
             return SAME
         linked = self.project.link([*objects.values(), self.project.header_object], library)
@@ -110,7 +118,7 @@ class Judge:
 
     def optimised_equal(self, folder, mutant):
         """Whether nobody can tell them apart: optimised, both are the same machine code."""
-        for source in self.users[mutant.file]:
+        for source in self.affected(mutant):
             changed = folder / "optimised.o"
             self.project.compile(source, changed, folder / "overlay.yaml", OPTIMISED)
             if not same_bytes(changed, self.optimised(source)):

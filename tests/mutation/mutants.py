@@ -24,6 +24,7 @@ class Mutant:
     edits: tuple  # (start, end, replacement) in bytes, in order
     first_line: int
     last_line: int
+    symbol: str  # of an inline function of a header, which exists once in the library; or empty
 
     @property
     def identity(self):
@@ -62,26 +63,40 @@ def qualified(cursor):
 class Finder:
     """Walks over one file of a translation unit."""
 
-    def __init__(self, root, source, name):
-        self.root = root
+    def __init__(self, source, path, name, macros):
         self.source = source
+        self.path = path
         self.name = name
-        self.found = []  # (operator, edits, what, enclosing)
-        self.owners = []  # (start, end, qualified name)
+        self.found = []  # (operator, edits, what, (enclosing, symbol))
+        self.owners = []  # (start, end, (enclosing, symbol))
         self.skipped = []  # (start, end)
+        self.macros = source.tokens.uses(macros)
 
     def walk(self, cursor, owner, inside_function):
+        if cursor.location.file is None or cursor.location.file.name != self.path:
+            return
         if cursor.kind == CursorKind.STATIC_ASSERT or cursor.kind.is_attribute():
             self.skipped.append(span(cursor))
             return
+        if span(cursor) in self.macros:
+            return  # stands elsewhere
         if cursor.kind in NAMED and not inside_function:
-            owner = qualified(cursor)
+            owner = qualified(cursor), self.symbol(cursor)
             self.owners.append((*span(cursor), owner))
             inside_function = cursor.kind in FUNCTIONS
         for operator, *where in operators.edits(self.source, cursor):
             self.add(operator, where, owner)
         for child in cursor.get_children():
             self.walk(child, owner, inside_function)
+
+    def symbol(self, cursor):
+        inline = cursor.kind in (CursorKind.FUNCTION_DECL, CursorKind.CXX_METHOD)
+        if not inline or self.path.endswith(".cpp") or cursor.linkage.name == "INTERNAL":
+            return ""
+        start, end = span(cursor)
+        words = [token[2] for token in self.source.tokens.between(start, end)]
+        declared = words[:words.index("{")] if "{" in words else words
+        return "" if "constexpr" in declared else cursor.mangled_name
 
     def add(self, operator, where, owner):
         if operator == "swap":
@@ -109,10 +124,11 @@ class Finder:
                 continue
             line = self.source.text[self.source.text.rfind(b"\n", 0, start) + 1:start].lstrip()
             directive = line.startswith(b"#") and not line.startswith(b"#define")
-            if directive or tokens[at - 1][2] in ("extern", "requires"):
+            if directive or tokens[at - 1][2] in ("extern", "operator"):
                 continue
-            # `.method<"name", …>`: under another name it is the same as left out.
-            if tokens[at - 1][2] == "<" and tokens[at - 3][2] == ".":
+            # Names of classes and selectors: under another one it is the same as left out.
+            argument = tokens[at - 1][2] == "<" or tokens[at + 1][2] == ">"
+            if argument and spelling.endswith('"'):
                 continue
             if any(first <= start < last for first, last in self.skipped):
                 continue
@@ -120,7 +136,7 @@ class Finder:
             if replacement is not None:
                 holders = [name for first, last, name in self.owners if first <= start < last]
                 around = " ".join(token[2] for token in tokens[max(at - 3, 0):at + 3])
-                owner = holders[-1] if holders else ""
+                owner = holders[-1] if holders else ("", "")
                 self.add("constant", (start, end, replacement, around), owner)
 
     def mutants(self):
@@ -133,7 +149,8 @@ class Finder:
             key = (owner, operator, what)
             seen[key] = seen.get(key, 0) + 1
             lines = self.source.line(edits[0][0]), self.source.line(edits[-1][1])
-            result.append(Mutant(self.name, owner, operator, what, seen[key], edits, *lines))
+            result.append(Mutant(self.name, owner[0], operator, what, seen[key], edits, *lines,
+                                 owner[1]))
         return result
 
     def apply(self, edits):
@@ -148,14 +165,15 @@ def mutants_of_unit(root, subject, path, arguments):
     unit = parse(path, arguments)
     names = {path} | {root / include.include.name for include in unit.get_includes()}
     files = sorted({name.resolve() for name in names} & set(subject.rglob("*")))
-    finders = {}
+    macros = set()
     for file in files:
-        source = Source(unit, file)
-        finders[str(file)] = Finder(root, source, str(file.relative_to(root)))
+        macros |= set(re.findall(r"^\s*#define (\w+)", file.read_text(), re.MULTILINE))
+    finders = {str(file): Finder(Source(unit, file), str(file), str(file.relative_to(root)), macros)
+               for file in files}
     for cursor in unit.cursor.get_children():
         where = cursor.location.file
         if where is not None and where.name in finders:
-            finders[where.name].walk(cursor, "", False)
+            finders[where.name].walk(cursor, ("", ""), False)
     found = []
     for finder in finders.values():
         finder.literals()

@@ -22,6 +22,8 @@ STATEMENT_PARENTS = {CursorKind.COMPOUND_STMT, CursorKind.IF_STMT, CursorKind.FO
                      CursorKind.DEFAULT_STMT}
 EFFECTS = {CursorKind.CALL_EXPR, CursorKind.BINARY_OPERATOR, CursorKind.UNARY_OPERATOR,
            CursorKind.COMPOUND_ASSIGNMENT_OPERATOR}
+# For these there is another operator, or none.
+VALUES = LITERALS | {CursorKind.LAMBDA_EXPR, CursorKind.INIT_LIST_EXPR}
 
 
 def edits(source, cursor):
@@ -136,7 +138,7 @@ def negated_value(source, cursor):
         return
     value = bare(inner[0])
     start, end = span(inner[0])
-    if value.kind in LITERALS or value.kind in (CursorKind.INIT_LIST_EXPR, CursorKind.LAMBDA_EXPR):
+    if value.kind in VALUES:
         return
     if value.type.get_canonical().spelling == "bool":
         yield negation(source, inner[0])
@@ -215,8 +217,9 @@ def dropped(source, cursor):
     for argument in arguments(source, cursor):
         start, end = span(argument)
         inner = bare(argument)
-        literal = inner.kind in LITERALS or source.of(inner).startswith('"')
-        if literal or inner.kind in (CursorKind.LAMBDA_EXPR, CursorKind.INIT_LIST_EXPR):
+        text = source.of(inner)
+        # Without its receiver a message is the same as left out.
+        if text.startswith('"') or text in ("*this", "cls()") or inner.kind in VALUES:
             continue
         kind = f"decltype(({source.slice(start, end)}))"
         yield "argument", start, end, f"mutation::Nothing<{kind}>{{}}"

@@ -91,6 +91,16 @@ class Operators(unittest.TestCase):
         self.assertEqual(self.function("show(a);", "argument", "Page a"),
                          ["show(mutation::Nothing<decltype((a))>{});"])
         self.assertEqual(self.function("a.setHidden(true);", "argument", "Label a"), [])
+        receiver = "struct A { void f() { g(*this); } void g(A); };"
+        self.assertEqual(self.changes(receiver, "argument"), [])
+
+    def test_name_in_a_template_argument_stays(self):
+        code = 'struct Name { constexpr Name(const char*) {} }; template <Name n> void g() {}\n'
+        self.assertEqual(self.changes(code + 'void f() { g<"a">(); }', "constant"), [])
+
+    def test_macro_is_not_looked_into(self):
+        code = "\n#define SHOW(a) show(a ? Page::first : Page::second);\nSHOW(a)\n"
+        self.assertEqual(self.function(code, "negate", "bool a"), [])
 
     def test_arithmetic(self):
         self.assertEqual(self.function("a = b + 1;", "arithmetic", "int a, int b"), ["a = b - 1;"])

@@ -115,7 +115,7 @@ class Project:
 
     @staticmethod
     def files(folder):
-        return sorted(file for file in folder.rglob("*") if file.suffix in (".h", ".cpp"))
+        return sorted(file for file in folder.rglob("*") if file.suffix in (".h", ".cpp", ".def"))
 
     def header(self, options):
         names = ((PLAIN, "plain"), (COVERAGE, "covered"), (OPTIMISED, "optimised"))
@@ -132,6 +132,16 @@ class Project:
         if replaced:
             words += ["-ivfsoverlay", replaced]
         return subprocess.run([*words, "-c", source, "-o", output], text=True, capture_output=True)
+
+    def emitters(self, objects):
+        """{symbol: the sources whose objects hold it}, for what is not held by one alone."""
+        found = {}
+        for source, one in objects.items():
+            for line in run(["nm", "--defined-only", one]).stdout.splitlines():
+                kind, symbol = line.split()[-2:]
+                if kind in "WV":
+                    found.setdefault(symbol, []).append(source)
+        return found
 
     def object_name(self, source):
         return "-".join(source.relative_to(self.root).with_suffix(".o").parts)

@@ -75,6 +75,15 @@ class Tokens:
                 return token[0], token[1]
         return None
 
+    def uses(self, macros):
+        """Where these are used, with their arguments: (start, end) of each."""
+        found = set()
+        for at, (start, end, spelling, _) in enumerate(self.all[:-1]):
+            if spelling in macros:
+                called = self.all[at + 1][2] == "("
+                found.add((start, self.all[self.closing(at + 1)][1] if called else end))
+        return found
+
     def closing(self, index):
         """The index of the parenthesis that closes the one at the index."""
         depth = 0

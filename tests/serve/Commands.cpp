@@ -52,6 +52,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Mistake{"TooLate", "ios 16.0", "ios belongs before boot"},
                     Mistake{"NoFinger", "touch moved 1 2", "no finger is on the screen"},
                     Mistake{"Expectation", "expect-volume 1", "volume: expected 1, found 0.5"},
+                    Mistake{"Setting", "set enabledMode 2",
+                            "no extension reads the setting enabledMode of com.corvane.dozewell2; "
+                            "did you mean \"enabledModes\"?"},
+                    Mistake{"JournalLine", "expect-no-journal \"-[SBMediaController puase]\"",
+                            "there is no method -[SBMediaController puase]; did you mean "
+                            "\"pause\"?"},
                     Mistake{"TwoLines", "lock\nunlock",
                             "expected a line without line breaks: use lines"},
                     Mistake{"OpenQuote", "log \"a", "expected a closing quote"}),

@@ -106,6 +106,18 @@ TEST(SetUp, MakesAFreshPhone) {
   EXPECT_EQ(program.get("/api/recording.phone").body, "boot\nlock\nunlock\n");
 }
 
+TEST(SetUp, WithAMisspeltNameIsRefused) {
+  const ServedProgram program;
+  const Answer answer =
+      program.post("/api/setup", {{"lines", {"ios 16.1", "missing SBMediaControler"}}});
+  EXPECT_EQ(answer.status, 400);
+  EXPECT_EQ(answer.asJson(), (json{{"error",
+                                    "there is no class SBMediaControler to leave out; did you mean "
+                                    "\"SBMediaController\"?"},
+                                   {"line", 2},
+                                   {"column", 9}}));
+}
+
 TEST(SetUp, OutlivesARespring) {
   const ServedProgram program;
   program.post("/api/setup", {{"lines", {"ios 16.1", "missing SBVolumeControl"}}});

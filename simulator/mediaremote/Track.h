@@ -10,10 +10,10 @@ namespace sim {
 
 struct Track {
   std::optional<std::string> title;  // what some players report of a stream is no title at all
-  bool hasNumberForTitle = false;    // and some report what is no text; then without `title`
   std::string artist;                // empty: unknown
   std::string album;                 // empty: unknown
   Nanoseconds length = 0;            // always more than 0 in a playlist
+  bool hasNumberForTitle = false;    // some players report what is no text; then without `title`
 };
 
 // In journal notation: the quoted title, or nil.

@@ -37,7 +37,7 @@ TEST_F(ViewsOfFoundation, TellAStringFromWhatIsNone) {
   EXPECT_TRUE(isKindOf<::NSString>("A"_ns));
   EXPECT_TRUE(isKindOf<::NSString>(::NSMutableString::string()));
   EXPECT_FALSE(isKindOf<::NSString>(::NSNumber::numberWithInteger(1)));
-  EXPECT_FALSE(isKindOf<::NSString>(nullptr));
+  EXPECT_FALSE(::isKindOf<::NSString>(nullptr));
 }
 
 TEST_F(ViewsOfFoundation, ReadOddValuesAsNothing) {

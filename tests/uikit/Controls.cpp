@@ -78,7 +78,7 @@ TEST_F(Controls, ActionsCanBeTakenBack) {
 
 TEST_F(Controls, DoNotKeepTheirTargets) {
   const auto control = make("UIControl");
-  target(control, make("ActionReceiver"), "plain");
+  target(control, make("ActionReceiver").get(), "plain");
   touch(control);
   EXPECT_TRUE(calls.empty());
 }

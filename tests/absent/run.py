@@ -23,6 +23,9 @@ ESSENTIAL = {
 # Our layouts hold objects of these, and the platform ends a host that reads a layout without them.
 OF_LAYOUTS = {"UIButton", "UILabel", "UIStackView"}
 
+# Own classes are made of these: without them nothing is installed, which a phone script holds.
+SUPERCLASSES = {"UIView", "UIViewController"}
+
 
 def classes(top):
     found = set()
@@ -31,7 +34,7 @@ def classes(top):
         found |= set(re.findall(r'(?:objc_getClass\(|classNamed<)"(\w+)"', text))
         found |= set(re.findall(r'objc::hook<"(\w+)"', text))
     found.discard("DozewellButton")
-    return sorted(found - ESSENTIAL - OF_LAYOUTS)
+    return sorted(found - ESSENTIAL - OF_LAYOUTS - SUPERCLASSES)
 
 
 def script_without(absent, template):

@@ -95,6 +95,7 @@ Names extensionNames() {
 }
 
 void requireNoSlip(const std::string& what, const Word& name, Names known) {
+  if (isNamedByExtension(name.text)) return;
   const Names others = extensionNames();
   known.insert(known.end(), others.begin(), others.end());
   if (const std::string meant = slipOf(name.text, known); !meant.empty())
@@ -102,7 +103,11 @@ void requireNoSlip(const std::string& what, const Word& name, Names known) {
 }
 
 bool isNamedByExtension(const std::string& name) {
-  return Phone::current().extensionNames.contains(name);
+  // At the end of another is enough: linkers keep "ends" within "weekends", and what lies before a
+  // text need not be one.
+  const auto& names = Phone::current().extensionNames;
+  return std::any_of(names.begin(), names.end(),
+                     [&name](const std::string& each) { return each.ends_with(name); });
 }
 
 }  // namespace sim

@@ -153,7 +153,7 @@ template <class Signature, class Function>
 Strong<Block<Signature>> block(Function&& function) {
   static_assert(!std::is_lvalue_reference_v<Function>, "move the lambda into its block");
   static_assert(alignof(Function) <= alignof(std::max_align_t), "captures are over-aligned");
-  BlockLiteral<Signature, Function> literal(std::move(function));
+  BlockLiteral<Signature, Function> literal(std::forward<Function>(function));
   return adopt(Block<Signature>(static_cast<id>(_Block_copy(&literal))));
 }
 

@@ -11,10 +11,9 @@ constexpr Integer saturatingCast(Real value) {
   using Limits = std::numeric_limits<Integer>;
   // One beyond the greatest Integer, which a Real need not hold; this power of two it does.
   constexpr Real end = -Real(Limits::min());
-  if (value != value) return 0;
   if (value >= end) return Limits::max();
-  if (value < -end) return Limits::min();
-  return Integer(value);
+  if (value >= -end) return Integer(value);
+  return value < -end ? Limits::min() : Integer(0);  // neither: not a number
 }
 
 // Wraps around: a setting or a stored count may be any number.

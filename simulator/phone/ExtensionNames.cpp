@@ -22,11 +22,15 @@ bool canBeInName(char letter) {
 __attribute__((no_sanitize("address"))) void addNames(std::set<std::string, std::less<>>& names,
                                                       const char* bytes, std::size_t count) {
   constexpr std::size_t shortest = 2;
-  std::size_t start = 0;
+  std::string name;  // letter by letter: whoever copies several is checked
   for (std::size_t at = 0; at < count; ++at) {
-    if (canBeInName(bytes[at])) continue;
-    if (bytes[at] == '\0' && at - start >= shortest) names.emplace(&bytes[start], at - start);
-    start = at + 1;
+    const char letter = bytes[at];
+    if (canBeInName(letter)) {
+      name += letter;
+      continue;
+    }
+    if (letter == '\0' && name.size() >= shortest) names.insert(name);
+    name.clear();
   }
 }
 

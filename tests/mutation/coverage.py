@@ -24,7 +24,8 @@ class Coverage:
 
     def record(self, world):
         """`world` says what, besides the scripts, decides what they execute. What is known of it
-        from an earlier run is not measured again."""
+        from an earlier run is not measured again. Gives the names of tests that fail without any
+        mutant: they prove nothing, and are not played any more."""
         stamp = self.folder / "world"
         if not stamp.exists() or stamp.read_text() != world:
             shutil.rmtree(self.folder, ignore_errors=True)
@@ -33,10 +34,11 @@ class Coverage:
             stamp.write_text(world)
         with concurrent.futures.ThreadPoolExecutor(self.project.jobs) as pool:
             runs = pool.map(self.play, self.player.tests.values())
-        failed = [why for why in runs if why]
-        if failed:
-            sys.exit("Without any mutant: " + ", ".join(failed))
+        failed = [name for name in runs if name]
+        for name in failed:
+            del self.player.tests[name]
         self.read_lines()
+        return failed
 
     def build(self):
         objects = self.project.build_all("covered", COVERAGE)
@@ -48,16 +50,15 @@ class Coverage:
                 sys.exit(done.stderr)
 
     def play(self, test):
-        """Why it does not pass, or None."""
+        """Its name if it does not pass, or None."""
         known = self.folder / (hashlib.sha256(test.text.encode()).hexdigest() + "-" + test.name)
         seconds = known.with_name(known.name + ".seconds")
         if not seconds.exists():
             known.unlink(missing_ok=True)
-            found = self.player.measure(self.library, test,
-                                        {"MUTATION_HITS": str(known),
-                                         "MUTATION_BLOCKS": str(self.folder / "blocks")})
-            if found:
-                return f"{test.name} {found[1]}"
+            blocks = str(self.folder / "blocks")
+            variables = {"MUTATION_HITS": str(known), "MUTATION_BLOCKS": blocks}
+            if self.player.measure(self.library, test, variables):
+                return test.name
             seconds.write_text(str(test.seconds))
         test.seconds = float(seconds.read_text())
         self.hits[test.name] = known.read_bytes() if known.exists() else b""

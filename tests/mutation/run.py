@@ -126,7 +126,9 @@ def main():
     objects = project.build_all("objects")
     world = fingerprint([*objects.values(), project.header_object, player.simulator, model])
     coverage = Coverage(project, player)
-    coverage.record(world + fingerprint([HERE / "Probe.cpp"], [project.texts()]))
+    broken = coverage.record(world + fingerprint([HERE / "Probe.cpp"], [project.texts()]))
+    for name in broken:
+        print(f"{name} fails without any mutant", flush=True)
     print(f"{len(tried)} of {len(everything)} mutants against {len(player.tests)} tests, after"
           f" {time.monotonic() - started:.0f} s", flush=True)
 
@@ -150,7 +152,7 @@ def main():
         for name in names:
             print(f"{title}: {name}")
     print(f"{time.monotonic() - started:.0f} s")
-    return 1 if new or stale or gone or score < wanted.at_least else 0
+    return 1 if broken or new or stale or gone or score < wanted.at_least else 0
 
 
 if __name__ == "__main__":

@@ -76,6 +76,13 @@ class Run(unittest.TestCase):
         self.assertEqual(status, 1, output)
         self.assertEqual(run("strong", SAMPLE / "survivors.txt", "--at-least", "80")[0], 0)
 
+    def test_script_that_fails_without_mutant_fails(self):
+        with tempfile.TemporaryDirectory() as folder:
+            pathlib.Path(folder, "wrong.phone").write_text("boot\nexpect-no-class NSObject\n")
+            status, output = run(folder, self.listed(), "--match", SWAPPED)
+        self.assertEqual(status, 1, output)
+        self.assertIn("wrong fails without any mutant", output)
+
     def test_reason_is_required(self):
         file = self.listed()
         pathlib.Path(file).write_text(EQUIVALENT + "\n")

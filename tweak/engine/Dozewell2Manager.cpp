@@ -113,7 +113,6 @@ void Engine::timerOrNbTracksDidEnd() {
 }
 
 void Engine::cancelTimer() {
-  if (!*systemTimer) return;
   systemTimer->get().invalidate();
   *systemTimer = nullptr;
 }

@@ -61,8 +61,7 @@ bool hasClasses() {
 }
 
 bool isHomeScreenProcess() {
-  const auto process = NSProcessInfo::processInfo();
-  return process && process.processName().isEqualToString("SpringBoard"_ns);
+  return NSProcessInfo::processInfo().processName().isEqualToString("SpringBoard"_ns);
 }
 
 bool isEnabled() {

@@ -71,7 +71,6 @@ void Indicators::startUpdatingRemainingTimeLabelsInCC() {
 }
 
 void Indicators::stopUpdatingRemainingTimeLabelsInCC() {
-  if (!updateRemainingTimeLabelsTimer) return;
   updateRemainingTimeLabelsTimer->invalidate();
   updateRemainingTimeLabelsTimer = nullptr;
 }

@@ -65,7 +65,7 @@ void Page::addOrRemovePluralForRow(long row) {
                     [caption = musicLabel, isPlural, row] {
                       if (row == 0 && isPlural(caption))
                         caption->setText(BundleHelper::getLocalizedStringFor("SONG"_ns));
-                      else if (row >= 1 && !isPlural(caption))
+                      else if (row >= 1)
                         caption->setText(BundleHelper::getLocalizedStringFor("SONGS"_ns));
                     });
 }

@@ -24,7 +24,6 @@ struct HapticFeedbackHelperImplementation
   }
 
   static void sendImpactWithStyle(long style) {
-    if (!hasImpactGenerator()) return;
     UIImpactFeedbackGenerator::make(style)->impactOccurred();
   }
 

@@ -29,7 +29,8 @@ class Mutant:
     @property
     def identity(self):
         number = f" #{self.ordinal}" if self.ordinal > 1 else ""
-        return f"{self.file} | {self.enclosing} | {self.operator} | {self.what}{number}"
+        # Editors take blanks at the end of a line away.
+        return f"{self.file} | {self.enclosing} | {self.operator} | {self.what}{number}".rstrip()
 
     @property
     def digest(self):

@@ -19,7 +19,10 @@ class Slice:
 
 def read_slices(path):
     with open(path, "rb") as file:
-        data = file.read()
+        return slices_in(file.read())
+
+
+def slices_in(data):
     magic, count = struct.unpack_from(">2I", data)
     if magic != MAGIC_FAT:
         raise MachOError(f"magic is {magic:#x}, not that of a fat file")

@@ -1,0 +1,1 @@
+"""Makes the package that a phone installs, and checks it."""

@@ -1,0 +1,1 @@
+"""The checks of a package: each yields what is wrong, one line per failure."""

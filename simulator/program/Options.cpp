@@ -11,6 +11,7 @@ const std::map<std::string, Action> actions = {
     {"play", Action::play},         {"resume", Action::resume},
     {"serve", Action::serve},       {"serve-on", Action::goOnServing},
     {"fidelity", Action::fidelity}, {"commands", Action::commands},
+    {"--version", Action::version},
 };
 
 // Instead of --token, which everybody on the machine sees in the list of its processes.
@@ -64,9 +65,9 @@ class Parser {
     else if (word == "--tweak")
       options_.extensions.emplace_back(valueOf(word));
     else if (word == "--package")
-      options_.package = valueOf(word);
+      options_.package = folderFrom(word, valueOf(word));
     else if (word == "--folder")
-      options_.folder = folderFrom(valueOf(word));
+      options_.folder = folderFrom(word, valueOf(word));
     else
       return false;
     return true;
@@ -111,9 +112,9 @@ class Parser {
     return port;
   }
 
-  static std::filesystem::path folderFrom(const std::string& word) {
+  static std::filesystem::path folderFrom(const std::string& option, const std::string& word) {
     if (!std::filesystem::is_directory(word))
-      throw UsageError("--folder needs a folder that is there, found " + word);
+      throw UsageError(option + " needs a folder that is there, found " + word);
     return std::filesystem::canonical(word);
   }
 
@@ -184,7 +185,7 @@ Options parseOptions(const std::vector<std::string>& words) {
 std::string usageText() {
   return R"(usage: dozewell-simulator serve [OPTIONS] [FOLDER]
        dozewell-simulator play [OPTIONS] FILE...
-       dozewell-simulator fidelity | commands | --help
+       dozewell-simulator fidelity | commands | --version | --help
 
 serve     a phone in the browser, on this machine only, that plays the music of the folder; prints
           its address, which holds a secret: nobody is let in without it
@@ -196,8 +197,10 @@ commands  prints the reference of the script language, as Markdown
   --tweak PATH     the extension to load (repeatable, in order); without it, Dozewell2.so
                    beside this program
   --no-tweak       a phone without extensions
-  --package DIR    the files to install on the phone, as they lie there; without it, and without
-                   the options above, the extension's own
+  --package DIR    the files to install on the phone, as they lie there, for example what a phone's
+                   package was unpacked to; without it, and without the options above, the
+                   extension's own. A library for phones among them is not loaded: what plays is
+                   the one for this machine that --tweak names
   --folder DIR     scripts read and write files below this folder only; without it, `play` takes
                    any file, relative to the script, and `serve` a folder that is gone at the end
 

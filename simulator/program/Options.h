@@ -22,6 +22,7 @@ enum class Action {
   goOnServing,  // not for people, either
   fidelity,
   commands,
+  version,
 };
 
 struct Options {

@@ -5,8 +5,8 @@
 
 namespace sim {
 
-// Over what an earlier version has left on a phone that is kept. Throws
-// std::filesystem::filesystem_error.
+// Over what an earlier version has left on a phone that is kept. Where a phone has links, as for
+// /var/jb, the phone gets what they lead to. Throws std::filesystem::filesystem_error.
 void installPackage(const std::filesystem::path& package, const std::filesystem::path& root);
 
 }  // namespace sim

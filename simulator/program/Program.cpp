@@ -32,6 +32,9 @@ int runProgram(const std::vector<std::string>& words) {
         return printFidelity();
       case Action::commands:
         return printReference();
+      case Action::version:
+        std::cout << "dozewell-simulator " DOZEWELL_VERSION "\n";
+        return 0;
     }
   } catch (const UsageError& error) {
     std::cerr << "dozewell-simulator: " << error.what() << "\n\n" << usageText();

@@ -40,11 +40,6 @@ PROVIDED = (
 )
 
 
-def can_install():
-    """Files of the package belong to root."""
-    return os.geteuid() == 0 or shutil.which("fakeroot") is not None
-
-
 class FakePhone:
     def __init__(self, root, provided=PROVIDED):
         self.root = pathlib.Path(root)
@@ -65,7 +60,7 @@ class FakePhone:
         """Nothing outside the phone is read or written: neither records, nor triggers, nor logs."""
         command = ["dpkg", f"--root={self.root}", f"--admindir={self.root / DPKG}", "--log=/dev/null",
                    "--no-triggers", "--no-debsig", *words]
-        if os.geteuid() != 0:
+        if os.geteuid() != 0:  # files of the package belong to root
             command[:1] = ["fakeroot", "dpkg", "--force-not-root"]
         # Messages in English, and the tools that dpkg wants although it needs none of them here.
         environment = {**os.environ, "LC_ALL": "C", "PATH": "/usr/sbin:/usr/bin:/sbin:/bin"}
@@ -96,9 +91,6 @@ def _state(path):
 
 def main():
     folder, package = sys.argv[1:]
-    if not can_install():
-        print("skipped: without root or fakeroot dpkg cannot install")
-        return
     shutil.rmtree(folder, ignore_errors=True)
     outcome = FakePhone(folder).dpkg("--install", package)
     print(outcome.stdout, outcome.stderr, sep="")

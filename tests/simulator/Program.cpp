@@ -1,6 +1,9 @@
 // The command line: usage, several scripts, exit status.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "tests/simulator/RunProgram.h"
 
 namespace sim {
@@ -11,8 +14,9 @@ std::string firstLine(const std::string& text) {
 }
 
 TEST(Program, WrongUsageIsStatusTwo) {
-  for (const char* words : {"nope", "play", "play --nope x", "play --tweak", "commands x",
-                            "play --root a b c", "play --tweak a --no-tweak b"}) {
+  for (const char* words :
+       {"nope", "play", "play --nope x", "play --tweak", "commands x", "play --root a b c",
+        "play --tweak a --no-tweak b", "play --package /nonexistent a", "--version x"}) {
     const Outcome outcome = runSimulator(words);
     EXPECT_EQ(outcome.status, 2) << words;
     EXPECT_NE(outcome.errors.find("usage: "), std::string::npos) << words;
@@ -25,6 +29,28 @@ TEST(Program, HelpIsNoError) {
     EXPECT_EQ(outcome.status, 0) << words;
     EXPECT_EQ(outcome.output.rfind("usage: dozewell-simulator", 0), 0u) << words;
   }
+}
+
+TEST(Program, VersionIsTheProjects) {
+  const Outcome outcome = runSimulator("--version");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, "dozewell-simulator " DOZEWELL_VERSION "\n");
+}
+
+TEST(Program, PackageIsInstalledThroughTheLinksOfAPhone) {
+  namespace files = std::filesystem;
+  const files::path root = files::path(writeFile("beside", "")).parent_path() / "installed";
+  files::create_directories(root / "private/jb/Library");
+  files::create_directories(root / "var");
+  files::create_symlink("../private/jb", root / "var/jb");
+  std::ofstream(root / "private/jb/Library/note.txt") << "hello";
+  const Outcome outcome = play(
+      "boot\n"
+      "send NSFileManager.defaultManager fileExistsAtPath: \"/var/jb/Library/note.txt\"\n"
+      "expect-last YES",
+      "--quiet --package '" + root.string() + "'");
+  EXPECT_EQ(outcome.errors, "");
+  EXPECT_EQ(outcome.status, 0);
 }
 
 TEST(Program, PrintsTheJournalUnlessQuiet) {

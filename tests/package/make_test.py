@@ -38,8 +38,9 @@ class Make(PackageCase):
         self.passes("owners", path=path)
 
     def test_build_made_it_so(self):
-        variables = {name: os.environ[name] for name in ("SOURCE_DATE_EPOCH",) if name in os.environ}
-        self.assertEqual(self.make(**variables), GOOD.read_bytes())
+        time = str(self.package.members[0].time)
+        self.assertEqual(self.make(SOURCE_DATE_EPOCH=time), GOOD.read_bytes())
+        self.passes("sources", *FILES, path=self.written_bytes(self.make()))
 
     def test_warns_of_placeholders(self):
         control = self.folder / "control"

@@ -16,6 +16,15 @@ set(DOZEWELL_DEB_FILES
     "/var/jb/Library/Application Support/Dozewell2Bundle.bundle=${DOZEWELL_BUNDLE}")
 set(DOZEWELL_DEB_MEMBERS ${CMAKE_CURRENT_LIST_DIR}/members.txt)
 
+if(TARGET dozewell-pane)
+  list(APPEND DOZEWELL_DEB_FILES "/var/jb/Library/PreferenceLoader/Preferences/Dozewell2=${DOZEWELL_PANE}")
+  list(APPEND DOZEWELL_DEB_MEMBERS ${CMAKE_CURRENT_LIST_DIR}/members-pane.txt)
+  set(pane dozewell-pane)
+else()
+  message(WARNING "There is no settings pane to put into the package.")
+  set(pane)
+endif()
+
 set(PACKAGE_PYTHON ${CMAKE_COMMAND} -E chdir ${PHONE_DIR} ${PHONE_PYTHON})
 set(PACKAGE_MAKE ${PACKAGE_PYTHON} -m package.make --control ${DOZEWELL_CONTROL})
 # Each time, because it costs nothing and SOURCE_DATE_EPOCH may have changed.
@@ -23,7 +32,7 @@ add_custom_target(dozewell-package ALL
   COMMAND ${PACKAGE_MAKE} --output ${DOZEWELL_DEB} --placeholder ${repository_placeholder}
           --placeholder ${maintainer_placeholder} ${DOZEWELL_DEB_FILES}
   DEPENDS ${fat} COMMENT "Packing ${DOZEWELL_DEB}" VERBATIM)
-add_dependencies(dozewell-package dozewell-device dozewell-bundle)
+add_dependencies(dozewell-package dozewell-device dozewell-bundle ${pane})
 
 # package_check(CHECK [REFERENCE...]): a test that runs one check.
 function(package_check name)

@@ -3,7 +3,10 @@
 import pathlib
 
 from package import deb
-from package.tar import FILE_MODE, FOLDER_MODE
+
+# Not those of the module that writes them: it may be wrong.
+FILE_MODE = 0o644
+FOLDER_MODE = 0o755
 
 
 def check_members(path, *lists):

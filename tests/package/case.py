@@ -1,5 +1,6 @@
 """What the tests share: the built package, damaged copies of it, and two assertions."""
 
+import copy
 import gzip
 import lzma
 import os
@@ -10,6 +11,7 @@ import unittest
 from package import ar, check, deb, tar
 
 GOOD = pathlib.Path(os.environ["PACKAGE"])
+GOOD_PACKAGE = deb.read(GOOD)
 CONTROL = os.environ["CONTROL"]
 APPLICATION_SUPPORT = "./var/jb/Library/Application Support"
 BUNDLE = f"{APPLICATION_SUPPORT}/Dozewell2Bundle.bundle"
@@ -23,7 +25,7 @@ class PackageCase(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = pathlib.Path(folder.name)
-        self.package = deb.read(GOOD)
+        self.package = copy.deepcopy(GOOD_PACKAGE)
 
     def passes(self, name, *arguments, path=GOOD):
         self.assertEqual(list(check.failures(name, [path, *arguments])), [])

@@ -1,0 +1,1 @@
+// Precompiled headers belong to a target, and a target has a source.

@@ -1,0 +1,11 @@
+namespace {
+
+int number() {
+  return 2;
+}
+
+}  // namespace
+
+int numberOfOtherTwin() {
+  return number();
+}

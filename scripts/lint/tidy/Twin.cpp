@@ -1,0 +1,11 @@
+namespace {
+
+int number() {
+  return 1;
+}
+
+}  // namespace
+
+int numberOfTwin() {
+  return number();
+}

@@ -17,6 +17,8 @@ FLAGS = ["-std=c++20"]
 MISTAKES = {
     "bugprone-integer-division",
     "bugprone-use-after-move",
+    "clang-analyzer-core.NullDereference",
+    "clang-analyzer-cplusplus.Move",
     "misc-unused-using-decls",
     "performance-unnecessary-value-param",
 }

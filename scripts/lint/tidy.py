@@ -103,7 +103,8 @@ class Tidy:
         return made
 
     def run(self, unit, flags):
-        """Reads these sources as one: their text, since of what is included some checks know less."""
+        """Reads these sources as one: their text, because some checks know less of what is
+        included."""
         source = unit[0]
         if len(unit) > 1:
             text = "".join(file.read_text() for file in unit)

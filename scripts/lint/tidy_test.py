@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """usage: tidy_test.py FOLDER
 
-Whether clang-tidy still finds mistakes the way that tidy.py runs it: several sources as one, and the
-checks kept out of the system's headers. FOLDER is for what it writes."""
+Whether clang-tidy still finds mistakes the way that tidy.py runs it: several sources as one, and
+the checks kept out of the system's headers. FOLDER is for what it writes."""
 
 import pathlib
 import re

@@ -12,7 +12,9 @@ std::string takeLine(std::string_view& text) {
   text.remove_prefix(std::min(line.size() + 1, text.size()));
   line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
   constexpr std::size_t enough = 200;  // of an element that embeds something
-  return line.size() > enough ? std::string(line.substr(0, enough)) + "…" : std::string(line);
+  std::string taken(line.substr(0, enough));
+  if (line.size() > enough) taken += "…";
+  return taken;
 }
 
 }  // namespace

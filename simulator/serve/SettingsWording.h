@@ -1,4 +1,5 @@
-// The text of settings.json, which the build turns into a program's constant.
+// The settings of the page as JSON, which the build makes from the extension's list of settings and
+// from the table of their wording, tweak/settings/pane.
 #pragma once
 
 namespace sim {

@@ -61,6 +61,7 @@ export class SettingsPanel {
           { class: "group" },
           h("legend", { text: name }),
           ...members.map((each) => this.#row(each)),
+          h("p", { class: "footer", text: members[0].footer }),
         ),
       );
   }
@@ -93,7 +94,6 @@ export class SettingsPanel {
         "label",
         { class: "setting-words", for: field.input.id },
         h("span", { text: setting.label }),
-        setting.help ? h("small", { text: setting.help }) : null,
       ),
       h("div", { class: "setting-value" }, reset, field.element),
     );

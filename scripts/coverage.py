@@ -33,6 +33,7 @@ SUBJECTS = {
     "choose": "The panel's page for choosing",
     "current": "The panel's page while a timer runs",
     "end": "The panel's page for start and end actions",
+    "pane": "The settings pane",
     "spoken": "For a screen reader",
     "road": "Whole roads by taps",
     "support": "Alerts and helpers",

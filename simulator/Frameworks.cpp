@@ -18,6 +18,7 @@ void registerFrameworks() {
   registerMediaControls();
   registerCoverSheet();
   registerControlCenter();
+  registerPreferences();
 }
 
 }  // namespace sim

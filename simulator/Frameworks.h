@@ -19,6 +19,7 @@ void registerSpringBoard();
 void registerMediaControls();
 void registerCoverSheet();
 void registerControlCenter();
+void registerPreferences();
 
 // Registers all of them for the phone's set-up; once, when it boots.
 void registerFrameworks();

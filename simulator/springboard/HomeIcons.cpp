@@ -1,6 +1,8 @@
 #include "simulator/springboard/HomeIcons.h"
 
 #include <array>
+#include <map>
+#include <string>
 
 #include "objc/Message.h"
 #include "simulator/springboard/Shapes.h"
@@ -89,16 +91,32 @@ constexpr std::array<Icon, homeIconCount + dockIconCount> icons = {{
      white},
 }};
 
+using Openers = std::map<std::string, std::function<void()>, std::less<>>;
+Openers& openers() {
+  static Openers all;
+  return all;
+}
+
 }  // namespace
 
 std::string_view homeIconTitle(std::size_t index) {
   return icons.at(index).title;
 }
 
+void whenIconTapped(std::string_view title, std::function<void()> opens) {
+  openers()[std::string(title)] = std::move(opens);
+}
+
+void openApplication(std::size_t index) {
+  const auto found = openers().find(homeIconTitle(index));
+  if (found != openers().end()) found->second();
+}
+
 Strong<Object> makeHomeIcon(std::size_t index) {
   constexpr double radius = 13.5, lineWidth = 2.5;  // points
   const Icon& icon = icons.at(index);
-  auto view = objc::adopt(objc::send<Object, "new">(objc_getClass("UIView")));
+  const char* kind = openers().contains(icon.title) ? "UIControl" : "UIView";
+  auto view = objc::adopt(objc::send<Object, "new">(objc_getClass(kind)));
   const Object layer = objc::send<Object, "layer">(view.get());
   const auto ground = objc::adopt(objc::send<Object, "new">(objc_getClass("CAGradientLayer")));
   objc::send<void, "setFrame:">(ground.get(), CGRect{{}, {iconSize, iconSize}});

@@ -1,7 +1,8 @@
-// The applications on the home screen. They cannot be opened.
+// The applications on the home screen. Those that say so can be opened.
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string_view>
 
 #include "objc/Ownership.h"
@@ -15,5 +16,10 @@ inline constexpr std::size_t dockIconCount = 4;
 // Counted from 0, the dock's after the others. nil on a phone without views.
 objc::Strong<objc::Object> makeHomeIcon(std::size_t index);
 std::string_view homeIconTitle(std::size_t index);
+
+// Before the home screen is made.
+void whenIconTapped(std::string_view title, std::function<void()> opens);
+// Nothing for an application that cannot be opened.
+void openApplication(std::size_t index);
 
 }  // namespace sim

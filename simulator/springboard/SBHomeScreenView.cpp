@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "simulator/StandIn.h"
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/springboard/HomeIcons.h"
+#include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {
@@ -36,11 +38,20 @@ Object SBHomeScreenView::initWithFrame(CGRect frame) {
   for (std::size_t i = 0; i < homeIconCount + dockIconCount; ++i) {
     icons.push_back(makeHomeIcon(i));
     objc::send<void, "addSubview:">(made, icons.back().get());
+    if (isA<UIControl>(icons.back().get())) {
+      addTapTarget(icons.back().get(), made, objc::selector<"_open:">());
+      objc::send<void, "setAccessibilityLabel:">(icons.back().get(), string(homeIconTitle(i)));
+    }
     if (i >= homeIconCount) continue;
     titles.push_back(addLabel(made, {.points = points, .alignment = center}));
     setText(titles.back(), string(homeIconTitle(i)));
   }
   return made;
+}
+
+void SBHomeScreenView::open(Object icon) {
+  for (std::size_t i = 0; i < icons.size(); ++i)
+    if (icons[i].get() == icon) return openApplication(i);
 }
 
 void SBHomeScreenView::layoutSubviews() {
@@ -65,6 +76,7 @@ void SBHomeScreenView::layoutSubviews() {
 void SBHomeScreenView::registerClass() {
   StandIn<SBHomeScreenView>("SpringBoard", "SBHomeScreenView", "UIView")
       .method<"initWithFrame:", &SBHomeScreenView::initWithFrame>()
+      .method<"_open:", &SBHomeScreenView::open>()
       .partial<"layoutSubviews", &SBHomeScreenView::layoutSubviews>("one page of icons")
       .finish();
 }

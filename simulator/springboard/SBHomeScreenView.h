@@ -15,6 +15,8 @@ struct SBHomeScreenView : objc::Implementation<SBHomeScreenView> {
   std::vector<objc::Strong<objc::Object>> titles;  // UILabel, of the icons before the dock's
 
   objc::Object initWithFrame(CGRect frame);
+  // The application of an icon that was tapped.
+  void open(objc::Object icon);
   void layoutSubviews();
 
   static void registerClass();

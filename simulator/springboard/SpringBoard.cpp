@@ -15,7 +15,7 @@ void SpringBoard::applicationDidFinishLaunching(objc::Object) {
 void SpringBoard::registerClass() {
   StandIn<SpringBoard>("SpringBoard", "SpringBoard", "UIApplication")
       .partial<"applicationDidFinishLaunching:", &SpringBoard::applicationDidFinishLaunching>(
-          "no application can be opened")
+          "of all applications only Settings can be opened")
       .finish();
 }
 

@@ -28,6 +28,7 @@ CommandTable allCommands() {
   addScreenCommands(table);
   addLockScreenCommands(table);
   addControlCenterCommands(table);
+  addPreferencesAppCommands(table);
   addUIKitCommands(table);
   addDrawingCommands(table);
   return table;

@@ -64,11 +64,15 @@ void scroll(Arguments& words) {
   const long rows = words.integer("a number of rows");
   words.finish();
   const Object view = viewOnScreenAt({x, y});
-  Object slider = view;
+  Object slider = view, scrolled = view;
   while (slider && !isA<UISlider>(slider)) slider = UIView::of(slider).parent;
   if (UIPickerColumnView* wheel = wheelTouchedAt(view, {x, y})) return wheel->turnBy(rows);
   if (slider && UIControl::of(slider).enabled) return UISlider::of(slider).turnBy(rows);
-  throw ScriptError(0, "there is no wheel and no slider");
+  // The host's own views that scroll understand this.
+  while (scrolled && !objc::respondsTo<"_scrollRows:">(scrolled))
+    scrolled = UIView::of(scrolled).parent;
+  if (scrolled) return objc::send<void, "_scrollRows:">(scrolled, rows);
+  throw ScriptError(0, "there is no wheel, no slider and nothing that scrolls");
 }
 
 }  // namespace
@@ -79,7 +83,9 @@ void addFingerCommands(CommandTable& table) {
              "A finger comes down on a point of the screen, moves over it, or leaves it.", touch});
   table.add({"scroll", Stage::running, "scroll X Y ROWS", "scroll 195 430 -1",
              "Turns the wheel of the picker at a point of the screen by so many rows, as the wheel "
-             "of a mouse or a key does, or moves the slider there down by as many twentieths.",
+             "of a mouse or a key does, moves the slider there down by as many twentieths, or "
+             "scrolls the "
+             "page there.",
              scroll});
 }
 

@@ -1,0 +1,87 @@
+// PageView: where its parts stand.
+#include <algorithm>
+
+#include "simulator/StandIn.h"
+#include "simulator/preferences/Look.h"
+#include "simulator/preferences/PageView.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+
+// Points.
+constexpr double statusHeight = 47, barHeight = 44, widestBack = 150, symbolGap = 4;
+constexpr double groupGap = 28, noteGap = 7, bottomRoom = 40;
+
+// A phone that lies on its side has no status bar.
+double topOf(CGSize size) {
+  return size.width > size.height ? 0 : statusHeight;
+}
+
+double layOutNote(Object label, double top, double width) {
+  if (!label) return top;
+  const double room = width - 4 * look::margin;
+  const double height = sizeThatFits(label, {room, 1000}).height;
+  setFrame(label, {{2 * look::margin, top}, {room, height}});
+  return top + height;
+}
+
+}  // namespace
+
+void PageView::layOutBar(CGSize size) {
+  const double top = topOf(size);
+  const double backWidth = back ? layOutBack(top, size.width) : 0;
+  const double side = look::margin + backWidth;
+  setFrame(bar.get(), {{0, 0}, {size.width, top + barHeight}});
+  setFrame(title.get(), {{side, top}, {size.width - 2 * side, barHeight}});
+}
+
+// Its width.
+double PageView::layOutBack(double top, double width) {
+  const Object parts = objc::send<Object, "subviews">(back.get());
+  const Object arrow = objc::send<Object, "firstObject">(parts);
+  const Object words = objc::send<Object, "lastObject">(parts);
+  const double x = look::symbolSide + symbolGap;
+  const double wordsWidth = std::min(sizeThatFits(words, {width, barHeight}).width, widestBack - x);
+  const double its = x + wordsWidth;
+  const double arrowTop = (barHeight - look::symbolSide) / 2;
+  setFrame(back.get(), look::placed({{look::margin / 2, top}, {its, barHeight}}, width));
+  setFrame(arrow, look::placed({{0, arrowTop}, {look::symbolSide, look::symbolSide}}, its));
+  setFrame(words, look::placed({{x, 0}, {wordsWidth, barHeight}}, its));
+  return its;
+}
+
+double PageView::layOutGroup(std::size_t index, double top, double width) {
+  const GroupViews& group = groups[index];
+  double y = layOutNote(group.header.get(), top, width);
+  if (group.header) y += noteGap;
+  const double cardWidth = width - 2 * look::margin;
+  const double cardHeight = RowView::height * double(group.rows.size());
+  setFrame(group.card.get(), {{look::margin, y}, {cardWidth, cardHeight}});
+  for (std::size_t i = 0; i < group.rows.size(); ++i) {
+    const double rowTop = RowView::height * double(i);
+    setFrame(group.rows[i].get(), {{0, rowTop}, {cardWidth, RowView::height}});
+    const bool isFirst = i == 0;
+    const CGRect line = {{look::margin, rowTop},
+                         {cardWidth - look::margin, isFirst ? 0 : look::hairline / 2}};
+    setFrame(group.lines[i].get(), look::placed(line, cardWidth));
+  }
+  y += cardHeight;
+  return group.footer ? layOutNote(group.footer.get(), y + noteGap, width) : y;
+}
+
+void PageView::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  const CGSize size = sizeOf(Object(self()));
+  const double top = topOf(size) + barHeight;
+  layOutBar(size);
+  setFrame(window.get(), {{0, top}, {size.width, std::max(0.0, size.height - top - covered)}});
+  double y = groupGap;
+  for (std::size_t i = 0; i < groups.size(); ++i) y = layOutGroup(i, y, size.width) + groupGap;
+  contentHeight_ = y + bottomRoom;
+  scrollBy(0);
+}
+
+}  // namespace sim

@@ -1,0 +1,23 @@
+// What the Settings application is made of.
+#include "simulator/Frameworks.h"
+#include "simulator/preferences/Keyboard.h"
+#include "simulator/preferences/PageView.h"
+#include "simulator/preferences/PreferencesApp.h"
+#include "simulator/preferences/RowView.h"
+#include "simulator/preferences/SwitchView.h"
+#include "simulator/preferences/TapArea.h"
+#include "simulator/springboard/HomeIcons.h"
+
+namespace sim {
+
+// A class comes after its superclass.
+void registerPreferences() {
+  TapArea::registerClass();
+  SwitchView::registerClass();
+  RowView::registerClass();
+  PageView::registerClass();
+  Keyboard::registerClass();
+  whenIconTapped("Settings", [] { PreferencesApp::current().open(); });
+}
+
+}  // namespace sim

@@ -1,0 +1,41 @@
+#include "simulator/preferences/SwitchView.h"
+
+#include "simulator/StandIn.h"
+#include "simulator/preferences/Look.h"
+#include "simulator/uikit/ViewBuilding.h"
+
+namespace sim {
+
+using objc::Object;
+
+Object SwitchView::initWithFrame(CGRect frame) {
+  const Object made = super<Object, "initWithFrame:">(frame);
+  if (!made) return nullptr;
+  objc::send<void, "setUserInteractionEnabled:">(made, false);
+  knob = addView(made, "UIView");
+  fill(knob.get(), whiteColor(1), size.height / 2 - 2);
+  setOn(false);
+  return made;
+}
+
+void SwitchView::setOn(bool on) {
+  isOn = on;
+  fill(Object(self()), on ? look::green() : look::line(), size.height / 2);
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+void SwitchView::layoutSubviews() {
+  constexpr double gap = 2, side = size.height - 2 * gap;
+  super<void, "layoutSubviews">();
+  const double x = isOn ? size.width - gap - side : gap;
+  setFrame(knob.get(), look::placed({{x, gap}, {side, side}}, size.width));
+}
+
+void SwitchView::registerClass() {
+  StandIn<SwitchView>("Preferences", "_SettingsSwitch", "UIView")
+      .method<"initWithFrame:", &SwitchView::initWithFrame>()
+      .method<"layoutSubviews", &SwitchView::layoutSubviews>()
+      .finish();
+}
+
+}  // namespace sim

@@ -2,6 +2,7 @@
 #include "simulator/controlcenter/ControlCenter.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/preferences/PreferencesApp.h"
 #include "simulator/serve/ServedPhone.h"
 #include "simulator/springboard/SBBacklightController.h"
 #include "simulator/uikit/UIApplication.h"
@@ -82,6 +83,7 @@ json ServedPhone::phonePart() const {
           {"screenOn", isScreenOn(session_)},
           {"locked", isLocked(session_)},
           {"controlCenter", session_.state == HostState::running && bool(openedControlCenter())},
+          {"settings", session_.state == HostState::running && PreferencesApp::current().isOpen()},
           {"orientation", session_.state == HostState::running ? orientation() : "portrait"}};
 }
 

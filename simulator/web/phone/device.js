@@ -101,6 +101,7 @@ export class Device {
   home() {
     if (this.controlCenterIsOpen) perform("control-center close");
     else if (this.#state.phone.locked) perform("unlock");
+    else if (this.#state.phone.settings) perform("settings close");
   }
 
   #controlCenter() {

@@ -27,6 +27,7 @@ TEST(Watching, BeginsWithEverything) {
                                    {"screenOn", true},
                                    {"locked", false},
                                    {"controlCenter", false},
+                                   {"settings", false},
                                    {"orientation", "portrait"}}));
   EXPECT_EQ(all.at("settings").size(), 24u);
   EXPECT_TRUE(all.at("scene").at("nodes").contains(all.at("scene").at("root")));

@@ -13,17 +13,9 @@ set(injected /var/jb/Library/MobileSubstrate/DynamicLibraries)
 set(DOZEWELL_DEB_FILES
     "${injected}/Dozewell2.dylib=${fat}"
     "${injected}/Dozewell2.plist=${CMAKE_CURRENT_LIST_DIR}/Dozewell2.plist"
-    "/var/jb/Library/Application Support/Dozewell2Bundle.bundle=${DOZEWELL_BUNDLE}")
-set(DOZEWELL_DEB_MEMBERS ${CMAKE_CURRENT_LIST_DIR}/members.txt)
-
-if(TARGET dozewell-pane)
-  list(APPEND DOZEWELL_DEB_FILES "/var/jb/Library/PreferenceLoader/Preferences/Dozewell2=${DOZEWELL_PANE}")
-  list(APPEND DOZEWELL_DEB_MEMBERS ${CMAKE_CURRENT_LIST_DIR}/members-pane.txt)
-  set(pane dozewell-pane)
-else()
-  message(WARNING "There is no settings pane to put into the package.")
-  set(pane)
-endif()
+    "/var/jb/Library/Application Support/Dozewell2Bundle.bundle=${DOZEWELL_BUNDLE}"
+    "/var/jb/Library/PreferenceLoader/Preferences/Dozewell2=${DOZEWELL_PANE}")
+set(members ${CMAKE_CURRENT_LIST_DIR}/members.txt)
 
 set(PACKAGE_PYTHON ${CMAKE_COMMAND} -E chdir ${PHONE_DIR} ${PHONE_PYTHON})
 set(PACKAGE_MAKE ${PACKAGE_PYTHON} -m package.make --control ${DOZEWELL_CONTROL})
@@ -32,7 +24,7 @@ add_custom_target(dozewell-package ALL
   COMMAND ${PACKAGE_MAKE} --output ${DOZEWELL_DEB} --placeholder ${repository_placeholder}
           --placeholder ${maintainer_placeholder} ${DOZEWELL_DEB_FILES}
   DEPENDS ${fat} COMMENT "Packing ${DOZEWELL_DEB}" VERBATIM)
-add_dependencies(dozewell-package dozewell-device dozewell-bundle ${pane})
+add_dependencies(dozewell-package dozewell-device dozewell-bundle dozewell-pane)
 
 # package_check(CHECK [REFERENCE...]): a test that runs one check.
 function(package_check name)
@@ -42,7 +34,7 @@ endfunction()
 
 package_check(archive)
 package_check(control ${DOZEWELL_CONTROL})
-package_check(members ${DOZEWELL_DEB_MEMBERS})
+package_check(members ${members})
 package_check(owners)
 package_check(md5sums)
 package_check(sources ${DOZEWELL_DEB_FILES})

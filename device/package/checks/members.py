@@ -9,8 +9,8 @@ FILE_MODE = 0o644
 FOLDER_MODE = 0o755
 
 
-def check_members(path, *lists):
-    files = [line for name in lists for line in _listed(name)]
+def check_members(path, listing):
+    files = _listed(listing)
     folders = {str(parent) for file in files for parent in pathlib.PurePosixPath(file).parents}
     entries = deb.read(path).data
     found = [_installed_path(entry) for entry in entries]

@@ -1,6 +1,8 @@
 #include "simulator/preferences/PaneFolder.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
@@ -15,10 +17,30 @@ std::vector<std::filesystem::path> propertyLists() {
   const std::filesystem::path folder = Phone::current().file(paneFolder);
   std::vector<std::filesystem::path> files;
   std::error_code missing;
-  for (const auto& each : std::filesystem::recursive_directory_iterator(folder, missing))
+  constexpr auto options = std::filesystem::directory_options::skip_permission_denied;
+  for (const auto& each : std::filesystem::recursive_directory_iterator(folder, options, missing))
     if (each.is_regular_file() && each.path().extension() == ".plist") files.push_back(each.path());
   std::sort(files.begin(), files.end());
   return files;
+}
+
+// Of what nobody would ever see: links that lead nowhere, and lists that nothing leads to.
+std::vector<std::string> looseEnds(const PaneFolder& folder) {
+  std::set<std::string> linked;
+  std::vector<std::string> problems;
+  for (const SpecifierList& list : folder.lists)
+    for (std::size_t i = 0; i < list.items.size(); ++i) {
+      const Specifier& item = list.items[i];
+      if (item.cell != Cell::link) continue;
+      linked.insert(item.label);
+      if (folder.named(item.label) == nullptr)
+        problems.push_back(list.file.string() + ": items[" + std::to_string(i) +
+                           "].label: there is no list " + item.label + ".plist");
+    }
+  for (const SpecifierList& list : folder.lists)
+    if (!list.entry && !linked.contains(list.file.stem().string()))
+      problems.push_back(list.file.string() + ": there is no entry, and no link leads here");
+  return problems;
 }
 
 }  // namespace
@@ -32,6 +54,7 @@ PaneFolder PaneFolder::read() {
       folder.problems.emplace_back(error.what());
     }
   }
+  for (std::string& problem : looseEnds(folder)) folder.problems.push_back(std::move(problem));
   return folder;
 }
 

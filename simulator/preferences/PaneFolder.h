@@ -13,8 +13,10 @@ namespace sim {
 inline constexpr std::string_view paneFolder = "/var/jb/Library/PreferenceLoader/Preferences";
 
 struct PaneFolder {
-  std::vector<SpecifierList> lists;   // in the order of their paths
-  std::vector<std::string> problems;  // of the lists that cannot be read, which are left out
+  std::vector<SpecifierList> lists;  // in the order of their paths
+  // Of lists that cannot be read, which are left out; of links that lead nowhere; and of lists
+  // that nothing leads to.
+  std::vector<std::string> problems;
 
   // Every property list below the folder.
   static PaneFolder read();

@@ -23,6 +23,16 @@ class BadPanes(unittest.TestCase):
         play(f'file "{FOLDER}/Rain.plist" "{BAD}"\nboot\ntouch began 333 203\n'
              'touch ended 333 203\nsettings tap "Dozewell2"\n')
 
+    def test_may_lack_what_a_link_names(self):
+        link = ('<plist version=\\"1.0\\"><dict><key>items</key><array><dict><key>cell</key>'
+                '<string>PSLinkCell</string><key>label</key><string>Drops</string></dict></array>'
+                '</dict></plist>')
+        error = self.error_of(f'file "{FOLDER}/Rain.plist" "{link}"\nboot\nsettings open\n')
+        self.assertIn(f"{FOLDER}/Rain.plist: items[0].label: there is no list Drops.plist", error)
+        error = self.error_of(f'file "{FOLDER}/Rain.plist" "{link}"\n'
+                              f'file "{FOLDER}/Drops.plist" "{link}"\nboot\nsettings open\n')
+        self.assertIn(f"{FOLDER}/Rain.plist: there is no entry, and no link leads here", error)
+
     def test_are_not_confused_with_rows_that_are_not_there(self):
         error = self.error_of('boot\nsettings open\nsettings tap "Dozewell"\n')
         self.assertIn('the page has no row "Dozewell"; did you mean "Dozewell2"?', error)

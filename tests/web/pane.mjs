@@ -34,7 +34,7 @@ async function scrollTo(page, name) {
     await drag(page, 0.8, 0.4, "touch ended");
 }
 
-phoneTest("a fade that is switched off in the pane does not happen", small, async (served, page) => {
+phoneTest("a fade that the pane switches off does not happen", small, async (served, page) => {
   await openPane(page);
   await scrollTo(page, "Fade the music out");
   const fade = onScreen(page, "button", "Fade the music out");

@@ -74,6 +74,14 @@ await withPhone({ ...wide, colorScheme: "light" }, async (served, page) => {
   await take(page, "settings");
 });
 
+await withPhone({ ...wide, colorScheme: "dark" }, async (served, page) => {
+  await press(page, onScreen(page, "button", "Settings"));
+  await press(page, onScreen(page, "button", "Dozewell2"));
+  await page.click("#tab-settings");
+  await pass(served, 1);
+  await take(page, "pane");
+});
+
 await withPhone(
   { viewport: { width: 375, height: 740 }, colorScheme: "dark", deviceScaleFactor: 2 },
   async (served, page) => {

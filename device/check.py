@@ -15,6 +15,7 @@ from checks import (
     initializers,
     instructions,
     layout,
+    libraries,
     objc_metadata,
     signature,
     symbols,
@@ -32,6 +33,7 @@ CHECKS = {
     "fat-file": fat_file.check,
     "instructions": instructions.check,
     "layout": layout.check,
+    "libraries": libraries.check,
 }
 
 

@@ -39,6 +39,8 @@ set(PHONE_LINK_FLAGS
     -arch arm64 -platform_version ios 15.0 15.0 -dylib -adhoc_codesign
     -dead_strip -dead_strip_dylibs
     -install_name @rpath/Dozewell2.dylib
+    # Nothing is imported from it, so the linker would leave it out; and a phone may lack it.
+    -needed_library ${PHONE_DIR}stubs/Cephei.tbd -weak_library ${PHONE_DIR}stubs/Cephei.tbd
     # Where root-less injection platforms keep their libraries, then the same for phones that
     # move the root elsewhere.
     -rpath /var/jb/Library/Frameworks -rpath /var/jb/usr/lib

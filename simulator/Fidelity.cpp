@@ -19,6 +19,14 @@ StandIns& allStandIns() {
   return all;
 }
 
+bool namesAlone = false;
+
+// Classes that were registered by name alone, and the library of each.
+std::map<std::string, std::string>& classesToLoad() {
+  static std::map<std::string, std::string> all;
+  return all;
+}
+
 const char* gradeName(Grade grade) {
   switch (grade) {
     case Grade::real:
@@ -69,10 +77,14 @@ constexpr const char* tableHead = "\n| what | grade | difference |\n|---|---|---
 FidelityPage::FidelityPage(const char* framework, const char* cls)
     : framework_(framework), cls_(cls) {
   allStandIns()[cls];
+  if (namesAlone)
+    classesToLoad()[cls] = framework;
+  else
+    classesToLoad().erase(cls);
 }
 
 bool FidelityPage::isPresent() const {
-  return Phone::current().setup.hasClass(cls_);
+  return !namesAlone && Phone::current().setup.hasClass(cls_);
 }
 
 bool FidelityPage::record(char kind, const char* name, const Rating& rating) const {
@@ -80,6 +92,19 @@ bool FidelityPage::record(char kind, const char* name, const Rating& rating) con
   if (!isPresent() || !Phone::current().setup.hasMethod(cls_, name)) return false;
   records().push_back({framework_, cls_, kind, name, rating});
   return true;
+}
+
+NamesAlone::NamesAlone() {
+  namesAlone = true;
+}
+
+NamesAlone::~NamesAlone() {
+  namesAlone = false;
+}
+
+std::string libraryToLoadFor(const std::string& cls) {
+  const auto found = classesToLoad().find(cls);
+  return found == classesToLoad().end() ? std::string() : found->second;
 }
 
 void recordFunction(const char* framework, const char* name, const Rating& rating) {

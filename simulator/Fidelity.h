@@ -37,6 +37,20 @@ class FidelityPage {
   const char* cls_;
 };
 
+// As long as it lives, stand-ins that register leave no more than their names: the library that
+// brings them is not loaded yet.
+class NamesAlone {
+ public:
+  NamesAlone();
+  ~NamesAlone();
+  NamesAlone(const NamesAlone&) = delete;
+  NamesAlone& operator=(const NamesAlone&) = delete;
+};
+
+// The library that brings the class of that name; empty when the class needs none, or when the
+// library is loaded.
+std::string libraryToLoadFor(const std::string& cls);
+
 // Every class that asked, with the names of its methods and properties: also what the phone's
 // set-up leaves out. Empty before the phone boots.
 using StandIns = std::map<std::string, std::set<std::string>, std::less<>>;

@@ -9,7 +9,6 @@ void registerFrameworks() {
   registerUIKit();
   registerMediaRemote();
   registerServices();
-  registerCephei();
   registerRadios();
   registerDoNotDisturb();
   registerRunwright();
@@ -19,6 +18,7 @@ void registerFrameworks() {
   registerCoverSheet();
   registerControlCenter();
   registerPreferences();
+  nameCephei();
 }
 
 }  // namespace sim

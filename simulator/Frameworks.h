@@ -10,7 +10,6 @@ void registerQuartzCore();
 void registerUIKit();
 void registerMediaRemote();
 void registerServices();
-void registerCephei();
 void registerRadios();
 void registerDoNotDisturb();
 void registerRunwright();
@@ -23,6 +22,12 @@ void registerPreferences();
 
 // Registers all of them for the phone's set-up; once, when it boots.
 void registerFrameworks();
+
+// Not the system's: registered when an extension that is loaded names the library
+// (libraries/Loading.h). Until then the names of its classes and methods are known all the same, so
+// that scripts cannot misspell them.
+void registerCephei();
+void nameCephei();
 
 // Starts the home screen's application as the system does at its launch. Defined by springboard.
 void launchSpringBoard();

@@ -5,6 +5,11 @@
 
 namespace sim {
 
+void nameCephei() {
+  const NamesAlone names;
+  HBPreferences::registerClass();
+}
+
 void registerCephei() {
   const objc::AutoreleasePool pool;
   HBPreferencesDidChangeNotification =

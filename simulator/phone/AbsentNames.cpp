@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <mutex>
 
+#include "simulator/Fidelity.h"
 #include "simulator/phone/KnownNames.h"
 #include "simulator/phone/NearestName.h"
 #include "simulator/runtime/Absences.h"
@@ -26,6 +27,10 @@ void note(const Absence& absence) {
 }
 
 void tellOfClass(const std::string& name) {
+  if (const std::string library = libraryToLoadFor(name); !library.empty()) {
+    std::fprintf(stderr, "an extension looks for the class %s of %s, but none links lib%s.so\n",
+                 name.c_str(), library.c_str(), library.c_str());
+  }
   if (isKnownClass(name)) return;
   std::fprintf(stderr, "an extension looks for the class %s, which no phone has%s\n", name.c_str(),
                didYouMean(name, classNames()).c_str());

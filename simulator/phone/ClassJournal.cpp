@@ -3,7 +3,6 @@
 #include <string>
 
 #include "simulator/phone/Phone.h"
-#include "simulator/runtime/ClassChanges.h"
 
 namespace sim {
 namespace {
@@ -43,6 +42,13 @@ ClassJournal::ClassJournal(bool on) {
 
 ClassJournal::~ClassJournal() {
   simulator::runtime::observeClassChanges(nullptr);
+}
+
+ClassJournalPause::ClassJournalPause()
+    : observer_(simulator::runtime::observeClassChanges(nullptr)) {}
+
+ClassJournalPause::~ClassJournalPause() {
+  simulator::runtime::observeClassChanges(observer_);
 }
 
 }  // namespace sim

@@ -1,6 +1,8 @@
 // Journals what extensions do to the host's classes while they load.
 #pragma once
 
+#include "simulator/runtime/ClassChanges.h"
+
 namespace sim {
 
 // As long as it lives, if it is on. Lines such as
@@ -14,6 +16,18 @@ class ClassJournal {
   ~ClassJournal();
   ClassJournal(const ClassJournal&) = delete;
   ClassJournal& operator=(const ClassJournal&) = delete;
+};
+
+// As long as it lives, nothing is journalled.
+class ClassJournalPause {
+ public:
+  ClassJournalPause();
+  ~ClassJournalPause();
+  ClassJournalPause(const ClassJournalPause&) = delete;
+  ClassJournalPause& operator=(const ClassJournalPause&) = delete;
+
+ private:
+  simulator::runtime::ClassChangeObserver observer_;
 };
 
 }  // namespace sim

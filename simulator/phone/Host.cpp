@@ -56,8 +56,9 @@ void Host::launch() {
   const objc::AutoreleasePool pool;
   for (const std::string& name : Phone::current().setup.foreignClasses) registerForeignClass(name);
   const ClassJournal journal(Phone::current().setup.journalsClassChanges);
-  traceMethods(Phone::current().setup.traced);
+  traceNewClasses(Phone::current().setup.traced);
   loadExtensions();
+  requireTraced(Phone::current().setup.traced);
   launched_ = true;
   launchSpringBoard();
   Phone::current().queue.runDue();

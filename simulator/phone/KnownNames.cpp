@@ -63,6 +63,8 @@ bool isKnownClass(const std::string& name) {
 }
 
 std::string noSuchClass(const std::string& name) {
+  if (const std::string library = libraryToLoadFor(name); !library.empty())
+    return "no extension links lib" + library + ".so, which brings the class " + name;
   return "there is no class " + name + didYouMean(name, classNames());
 }
 

@@ -15,7 +15,7 @@ using Names = std::vector<std::string>;
 // Registered now, or left out of this phone.
 Names classNames();
 bool isKnownClass(const std::string& name);
-// "there is no class X; did you mean …"
+// "there is no class X; did you mean …", or which library would bring it.
 std::string noSuchClass(const std::string& name);
 
 // Of a class and its superclasses; of one that is left out, what it would have itself.

@@ -17,6 +17,7 @@ int printFidelity() {
   const objc::AutoreleasePool pool;
   ShortcutRunner::current().install();  // an option of the phone, but of the page, too
   registerFrameworks();
+  registerCephei();
   std::cout << fidelityMarkdown();
   return 0;
 }

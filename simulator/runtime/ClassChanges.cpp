@@ -9,8 +9,8 @@ std::atomic<ClassChangeObserver> currentObserver{nullptr};
 
 }  // namespace
 
-void observeClassChanges(ClassChangeObserver observer) {
-  currentObserver = observer;
+ClassChangeObserver observeClassChanges(ClassChangeObserver observer) {
+  return currentObserver.exchange(observer);
 }
 
 void reportClassChange(const ClassChange& change) {

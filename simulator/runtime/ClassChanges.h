@@ -14,9 +14,10 @@ struct ClassChange {
 };
 
 // One observer, called after each change on the thread that made it; nullptr for none. Methods and
-// properties that a class gets before it is registered are part of the class, not changes.
+// properties that a class gets before it is registered are part of the class, not changes. Gives
+// the observer so far.
 using ClassChangeObserver = void (*)(const ClassChange&);
-void observeClassChanges(ClassChangeObserver observer);
+ClassChangeObserver observeClassChanges(ClassChangeObserver observer);
 
 // Never called while the runtime is locked.
 void reportClassChange(const ClassChange& change);

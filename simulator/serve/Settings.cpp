@@ -18,8 +18,7 @@ constexpr const char* domainName = "com.corvane.dozewell2";
 // nil as long as no host runs, and on a phone without the library.
 Object domain() {
   const Session& session = Session::current();
-  if (session.state != HostState::running || !session.phone.setup.hasClass("HBPreferences"))
-    return nullptr;
+  if (session.state != HostState::running || HBPreferences::cls() == nullptr) return nullptr;
   return HBPreferences::preferencesForIdentifier(string(domainName));
 }
 

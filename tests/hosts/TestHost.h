@@ -20,7 +20,10 @@ class TestHost : public TestPhone {
   }
 
   // After the set-up is complete.
-  static void boot() { registerFrameworks(); }
+  static void boot() {
+    registerFrameworks();
+    registerCephei();
+  }
 
   static objc::Object sharedInstance(const char* className) {
     return objc::send<objc::Object, "sharedInstance">(objc_getClass(className));

@@ -51,8 +51,9 @@ class Project:
                                  text=True, capture_output=True).stdout
         words = shlex.split(listing.splitlines()[-1])
         objects = [word for word in words if word.endswith(".o")]
-        kept = [word for word in words
-                if word.startswith("-Wl,--version-script") or word.endswith(".a")]
+        libraries = [word for word in words if not word.startswith("-") and word != name
+                     and word.endswith((".a", ".so"))]
+        kept = [word for word in words if word.startswith("-Wl,--version-script")] + libraries
         return objects, kept
 
     def compile_commands(self):
@@ -168,7 +169,7 @@ class Project:
         return subprocess.run([*words, "-o", library], text=True, capture_output=True)
 
     def link_archives(self):
-        return [str(self.build / word) if word.endswith(".a") else word for word in self.link_words]
+        return [word if word.startswith("-") else str(self.build / word) for word in self.link_words]
 
     def texts(self):
         """A hash of all that a library is made from."""

@@ -53,7 +53,7 @@ void logRefusal(const objc::Refusal& refused) {
 }
 
 void logMissingLibrary() {
-  (LogLine() << "Dozewell is not installed: the preferences library is missing").write();
+  (LogLine() << "Dozewell is not installed: Cephei, the preferences library, is missing").write();
 }
 
 bool hasClasses() {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "objc/runtime.h"
+#include "simulator/Fidelity.h"
 #include "simulator/phone/KnownNames.h"
 #include "simulator/phone/NearestName.h"
 #include "simulator/phone/script/LocaleNames.h"
@@ -91,14 +92,17 @@ void journalClassChanges(Arguments& arguments) {
 
 // Before extensions load: what they add themselves cannot be traced.
 void requireMethod(const Word& cls, const Word& selector) {
-  if (objc_getClass(cls.text.c_str()) == nullptr)
+  const bool comesWithLibrary = setup().hasClass(cls.text) && !libraryToLoadFor(cls.text).empty();
+  Class holder = objc_getClass(cls.text.c_str());
+  if (holder == nullptr && !comesWithLibrary)
     throw ScriptError(cls.column, isKnownClass(cls.text) ? "this phone lacks the class " + cls.text
                                                          : noSuchClass(cls.text));
   const bool ofClass = selector.text.starts_with('+');
   const std::string name = selector.text.substr(ofClass ? 1 : 0);
-  Class holder = objc_getClass(cls.text.c_str());
   if (ofClass) holder = object_getClass(reinterpret_cast<id>(holder));
   if (class_getInstanceMethod(holder, sel_registerName(name.c_str())) != nullptr) return;
+  const Names members = standInMembers(cls.text);
+  if (comesWithLibrary && std::find(members.begin(), members.end(), name) != members.end()) return;
   throw ScriptError(selector.column, std::string("there is no method ") + (ofClass ? "+[" : "-[") +
                                          cls.text + ' ' + name + "] to trace" +
                                          didYouMean(name, selectorNames(cls.text, ofClass)));

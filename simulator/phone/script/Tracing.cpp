@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <deque>
+#include <set>
 #include <string_view>
 
 #include "simulator/phone/Host.h"
@@ -70,26 +71,42 @@ IMP makeEntry(Trace& trace) {
   return reinterpret_cast<IMP>(code);
 }
 
-void traceMethod(const std::string& cls, const std::string& selector) {
+// False when there is no such method.
+bool traceMethod(const std::string& cls, const std::string& selector) {
   static std::deque<Trace> traces;  // the host calls into them as long as it lives
   const bool ofClass = selector.starts_with('+');
   const SEL name = sel_registerName(selector.c_str() + (ofClass ? 1 : 0));
   const Class target = ofClass ? objc_getMetaClass(cls.c_str()) : objc_getClass(cls.c_str());
   const Method method = class_getInstanceMethod(target, name);
-  if (method == nullptr)
-    throw HostError("there is no method " + methodName(cls, selector) + " to trace");
+  if (method == nullptr) return false;
   Trace& trace = traces.emplace_back();
   trace.selector = name;
   trace.signature = parseMethodTypes(method_getTypeEncoding(method));
   prepare(trace);
   trace.original = method_getImplementation(method);
   class_replaceMethod(target, name, makeEntry(trace), method_getTypeEncoding(method));
+  return true;
+}
+
+std::set<std::pair<std::string, std::string>>& tracedMethods() {
+  static std::set<std::pair<std::string, std::string>> all;
+  return all;
 }
 
 }  // namespace
 
-void traceMethods(const std::vector<std::pair<std::string, std::string>>& methods) {
-  for (const auto& [cls, selector] : methods) traceMethod(cls, selector);
+void traceNewClasses(const TracedMethods& methods) {
+  for (const auto& each : methods) {
+    if (!tracedMethods().contains(each) && traceMethod(each.first, each.second))
+      tracedMethods().insert(each);
+  }
+}
+
+void requireTraced(const TracedMethods& methods) {
+  for (const auto& each : methods) {
+    if (!tracedMethods().contains(each))
+      throw HostError("there is no method " + methodName(each.first, each.second) + " to trace");
+  }
 }
 
 }  // namespace sim

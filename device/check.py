@@ -18,6 +18,7 @@ from checks import (
     libraries,
     objc_metadata,
     signature,
+    size,
     symbols,
 )
 from macho.error import MachOError
@@ -29,6 +30,7 @@ CHECKS = {
     "exports": symbols.check_exports,
     "objc-metadata": objc_metadata.check,
     "signature": signature.check,
+    "size": size.check,
     "initializers": initializers.check,
     "fat-file": fat_file.check,
     "instructions": instructions.check,

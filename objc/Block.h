@@ -134,7 +134,7 @@ struct BlockLiteral<R(Args...), Function> {
   }
 
   void describe() {
-    static constexpr auto signature = BlockSignature<R(Args...)>::value;
+    constexpr auto& signature = pooled<BlockSignature<R(Args...)>::value>;
     if constexpr (needsHelpers) {
       descriptor = {0, sizeof(BlockLiteral), nullptr, nullptr, signature.c_str()};
       storeBlockFunction(&descriptor.copy, &copy);

@@ -45,9 +45,12 @@ class CheckedClasses {
   unsigned int next_;
 };
 
+// nil answers everything.
 template <class R, FixedString Name, class... Args>
-void checkSend(id receiver, SEL name) {
+void checkSend(id receiver) {
   if constexpr (checksTypes) {
+    if (receiver == nullptr) return;
+    const SEL name = selector<Name>();
     static CheckedClasses checked;
     Class cls = object_getClass(receiver);
     if (checked.contains(cls)) return;

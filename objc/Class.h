@@ -24,6 +24,7 @@
 #include <cstring>
 #include <type_traits>
 
+#include "objc/ClassDefinition.h"
 #include "objc/Method.h"
 #include "objc/Once.h"
 #include "objc/Property.h"
@@ -92,10 +93,13 @@ class ClassBuilder {
   ClassBuilder(const char* name, const char* superclass)
       : ClassBuilder(name, objc_getClass(superclass)) {}
 
-  ClassBuilder(const char* name, Class superclass) : name_(name), stateName_(name) {
-    class_ = allocate(superclass);
-    if (class_ == nullptr) return;
-    Implementation<Self>::class_ = class_;
+  ClassBuilder(const char* name, Class superclass)
+      : definition_(name, superclass, sizeof(Self), std::uint8_t(std::countr_zero(alignof(Self)))) {
+    static_assert(
+        alignof(Self) <= objectAlignment,
+        "a state is aligned to 16 bytes at most, as objects are: hold the rest by pointer");
+    if (definition_.get() == nullptr) return;
+    Implementation<Self>::class_ = definition_.get();
     method<"dealloc", &destroy>();
   }
 
@@ -103,14 +107,14 @@ class ClassBuilder {
   // (a view, or id).
   template <FixedString Name, auto function>
   ClassBuilder& method() {
-    addMethod<Self, Name, function>(class_, "override");
+    addMethod<Self, Name, function>(definition_.get(), "override");
     return *this;
   }
 
   // `function` takes the message's arguments alone.
   template <FixedString Name, auto function>
   ClassBuilder& classMethod() {
-    addClassMethod<Name, function>(class_);
+    addClassMethod<Name, function>(definition_.get());
     return *this;
   }
 
@@ -119,69 +123,30 @@ class ClassBuilder {
   // given before is kept.
   template <FixedString Name, auto member>
   ClassBuilder& property() {
-    addProperty<Self, Name, member>(class_, false);
+    addProperty<Self, Name, member>(definition_.get());
     return *this;
   }
 
   template <FixedString Name, auto member>
   ClassBuilder& readonlyProperty() {
-    addProperty<Self, Name, member>(class_, true);
+    addReadonlyProperty<Self, Name, member>(definition_.get());
     return *this;
   }
 
   // `getter` is a member function without arguments.
   template <FixedString Name, auto getter>
   ClassBuilder& computedProperty() {
-    addComputedProperty<Self, Name, getter>(class_);
+    addComputedProperty<Self, Name, getter>(definition_.get());
     return *this;
   }
 
   Registration finish() {
-    if (class_ == nullptr) return Registration(refusal_);
-    objc_registerClassPair(class_);
-    Implementation<Self>::offset_ =
-        ivar_getOffset(class_getInstanceVariable(class_, stateName_.text));
+    if (definition_.get() == nullptr) return Registration(definition_.refusal());
+    Implementation<Self>::offset_ = definition_.finish();
     return Registration(&Implementation<Self>::class_);
   }
 
  private:
-  // "_Counter_state", as each class of a line has one; cut off where it is too long.
-  struct StateName {
-    explicit StateName(const char* className) {
-      char* end = append(text, "_");
-      append(append(end, className), "_state");
-    }
-    char text[128] = {};
-
-   private:
-    char* append(char* to, const char* from) {
-      while (*from != 0 && to < text + sizeof text - 1) *to++ = *from++;
-      return to;
-    }
-  };
-
-  Class allocate(Class superclass) {
-    if (superclass == nullptr) return refuse("its superclass does not exist");
-    Class made = objc_allocateClassPair(superclass, name_, 0);
-    if (made == nullptr) return refuse("the name is taken");
-    if (addState(made)) return made;
-    objc_disposeClassPair(made);
-    return refuse("there is no place for its state");
-  }
-
-  bool addState(Class made) {
-    static_assert(
-        alignof(Self) <= objectAlignment,
-        "a state is aligned to 16 bytes at most, as objects are: hold the rest by pointer");
-    constexpr auto alignment = std::uint8_t(std::countr_zero(alignof(Self)));
-    return class_addIvar(made, stateName_.text, sizeof(Self), alignment, "?");
-  }
-
-  Class refuse(const char* reason) {
-    refusal_ = {name_, reason};
-    return nullptr;
-  }
-
   // A superclass may message an overridden method on its way out, and the destructor of one member
   // may come back before the next has run. Owners empty themselves before they let go; at the end
   // the whole state is what it was at the beginning, and so is valid again.
@@ -194,10 +159,7 @@ class ClassBuilder {
     sendSuper<void, "dealloc">(object, Implementation<Self>::class_);
   }
 
-  const char* name_;
-  StateName stateName_;
-  Refusal refusal_;
-  Class class_ = nullptr;
+  ClassDefinition definition_;
 };
 
 }  // namespace objc

@@ -26,6 +26,11 @@ struct FixedString {
 template <std::size_t SizeWithNull>
 FixedString(const char (&)[SizeWithNull]) -> FixedString<SizeWithNull - 1>;
 
+// The text where it can be pointed at, once in the program however many places make it. Not the
+// template argument itself: compilers align that as if it held numbers.
+template <FixedString Text>
+inline constexpr auto pooled = Text;
+
 template <std::size_t Left, std::size_t Right>
 constexpr FixedString<Left + Right> operator+(const FixedString<Left>& left,
                                               const FixedString<Right>& right) {

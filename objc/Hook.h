@@ -56,7 +56,7 @@ template <class Site, auto function, class R, class Self, class... Args>
 struct Replacement<Site, function, R (*)(Original<R(Self, Args...)>, Self, Args...)> {
   static_assert(std::is_base_of_v<Object, Self>, "the second parameter is the receiver's view");
   static constexpr std::size_t arguments = sizeof...(Args);
-  static constexpr auto types = methodEncoding<R, Args...>;
+  static constexpr const auto& types = pooled<methodEncoding<R, Args...>>;
   static inline IMP previous;  // empty when there was nothing to replace
 
   static Wire<R> call(id object, SEL name, Wire<Args>... args) {
@@ -71,6 +71,20 @@ struct Replacement<Site, function, R (*)(Original<R(Self, Args...)>, Self, Args.
 template <FixedString ClassName, FixedString Name>
 struct HookSite {};
 
+// For all hooks the same, and not inline. `types` is the encoding of the replacement.
+[[gnu::noinline]] inline bool replaceMethod(const char* className, const char* method,
+                                            IMP replacement, IMP* previous, const char* types) {
+  Class cls = objc_getClass(className);
+  if (cls == nullptr) return false;
+  const SEL name = sel_registerName(method);
+  // The hook function, too, looks for a class method where no instance method has the name.
+  const bool ofInstances = class_getInstanceMethod(cls, name) != nullptr;
+  checkAgainstClass("hook", ofInstances ? cls : object_getClass(reinterpret_cast<id>(cls)), name,
+                    types);
+  MSHookMessageEx(cls, name, replacement, previous);
+  return *previous != nullptr;
+}
+
 // Replaces the class's implementation of the method. An absent class or method leaves everything
 // as it was: the feature is missing, silently. True when the method was replaced.
 template <FixedString ClassName, FixedString Name, auto function>
@@ -78,14 +92,9 @@ bool hook() {
   using Method = Replacement<HookSite<ClassName, Name>, function>;
   static_assert(argumentCount<Name> == Method::arguments,
                 "the selector has another number of colons than the function has arguments");
-  Class cls = objc_getClass(ClassName.c_str());
-  if (cls == nullptr) return false;
-  // The hook function, too, looks for a class method where no instance method has the name.
-  const bool ofInstances = class_getInstanceMethod(cls, selector<Name>()) != nullptr;
-  checkAgainstClass("hook", ofInstances ? cls : object_getClass(reinterpret_cast<id>(cls)),
-                    selector<Name>(), Method::types.c_str());
-  MSHookMessageEx(cls, selector<Name>(), reinterpret_cast<IMP>(&Method::call), &Method::previous);
-  return Method::previous != nullptr;
+  return replaceMethod(pooled<ClassName>.c_str(), pooled<Name>.c_str(),
+                       reinterpret_cast<IMP>(&Method::call), &Method::previous,
+                       Method::types.c_str());
 }
 
 }  // namespace objc

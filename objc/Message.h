@@ -6,6 +6,7 @@
 // because the platforms' entry points leave memory results of nil untouched.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <type_traits>
 #include <utility>
@@ -110,17 +111,61 @@ SuperSender<R, Args...> superEntry() {
   return reinterpret_cast<SuperSender<R, Args...>>(&objc_msgSendSuper2);
 }
 
+// How a value travels, whatever its name: every pointer as id does, every whole number of its width
+// as long. Messages that differ in no more share their code.
+template <class T>
+struct Carrier {
+  using type = T;
+};
+template <class T>
+requires std::is_pointer_v<T>
+struct Carrier<T> {
+  using type = id;
+};
+template <class T>
+requires((std::is_integral_v<T> || std::is_enum_v<T>)&&sizeof(T) ==
+         sizeof(long)) struct Carrier<T> {
+  using type = long;
+};
+template <class T>
+using Carried = typename Carrier<Wire<T>>::type;
+
+template <class T>
+constexpr Carried<T> carry(T value) {
+  return std::bit_cast<Carried<T>>(toWire<T>(value));
+}
+
+// The first message of its name.
+template <class R, class... Args>
+R sendFirst(id receiver, SelectorSlot& name, Args... args);
+
+// The whole of a message but its arguments, which are where they belong already. Once for all
+// messages with these types: within every sender it would be half of the extension.
+template <class R, class... Args>
+[[gnu::noinline]] R sendCarried(id receiver, SelectorSlot& name, Args... args) {
+  if (receiver == nullptr) return R();
+  const SEL known = name.known();
+  // Nothing else is called here, so nothing has to be saved on the way.
+  if (known == nullptr) return sendFirst<R, Args...>(receiver, name, args...);
+  return messageEntry<R, Args...>()(receiver, known, args...);
+}
+
+template <class R, class... Args>
+[[gnu::noinline]] R sendFirst(id receiver, SelectorSlot& name, Args... args) {
+  name.lookUp();
+  return sendCarried<R, Args...>(receiver, name, args...);
+}
+
 template <class R, FixedString Name, class... Args>
 R send(id receiver, Args... args) {
   requireSendable<R, Name, Args...>();
-  if (receiver == nullptr) return R();
-  const SEL name = selector<Name>();
-  checkSend<R, Name, Argument<Args>...>(receiver, name);
-  auto entry = messageEntry<R, Argument<Args>...>();
+  checkSend<R, Name, Argument<Args>...>(receiver);
+  constexpr auto& carried = sendCarried<Carried<R>, Carried<Argument<Args>>...>;
   if constexpr (std::is_void_v<R>)
-    entry(receiver, name, toWire<Argument<Args>>(args)...);
+    carried(receiver, selectorSlot<Name>, carry<Argument<Args>>(args)...);
   else
-    return fromWire<R>(entry(receiver, name, toWire<Argument<Args>>(args)...));
+    return fromWire<R>(std::bit_cast<Wire<R>>(
+        carried(receiver, selectorSlot<Name>, carry<Argument<Args>>(args)...)));
 }
 
 template <class R, FixedString Name, class... Args>
@@ -148,7 +193,7 @@ R sendVariadic(Class receiver, Fixed fixed, Rest... rest) {
   if (receiver == nullptr) return R();
   const SEL name = selector<Name>();
   id object = reinterpret_cast<id>(receiver);
-  checkSend<R, Name, Argument<Fixed>>(object, name);
+  checkSend<R, Name, Argument<Fixed>>(object);
   auto entry = reinterpret_cast<Wire<R> (*)(id, SEL, Wire<Fixed>, ...)>(&objc_msgSend);
   return fromWire<R>(entry(object, name, toWire<Fixed>(fixed), toWire<Rest>(rest)...));
 }

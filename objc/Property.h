@@ -58,31 +58,39 @@ struct Accessors {
   }
 };
 
-template <class Self, FixedString Name, auto member>
-void addProperty(Class cls, bool readonly) {
-  using Access = Accessors<Self, member>;
+// The declaration; for all properties the same, and not inline. `kind` is "R" for a property that
+// is read-only, "&" or "W" for how its object is owned, and nullptr for none of these.
+[[gnu::noinline]] inline void declareProperty(Class cls, const char* name, const char* type,
+                                              const char* kind) {
   if (cls == nullptr) return;
-  static constexpr auto type = encode<typename Access::Value>();
-  objc_property_attribute_t attributes[3] = {};
-  unsigned int count = 0;
-  attributes[count++] = {"T", type.c_str()};
-  if (readonly)
-    attributes[count++] = {"R", ""};
-  else if (Access::Outside::ownership != nullptr)
-    attributes[count++] = {Access::Outside::ownership, ""};
+  objc_property_attribute_t attributes[3] = {{"T", type}};
+  unsigned int count = 1;
+  if (kind != nullptr) attributes[count++] = {kind, ""};
   attributes[count++] = {"N", ""};
-  class_addProperty(cls, Name.c_str(), attributes, count);
+  class_addProperty(cls, name, attributes, count);
+}
+
+template <class Self, FixedString Name, auto member>
+void addReadonlyProperty(Class cls) {
+  using Access = Accessors<Self, member>;
+  declareProperty(cls, pooled<Name>.c_str(), pooled<encode<typename Access::Value>()>.c_str(), "R");
   addMethod<Self, Name, &Access::read>(cls);
-  if (!readonly) addMethod<Self, setterName<Name>(), &Access::write>(cls);
+}
+
+template <class Self, FixedString Name, auto member>
+void addProperty(Class cls) {
+  using Access = Accessors<Self, member>;
+  declareProperty(cls, pooled<Name>.c_str(), pooled<encode<typename Access::Value>()>.c_str(),
+                  Access::Outside::ownership);
+  addMethod<Self, Name, &Access::read>(cls);
+  addMethod<Self, setterName<Name>(), &Access::write>(cls);
 }
 
 // A read-only property that nothing stores: `getter` is a member function without arguments.
 template <class Self, FixedString Name, auto getter>
 void addComputedProperty(Class cls) {
-  if (cls == nullptr) return;
-  static constexpr auto type = encode<std::invoke_result_t<decltype(getter), Self&>>();
-  const objc_property_attribute_t attributes[] = {{"T", type.c_str()}, {"R", ""}, {"N", ""}};
-  class_addProperty(cls, Name.c_str(), attributes, 3);
+  using Value = std::invoke_result_t<decltype(getter), Self&>;
+  declareProperty(cls, pooled<Name>.c_str(), pooled<encode<Value>()>.c_str(), "R");
   addMethod<Self, Name, getter>(cls);
 }
 
@@ -90,13 +98,7 @@ void addComputedProperty(Class cls) {
 // `type` is the "T" attribute, which may name a class: @"NSString". Objects are marked as owned.
 template <FixedString Name, auto getter, auto setter>
 void addAttachedProperty(Class cls, const char* type) {
-  if (cls == nullptr) return;
-  objc_property_attribute_t attributes[3] = {};
-  unsigned int count = 0;
-  attributes[count++] = {"T", type};
-  if (type[0] == '@') attributes[count++] = {"&", ""};
-  attributes[count++] = {"N", ""};
-  class_addProperty(cls, Name.c_str(), attributes, count);
+  declareProperty(cls, pooled<Name>.c_str(), type, type[0] == '@' ? "&" : nullptr);
   addMethod<Name, getter>(cls);
   addMethod<setterName<Name>(), setter>(cls);
 }

@@ -6,16 +6,38 @@
 
 namespace objc {
 
-// Relaxed is enough: every thread that looks the name up gets the same SEL.
+// One selector of the process, by its name.
+class SelectorSlot {
+ public:
+  constexpr explicit SelectorSlot(const char* name) : name_(name) {}
+
+  // nullptr until it is looked up. Relaxed is enough: every thread that looks the name up gets the
+  // same SEL.
+  SEL known() const { return __atomic_load_n(&known_, __ATOMIC_RELAXED); }
+
+  // Not inline: it would be most of the code of every message, and runs once.
+  [[gnu::noinline, gnu::cold]] SEL lookUp() {
+    SEL found = sel_registerName(name_);
+    __atomic_store_n(&known_, found, __ATOMIC_RELAXED);
+    return found;
+  }
+
+  SEL get() {
+    SEL found = known();
+    return found != nullptr ? found : lookUp();
+  }
+
+ private:
+  SEL known_ = nullptr;
+  const char* name_;
+};
+
+template <FixedString Name>
+inline constinit SelectorSlot selectorSlot{pooled<Name>.c_str()};
+
 template <FixedString Name>
 SEL selector() {
-  static SEL cached;
-  SEL known = __atomic_load_n(&cached, __ATOMIC_RELAXED);
-  if (known == nullptr) {
-    known = sel_registerName(Name.c_str());
-    __atomic_store_n(&cached, known, __ATOMIC_RELAXED);
-  }
-  return known;
+  return selectorSlot<Name>.get();
 }
 
 // The number of arguments that a message of this name takes. Operators such as "=" do not exist

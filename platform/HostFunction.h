@@ -11,13 +11,13 @@ namespace platform {
 // nullptr when no loaded library exports the name.
 template <objc::FixedString Name, class Signature>
 Signature* hostFunction() {
-  return reinterpret_cast<Signature*>(dlsym(RTLD_DEFAULT, Name.c_str()));
+  return reinterpret_cast<Signature*>(dlsym(RTLD_DEFAULT, objc::pooled<Name>.c_str()));
 }
 
 // The value of an exported variable; value-initialised when there is none of that name.
 template <objc::FixedString Name, class T>
 T hostConstant() {
-  auto* address = static_cast<T*>(dlsym(RTLD_DEFAULT, Name.c_str()));
+  auto* address = static_cast<T*>(dlsym(RTLD_DEFAULT, objc::pooled<Name>.c_str()));
   return address != nullptr ? *address : T();
 }
 

@@ -28,7 +28,7 @@ struct StubThunk;
 template <class R, class... Args>
 struct StubThunk<R(Args...)> {
   static constexpr std::size_t arguments = sizeof...(Args);
-  static constexpr auto types = objc::methodEncoding<R, Args...>;
+  static constexpr const auto& types = objc::pooled<objc::methodEncoding<R, Args...>>;
   static objc::Wire<R> call(id receiver, SEL selector, objc::Wire<Args>...) {
     logStub(receiver, selector);
     return objc::Wire<R>();
@@ -43,7 +43,7 @@ class StandIn {
         builder_(name, page_.isPresent() ? objc_getClass(superclass) : nullptr) {
     if (Class cls = objc::Implementation<Self>::cls())
       objc::addThunk<objc::Thunk<Self, &construct>>(object_getClass(reinterpret_cast<id>(cls)),
-                                                    objc::selector<"alloc">(), "override");
+                                                    "alloc", "override");
   }
 
   template <objc::FixedString Name, auto function>
@@ -57,8 +57,8 @@ class StandIn {
   template <objc::FixedString Name, class Signature>
   StandIn& stub() {
     if (page_.record('-', Name.c_str(), {Grade::stub, ""}))
-      objc::addThunk<StubThunk<Signature>>(objc::Implementation<Self>::cls(),
-                                           objc::selector<Name>(), "override");
+      objc::addThunk<StubThunk<Signature>>(objc::Implementation<Self>::cls(), Name.c_str(),
+                                           "override");
     return *this;
   }
 
@@ -80,7 +80,7 @@ class StandIn {
                   "the selector has another number of colons than the function has arguments");
     Class cls = objc::Implementation<Self>::cls();
     if (page_.record('+', Name.c_str(), {Grade::real, ""}) && cls != nullptr)
-      objc::addThunk<Method>(object_getClass(reinterpret_cast<id>(cls)), objc::selector<Name>(),
+      objc::addThunk<Method>(object_getClass(reinterpret_cast<id>(cls)), Name.c_str(),
                              "class method override");
     return *this;
   }

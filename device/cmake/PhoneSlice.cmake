@@ -38,6 +38,8 @@ set(PHONE_LINK_FLAGS
     # arm64 for both: the linker has no arm64e, and refuses chained fixups for what it does not know.
     -arch arm64 -platform_version ios 15.0 15.0 -dylib -adhoc_codesign
     -dead_strip -dead_strip_dylibs
+    -x  # no names of what is not exported: nobody asks for them
+    -no_encryption  # the command for it would keep the first page to itself
     -install_name @rpath/Dozewell2.dylib
     # Nothing is imported from it, so the linker would leave it out; and a phone may lack it.
     -needed_library ${PHONE_DIR}stubs/Cephei.tbd -weak_library ${PHONE_DIR}stubs/Cephei.tbd

@@ -14,6 +14,7 @@ CPU_SUBTYPE_OFFSET = 8
 FILETYPE_DYLIB = 6
 
 LC_SEGMENT_64 = 0x19
+LC_SYMTAB = 0x02
 LC_ID_DYLIB = 0x0D
 LC_LOAD_DYLIB = 0x0C
 LC_LOAD_WEAK_DYLIB = 0x80000018
@@ -32,6 +33,8 @@ SECTION_TYPE_MASK = 0xFF
 SECTION_HOLDS_CODE = 0x80000000 | 0x00000400  # pure instructions, some instructions
 SECTION_INIT_OFFSETS = 0x16
 SECTION_MOD_INIT_FUNCS = 0x9
+
+SYMBOL_EXTERNAL = 0x01
 
 PROTECTION_READ, PROTECTION_WRITE, PROTECTION_EXECUTE = 1, 2, 4
 
@@ -71,6 +74,12 @@ class Segment:
     file_size: int
     protection: int
     sections: list = field(default_factory=list)
+
+
+@dataclass
+class Symbol:
+    name: str
+    external: bool  # exported or imported
 
 
 @dataclass
@@ -126,6 +135,17 @@ class Image:
 
     def content(self, section):
         return self.data[section.offset : section.offset + section.size]
+
+    def symbols(self):
+        """Those of the symbol table, which debuggers read; the loader needs none of them."""
+        for command in self.commands_of(LC_SYMTAB):
+            start, count, names, names_size = struct.unpack_from("<4I", command.body)
+            if max(start + 16 * count, names + names_size) > len(self.data):
+                raise MachOError("the symbol table points behind the end of the file")
+            for at in range(start, start + 16 * count, 16):
+                name, kind = struct.unpack_from("<IB", self.data, at)
+                text = self.data[names + name : names + names_size].split(b"\0", 1)[0]
+                yield Symbol(text.decode(), bool(kind & SYMBOL_EXTERNAL))
 
     def _read_commands(self, count, size):
         offset, end = 32, 32 + size

@@ -60,7 +60,7 @@ class Fixups(CheckCase):
         self.assert_fails("has pointer format 1, not 64", (self.segment + 6, "<H", 1))
 
     def test_another_segment(self):
-        self.assert_fails("__DATA_CONST start at 0x4000", (self.segment + 8, "<Q", 0x4000))
+        self.assert_fails("__DATA_CONST start at 0x20000", (self.segment + 8, "<Q", 0x20000))
 
     def test_chain_that_leaves_its_segment(self):
         self.assert_fails("a chain leaves __DATA_CONST", (self.segment + 22, "<H", 0x3FFC))

@@ -40,6 +40,7 @@ struct UIView : NSObject {
     objc::send<void, "setAccessibilityLabel:">(*this, label);
   }
   // What it says after the label.
+  NSString accessibilityValue() const { return objc::send<NSString, "accessibilityValue">(*this); }
   void setAccessibilityValue(NSString value) const {
     objc::send<void, "setAccessibilityValue:">(*this, value);
   }

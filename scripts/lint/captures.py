@@ -13,11 +13,20 @@ import re
 import subprocess
 import sys
 
-# Literals and comments, which are blanked: they may hold brackets.
-NOT_CODE = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)*\'', re.DOTALL)
+# Literals and comments, which are blanked: they may hold brackets. An apostrophe after a digit
+# divides a number.
+NOT_CODE = re.compile(
+    r"//[^\n]*|/\*.*?\*/"
+    r'|R"(?P<end>[^()\s]*)\(.*?\)(?P=end)"|"(?:[^"\\\n]|\\.)*"'
+    r"|(?<![0-9a-fA-F])'(?:[^'\\\n]|\\.)*'", re.DOTALL)
 # A lambda's captures are followed by its parameters or its body, and follow no operand.
-LAMBDA = re.compile(r"(?<![\w\])>])\s*\[(?!\[)([^\[\]]*(?:\[[^\[\]]*\][^\[\]]*)*)\]\s*(?=[({<]|mutable\b)")
-REFUSED = re.compile(r"^\s*(?:[&=]|.*\bthis\b)", re.DOTALL)
+LAMBDA = re.compile(
+    r"(?:(?<![\w\])>])|(?<=\breturn))\s*"
+    r"\[(?!\[)([^\[\]]*(?:\[[^\[\]]*\][^\[\]]*)*)\]"
+    r"\s*(?=[({<]|->|mutable\b|noexcept\b|constexpr\b)")
+# By reference; `this`; or, under another name, an address or the object itself without an owner.
+REFUSED = re.compile(
+    r"^\s*(?:[&=]|.*\bthis\b|\w+\s*=\s*(?:&|(?:\w+(?:\.|->))?(?:self|view)\(\)\s*$))", re.DOTALL)
 IMMEDIATE = re.compile(r"\bforEach\w*\s*$")
 
 

@@ -18,6 +18,8 @@ GOOD = [
     "attributes[count & 1](x);",
     "[[nodiscard]] int f();",
     'log("[this] { }");  // [&] { }',
+    'log(R"x(")" [this] { })x");',
+    "dispatch::onMain([view = objc::retain(view())] { view->show(); });",
 ]
 BAD = [
     ("dispatch::onMain([this] { run(); });", 1),
@@ -27,6 +29,14 @@ BAD = [
     ("dispatch::onMain([row, this]() mutable { run(row); });", 1),
     ("dispatch::onMain([panel = this] { panel->run(); });", 1),
     ("return [&] { run(); };", 1),
+    ("return[this] { run(); };", 1),
+    ("dispatch::onMain([this] noexcept { run(); });", 1),
+    ("dispatch::onMain([this] -> void { run(); });", 1),
+    ("dispatch::onMainAfter(300'000, [this] { put('x'); });", 1),
+    ('log(R"(")"); onMain([this] { run(); });', 1),
+    ("dispatch::onMain([page = view()] { page.show(); });", 1),
+    ("dispatch::onMain([me = panel->self()] { show(me); });", 1),
+    ("dispatch::onMain([me = &panel] { me->show(); });", 1),
     ("const auto later = [this] { run(); };", 1),
     ("forEachView(views, [this](UIView view) { dispatch::onMain([this] { add(); }); });", 1),
     ("forEachView(views, keep([this](UIView view) { add(view); }));", 1),

@@ -64,8 +64,12 @@ SettingsValue takeValue(Arguments& words) {
 void requireKey(const std::string& domain, const Word& key) {
   Names read = HBPreferences::keysAskedFor(domain);
   if (read.empty() && !isNamedByExtension(domain)) return;
-  if (isNamedByExtension(key.text) || std::find(read.begin(), read.end(), key.text) != read.end())
-    return;
+  if (std::find(read.begin(), read.end(), key.text) != read.end()) return;
+  // What is near to a key that is read is a slip, even if the extension has such a text.
+  const bool isNamed = read.empty() ? isNamedByExtension(key.text)
+                                    : Phone::current().extensionNames.contains(key.text) &&
+                                          slipOf(key.text, read).empty();
+  if (isNamed) return;
   if (read.empty()) read = extensionNames();
   throw ScriptError(key.column, "no extension reads the setting " + key.text + " of " + domain +
                                     didYouMean(key.text, read));

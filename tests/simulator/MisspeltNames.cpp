@@ -149,6 +149,14 @@ TABLE(MisspeltOfTheExtension, Settings,
       Slip{"Removed", "boot\nset enabledMode none",
            "2:5: no extension reads the setting enabledMode of com.corvane.dozewell2; did you mean "
            "\"enabledModes\"?"},
+      Slip{"TheEndOfAnother", "set nabledModes 2\nboot",
+           "1:5: no extension reads the setting nabledModes of com.corvane.dozewell2; did you mean "
+           "\"enabledModes\"?"},
+      Slip{"WithoutItsBeginning", "boot\nset FadeOutEnabled NO",
+           "2:5: no extension reads the setting FadeOutEnabled of com.corvane.dozewell2"},
+      Slip{"OfACompanion", "set Enabled NO\nboot",
+           "1:5: no extension reads the setting Enabled of com.corvane.dozewell2; did you mean "
+           "\"enabled\"?"},
       Slip{"OutsideOfTheHomeScreen", "process Preferences\nset enabledMode 2\nboot",
            "2:5: no extension reads the setting enabledMode of com.corvane.dozewell2; did you mean "
            "\"enabledModes\"?"},

@@ -89,10 +89,11 @@ void Indicators::showRemainingTime() {
   tellRemainingTime();
 }
 
-// Texts are looked up once a minute, not at every tick.
+// Texts are looked up once a minute, not at every tick; for a label that was told nothing, at once.
 void Indicators::tellRemainingTime() {
   const long minutes = minutesToTell();
-  if (!dozewellVcTimeLeftLabel || minutes == toldMinutes) return;
+  const bool isTold = minutes == toldMinutes && dozewellVcTimeLeftLabel->accessibilityValue();
+  if (!dozewellVcTimeLeftLabel || isTold) return;
   toldMinutes = minutes;
   dozewellVcTimeLeftLabel->setAccessibilityValue(spokenTimeLeft());
 }

@@ -37,6 +37,12 @@ def read(path):
     return Deb(members, tar.read(control), tar.read(data))
 
 
+def as_we_write(found):
+    """What `assemble` makes of what was read. Readers differ in what they make of damaged headers:
+    what one passes over in silence another installs."""
+    return assemble(found.control, found.data, found.members[0].time)
+
+
 def assemble(control, data, time):
     """The package's bytes. The order of the entries is the caller's."""
     return ar.write(

@@ -42,6 +42,10 @@ double realOf(plist_t node) {
   return value;
 }
 
+// What is longer is no pane that anybody wants to read, and setting it would take minutes.
+constexpr std::uint32_t mostElements = 500;
+constexpr std::size_t mostBytes = 4000;
+
 }  // namespace
 
 std::optional<SettingsValue> settingsValueOf(plist_t node) {
@@ -85,15 +89,23 @@ NodeReader NodeReader::required(const char* key) const {
 
 std::vector<NodeReader> NodeReader::elements() const {
   expect(PLIST_ARRAY, "an array");
+  const std::uint32_t count = plist_array_get_size(node_);
+  if (count > mostElements)
+    fail("expected at most " + std::to_string(mostElements) + " of them, found " +
+         std::to_string(count));
   std::vector<NodeReader> all;
-  for (std::uint32_t i = 0; i < plist_array_get_size(node_); ++i)
+  for (std::uint32_t i = 0; i < count; ++i)
     all.emplace_back(plist_array_get_item(node_, i), place_ + '[' + std::to_string(i) + ']');
   return all;
 }
 
 std::string NodeReader::string() const {
   expect(PLIST_STRING, "a string");
-  return stringOf(node_);
+  std::string found = stringOf(node_);
+  if (found.size() > mostBytes)
+    fail("expected at most " + std::to_string(mostBytes) + " bytes of text, found " +
+         std::to_string(found.size()));
+  return found;
 }
 
 SettingsValue NodeReader::value() const {

@@ -18,8 +18,11 @@ std::vector<std::filesystem::path> propertyLists() {
   std::vector<std::filesystem::path> files;
   std::error_code missing;
   constexpr auto options = std::filesystem::directory_options::skip_permission_denied;
+  // A link that leads nowhere, or to itself, is no file.
+  std::error_code odd;
   for (const auto& each : std::filesystem::recursive_directory_iterator(folder, options, missing))
-    if (each.is_regular_file() && each.path().extension() == ".plist") files.push_back(each.path());
+    if (each.is_regular_file(odd) && each.path().extension() == ".plist")
+      files.push_back(each.path());
   std::sort(files.begin(), files.end());
   return files;
 }

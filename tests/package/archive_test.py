@@ -8,7 +8,7 @@ from package import ar, check, deb, tar
 class Archive(PackageCase):
     def test_good_package_passes(self):
         self.passes("archive")
-        self.passes("archive", path=self.written())
+        self.passes("archive", path=self.written_bytes(deb.as_we_write(self.package)))
 
     def test_other_order(self):
         self.package.members.reverse()
@@ -72,6 +72,25 @@ class Archive(PackageCase):
     def test_no_archive_inside(self):
         self.member(deb.DATA).data = lzma.compress(b"x" * 600)
         self.fails("an archive cannot be read", "archive", path=self.written_members())
+
+    def test_entries_that_one_reader_passes_over_and_another_installs(self):
+        header = bytearray(tar.write([tar.file_entry("./postinst", b"", 0)])[:512])
+        header[108:116] = b"000000 9"  # an owner that is no number
+        header[148:156] = b" " * 8
+        header[148:156] = b"%06o\0 " % sum(header)
+        entries = tar.write(self.package.control).rstrip(b"\0")
+        entries += bytes(-len(entries) % 512)
+        self.member(deb.CONTROL).data = gzip.compress(entries + bytes(header) + bytes(1024), mtime=0)
+        self.fails("it is not what is written", "archive", path=self.written_members())
+
+    def test_two_streams_and_other_filters(self):
+        whole = tar.write(self.package.data)
+        filters = [{"id": lzma.FILTER_DELTA}, {"id": lzma.FILTER_LZMA2, "preset": 6}]
+        for packed in (lzma.compress(whole[:512]) + lzma.compress(whole[512:]),
+                       lzma.compress(whole, filters=filters), lzma.compress(whole, preset=9)):
+            self.setUp()
+            self.member(deb.DATA).data = packed
+            self.fails("it is not what is written", "archive", path=self.written_members())
 
     def failures_of(self, data):
         return check.failures("archive", [self.written_bytes(data)])

@@ -7,6 +7,11 @@ class Control(PackageCase):
         self.passes("control", CONTROL)
         self.passes("control", CONTROL, path=self.written())
 
+    def test_what_it_depends_on(self):
+        depends = (b"Depends: firmware (>= 15.0), firmware (<< 16.0), mobilesubstrate (>= 0.9.5000), "
+                   b"ws.hbang.common (>= 2.0), preferenceloader (>= 2.2.3)\n")
+        self.assertIn(depends, self.entry("./control").data)
+
     def test_no_script_is_run_on_the_phone(self):
         for script in ("preinst", "postinst", "prerm", "postrm", "triggers", "conffiles"):
             with self.subTest(script):

@@ -23,6 +23,15 @@ class BadPanes(unittest.TestCase):
         play(f'file "{FOLDER}/Rain.plist" "{BAD}"\nboot\ntouch began 333 203\n'
              'touch ended 333 203\nsettings tap "Dozewell2"\n')
 
+    def test_have_no_more_than_somebody_reads(self):
+        pane = ('<plist version=\\"1.0\\"><dict><key>title</key><string>%s</string><key>items</key>'
+                '<array>%s</array></dict></plist>')
+        for many, message in (((5000 * "x", ""), "title: expected at most 4000 bytes of text, found 5000"),
+                              (("", 501 * "<true/>"), "items: expected at most 500 of them, found 501")):
+            with self.subTest(message):
+                error = self.error_of(f'file "{FOLDER}/Rain.plist" "{pane % many}"\nboot\nsettings open\n')
+                self.assertIn(f"{FOLDER}/Rain.plist: {message}", error)
+
     def test_may_lack_what_a_link_names(self):
         link = ('<plist version=\\"1.0\\"><dict><key>items</key><array><dict><key>cell</key>'
                 '<string>PSLinkCell</string><key>label</key><string>Drops</string></dict></array>'

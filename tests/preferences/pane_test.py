@@ -5,6 +5,7 @@ PANE is its folder as it is installed, BUNDLE the resource bundle."""
 import os
 import pathlib
 import plistlib
+import re
 import unicodedata
 import unittest
 
@@ -79,6 +80,15 @@ class Pane(unittest.TestCase):
                     self.assertEqual(len(item["validTitles"]), len(item["validValues"]))
                     self.assertEqual(len(item["validTitles"]), len(set(item["validTitles"])))
 
+    def test_offers_steps_that_an_hour_has_whole(self):
+        steps = [item for item in self.plist["items"] if item.get("key") == "timerMinutesSteps"]
+        self.assertEqual([], [step for step in steps[0]["validValues"] if 60 % step != 0])
+
+    def test_leaves_the_name_of_a_device_as_it_is_typed(self):
+        for item in self.plist["items"]:
+            if item["cell"] == "PSEditTextCell":
+                self.assertTrue(item["noAutoCorrect"])
+
     def test_explains_every_group(self):
         for item in self.plist["items"]:
             if item["cell"] == "PSGroupCell":
@@ -118,6 +128,16 @@ class Translations(unittest.TestCase):
                 if language != "en" and key.endswith("."):
                     with self.subTest(language, key=key):
                         self.assertNotEqual(key, text)
+
+    def test_of_amounts_have_no_more_numbers_than_in_english(self):
+        plist = plistlib.loads((PANE / "Dozewell2.plist").read_bytes())
+        titles = {title for item in plist["items"] for title in item.get("validTitles", [])
+                  if title[0].isdigit()}
+        for language, table in self.tables.items():
+            for title in titles:
+                with self.subTest(language, title=title):
+                    number = re.compile(r"\d+(?:[.,\u066b]\d+)?")
+                    self.assertLessEqual(len(number.findall(table[title])), len(number.findall(title)))
 
     def test_of_values_differ_within_a_list(self):
         plist = plistlib.loads((PANE / "Dozewell2.plist").read_bytes())

@@ -24,4 +24,6 @@ def check(path):
     version = [member.data for member in members if member.name == deb.FORMAT]
     if version != [deb.FORMAT_VERSION]:
         yield f"the format is {version}, not {deb.FORMAT_VERSION!r}"
-    deb.read(path)
+    with open(path, "rb") as file:
+        if file.read() != deb.as_we_write(deb.read(path)):
+            yield "it is not what is written of the entries that can be read in it"

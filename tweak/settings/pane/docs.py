@@ -10,7 +10,8 @@ _HEAD = f"""# Settings
 On the phone, Settings has an entry **{NAME}**: these settings, in its words. On the simulator's page
 they are in the tab Settings, and the simulated phone's own Settings application opens the same files
 as the phone does, in `{FOLDER}`. A change takes effect
-at once, except where a footer says otherwise. Beside the name stands the key in the preferences
+at once, except where a footer says otherwise, and the time left on the lock screen, which follows with
+the next timer. Beside the name stands the key in the preferences
 domain `{DOMAIN}`, which scripts use (`set volumeFadeOutTime 10`).
 
 ![The settings on the simulated phone, and the same in the page's tab](pictures/pane.png)

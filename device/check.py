@@ -22,6 +22,7 @@ from checks import (
     symbols,
 )
 from macho.error import MachOError
+from report import run
 
 CHECKS = {
     "assembly": assembly.check,
@@ -46,13 +47,5 @@ def failures(name, arguments):
         yield str(error)
 
 
-def main():
-    name, *arguments = sys.argv[1:]
-    found = list(failures(name, arguments))
-    for failure in found:
-        print(f"{name}: {arguments[0]}: {failure}")
-    return 1 if found else 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(run(failures))

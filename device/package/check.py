@@ -11,6 +11,7 @@ import sys
 from macho.error import MachOError
 from package.checks import archive, contents, control, members
 from package.error import PackageError
+from report import run
 
 CHECKS = {
     "archive": archive.check,
@@ -28,17 +29,9 @@ CHECKS = {
 def failures(name, arguments):
     try:
         yield from CHECKS[name](*arguments)
-    except (PackageError, MachOError) as error:
+    except (PackageError, MachOError, UnicodeDecodeError) as error:
         yield str(error)
 
 
-def main():
-    name, *arguments = sys.argv[1:]
-    found = list(failures(name, arguments))
-    for failure in found:
-        print(f"{name}: {arguments[0]}: {failure}")
-    return 1 if found else 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(run(failures))

@@ -48,6 +48,10 @@ class Control(PackageCase):
                 self.entry("./control").data += line
                 self.fails("control: ", "control", CONTROL)
 
+    def test_text_of_another_encoding(self):
+        self.replace_in_control(b"Author: ", b"Author: \xff")
+        self.fails("can't decode byte 0xff", "control", CONTROL)
+
     def test_name_of_the_file(self):
         self.fails("the file's name is not com.corvane.dozewell2_", "control", CONTROL,
                    path=self.written("other.deb"))

@@ -9,7 +9,7 @@ namespace {
 enum FeedbackSupport : long { firstGeneration = 1, tapticEngine = 2 };
 constexpr unsigned int shortTap = 1519;
 
-// Asked before a notification, too, which has a class of its own: the two came with one system.
+// Asked before a notification, which has a class of its own: the two came with one system.
 // A phone with only the other class would buzz if that one were asked for
 // (haptics-without-the-impact-class).
 bool hasImpactGenerator() {

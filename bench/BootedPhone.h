@@ -1,9 +1,9 @@
 // A phone with the extension loaded and launched: what the benchmarks of whole nights run on.
 #pragma once
 
-#include "simulator/phone/Host.h"
-#include "simulator/phone/Phone.h"
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/launch/Host.h"
+#include "simulator/machine/Phone.h"
 
 namespace bench {
 

@@ -4,10 +4,10 @@
 #include "bench/BootedPhone.h"
 #include "objc/Message.h"
 #include "objc/Ownership.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/drawing/FlatScene.h"
 #include "simulator/drawing/SceneBuilder.h"
 #include "simulator/drawing/SvgWriter.h"
-#include "simulator/uikit/Geometry.h"
 
 namespace {
 

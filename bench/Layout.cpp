@@ -8,8 +8,8 @@
 
 #include "bench/BootedPhone.h"
 #include "objc/Message.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/foundation/NSData.h"
-#include "simulator/uikit/Geometry.h"
 
 namespace {
 

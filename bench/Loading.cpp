@@ -7,8 +7,8 @@
 #include <chrono>
 #include <filesystem>
 
-#include "simulator/Frameworks.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/launch/Frameworks.h"
+#include "simulator/machine/Phone.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "simulator/Fidelity.h"
-#include "simulator/Frameworks.h"
 #include "simulator/cephei/HBPreferences.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/Fidelity.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

@@ -3,7 +3,7 @@
 #include <map>
 
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 extern "C" {
 id HBPreferencesDidChangeNotification;

@@ -1,8 +1,8 @@
 // The typed accessors of HBPreferences, and what it registers.
-#include "simulator/StandIn.h"
 #include "simulator/cephei/HBPreferences.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

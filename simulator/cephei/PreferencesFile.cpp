@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <system_error>
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

@@ -1,11 +1,11 @@
 #include "simulator/controlcenter/CCUICAPackageDescription.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSBundle.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Journal.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Journal.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,9 +1,9 @@
 #include "simulator/controlcenter/CCUICAPackageView.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/CAPackage.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/Animation.h"
 
 namespace sim {

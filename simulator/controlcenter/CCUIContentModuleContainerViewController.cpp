@@ -1,6 +1,6 @@
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

@@ -1,10 +1,10 @@
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/ControlCenter.h"
 #include "simulator/controlcenter/ModuleSymbols.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

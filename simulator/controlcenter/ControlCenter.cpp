@@ -4,13 +4,13 @@
 #include <utility>
 
 #include "objc/Message.h"
-#include "simulator/Frameworks.h"
 #include "simulator/controlcenter/CCUICAPackageDescription.h"
 #include "simulator/controlcenter/CCUICAPackageView.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/Registration.h"
 #include "simulator/uikit/UIWindow.h"
 
 namespace sim {

@@ -4,13 +4,13 @@
 #include <cmath>
 #include <utility>
 
-#include "simulator/StandIn.h"
 #include "simulator/coversheet/CSMediaControlsViewController.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
 #include "simulator/springboard/ClockText.h"
 #include "simulator/springboard/Shapes.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

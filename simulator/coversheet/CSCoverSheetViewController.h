@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "objc/Class.h"
-#include "simulator/phone/MainQueue.h"
+#include "simulator/machine/MainQueue.h"
 
 namespace sim {
 

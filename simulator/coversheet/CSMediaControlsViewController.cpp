@@ -1,7 +1,7 @@
 #include "simulator/coversheet/CSMediaControlsViewController.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/mediacontrols/MRULayout.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 void CSTimerViewController::setEndDate(objc::Object date) {

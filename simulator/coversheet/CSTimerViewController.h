@@ -2,7 +2,7 @@
 #pragma once
 
 #include "objc/Class.h"
-#include "simulator/phone/MainQueue.h"
+#include "simulator/machine/MainQueue.h"
 
 namespace sim {
 

@@ -1,5 +1,4 @@
 // What the lock screen is made of.
-#include "simulator/Frameworks.h"
 #include "simulator/coversheet/CSCoverSheetViewController.h"
 #include "simulator/coversheet/CSMediaControlsViewController.h"
 #include "simulator/coversheet/CSTimerViewController.h"
@@ -7,6 +6,7 @@
 #include "simulator/coversheet/SBFLockScreenDateSubtitleView.h"
 #include "simulator/coversheet/SBLockScreenManager.h"
 #include "simulator/coversheet/SBUILegibilityLabel.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

@@ -8,7 +8,7 @@
 #include "simulator/coversheet/CSCoverSheetViewController.h"
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/springboard/StatusBar.h"
 #include "simulator/uikit/Looking.h"
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "objc/Ownership.h"
-#include "simulator/phone/MainQueue.h"
+#include "simulator/machine/MainQueue.h"
 
 namespace sim {
 

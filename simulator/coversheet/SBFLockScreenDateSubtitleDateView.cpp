@@ -1,9 +1,9 @@
 #include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/coversheet/DateLine.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

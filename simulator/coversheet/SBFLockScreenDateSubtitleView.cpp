@@ -1,9 +1,9 @@
 #include "simulator/coversheet/SBFLockScreenDateSubtitleView.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/coversheet/SBUILegibilityLabel.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

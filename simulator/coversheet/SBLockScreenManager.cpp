@@ -1,7 +1,7 @@
 #include "simulator/coversheet/SBLockScreenManager.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/coversheet/LockScreen.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

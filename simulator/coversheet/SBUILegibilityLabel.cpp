@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

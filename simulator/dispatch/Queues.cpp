@@ -5,11 +5,11 @@
 #include <memory>
 
 #include "objc/Block.h"
-#include "simulator/Fidelity.h"
-#include "simulator/Frameworks.h"
 #include "simulator/dispatch/Dispatch.h"
-#include "simulator/phone/Phone.h"
-#include "simulator/phone/WorkerThread.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/machine/WorkerThread.h"
+#include "simulator/standin/Fidelity.h"
+#include "simulator/standin/Registration.h"
 
 struct dispatch_queue_s {
   const char* label;

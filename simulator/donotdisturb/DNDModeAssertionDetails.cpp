@@ -1,6 +1,6 @@
 #include "simulator/donotdisturb/DNDModeAssertionDetails.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

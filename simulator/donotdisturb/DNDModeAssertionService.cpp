@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "simulator/StandIn.h"
 #include "simulator/donotdisturb/DNDModeAssertion.h"
 #include "simulator/donotdisturb/DNDModeAssertionDetails.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

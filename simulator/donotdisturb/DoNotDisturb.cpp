@@ -1,9 +1,9 @@
 // Do Not Disturb, in both generations.
-#include "simulator/Frameworks.h"
 #include "simulator/donotdisturb/BBSettingsGateway.h"
 #include "simulator/donotdisturb/DNDModeAssertion.h"
 #include "simulator/donotdisturb/DNDModeAssertionDetails.h"
 #include "simulator/donotdisturb/DNDModeAssertionService.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

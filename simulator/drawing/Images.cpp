@@ -2,8 +2,8 @@
 #include <stdexcept>
 
 #include "simulator/drawing/SvgWriter.h"
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/FileContent.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 namespace {

@@ -10,11 +10,11 @@
 #include <variant>
 #include <vector>
 
+#include "simulator/coregraphics/CGPath.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/coretext/FontStyle.h"
 #include "simulator/coretext/Typesetter.h"
 #include "simulator/quartzcore/CAShapeLayer.h"
-#include "simulator/quartzcore/CGPath.h"
-#include "simulator/uikit/Geometry.h"
 #include "simulator/uikit/LabelText.h"
 
 namespace sim::scene {

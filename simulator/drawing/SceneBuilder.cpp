@@ -3,7 +3,7 @@
 #include "simulator/drawing/Accessibility.h"
 #include "simulator/drawing/NodeContent.h"
 #include "simulator/foundation/Kind.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/Looking.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UIView.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "simulator/drawing/Scene.h"
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 #include "simulator/quartzcore/CALayer.h"
 
 namespace sim {

@@ -1,7 +1,7 @@
 // Whether what is seen changes by the mere passing of time.
 #pragma once
 
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 
 namespace sim {
 

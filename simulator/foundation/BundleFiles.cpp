@@ -5,7 +5,7 @@
 #include <system_error>
 
 #include "simulator/foundation/NSLocale.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 
 namespace sim {
 

@@ -6,8 +6,8 @@
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/NSObject.h"
 #include "simulator/foundation/NSThread.h"
-#include "simulator/phone/Phone.h"
-#include "simulator/phone/WorkerThread.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/machine/WorkerThread.h"
 #include "simulator/runtime/Send.h"
 
 namespace sim {

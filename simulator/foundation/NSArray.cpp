@@ -3,7 +3,6 @@
 #include <cstdarg>
 
 #include "objc/Block.h"
-#include "simulator/StandIn.h"
 #include "simulator/foundation/AtomicFile.h"
 #include "simulator/foundation/CollectionDescription.h"
 #include "simulator/foundation/Exception.h"
@@ -14,7 +13,8 @@
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/foundation/Variadic.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

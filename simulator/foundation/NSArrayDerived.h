@@ -1,8 +1,8 @@
 // NSArray's methods that make other arrays, or a string, from it.
 #pragma once
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/NSArray.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

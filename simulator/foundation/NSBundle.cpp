@@ -2,12 +2,12 @@
 
 #include <filesystem>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSDictionary.h"
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,8 +1,8 @@
 #include "simulator/foundation/NSCharacterSet.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/Unicode.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -2,12 +2,12 @@
 
 #include <functional>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/AtomicFile.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/FileContent.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -6,11 +6,11 @@
 #include <cstdio>
 #include <functional>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "objc/Block.h"
-#include "simulator/StandIn.h"
 #include "simulator/foundation/CollectionDescription.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
@@ -14,7 +13,8 @@
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/foundation/Variadic.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,8 +1,8 @@
 #include "simulator/foundation/NSError.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

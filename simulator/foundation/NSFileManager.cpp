@@ -5,12 +5,12 @@
 #include <system_error>
 #include <vector>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/AtomicFile.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSData.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

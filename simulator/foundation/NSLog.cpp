@@ -3,10 +3,10 @@
 
 #include <cstdarg>
 
-#include "simulator/Fidelity.h"
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/Unicode.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/Fidelity.h"
 
 void NSLogv(id format, std::va_list arguments) {
   const std::u16string line = sim::formatted(objc::Object(format), arguments);

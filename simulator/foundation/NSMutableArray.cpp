@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/NSRange.h"
 #include "simulator/foundation/Sorting.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

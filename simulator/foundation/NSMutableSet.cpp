@@ -1,10 +1,10 @@
 #include "simulator/foundation/NSMutableSet.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/NSSet.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

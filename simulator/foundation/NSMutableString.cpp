@@ -1,10 +1,10 @@
 #include "simulator/foundation/NSMutableString.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/Variadic.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,12 +1,12 @@
 #include "simulator/foundation/NSNotificationCenter.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSNotification.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/runtime/Send.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,7 +1,7 @@
 #include "simulator/foundation/NSNull.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -6,11 +6,11 @@
 #include <cstring>
 #include <functional>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -4,13 +4,13 @@
 #include <cmath>
 #include <cstdio>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSLocale.h"
 #include "simulator/foundation/NSNumber.h"
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/Unicode.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "objc/Method.h"
-#include "simulator/Fidelity.h"
+#include "simulator/standin/Fidelity.h"
 
 namespace sim {
 

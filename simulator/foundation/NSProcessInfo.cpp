@@ -6,9 +6,9 @@
 #include <cstdio>
 #include <tuple>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,9 +1,9 @@
 #include "simulator/foundation/NSRunLoop.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSTimer.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 
 id NSDefaultRunLoopMode = nullptr;
 id NSRunLoopCommonModes = nullptr;

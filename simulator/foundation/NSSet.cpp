@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/CollectionDescription.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
@@ -12,6 +11,7 @@
 #include "simulator/foundation/NSMutableSet.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/foundation/Variadic.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -2,7 +2,6 @@
 
 #include <functional>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/AtomicFile.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Format.h"
@@ -15,8 +14,9 @@
 #include "simulator/foundation/Unicode.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/foundation/Variadic.h"
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/FileContent.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

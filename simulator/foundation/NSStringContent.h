@@ -1,8 +1,8 @@
 // NSString's methods that search, take apart and join text.
 #pragma once
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/NSString.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

@@ -1,8 +1,8 @@
 // NSString's methods that read numbers.
 #pragma once
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/NSString.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

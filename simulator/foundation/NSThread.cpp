@@ -2,8 +2,8 @@
 
 #include <thread>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSDate.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/runtime/Send.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "objc/Block.h"
 #include "objc/Class.h"
-#include "simulator/phone/MainQueue.h"
+#include "simulator/machine/MainQueue.h"
 
 namespace sim {
 

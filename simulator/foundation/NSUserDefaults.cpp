@@ -1,6 +1,5 @@
 #include "simulator/foundation/NSUserDefaults.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSDictionary.h"
@@ -8,7 +7,8 @@
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/UserDefaultsFile.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,8 +1,8 @@
 // NSUserDefaults' methods for values of one type.
 #pragma once
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/NSUserDefaults.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

@@ -3,12 +3,12 @@
 #include <cstring>
 #include <functional>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/TypeEncoding.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "simulator/foundation/AtomicFile.h"
 #include "simulator/foundation/PropertyListBounds.h"
-#include "simulator/phone/FileContent.h"
+#include "simulator/machine/FileContent.h"
 
 namespace sim {
 namespace {

@@ -1,5 +1,6 @@
 // What Foundation consists of on the simulated phone.
-#include "simulator/Frameworks.h"
+#include "simulator/standin/Registration.h"
+
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/NSBundle.h"
 #include "simulator/foundation/NSCharacterSet.h"

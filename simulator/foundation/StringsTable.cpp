@@ -5,7 +5,7 @@
 
 #include "simulator/foundation/PropertyListNode.h"
 #include "simulator/foundation/Unicode.h"
-#include "simulator/phone/FileContent.h"
+#include "simulator/machine/FileContent.h"
 
 namespace sim {
 namespace {

@@ -9,7 +9,7 @@
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/NSValue.h"
 #include "simulator/foundation/Unicode.h"
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 
 namespace sim {
 

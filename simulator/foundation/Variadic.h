@@ -2,7 +2,7 @@
 #pragma once
 
 #include "objc/runtime.h"
-#include "simulator/Fidelity.h"
+#include "simulator/standin/Fidelity.h"
 
 namespace sim {
 

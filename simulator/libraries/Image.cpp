@@ -1,7 +1,7 @@
 // The whole of a library that extensions link. The code of its classes is in the simulator, which
 // learns here that an extension names the library; the loader runs this before the initialisers of
 // whoever names it, as a phone's does.
-#include "simulator/libraries/Loading.h"
+#include "simulator/launch/Loading.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "objc/Ownership.h"
-#include "simulator/quartzcore/CGPath.h"
+#include "simulator/coregraphics/CGPath.h"
 
 namespace sim {
 

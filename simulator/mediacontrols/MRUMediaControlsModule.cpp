@@ -1,7 +1,7 @@
 #include "simulator/mediacontrols/MRUMediaControlsModule.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/mediacontrols/MRUControlCenterViewController.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

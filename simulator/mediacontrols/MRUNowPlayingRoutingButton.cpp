@@ -1,7 +1,7 @@
 #include "simulator/mediacontrols/MRUNowPlayingRoutingButton.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/mediacontrols/Glyphs.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/ViewAccessibility.h"
 #include "simulator/uikit/ViewBuilding.h"

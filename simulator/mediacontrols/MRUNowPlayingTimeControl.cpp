@@ -4,8 +4,8 @@
 #include <cmath>
 #include <cstdio>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

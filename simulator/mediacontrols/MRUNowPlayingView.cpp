@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/mediacontrols/MRULayout.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

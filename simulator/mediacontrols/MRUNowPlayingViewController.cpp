@@ -3,7 +3,6 @@
 #include <cmath>
 #include <utility>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/mediacontrols/MRUEmbeddingView.h"
@@ -14,6 +13,7 @@
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
 #include "simulator/radios/Radios.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "objc/Class.h"
+#include "simulator/machine/MainQueue.h"
 #include "simulator/mediacontrols/MRULayout.h"
-#include "simulator/phone/MainQueue.h"
 
 namespace sim {
 

@@ -1,8 +1,8 @@
 #include "simulator/mediacontrols/MRURoutingViewController.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/radios/Radios.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

@@ -1,7 +1,7 @@
 #include "simulator/mediacontrols/MRUTransportButton.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

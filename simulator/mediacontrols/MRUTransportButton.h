@@ -2,8 +2,8 @@
 #pragma once
 
 #include "objc/Class.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/mediacontrols/Glyphs.h"
-#include "simulator/uikit/Geometry.h"
 
 namespace sim {
 

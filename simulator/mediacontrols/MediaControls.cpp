@@ -1,5 +1,4 @@
 // What the Now Playing module is made of.
-#include "simulator/Frameworks.h"
 #include "simulator/mediacontrols/MRUControlCenterViewController.h"
 #include "simulator/mediacontrols/MRUEmbeddingView.h"
 #include "simulator/mediacontrols/MRUMediaControlsModule.h"
@@ -12,6 +11,7 @@
 #include "simulator/mediacontrols/MRUNowPlayingViewController.h"
 #include "simulator/mediacontrols/MRURoutingViewController.h"
 #include "simulator/mediacontrols/MRUTransportButton.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "objc/Block.h"
-#include "simulator/Fidelity.h"
-#include "simulator/Frameworks.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/Player.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/standin/Fidelity.h"
+#include "simulator/standin/Registration.h"
 
 extern "C" {
 id kMRMediaRemoteNowPlayingInfoDidChangeNotification;

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/Track.h"
-#include "simulator/phone/Phone.h"
 
 namespace sim {
 

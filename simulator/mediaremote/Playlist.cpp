@@ -4,8 +4,8 @@
 #include <cmath>
 #include <optional>
 
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/FileContent.h"
+#include "simulator/machine/Journal.h"
 
 namespace sim {
 namespace {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "objc/Ownership.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim::look {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/preferences/Look.h"
 #include "simulator/preferences/TapArea.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

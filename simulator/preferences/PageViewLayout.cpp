@@ -1,9 +1,9 @@
 // PageView: where its parts stand.
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/preferences/Look.h"
 #include "simulator/preferences/PageView.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

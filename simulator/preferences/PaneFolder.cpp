@@ -6,7 +6,7 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 namespace {

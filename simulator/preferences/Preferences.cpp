@@ -1,5 +1,4 @@
 // What the Settings application is made of.
-#include "simulator/Frameworks.h"
 #include "simulator/preferences/Keyboard.h"
 #include "simulator/preferences/PageView.h"
 #include "simulator/preferences/PreferencesApp.h"
@@ -7,6 +6,7 @@
 #include "simulator/preferences/SwitchView.h"
 #include "simulator/preferences/TapArea.h"
 #include "simulator/springboard/HomeIcons.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/preferences/Look.h"
 #include "simulator/preferences/SwitchView.h"
 #include "simulator/preferences/TapArea.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewAccessibility.h"
 #include "simulator/uikit/ViewBuilding.h"
 

@@ -6,7 +6,7 @@
 #include "simulator/cephei/PreferencesFile.h"
 #include "simulator/foundation/PropertyListNode.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/preferences/NodeReader.h"
 
 namespace sim {

@@ -1,7 +1,7 @@
 #include "simulator/preferences/SwitchView.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/preferences/Look.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

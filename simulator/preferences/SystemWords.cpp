@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 namespace {

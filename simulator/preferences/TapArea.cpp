@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UITouch.h"
 

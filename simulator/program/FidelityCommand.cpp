@@ -3,11 +3,12 @@
 #include <iostream>
 
 #include "objc/Ownership.h"
-#include "simulator/Fidelity.h"
-#include "simulator/Frameworks.h"
-#include "simulator/phone/Phone.h"
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/launch/Frameworks.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/runwright/ShortcutRunner.h"
+#include "simulator/standin/Fidelity.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

@@ -9,11 +9,11 @@
 #include <system_error>
 
 #include "objc/Ownership.h"
-#include "simulator/phone/TemporaryFolder.h"
-#include "simulator/phone/script/Commands.h"
-#include "simulator/phone/script/Interpreter.h"
+#include "simulator/host/TemporaryFolder.h"
 #include "simulator/program/CrashNote.h"
 #include "simulator/program/PhonePackage.h"
+#include "simulator/script/Commands.h"
+#include "simulator/script/Interpreter.h"
 
 namespace sim {
 namespace {

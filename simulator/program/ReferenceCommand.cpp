@@ -2,10 +2,10 @@
 
 #include <iostream>
 
-#include "simulator/phone/Phone.h"
-#include "simulator/phone/TemporaryFolder.h"
-#include "simulator/phone/script/Commands.h"
-#include "simulator/phone/script/Reference.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/script/Commands.h"
+#include "simulator/script/values/Reference.h"
 
 namespace sim {
 

@@ -11,8 +11,8 @@
 #include <nlohmann/json.hpp>
 #include <system_error>
 
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/machine/FileContent.h"
 #include "simulator/program/EndSignals.h"
 #include "simulator/program/ServingProcess.h"
 #include "simulator/serve/http/Access.h"

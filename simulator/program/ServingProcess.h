@@ -1,7 +1,7 @@
 // One process in the life of a served phone: each restart of the host is the beginning of another.
 #pragma once
 
-#include "simulator/phone/script/Restart.h"
+#include "simulator/script/Restart.h"
 #include "simulator/serve/ServeState.h"
 
 namespace sim {

@@ -11,9 +11,9 @@
 #include <regex>
 #include <system_error>
 
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/TemporaryFolder.h"
-#include "simulator/phone/script/Script.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/machine/FileContent.h"
+#include "simulator/script/words/Script.h"
 #include "simulator/serve/RequestError.h"
 
 namespace sim {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
-#include "simulator/uikit/UIColor.h"
+#include "simulator/coregraphics/CGColor.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
+#include "simulator/coregraphics/CGColor.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/quartzcore/LayerKeyPath.h"
 #include "simulator/quartzcore/states/CAState.h"
-#include "simulator/uikit/UIColor.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

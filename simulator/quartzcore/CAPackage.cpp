@@ -1,9 +1,9 @@
 #include "simulator/quartzcore/CAPackage.h"
 
 #include "objc/Message.h"
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/quartzcore/caml/PackageFiles.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "objc/Class.h"
-#include "simulator/quartzcore/CGPath.h"
-#include "simulator/uikit/UIColor.h"
+#include "simulator/coregraphics/CGColor.h"
+#include "simulator/coregraphics/CGPath.h"
 
 namespace sim {
 

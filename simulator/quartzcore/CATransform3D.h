@@ -1,7 +1,7 @@
 // QuartzCore's matrix, row by row. Stand-ins use the part of it that stays in the plane.
 #pragma once
 
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

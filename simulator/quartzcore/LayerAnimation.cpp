@@ -6,7 +6,7 @@
 #include <limits>
 #include <numbers>
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/PlaneTransform.h"
 

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 #include "simulator/quartzcore/LayerValues.h"
 #include "simulator/quartzcore/TimingCurve.h"
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

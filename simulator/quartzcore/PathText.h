@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "simulator/quartzcore/CGPath.h"
+#include "simulator/coregraphics/CGPath.h"
 
 namespace sim {
 

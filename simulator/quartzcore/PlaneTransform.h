@@ -2,7 +2,7 @@
 // then turned, then moved.
 #pragma once
 
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

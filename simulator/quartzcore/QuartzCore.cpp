@@ -1,14 +1,14 @@
-#include "simulator/Frameworks.h"
+#include "simulator/coregraphics/CGPath.h"
 #include "simulator/quartzcore/CAAnimation.h"
 #include "simulator/quartzcore/CAGradientLayer.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/CAPackage.h"
 #include "simulator/quartzcore/CAShapeLayer.h"
-#include "simulator/quartzcore/CGPath.h"
 #include "simulator/quartzcore/states/CAState.h"
 #include "simulator/quartzcore/states/CAStateController.h"
 #include "simulator/quartzcore/states/CAStateElement.h"
 #include "simulator/quartzcore/states/CAStateTransition.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

@@ -3,8 +3,8 @@
 #include <map>
 #include <string>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/radios/BluetoothDevice.h"
 #include "simulator/radios/Radios.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

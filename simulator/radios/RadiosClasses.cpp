@@ -1,8 +1,8 @@
 // The radios as the host sees them.
-#include "simulator/Frameworks.h"
 #include "simulator/radios/BluetoothDevice.h"
 #include "simulator/radios/BluetoothManager.h"
 #include "simulator/radios/RadiosPreferences.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

@@ -1,8 +1,8 @@
 #include "simulator/radios/RadiosPreferences.h"
 
-#include "simulator/StandIn.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/radios/Radios.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

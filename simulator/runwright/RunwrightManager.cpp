@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/runwright/ShortcutRunner.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

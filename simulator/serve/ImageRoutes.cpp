@@ -1,6 +1,6 @@
 // Pictures of the phone's own files and of its screen, and the letters that this is measured with.
-#include "simulator/phone/script/Command.h"
-#include "simulator/phone/script/ScriptFiles.h"
+#include "simulator/script/Command.h"
+#include "simulator/script/ScriptFiles.h"
 #include "simulator/serve/Api.h"
 #include "simulator/serve/http/Files.h"
 

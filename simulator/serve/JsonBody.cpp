@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 #include "simulator/serve/RequestError.h"
 
 namespace sim {

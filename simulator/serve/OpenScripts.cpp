@@ -1,5 +1,5 @@
 // Scripts that pages open, played step by step.
-#include "simulator/phone/script/Script.h"
+#include "simulator/script/words/Script.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/ServedPhone.h"
 

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <optional>
 
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 
 namespace sim {
 

@@ -3,7 +3,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 #include "simulator/serve/music/MusicLibrary.h"
 
 namespace sim {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 
 namespace sim {
 

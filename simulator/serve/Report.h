@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 #include "simulator/serve/SceneSource.h"
 #include "simulator/serve/Watchers.h"
 

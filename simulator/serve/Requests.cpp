@@ -2,8 +2,8 @@
 #include <iostream>
 #include <sstream>
 
-#include "simulator/phone/script/HostCommands.h"
-#include "simulator/phone/script/Target.h"
+#include "simulator/script/commands/HostCommands.h"
+#include "simulator/script/values/Target.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/ServedPhone.h"
 

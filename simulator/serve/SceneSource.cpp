@@ -7,7 +7,7 @@
 #include "simulator/drawing/SceneBuilder.h"
 #include "simulator/drawing/SceneJson.h"
 #include "simulator/drawing/ScreenMotion.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

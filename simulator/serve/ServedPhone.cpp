@@ -4,8 +4,9 @@
 #include <algorithm>
 #include <fstream>
 
-#include "simulator/phone/script/Commands.h"
-#include "simulator/phone/script/HostCommands.h"
+#include "simulator/script/Commands.h"
+#include "simulator/script/ScriptFiles.h"
+#include "simulator/script/commands/HostCommands.h"
 #include "simulator/serve/RequestError.h"
 
 namespace sim {
@@ -40,7 +41,7 @@ ServedPhone::ServedPhone(ServeState state, const MusicLibrary& library, Inbox& i
       player_(library),
       report_(session_.phone.journal) {
   session_.relaunch = [this](const std::filesystem::path& file) { leaveInMiddle(file); };
-  session_.phone.setup.files.whenWritten = [this](const std::string& name) { notePicture(name); };
+  scriptFiles().whenWritten = [this](const std::string& name) { notePicture(name); };
   session_.phone.survives("serve", {[this] { return asJson(state_); }, [](const json&) {}});
   pace_.setSpeed(state_.speed, steady_clock::now());
   pace_.setPaused(state_.paused, steady_clock::now());

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/phone/script/Interpreter.h"
+#include "simulator/script/Interpreter.h"
 #include "simulator/serve/Inbox.h"
 #include "simulator/serve/Pace.h"
 #include "simulator/serve/PlayerView.h"

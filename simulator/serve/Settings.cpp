@@ -3,7 +3,7 @@
 #include "objc/Message.h"
 #include "simulator/cephei/HBPreferences.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/script/Session.h"
+#include "simulator/script/Session.h"
 #include "simulator/serve/SettingsWording.h"
 
 namespace sim {

@@ -1,6 +1,6 @@
 #include "simulator/services/AudioToolbox.h"
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 void AudioServicesPlaySystemSound(std::uint32_t sound) {
   sim::Phone::current().journal.record("AudioServicesPlaySystemSound(" + std::to_string(sound) +

@@ -3,9 +3,9 @@
 #include <cstring>
 #include <utility>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,6 +1,6 @@
-#include "simulator/Fidelity.h"
-#include "simulator/Frameworks.h"
 #include "simulator/services/PCSimpleTimer.h"
+#include "simulator/standin/Fidelity.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

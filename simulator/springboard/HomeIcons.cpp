@@ -5,8 +5,8 @@
 #include <string>
 
 #include "objc/Message.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/springboard/Shapes.h"
-#include "simulator/uikit/Geometry.h"
 
 namespace sim {
 namespace {

@@ -1,6 +1,6 @@
 #include "simulator/springboard/SBBacklightController.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIScreen.h"
 
 namespace sim {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/quartzcore/CAGradientLayer.h"
 #include "simulator/springboard/Shapes.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewBuilding.h"
 
 namespace sim {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/springboard/HomeIcons.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/ViewBuilding.h"
 

@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "simulator/StandIn.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/mediaremote/Player.h"
-#include "simulator/phone/Phone.h"
 #include "simulator/springboard/SBApplication.h"
 #include "simulator/springboard/SBVolumeControl.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,9 +1,9 @@
 #include "simulator/springboard/SBVolumeControl.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/AudioSystem.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

@@ -1,10 +1,10 @@
 #include "simulator/springboard/SpringBoard.h"
 
-#include "simulator/Frameworks.h"
-#include "simulator/StandIn.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/springboard/HomeScreen.h"
 #include "simulator/springboard/StatusBar.h"
+#include "simulator/standin/Registration.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

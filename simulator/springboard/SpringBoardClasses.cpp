@@ -1,5 +1,4 @@
 // What lives in the host's process.
-#include "simulator/Frameworks.h"
 #include "simulator/springboard/SBApplication.h"
 #include "simulator/springboard/SBBacklightController.h"
 #include "simulator/springboard/SBFWallpaperView.h"
@@ -8,6 +7,7 @@
 #include "simulator/springboard/SBVolumeControl.h"
 #include "simulator/springboard/SpringBoard.h"
 #include "simulator/springboard/StatusBarView.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

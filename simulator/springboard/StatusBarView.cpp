@@ -1,10 +1,10 @@
 #include "simulator/springboard/StatusBarView.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/springboard/ClockText.h"
 #include "simulator/springboard/Shapes.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/ViewBuilding.h"
 

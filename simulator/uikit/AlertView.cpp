@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CALayer.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/Animation.h"
 #include "simulator/uikit/UIAlertAction.h"
 #include "simulator/uikit/UIAlertController.h"

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

@@ -1,6 +1,6 @@
 #include "simulator/uikit/Animation.h"
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 namespace {

@@ -1,7 +1,7 @@
 // How controls follow a finger.
 #pragma once
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIControl.h"
 
 namespace sim {

@@ -2,7 +2,7 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/NSSet.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/Actions.h"
 #include "simulator/uikit/Touch.h"
 #include "simulator/uikit/UIEvent.h"

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "objc/Ownership.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

@@ -1,9 +1,9 @@
 #include "simulator/uikit/GeometryValues.h"
 
 #include "objc/Method.h"
-#include "simulator/Fidelity.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/foundation/NSValue.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/standin/Fidelity.h"
 
 namespace sim {
 namespace {

@@ -1,7 +1,7 @@
 #include "simulator/uikit/LayoutDirection.h"
 
 #include "simulator/foundation/NSLocale.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/UIView.h"
 
 namespace sim {

@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/autolayout/Activation.h"
 #include "simulator/uikit/autolayout/Attributes.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "simulator/StandIn.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIPickerColumnView.h"
 #include "simulator/uikit/UIView.h"
 

@@ -1,8 +1,8 @@
 // How pickers follow a finger: it turns the wheel that is nearest to where it came down.
 #pragma once
 
-#include "simulator/StandIn.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

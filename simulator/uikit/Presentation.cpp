@@ -4,7 +4,7 @@
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/Animation.h"
 #include "simulator/uikit/UIView.h"

@@ -1,7 +1,7 @@
 #include "simulator/uikit/UIAlertAction.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

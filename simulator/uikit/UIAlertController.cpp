@@ -1,8 +1,8 @@
 #include "simulator/uikit/UIAlertController.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/AlertView.h"
 #include "simulator/uikit/UIAlertAction.h"
 #include "simulator/uikit/UIViewController.h"

@@ -1,8 +1,8 @@
 #include "simulator/uikit/UIApplication.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/UIWindow.h"

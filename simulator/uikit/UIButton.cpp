@@ -1,7 +1,7 @@
 #include "simulator/uikit/UIButton.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UIFont.h"
 #include "simulator/uikit/UIImageView.h"

@@ -1,9 +1,8 @@
 #include "simulator/uikit/UIColor.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Journal.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {
@@ -48,20 +47,6 @@ Object copy(Object self, void*) {
   return objc::retain(self).detach();
 }
 
-unsigned long hashOf(const ColorComponents& components) {
-  unsigned long hash = components.isGray;
-  for (const double value : components.values) hash = hash * 31 + std::hash<double>()(value);
-  return hash;
-}
-
-// "UIExtendedSRGBColorSpace 0 0.478 1 1"
-std::string written(const ColorComponents& components) {
-  std::string text = components.isGray ? "UIExtendedGrayColorSpace" : "UIExtendedSRGBColorSpace";
-  for (std::size_t i = components.isGray ? 2 : 0; i < 4; ++i)
-    text += ' ' + notation(components.values[i]);
-  return text;
-}
-
 }  // namespace
 
 Object UIColor::systemBlue() {
@@ -86,10 +71,10 @@ bool UIColor::isEqual(Object other) const {
   return color != nullptr && color->components == components;
 }
 unsigned long UIColor::hash() const {
-  return hashOf(components);
+  return components.hash();
 }
 Object UIColor::description() const {
-  return string(written(components));
+  return string(components.description());
 }
 
 void UIColor::registerClass() {
@@ -109,31 +94,6 @@ void UIColor::registerClass() {
       .method<"isEqual:", &UIColor::isEqual>()
       .method<"hash", &UIColor::hash>()
       .method<"description", &UIColor::description>()
-      .finish();
-}
-
-Object CGColor::components() const {
-  std::vector<Object> numbers;
-  for (std::size_t i = color.isGray ? 2 : 0; i < 4; ++i) numbers.push_back(number(color.values[i]));
-  return array(numbers);
-}
-bool CGColor::isEqual(Object other) const {
-  const CGColor* same = stateOf<CGColor>(other);
-  return same != nullptr && same->color == color;
-}
-unsigned long CGColor::hash() const {
-  return hashOf(color);
-}
-Object CGColor::description() const {
-  return string(written(color));
-}
-
-void CGColor::registerClass() {
-  StandIn<CGColor>("CoreGraphics", "CGColor", "NSObject")
-      .partial<"components", &CGColor::components>("a function, CGColorGetComponents")
-      .method<"isEqual:", &CGColor::isEqual>()
-      .method<"hash", &CGColor::hash>()
-      .partial<"description", &CGColor::description>("shorter")
       .finish();
 }
 

@@ -1,17 +1,9 @@
 #pragma once
 
-#include <array>
-
 #include "objc/Class.h"
+#include "simulator/coregraphics/CGColor.h"
 
 namespace sim {
-
-// Red, green, blue and alpha, or white and alpha, from 0 to 1.
-struct ColorComponents {
-  std::array<double, 4> values{};
-  bool isGray = false;  // values: white three times, alpha
-  bool operator==(const ColorComponents&) const = default;
-};
 
 struct UIColor : objc::Implementation<UIColor> {
   ColorComponents components;
@@ -24,18 +16,6 @@ struct UIColor : objc::Implementation<UIColor> {
 
   // Autoreleased.
   static objc::Object systemBlue();
-
-  static void registerClass();
-};
-
-// CoreGraphics' colour: on the platform a CoreFoundation object, which is an object, too.
-struct CGColor : objc::Implementation<CGColor> {
-  ColorComponents color;
-
-  objc::Object components() const;  // NSArray of numbers, alpha last
-  bool isEqual(objc::Object other) const;
-  unsigned long hash() const;
-  objc::Object description() const;
 
   static void registerClass();
 };

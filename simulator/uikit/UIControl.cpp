@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/Actions.h"
 #include "simulator/uikit/ControlTracking.h"
 #include "simulator/uikit/ViewAccessibility.h"

@@ -3,10 +3,10 @@
 #include <cmath>
 #include <string>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/DurationUnits.h"
 #include "simulator/uikit/LayoutDirection.h"
 #include "simulator/uikit/PickerLook.h"

@@ -1,6 +1,6 @@
 #include "simulator/uikit/UIEvent.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

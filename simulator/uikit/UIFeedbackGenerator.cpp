@@ -1,7 +1,7 @@
 #include "simulator/uikit/UIFeedbackGenerator.h"
 
-#include "simulator/StandIn.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <vector>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/PngHeader.h"
 #include "simulator/uikit/UIScreen.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

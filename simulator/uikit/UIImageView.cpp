@@ -1,7 +1,7 @@
 #include "simulator/uikit/UIImageView.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIImage.h"
 #include "simulator/uikit/UIView.h"
 

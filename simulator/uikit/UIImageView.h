@@ -1,7 +1,7 @@
 #pragma once
 
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

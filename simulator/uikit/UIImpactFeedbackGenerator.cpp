@@ -1,7 +1,7 @@
 #include "simulator/uikit/UIImpactFeedbackGenerator.h"
 
-#include "simulator/StandIn.h"
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIFeedbackGenerator.h"
 
 namespace sim {

@@ -1,4 +1,4 @@
-#include "simulator/Frameworks.h"
+#include "simulator/standin/Registration.h"
 #include "simulator/uikit/AlertView.h"
 #include "simulator/uikit/GeometryValues.h"
 #include "simulator/uikit/NSLayoutConstraint.h"

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <limits>
 
-#include "simulator/StandIn.h"
 #include "simulator/coretext/Typesetter.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIColor.h"
 #include "simulator/uikit/UIFont.h"
 #include "simulator/uikit/UIScreen.h"

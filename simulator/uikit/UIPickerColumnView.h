@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "objc/Class.h"
-#include "simulator/phone/MainQueue.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
+#include "simulator/machine/MainQueue.h"
 #include "simulator/uikit/PickerWheel.h"
 
 namespace sim {

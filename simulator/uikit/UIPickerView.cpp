@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Exception.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/PickerTouches.h"
 #include "simulator/uikit/UIPickerColumnView.h"
 

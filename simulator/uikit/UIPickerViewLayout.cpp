@@ -1,5 +1,5 @@
 // UIPickerView: its wheels.
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/PickerLook.h"
 #include "simulator/uikit/UIPickerColumnView.h"
 #include "simulator/uikit/UIPickerView.h"

@@ -1,7 +1,7 @@
 #include "simulator/uikit/UIResponder.h"
 
 #include "objc/Message.h"
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,7 +1,7 @@
 #include "simulator/uikit/UIScreen.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIApplication.h"
 
 namespace sim {

@@ -1,6 +1,6 @@
 #include "simulator/uikit/UISelectionFeedbackGenerator.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIFeedbackGenerator.h"
 
 namespace sim {

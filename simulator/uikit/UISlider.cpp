@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/UITouch.h"
 #include "simulator/uikit/UIView.h"

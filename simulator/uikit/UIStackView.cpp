@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
 

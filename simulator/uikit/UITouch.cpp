@@ -1,6 +1,6 @@
 #include "simulator/uikit/UITouch.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/ViewTree.h"
 
 namespace sim {

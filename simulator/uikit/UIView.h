@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "objc/Class.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/quartzcore/LayerGeometry.h"
-#include "simulator/uikit/Geometry.h"
 #include "simulator/uikit/ViewAccessibility.h"
 
 namespace sim {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIScreen.h"
 #include "simulator/uikit/UIView.h"
 

@@ -5,7 +5,7 @@
 
 #include "objc/Block.h"
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "objc/Message.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/UIWindow.h"
 #include "simulator/uikit/ViewTree.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"

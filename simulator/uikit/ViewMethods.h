@@ -1,7 +1,7 @@
 // UIView's methods, by subject: each adds its own to the class.
 #pragma once
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIView.h"
 
 namespace sim {

@@ -3,7 +3,7 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/Animation.h"
 #include "simulator/uikit/ViewMethods.h"

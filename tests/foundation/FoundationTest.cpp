@@ -3,10 +3,10 @@
 #include <fstream>
 #include <iterator>
 
-#include "simulator/Frameworks.h"
 #include "simulator/foundation/NSNull.h"
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
 #include "simulator/runtime/LiveObjects.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 namespace {

@@ -13,7 +13,7 @@
 #include "objc/Class.h"
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

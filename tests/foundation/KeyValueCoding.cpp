@@ -1,4 +1,4 @@
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "tests/foundation/FoundationTest.h"
 
 namespace sim {

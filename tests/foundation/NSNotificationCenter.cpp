@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "tests/foundation/FoundationTest.h"
 
 namespace sim {

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/NSRunLoop.h"
+#include "simulator/standin/StandIn.h"
 #include "tests/foundation/FoundationTest.h"
 
 namespace sim {

@@ -1,7 +1,7 @@
 #include "simulator/foundation/NSUserDefaults.h"
 
 #include "simulator/foundation/PropertyList.h"
-#include "simulator/phone/script/Command.h"
+#include "simulator/script/Command.h"
 #include "tests/foundation/FoundationTest.h"
 
 namespace sim {

@@ -3,10 +3,10 @@
 
 #include <cstdlib>
 
-#include "simulator/Frameworks.h"
-#include "simulator/phone/Phone.h"
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/runtime/LiveObjects.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 

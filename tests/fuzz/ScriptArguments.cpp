@@ -4,10 +4,11 @@
 #include <set>
 
 #include "objc/Ownership.h"
-#include "simulator/phone/script/Commands.h"
-#include "simulator/phone/script/Literal.h"
-#include "simulator/phone/script/Script.h"
-#include "simulator/phone/script/Session.h"
+#include "simulator/script/Commands.h"
+#include "simulator/script/Session.h"
+#include "simulator/script/names/NameChecks.h"
+#include "simulator/script/values/Literal.h"
+#include "simulator/script/words/Script.h"
 #include "tests/fuzz/FuzzPhone.h"
 
 namespace sim {
@@ -89,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
   for (const sim::ScriptLine& line : sim::linesOf({reinterpret_cast<const char*>(bytes), count}))
     sim::play(line);
   // Names wait for a launch that never comes.
-  sim::Phone::current().systemNames = {};
-  sim::Phone::current().allNames = {};
+  sim::nameChecks().system = {};
+  sim::nameChecks().all = {};
   return 0;
 }

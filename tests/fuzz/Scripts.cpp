@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "simulator/phone/Journal.h"
-#include "simulator/phone/script/Script.h"
+#include "simulator/machine/Journal.h"
+#include "simulator/script/words/Script.h"
 
 namespace {
 

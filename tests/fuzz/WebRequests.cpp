@@ -13,7 +13,7 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
 #include "simulator/serve/Api.h"
 #include "simulator/serve/http/Guard.h"
 

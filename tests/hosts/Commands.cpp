@@ -2,7 +2,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
-#include "simulator/phone/script/Command.h"
+#include "simulator/script/Command.h"
 #include "tests/hosts/TestPreferences.h"
 
 namespace sim {

@@ -1,6 +1,6 @@
 // The script commands of what the owner does to the phone itself.
-#include "simulator/phone/script/Command.h"
 #include "simulator/radios/Radios.h"
+#include "simulator/script/Command.h"
 #include "tests/hosts/TestHost.h"
 
 namespace sim {

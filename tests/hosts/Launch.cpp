@@ -1,7 +1,7 @@
 // The application object, the device, and the classes of the media module that others build on.
 #include "objc/Class.h"
 #include "objc/Hook.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "tests/hosts/TestHost.h"
 
 namespace sim {

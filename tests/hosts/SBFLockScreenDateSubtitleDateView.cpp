@@ -1,6 +1,6 @@
 #include "objc/Method.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/runtime/LiveObjects.h"
-#include "simulator/uikit/Geometry.h"
 #include "tests/hosts/TestHost.h"
 
 namespace sim {

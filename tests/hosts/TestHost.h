@@ -3,10 +3,11 @@
 
 #include "objc/Message.h"
 #include "objc/Ownership.h"
-#include "simulator/Frameworks.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/launch/Frameworks.h"
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/mediaremote/Player.h"
+#include "simulator/standin/Registration.h"
 #include "tests/hosts/TestPhone.h"
 
 namespace sim {

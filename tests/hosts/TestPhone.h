@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "simulator/phone/Phone.h"
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

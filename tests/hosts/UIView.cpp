@@ -1,5 +1,5 @@
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/runtime/LiveObjects.h"
-#include "simulator/uikit/Geometry.h"
 #include "tests/hosts/TestHost.h"
 
 namespace sim {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdio>
 
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 
 namespace model {
 namespace {

@@ -12,8 +12,8 @@
 #include <system_error>
 
 #include "objc/Ownership.h"
-#include "simulator/phone/script/Commands.h"
-#include "simulator/phone/script/Interpreter.h"
+#include "simulator/script/Commands.h"
+#include "simulator/script/Interpreter.h"
 
 namespace model {
 namespace {

@@ -10,10 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "simulator/phone/TemporaryFolder.h"
-#include "simulator/phone/script/Command.h"
-#include "simulator/phone/script/Script.h"
-#include "simulator/phone/script/Session.h"
+#include "simulator/host/TemporaryFolder.h"
+#include "simulator/script/Command.h"
+#include "simulator/script/Session.h"
+#include "simulator/script/words/Script.h"
 
 namespace model {
 

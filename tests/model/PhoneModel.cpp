@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 
 namespace model {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 #include "tests/model/CommandText.h"
 
 namespace model {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/uikit/nib/NibCoder.h"
 #include "tests/nibc/TestDocument.h"
 #include "tests/resources/PhoneWithFiles.h"

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
 #include "tests/nibc/TestDocument.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <string>
 
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
 #include "simulator/preferences/Specifier.h"
 
 namespace sim {

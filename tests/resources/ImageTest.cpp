@@ -1,5 +1,5 @@
 // Images of files: which variant the screen gets, and what is no image.
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "tests/resources/PhoneWithFiles.h"
 
 namespace sim {

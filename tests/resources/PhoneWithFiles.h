@@ -8,8 +8,8 @@
 
 #include "objc/Message.h"
 #include "objc/Ownership.h"
-#include "simulator/Frameworks.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/standin/Registration.h"
 #include "tests/hosts/TestPhone.h"
 
 namespace sim {

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
 
 namespace sim {
 

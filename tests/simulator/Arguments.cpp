@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "simulator/phone/script/Command.h"
-#include "simulator/phone/script/Script.h"
+#include "simulator/script/Command.h"
+#include "simulator/script/words/Script.h"
 
 namespace sim {
 namespace {

@@ -1,4 +1,4 @@
-#include "simulator/phone/Clock.h"
+#include "simulator/machine/Clock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 
 #include "tests/simulator/TestPhone.h"
 

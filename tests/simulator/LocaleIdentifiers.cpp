@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "simulator/phone/script/LocaleNames.h"
+#include "simulator/script/names/LocaleNames.h"
 
 namespace sim {
 namespace {

@@ -1,4 +1,4 @@
-#include "simulator/phone/MainQueue.h"
+#include "simulator/machine/MainQueue.h"
 
 #include <latch>
 #include <memory>

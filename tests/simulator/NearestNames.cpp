@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "simulator/phone/NearestName.h"
+#include "simulator/machine/NearestName.h"
 
 namespace sim {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 
 namespace sim {
 namespace {

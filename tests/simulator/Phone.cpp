@@ -1,4 +1,4 @@
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 #include <nlohmann/json.hpp>
 

@@ -8,7 +8,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
 
 namespace sim {
 namespace {

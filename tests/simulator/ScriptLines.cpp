@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "simulator/phone/script/Script.h"
+#include "simulator/script/words/Script.h"
 
 namespace sim {
 namespace {

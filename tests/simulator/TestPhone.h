@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

@@ -1,4 +1,4 @@
-#include "simulator/phone/script/Utf8.h"
+#include "simulator/script/words/Utf8.h"
 
 #include <gtest/gtest.h>
 

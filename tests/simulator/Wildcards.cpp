@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "simulator/phone/script/Wildcard.h"
+#include "simulator/script/words/Wildcard.h"
 
 namespace sim {
 namespace {

@@ -1,4 +1,4 @@
-#include "simulator/phone/WorkerThread.h"
+#include "simulator/machine/WorkerThread.h"
 
 #include <gtest/gtest.h>
 

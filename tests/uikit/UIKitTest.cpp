@@ -1,8 +1,8 @@
 #include "tests/uikit/UIKitTest.h"
 
-#include "simulator/Frameworks.h"
-#include "simulator/phone/TemporaryFolder.h"
+#include "simulator/host/TemporaryFolder.h"
 #include "simulator/runtime/LiveObjects.h"
+#include "simulator/standin/Registration.h"
 
 namespace sim {
 namespace {

@@ -12,9 +12,9 @@
 #include "objc/Block.h"
 #include "objc/Class.h"
 #include "objc/Message.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 

@@ -9,8 +9,8 @@
 #include "simulator/foundation/NSNumber.h"
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/FileContent.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/caml/Reader.h"
 

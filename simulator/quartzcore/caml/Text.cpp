@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "simulator/phone/Journal.h"
+#include "simulator/machine/Journal.h"
 #include "simulator/quartzcore/caml/Words.h"
 
 namespace sim::caml {

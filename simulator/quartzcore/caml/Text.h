@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "simulator/coregraphics/CGColor.h"
+#include "simulator/coregraphics/CGPath.h"
 #include "simulator/quartzcore/CATransform3D.h"
-#include "simulator/quartzcore/CGPath.h"
-#include "simulator/uikit/UIColor.h"
 
 namespace sim::caml {
 

@@ -1,6 +1,6 @@
 #include "simulator/quartzcore/states/CAState.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

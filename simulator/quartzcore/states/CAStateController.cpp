@@ -1,11 +1,11 @@
 #include "simulator/quartzcore/states/CAStateController.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/states/CAState.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,9 +1,9 @@
 #include "simulator/quartzcore/states/CAStateElement.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/quartzcore/CALayer.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

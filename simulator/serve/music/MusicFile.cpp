@@ -10,7 +10,7 @@
 #include <fstream>
 #include <map>
 
-#include "simulator/phone/script/Utf8.h"
+#include "simulator/script/words/Utf8.h"
 
 namespace sim {
 namespace {

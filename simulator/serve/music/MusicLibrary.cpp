@@ -4,8 +4,8 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 
-#include "simulator/phone/Journal.h"
-#include "simulator/phone/script/Utf8.h"
+#include "simulator/machine/Journal.h"
+#include "simulator/script/words/Utf8.h"
 #include "simulator/serve/Recording.h"
 
 namespace sim {

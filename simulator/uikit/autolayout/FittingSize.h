@@ -2,7 +2,7 @@
 #pragma once
 
 #include "objc/Object.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 

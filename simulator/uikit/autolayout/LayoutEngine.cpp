@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "objc/Message.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/NSLayoutConstraint.h"
 #include "simulator/uikit/UIView.h"
 #include "simulator/uikit/ViewLayout.h"

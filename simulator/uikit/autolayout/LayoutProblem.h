@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "objc/Object.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/uikit/autolayout/solver/Problem.h"
 
 namespace sim {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "objc/Class.h"
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIView.h"
 
 namespace sim {

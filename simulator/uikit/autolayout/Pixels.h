@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/uikit/UIScreen.h"
 
 namespace sim {

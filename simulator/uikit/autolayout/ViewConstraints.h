@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "objc/Class.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/uikit/nib/EdgeInsets.h"
 
 namespace sim {

@@ -1,4 +1,4 @@
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/UIButton.h"
 #include "simulator/uikit/UIControl.h"
 #include "simulator/uikit/nib/Decoding.h"

@@ -1,7 +1,7 @@
 // Registration of the initialisers that classes are decoded with, by class.
 #pragma once
 
-#include "simulator/StandIn.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 

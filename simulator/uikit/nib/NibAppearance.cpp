@@ -2,7 +2,7 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/nib/NibDecoding.h"
 
 namespace sim {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "objc/Message.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/uikit/Geometry.h"
 #include "simulator/uikit/nib/EdgeInsets.h"
 
 namespace sim {

@@ -5,8 +5,8 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/phone/FileContent.h"
-#include "simulator/phone/Phone.h"
+#include "simulator/machine/FileContent.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/nib/NibConnections.h"
 #include "tools/nibc/nib/Reader.h"
 

@@ -1,8 +1,8 @@
 #include "simulator/uikit/nib/UINib.h"
 
-#include "simulator/StandIn.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSData.h"
+#include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {

@@ -1,8 +1,8 @@
 #include "simulator/uikit/nib/UINibDecoder.h"
 
-#include "simulator/StandIn.h"
+#include "simulator/coregraphics/Geometry.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/uikit/Geometry.h"
+#include "simulator/standin/StandIn.h"
 #include "simulator/uikit/nib/EdgeInsets.h"
 #include "simulator/uikit/nib/NibDecoding.h"
 #include "tools/nibc/nib/Geometry.h"

@@ -1,0 +1,58 @@
+#include "simulator/launch/ExtensionNames.h"
+
+#include <dlfcn.h>
+#include <link.h>
+
+#include <cctype>
+
+namespace sim {
+namespace {
+
+struct Search {
+  const link_map* library;
+  std::set<std::string, std::less<>> names;
+};
+
+bool canBeInName(char letter) {
+  return std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '_' || letter == ':' ||
+         letter == '.' || letter == '$';
+}
+
+// Sanitizers put unreadable bytes around constants; they do not check this function.
+__attribute__((no_sanitize("address"))) void addNames(std::set<std::string, std::less<>>& names,
+                                                      const char* bytes, std::size_t count) {
+  constexpr std::size_t shortest = 2;
+  std::string name;  // letter by letter: whoever copies several is checked
+  for (std::size_t at = 0; at < count; ++at) {
+    const char letter = bytes[at];
+    if (canBeInName(letter)) {
+      name += letter;
+      continue;
+    }
+    if (letter == '\0' && name.size() >= shortest) names.insert(name);
+    name.clear();
+  }
+}
+
+// Constants lie in what is neither code nor writable; once relocated, some of it in what was.
+int readSegments(dl_phdr_info* library, std::size_t, void* context) {
+  Search& search = *static_cast<Search*>(context);
+  if (library->dlpi_addr != search.library->l_addr) return 0;
+  for (int index = 0; index < library->dlpi_phnum; ++index) {
+    const ElfW(Phdr)& segment = library->dlpi_phdr[index];
+    if (segment.p_type != PT_LOAD || (segment.p_flags & PF_X) != 0) continue;
+    addNames(search.names, reinterpret_cast<const char*>(library->dlpi_addr + segment.p_vaddr),
+             segment.p_filesz);
+  }
+  return 1;
+}
+
+}  // namespace
+
+std::set<std::string, std::less<>> namesWithin(void* handle) {
+  Search search{nullptr, {}};
+  if (dlinfo(handle, RTLD_DI_LINKMAP, &search.library) == 0) dl_iterate_phdr(readSegments, &search);
+  return std::move(search.names);
+}
+
+}  // namespace sim

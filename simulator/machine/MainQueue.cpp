@@ -1,0 +1,51 @@
+#include "simulator/machine/MainQueue.h"
+
+#include <algorithm>
+
+#include "objc/Ownership.h"
+
+namespace sim {
+
+MainQueue::Ticket MainQueue::add(Nanoseconds due, Task task) {
+  const std::lock_guard lock(mutex_);
+  const Ticket ticket = ++lastTicket_;
+  // Clamped here, so that an entry due long ago does not overtake what already waits for now.
+  entries_.emplace(Key{std::max(due, clock_.uptime()), ticket}, std::move(task));
+  return ticket;
+}
+
+void MainQueue::cancel(Ticket ticket) {
+  Task forgotten;  // destroyed after the lock is given back: captures may cancel others
+  const std::lock_guard lock(mutex_);
+  const auto found = std::find_if(entries_.begin(), entries_.end(), [ticket](const auto& entry) {
+    return entry.first.ticket == ticket;
+  });
+  if (found == entries_.end()) return;
+  forgotten = std::move(found->second);
+  entries_.erase(found);
+}
+
+void MainQueue::runUntil(Nanoseconds until) {
+  while (std::optional<Task> task = takeDue(until)) {
+    const objc::AutoreleasePool pool;
+    (*task)();
+    task.reset();  // captures are part of the entry: released inside its pool
+  }
+  clock_.advanceTo(until);
+}
+
+std::optional<Nanoseconds> MainQueue::nextDue() const {
+  const std::lock_guard lock(mutex_);
+  if (entries_.empty()) return std::nullopt;
+  return entries_.begin()->first.due;
+}
+
+std::optional<MainQueue::Task> MainQueue::takeDue(Nanoseconds until) {
+  const std::lock_guard lock(mutex_);
+  if (entries_.empty() || entries_.begin()->first.due > until) return std::nullopt;
+  auto entry = entries_.extract(entries_.begin());
+  clock_.advanceTo(entry.key().due);
+  return std::move(entry.mapped());
+}
+
+}  // namespace sim

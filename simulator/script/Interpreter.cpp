@@ -1,0 +1,100 @@
+#include "simulator/script/Interpreter.h"
+
+#include <exception>
+
+#include "objc/Ownership.h"
+#include "simulator/script/commands/HostCommands.h"
+#include "simulator/script/names/NameChecks.h"
+
+namespace sim {
+namespace {
+
+constexpr std::string_view endOfSetup = "boot";
+
+}  // namespace
+
+void Interpreter::play() {
+  acceptLines();
+  requireKnownCommands();
+  watchKillPoints();
+  playFrom(0);
+}
+
+void Interpreter::resume(const RestartState& state) {
+  acceptLines();
+  repeatSetup();
+  restoreSession(session_, state);
+  watchKillPoints();
+  if (state.relaunchAt) relaunchHost(*state.relaunchAt);
+  if (state.advanceUntil) advanceTo(*state.advanceUntil);
+  playFrom(state.lineNumber + 1);
+}
+
+// Before anything runs: a misspelt command late in a script is found at once.
+void Interpreter::requireKnownCommands() const {
+  for (const ScriptLine& line : lines_) {
+    const Word& name = line.words.front();
+    if (name.quoted || table_.find(name.text) == nullptr)
+      throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
+  }
+}
+
+// For commands that are made of others.
+void Interpreter::acceptLines() {
+  session_.runLine = [this](const ScriptLine& line) { run(line); };
+}
+
+void Interpreter::playFrom(std::size_t lineNumber) {
+  for (const ScriptLine& line : lines_) {
+    if (line.number >= lineNumber) run(line);
+  }
+}
+
+// What kind of phone it is, is not on its disk: the script says it again.
+void Interpreter::repeatSetup() {
+  for (const ScriptLine& line : lines_) {
+    const std::string& name = line.words.front().text;
+    if (name == endOfSetup) return;
+    if (table_.find(name)->stage == Stage::setup) run(line);
+  }
+}
+
+void Interpreter::run(const ScriptLine& line) {
+  const Word& name = line.words.front();
+  const Command* known = name.quoted ? nullptr : table_.find(name.text);
+  if (known == nullptr)
+    throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
+  const Command& command = *known;
+  session_.lineNumber = line.number;
+  nameChecks().system.beginLine(line.number);
+  nameChecks().all.beginLine(line.number);
+  try {
+    requireStage(command);
+    const objc::AutoreleasePool pool;
+    Arguments arguments({line.words.begin() + 1, line.words.end()}, line.endColumn);
+    command.run(arguments);
+    arguments.finish();
+    // A person cannot do two things within one turn of the phone's main queue.
+    session_.phone.queue.runDue();
+  } catch (const ScriptParseError&) {
+    throw;  // of a line within this one
+  } catch (const ScriptError& error) {
+    throw ScriptParseError(line.number,
+                           {error.column == 0 ? name.column : error.column, error.what()});
+  } catch (const std::exception& error) {
+    throw ScriptParseError(line.number, {name.column, error.what()});
+  }
+}
+
+void Interpreter::requireStage(const Command& command) const {
+  const HostState state = session_.state;
+  if (command.stage == Stage::setup && state != HostState::off)
+    throw ScriptError(0, command.name + " belongs before boot");
+  const bool needsBoot = command.stage == Stage::running || command.stage == Stage::booted;
+  if (needsBoot && state == HostState::off)
+    throw ScriptError(0, command.name + " belongs after boot");
+  if (command.stage == Stage::running && state == HostState::dead)
+    throw ScriptError(0, command.name + " needs a running host: it has died, respring first");
+}
+
+}  // namespace sim

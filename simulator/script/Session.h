@@ -1,0 +1,71 @@
+// One script being played: what its commands share.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "simulator/foundation/invocation/Value.h"
+#include "simulator/launch/Host.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/script/values/ExportedFunctions.h"
+#include "simulator/script/values/Variables.h"
+#include "simulator/script/words/Script.h"
+
+namespace sim {
+
+struct SessionOptions {
+  std::filesystem::path script;
+  std::filesystem::path root;
+  std::vector<std::filesystem::path> extensions;
+  std::optional<std::filesystem::path> playlist;  // instead of those that the script names
+  // Below it lies all that the script's commands may name; none: anywhere, relative to the script.
+  std::optional<std::filesystem::path> folder;
+  bool quiet = false;  // the journal is not printed
+};
+
+enum class HostState { off, running, dead };
+
+// Where the host will die, found by what the journal says.
+struct KillText {
+  std::string pattern;  // of a whole line, * for anything
+  long times = 1;       // the host dies when so many more lines have matched
+};
+
+class Session {
+ public:
+  explicit Session(SessionOptions givenOptions);
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // The session of this process.
+  static Session& current();
+
+  // Of the command that runs, for messages: "line 4"; on a served phone, whose lines have no
+  // numbers that anybody sees, "12.5 s".
+  std::string place() const;
+
+  SessionOptions options;
+  Phone phone;
+  Host host;
+  HostState state = HostState::off;
+
+  Variables variables;
+  std::optional<Value> last;  // of send, call and get
+  ExportedFunctions functions;
+  std::size_t journalStart = 0;                    // expectations look at this entry and later ones
+  std::set<std::size_t> killPoints;                // counts of journal lines at which the host dies
+  std::vector<KillText> killTexts;                 // lines of the journal at which the host dies
+  std::optional<Nanoseconds> advanceUntil;         // while `advance` runs
+  std::size_t lineNumber = 0;                      // of the command that runs
+  std::function<void(const ScriptLine&)> runLine;  // as if it stood in the script
+  // Begins the next host process from the recorded state; does not return. The program executes
+  // itself again when there is none.
+  std::function<void(const std::filesystem::path& stateFile)> relaunch;
+};
+
+}  // namespace sim

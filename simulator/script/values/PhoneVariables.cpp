@@ -1,0 +1,29 @@
+#include "simulator/script/values/PhoneVariables.h"
+
+#include <map>
+#include <utility>
+
+namespace sim {
+namespace {
+
+std::map<std::string, std::function<objc::Object()>>& variables() {
+  static std::map<std::string, std::function<objc::Object()>> all;
+  return all;
+}
+
+}  // namespace
+
+void addPhoneVariable(const std::string& name, std::function<objc::Object()> current) {
+  variables()[name] = std::move(current);
+}
+
+bool isPhoneVariable(const std::string& name) {
+  return variables().contains(name);
+}
+
+objc::Object phoneVariable(const std::string& name) {
+  const auto found = variables().find(name);
+  return found == variables().end() ? objc::Object() : found->second();
+}
+
+}  // namespace sim

@@ -1,0 +1,111 @@
+#include "simulator/script/words/WordReader.h"
+
+#include <charconv>
+
+#include "simulator/script/words/Utf8.h"
+
+namespace sim {
+namespace {
+
+bool isBlank(char letter) {
+  return letter == ' ' || letter == '\t';
+}
+
+}  // namespace
+
+std::size_t WordReader::column(std::size_t at) const {
+  return characterCount(line_.substr(0, at)) + 1;
+}
+
+void WordReader::skipBlanks() {
+  while (at_ < line_.size() && isBlank(line_[at_])) ++at_;
+}
+
+bool WordReader::atWordEnd() const {
+  return at_ == line_.size() || isBlank(line_[at_]) || line_[at_] == '#';
+}
+
+void WordReader::requireWordEnd() const {
+  if (!atWordEnd()) throw ScriptError(column(at_), "expected a space between two words");
+}
+
+std::optional<Word> WordReader::next() {
+  skipBlanks();
+  if (at_ == line_.size() || line_[at_] == '#') return std::nullopt;
+  if (line_[at_] == '"') return quotedWord();
+  if (line_[at_] == '{') return bracedWord();
+  return plainWord();
+}
+
+Word WordReader::quotedWord() {
+  const std::size_t start = at_++;
+  Word word{"", true, column(start)};
+  while (at_ < line_.size() && line_[at_] != '"') {
+    if (line_[at_] == '\\')
+      word.text += escape();
+    else
+      word.text += line_[at_++];
+  }
+  if (at_ == line_.size()) throw ScriptError(word.column, "expected a closing quote");
+  ++at_;
+  requireWordEnd();
+  return word;
+}
+
+std::string WordReader::escape() {
+  const std::size_t start = at_++;
+  const char letter = at_ < line_.size() ? line_[at_++] : '\0';
+  switch (letter) {
+    case '"':
+    case '\\':
+      return {letter};
+    case 'n':
+      return "\n";
+    case 'u':
+      return unicodeEscape(start);
+    default:
+      throw ScriptError(column(start), R"(expected one of the escapes \" \\ \n \u{...})");
+  }
+}
+
+std::string WordReader::unicodeEscape(std::size_t start) {
+  const std::string_view rest = line_.substr(at_);
+  const std::size_t close = rest.find('}');
+  unsigned long scalar = 0;
+  std::string character;
+  if (rest.starts_with('{') && close != std::string_view::npos) {
+    const char* last = rest.data() + close;
+    const auto end = std::from_chars(rest.data() + 1, last, scalar, 16);
+    // NUL would end every C string that the text becomes.
+    if (end.ec == std::errc() && end.ptr == last && scalar != 0) character = utf8(scalar);
+  }
+  if (character.empty())
+    throw ScriptError(column(start), R"(expected a character's number, as in \u{1F319})");
+  at_ += close + 1;
+  return character;
+}
+
+Word WordReader::bracedWord() {
+  const std::size_t start = at_;
+  int depth = 0;
+  do {
+    if (at_ == line_.size() || line_[at_] == '#')
+      throw ScriptError(column(start), "expected a closing brace");
+    if (line_[at_] == '{') ++depth;
+    if (line_[at_] == '}') --depth;
+    ++at_;
+  } while (depth > 0);
+  requireWordEnd();
+  return {std::string(line_.substr(start, at_ - start)), false, column(start)};
+}
+
+Word WordReader::plainWord() {
+  const std::size_t start = at_;
+  while (!atWordEnd()) {
+    if (line_[at_] == '"') throw ScriptError(column(at_), "expected a space before the quote");
+    ++at_;
+  }
+  return {std::string(line_.substr(start, at_ - start)), false, column(start)};
+}
+
+}  // namespace sim

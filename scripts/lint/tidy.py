@@ -10,6 +10,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
@@ -24,18 +25,25 @@ PRECOMPILED = "-Winvalid-pch"  # then come -include and a header
 LARGEST_UNIT = 16
 
 
+def joined(file):
+    """The sources that CMake's file joins; a source of ours alone."""
+    if file.parent.name != "Unity":
+        return [file]
+    return map(pathlib.Path, re.findall(r'^#include "(.+)"$', file.read_text(), re.MULTILINE))
+
+
 def sources(build):
     """The C++ files to check, each with how it is compiled and into what: once, even if into
     several programs."""
     found = {}
     for entry in json.loads((build / "compile_commands.json").read_text()):
-        file = pathlib.Path(entry["file"])
-        inside = file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in FOLDERS
-        if inside and file.suffix == ".cpp":
-            words = shlex.split(entry["command"])
-            first = next(at for at, word in enumerate(words) if word.startswith("-"))
-            out = words.index("-o")
-            found.setdefault(file, (tuple(words[first:out]), words[out + 1]))
+        words = shlex.split(entry["command"])
+        first = next(at for at, word in enumerate(words) if word.startswith("-"))
+        out = words.index("-o")
+        for file in joined(pathlib.Path(entry["file"])):
+            inside = file.is_relative_to(ROOT) and file.relative_to(ROOT).parts[0] in FOLDERS
+            if inside and file.suffix == ".cpp":
+                found.setdefault(file, (tuple(words[first:out]), words[out + 1]))
     return found
 
 

@@ -4,9 +4,11 @@
 Whether clang-tidy still finds mistakes the way that tidy.py runs it: several sources as one, and
 the checks kept out of the system's headers. FOLDER is for what it writes."""
 
+import json
 import pathlib
 import re
 import sys
+import tempfile
 import unittest
 
 sys.dont_write_bytecode = True
@@ -43,6 +45,17 @@ class TidyTest(unittest.TestCase):
     def test_finds_them_among_other_sources(self):
         found = self.found([SAMPLES / "Careful.cpp", SAMPLES / "Careless.cpp"])
         self.assertEqual({mistake for _, mistake in found}, MISTAKES)
+
+    def test_knows_the_sources_that_the_build_joins(self):
+        with tempfile.TemporaryDirectory() as folder:
+            build = pathlib.Path(folder)
+            (build / "Unity").mkdir()
+            unit = build / "Unity/unit.cxx"
+            twins = [tidy.ROOT / "tools/Twin.cpp", tidy.ROOT / "tools/OtherTwin.cpp"]
+            unit.write_text("".join(f'/* NOLINT */\n#include "{twin}"\n' for twin in twins))
+            (build / "compile_commands.json").write_text(json.dumps(
+                [{"file": str(unit), "command": f"g++ -g1 -o unit.o -c {unit}"}]))
+            self.assertEqual(tidy.sources(build), {twin: (("-g1",), "unit.o") for twin in twins})
 
     def test_passes_sources_that_use_the_same_name(self):
         twins = [SAMPLES / "Twin.cpp", SAMPLES / "OtherTwin.cpp"]

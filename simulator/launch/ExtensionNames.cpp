@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <link.h>
 
+#include <algorithm>
 #include <cctype>
 
 namespace sim {
@@ -10,7 +11,7 @@ namespace {
 
 struct Search {
   const link_map* library;
-  std::set<std::string, std::less<>> names;
+  std::vector<std::string_view>& names;
 };
 
 bool canBeInName(char letter) {
@@ -19,18 +20,15 @@ bool canBeInName(char letter) {
 }
 
 // Sanitizers put unreadable bytes around constants; they do not check this function.
-__attribute__((no_sanitize("address"))) void addNames(std::set<std::string, std::less<>>& names,
+__attribute__((no_sanitize("address"))) void addNames(std::vector<std::string_view>& names,
                                                       const char* bytes, std::size_t count) {
   constexpr std::size_t shortest = 2;
-  std::string name;  // letter by letter: whoever copies several is checked
-  for (std::size_t at = 0; at < count; ++at) {
-    const char letter = bytes[at];
-    if (canBeInName(letter)) {
-      name += letter;
-      continue;
-    }
-    if (letter == '\0' && name.size() >= shortest) names.insert(name);
-    name.clear();
+  const char* name = bytes;
+  for (const char* at = bytes; at != bytes + count; ++at) {
+    if (canBeInName(*at)) continue;
+    const auto length = std::size_t(at - name);
+    if (*at == '\0' && length >= shortest) names.emplace_back(name, length);
+    name = at + 1;
   }
 }
 
@@ -49,10 +47,11 @@ int readSegments(dl_phdr_info* library, std::size_t, void* context) {
 
 }  // namespace
 
-std::set<std::string, std::less<>> namesWithin(void* handle) {
-  Search search{nullptr, {}};
+void addNamesWithin(void* handle, std::vector<std::string_view>& names) {
+  Search search{nullptr, names};
   if (dlinfo(handle, RTLD_DI_LINKMAP, &search.library) == 0) dl_iterate_phdr(readSegments, &search);
-  return std::move(search.names);
+  std::sort(names.begin(), names.end());
+  names.erase(std::unique(names.begin(), names.end()), names.end());
 }
 
 }  // namespace sim

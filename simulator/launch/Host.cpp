@@ -75,7 +75,7 @@ void Host::load(const std::filesystem::path& extension) {
   void* handle = dlopen(std::filesystem::absolute(extension).c_str(), RTLD_NOW | RTLD_LOCAL);
   if (handle == nullptr) throw HostError(std::string("the extension does not load: ") + dlerror());
   handles_.push_back(handle);
-  Phone::current().extensionNames.merge(namesWithin(handle));
+  addNamesWithin(handle, Phone::current().extensionNames);
 }
 
 std::optional<Host::Symbol> Host::symbol(const char* name) const {

@@ -5,9 +5,9 @@
 #include <functional>
 #include <map>
 #include <nlohmann/json_fwd.hpp>
-#include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "simulator/machine/Clock.h"
 #include "simulator/machine/Journal.h"
@@ -35,7 +35,7 @@ class Phone {
   MainQueue queue{clock};
   Journal journal{clock};
   Setup setup;
-  std::set<std::string, std::less<>> extensionNames;  // see launch/ExtensionNames.h
+  std::vector<std::string_view> extensionNames;  // sorted; see launch/ExtensionNames.h
 
   // Where a path of the phone ("/var/jb/…") lies on this machine: below the root folder.
   // A path that would leave the root ("..") stays inside it.

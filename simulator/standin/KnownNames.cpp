@@ -101,7 +101,7 @@ bool isNamedByExtension(const std::string& name) {
   // text need not be one.
   const auto& names = Phone::current().extensionNames;
   return std::any_of(names.begin(), names.end(),
-                     [&name](const std::string& each) { return each.ends_with(name); });
+                     [&name](std::string_view each) { return each.ends_with(name); });
 }
 
 }  // namespace sim

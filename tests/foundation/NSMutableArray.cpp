@@ -7,7 +7,7 @@ using objc::Object;
 using objc::send;
 using NSMutableArrayTest = FoundationTest;
 
-Object make() {
+Object newArray() {
   return send<Object, "arrayWithArray:">(
       cls("NSMutableArray"), array({string("a"), string("b"), string("a"), string("c")}));
 }
@@ -26,7 +26,7 @@ TEST_F(NSMutableArrayTest, addsAndInserts) {
 }
 
 TEST_F(NSMutableArrayTest, removes) {
-  const Object list = make();
+  const Object list = newArray();
   send<void, "removeObject:">(list, string("a"));
   EXPECT_EQ(joined(list), "bc");
   send<void, "removeObjectAtIndex:">(list, 0ul);
@@ -48,7 +48,7 @@ TEST_F(NSMutableArrayTest, removesAnElementThatOnlyItKeeps) {
 }
 
 TEST_F(NSMutableArrayTest, replacesAndExchanges) {
-  const Object list = make();
+  const Object list = newArray();
   send<void, "replaceObjectAtIndex:withObject:">(list, 0ul, string("x"));
   send<void, "exchangeObjectAtIndex:withObjectAtIndex:">(list, 0ul, 3ul);
   EXPECT_EQ(joined(list), "cbax");
@@ -59,7 +59,7 @@ TEST_F(NSMutableArrayTest, replacesAndExchanges) {
 }
 
 TEST_F(NSMutableArrayTest, copyDoesNotFollow) {
-  const Object list = make();
+  const Object list = newArray();
   const auto copy = objc::adopt(send<Object, "copy">(list));
   const auto changing = objc::adopt(send<Object, "mutableCopy">(copy.get()));
   send<void, "removeAllObjects">(list);
@@ -72,14 +72,14 @@ TEST_F(NSMutableArrayTest, copyDoesNotFollow) {
 using NSMutableArrayDeathTest = FoundationTest;
 
 TEST_F(NSMutableArrayDeathTest, stopsForNil) {
-  EXPECT_DEATH((send<void, "addObject:">(make(), nullptr)),
+  EXPECT_DEATH((send<void, "addObject:">(newArray(), nullptr)),
                "insertObject:atIndex:\\]: object cannot be nil");
 }
 
 TEST_F(NSMutableArrayDeathTest, stopsBehindTheEnd) {
-  EXPECT_DEATH((send<void, "removeObjectAtIndex:">(make(), 4ul)),
+  EXPECT_DEATH((send<void, "removeObjectAtIndex:">(newArray(), 4ul)),
                "index 4 beyond bounds \\[0 .. 3\\]");
-  EXPECT_DEATH((send<void, "insertObject:atIndex:">(make(), string("x"), 5ul)), "index 5 beyond");
+  EXPECT_DEATH((send<void, "insertObject:atIndex:">(newArray(), string("x"), 5ul)), "index 5 beyond");
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ using objc::Object;
 using objc::send;
 using NSMutableDictionaryTest = FoundationTest;
 
-Object make() {
+Object newDictionary() {
   return send<Object, "dictionary">(cls("NSMutableDictionary"));
 }
 Object value(Object made, const char* key) {
@@ -15,7 +15,7 @@ Object value(Object made, const char* key) {
 }
 
 TEST_F(NSMutableDictionaryTest, setsAndRemoves) {
-  const Object made = make();
+  const Object made = newDictionary();
   send<void, "setObject:forKey:">(made, number(1L), string("a"));
   send<void, "setObject:forKey:">(made, number(2L), string("a"));
   EXPECT_EQ(description(value(made, "a")), "2");
@@ -26,7 +26,7 @@ TEST_F(NSMutableDictionaryTest, setsAndRemoves) {
 }
 
 TEST_F(NSMutableDictionaryTest, removesByANilSubscript) {
-  const Object made = make();
+  const Object made = newDictionary();
   send<void, "setObject:forKeyedSubscript:">(made, number(1L), string("a"));
   EXPECT_TRUE(value(made, "a"));
   send<void, "setObject:forKeyedSubscript:">(made, nullptr, string("a"));
@@ -34,7 +34,7 @@ TEST_F(NSMutableDictionaryTest, removesByANilSubscript) {
 }
 
 TEST_F(NSMutableDictionaryTest, removesByItsOwnKey) {
-  const Object made = make();
+  const Object made = newDictionary();
   {
     const objc::AutoreleasePool pool;
     send<void, "setObject:forKey:">(made, number(1L), string("only"));
@@ -45,7 +45,7 @@ TEST_F(NSMutableDictionaryTest, removesByItsOwnKey) {
 }
 
 TEST_F(NSMutableDictionaryTest, takesOverEntries) {
-  const Object made = make();
+  const Object made = newDictionary();
   const Object source = dictionary({{string("a"), number(1L)}, {string("b"), number(2L)}});
   send<void, "setObject:forKey:">(made, number(0L), string("a"));
   send<void, "addEntriesFromDictionary:">(made, source);
@@ -57,7 +57,7 @@ TEST_F(NSMutableDictionaryTest, takesOverEntries) {
 }
 
 TEST_F(NSMutableDictionaryTest, copyDoesNotFollow) {
-  const Object made = make();
+  const Object made = newDictionary();
   send<void, "setObject:forKey:">(made, number(1L), string("a"));
   const auto copy = objc::adopt(send<Object, "copy">(made));
   send<void, "removeAllObjects">(made);
@@ -68,11 +68,11 @@ TEST_F(NSMutableDictionaryTest, copyDoesNotFollow) {
 using NSMutableDictionaryDeathTest = FoundationTest;
 
 TEST_F(NSMutableDictionaryDeathTest, stopsForNil) {
-  EXPECT_DEATH((send<void, "setObject:forKey:">(make(), nullptr, string("k"))),
+  EXPECT_DEATH((send<void, "setObject:forKey:">(newDictionary(), nullptr, string("k"))),
                "setObject:forKey:\\]: object cannot be nil \\(key: k\\)");
-  EXPECT_DEATH((send<void, "setObject:forKey:">(make(), string("v"), nullptr)),
+  EXPECT_DEATH((send<void, "setObject:forKey:">(newDictionary(), string("v"), nullptr)),
                "setObject:forKey:\\]: key cannot be nil");
-  EXPECT_DEATH((send<void, "removeObjectForKey:">(make(), nullptr)), "key cannot be nil");
+  EXPECT_DEATH((send<void, "removeObjectForKey:">(newDictionary(), nullptr)), "key cannot be nil");
 }
 
 }  // namespace

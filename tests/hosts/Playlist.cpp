@@ -5,7 +5,7 @@
 namespace sim {
 namespace {
 
-constexpr Nanoseconds second = nanosecondsPerSecond;
+constexpr Nanoseconds oneSecond = nanosecondsPerSecond;
 
 std::vector<Track> parsed(std::string_view content) {
   return parsePlaylist(content, "night.m3u");
@@ -24,9 +24,9 @@ TEST(Playlist, ReadsLengthsAndTitles) {
   const auto tracks = parsed("#EXTM3U\n#EXTINF:180,Rain\nrain.mp3\n#EXTINF:90.5,Sea\nsea.mp3\n");
   ASSERT_EQ(tracks.size(), 2U);
   EXPECT_EQ(tracks[0].title, "Rain");
-  EXPECT_EQ(tracks[0].length, 180 * second);
+  EXPECT_EQ(tracks[0].length, 180 * oneSecond);
   EXPECT_EQ(tracks[1].title, "Sea");
-  EXPECT_EQ(tracks[1].length, 90 * second + second / 2);
+  EXPECT_EQ(tracks[1].length, 90 * oneSecond + oneSecond / 2);
 }
 
 TEST(Playlist, SplitsArtistAndTitleAtTheFirstDash) {
@@ -40,14 +40,14 @@ TEST(Playlist, TitlesAreWhatFollowsTheFirstCommaOutsideQuotes) {
   const auto tracks = parsed("#EXTINF:60 logo=\"a,b\",Rain, then sun\nx.mp3\n");
   ASSERT_EQ(tracks.size(), 1U);
   EXPECT_EQ(tracks[0].title, "Rain, then sun");
-  EXPECT_EQ(tracks[0].length, 60 * second);
+  EXPECT_EQ(tracks[0].length, 60 * oneSecond);
 }
 
 TEST(Playlist, TracksWithoutInformationAreNamedLikeTheirFile) {
   const auto tracks = parsed("music/Slow Rain.flac\nC:\\Music\\Sea.mp3\nnoise\n");
   ASSERT_EQ(tracks.size(), 3U);
   EXPECT_EQ(tracks[0].title, "Slow Rain");
-  EXPECT_EQ(tracks[0].length, 180 * second);
+  EXPECT_EQ(tracks[0].length, 180 * oneSecond);
   EXPECT_EQ(tracks[1].title, "Sea");
   EXPECT_EQ(tracks[2].title, "noise");
 }
@@ -56,7 +56,7 @@ TEST(Playlist, InformationBelongsToOneTrackOnly) {
   const auto tracks = parsed("#EXTINF:10,Rain\nrain.mp3\nsea.mp3\n");
   ASSERT_EQ(tracks.size(), 2U);
   EXPECT_EQ(tracks[1].title, "sea");
-  EXPECT_EQ(tracks[1].length, 180 * second);
+  EXPECT_EQ(tracks[1].length, 180 * oneSecond);
 }
 
 TEST(Playlist, ByteOrderMarkCarriageReturnsCommentsAndBlankLinesAreSkipped) {
@@ -67,7 +67,7 @@ TEST(Playlist, ByteOrderMarkCarriageReturnsCommentsAndBlankLinesAreSkipped) {
   EXPECT_EQ(tracks[0].title,
             "Schlaf \xC3\xBC"
             "ber");
-  EXPECT_EQ(tracks[0].length, 5 * second);
+  EXPECT_EQ(tracks[0].length, 5 * oneSecond);
 }
 
 TEST(Playlist, TheLastLineNeedsNoLineBreak) {

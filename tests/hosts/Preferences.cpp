@@ -91,13 +91,13 @@ TEST_F(Preferences, ChangesAreToldInTheLibrarysOrder) {
   static long length;
   objc::send<void, "registerInteger:default:forKey:">(preferences.get(), &length, 15L,
                                                       string("length"));
-  struct Listener : objc::Implementation<Listener> {
+  struct ChangeListener : objc::Implementation<ChangeListener> {
     void didChange(objc::Object) { told.push_back("notification " + std::to_string(length)); }
   };
-  objc::ClassBuilder<Listener>("TestListener", "NSObject")
-      .method<"didChange:", &Listener::didChange>()
+  objc::ClassBuilder<ChangeListener>("TestListener", "NSObject")
+      .method<"didChange:", &ChangeListener::didChange>()
       .finish();
-  const auto listener = Listener::make();
+  const auto listener = ChangeListener::make();
   objc::send<void, "addObserver:selector:name:object:">(
       objc::send<objc::Object, "defaultCenter">(objc_getClass("NSNotificationCenter")),
       listener.get(), objc::selector<"didChange:">(), HBPreferencesDidChangeNotification,

@@ -112,22 +112,22 @@ std::string withState(const std::string& element) {
   return "<CALayer id=\"#1\" name=\"root\"><states><CAState name=\"on\"><elements>" + element +
          "</elements></CAState></states></CALayer>";
 }
-std::string setting(const std::string& keyPath, const std::string& value) {
+std::string settingOf(const std::string& keyPath, const std::string& value) {
   return withState("<CAStateSetValue targetId=\"#1\" keyPath=\"" + keyPath + "\">" + value +
                    "</CAStateSetValue>");
 }
 
 TEST_F(Refusals, OfStatesThatCouldNotBeTakenOn) {
-  EXPECT_EQ(problemIn(setting("opacity", "<value type=\"string\" value=\"x\"/>")),
+  EXPECT_EQ(problemIn(settingOf("opacity", "<value type=\"string\" value=\"x\"/>")),
             "2:68: expected a number for opacity");
-  EXPECT_EQ(problemIn(setting("opacity", "")), "2:68: expected a number for opacity");
-  EXPECT_EQ(problemIn(setting("", "<value value=\"1\"/>")),
+  EXPECT_EQ(problemIn(settingOf("opacity", "")), "2:68: expected a number for opacity");
+  EXPECT_EQ(problemIn(settingOf("", "<value value=\"1\"/>")),
             "2:68: expected the name of a property");
-  EXPECT_EQ(problemIn(setting("position.z", "<value value=\"1\"/>")),
+  EXPECT_EQ(problemIn(settingOf("position.z", "<value value=\"1\"/>")),
             "2:68: expected the key path of a property, found \"position.z\"");
-  EXPECT_EQ(problemIn(setting("delegate.layer", "<value value=\"1\"/>")),
+  EXPECT_EQ(problemIn(settingOf("delegate.layer", "<value value=\"1\"/>")),
             "2:68: expected the key path of a property, found \"delegate.layer\"");
-  EXPECT_EQ(problemIn(setting("mask", "<value type=\"CALayer\"/>")),
+  EXPECT_EQ(problemIn(settingOf("mask", "<value type=\"CALayer\"/>")),
             "2:68: expected a value to be set, found \"mask\"");
   EXPECT_EQ(problemIn(withState("<CAStateSetValue keyPath=\"opacity\"/>")),
             "2:68: there is no layer with the id \"\"");

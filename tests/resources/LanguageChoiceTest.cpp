@@ -4,19 +4,19 @@
 namespace sim {
 namespace {
 
-constexpr const char* bundle = "/var/jb/Some.bundle";
+constexpr const char* bundleOfLanguages = "/var/jb/Some.bundle";
 
 class LanguageChoice : public PhoneWithFiles {
  protected:
   void offer(std::initializer_list<const char*> languages) {
     for (const std::string language : languages)
-      write(bundle + ("/" + language + ".lproj/Localizable.strings"),
+      write(bundleOfLanguages + ("/" + language + ".lproj/Localizable.strings"),
             "\"WHICH\" = \"" + language + "\";");
   }
 
   std::string chosenFor(const std::string& locale) {
     phone.setup.locale = locale;
-    return localized(bundle, "WHICH");
+    return localized(bundleOfLanguages, "WHICH");
   }
 };
 
@@ -70,7 +70,7 @@ TEST_F(LanguageChoice, FillsNoGapFromAnotherLanguage) {
   offer({"en", "fr"});
   write("/var/jb/Some.bundle/en.lproj/Localizable.strings", "\"ONLY\" = \"here\";");
   phone.setup.locale = "fr_FR";
-  EXPECT_EQ(localized(bundle, "ONLY"), "?");
+  EXPECT_EQ(localized(bundleOfLanguages, "ONLY"), "?");
 }
 
 TEST_F(LanguageChoice, LetsATableBesideTheLanguagesHideThem) {

@@ -6,15 +6,15 @@ namespace {
 
 using namespace std::string_literals;
 
-constexpr const char* bundle = "/var/jb/Some.bundle";
+constexpr const char* malformed = "/var/jb/Some.bundle";
 constexpr const char* complaint =
     "log \"Unable to load .strings file: /var/jb/Some.bundle / Localizable\"";
 
 class Tables : public PhoneWithFiles {
  protected:
   std::string read(const std::string& table, std::string_view key = "KEY") {
-    write(bundle + "/en.lproj/Localizable.strings"s, table);
-    return localized(bundle, key);
+    write(malformed + "/en.lproj/Localizable.strings"s, table);
+    return localized(malformed, key);
   }
 
   // Its good entry counts for nothing either.
@@ -89,16 +89,16 @@ TEST_F(Tables, AreRefusedWhenTheyAreOtherFiles) {
 TEST_F(Tables, MayBeEmptyOrMissing) {
   EXPECT_EQ(read(""), "?");
   EXPECT_EQ(read(" /* nothing */ \n"), "?");
-  std::filesystem::remove(phone.file(bundle + "/en.lproj/Localizable.strings"s));
-  EXPECT_EQ(localized(bundle, "KEY"), "?");
+  std::filesystem::remove(phone.file(malformed + "/en.lproj/Localizable.strings"s));
+  EXPECT_EQ(localized(malformed, "KEY"), "?");
   EXPECT_EQ(journal(), std::vector<std::string>());
 }
 
 TEST_F(Tables, GiveTheKeyWhereNeitherTextNorValueIs) {
-  write(bundle + "/en.lproj/Localizable.strings"s, "");
+  write(malformed + "/en.lproj/Localizable.strings"s, "");
   const auto ask = [](objc::Object key, objc::Object value) {
     return text(objc::send<objc::Object, "localizedStringForKey:value:table:">(
-        bundleAt(bundle), key, value, objc::Object()));
+        bundleAt(malformed), key, value, objc::Object()));
   };
   EXPECT_EQ(ask(string("KEY"), nullptr), "KEY");
   EXPECT_EQ(ask(string("KEY"), string("")), "KEY");

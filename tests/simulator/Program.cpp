@@ -9,10 +9,6 @@
 namespace sim {
 namespace {
 
-std::string firstLine(const std::string& text) {
-  return text.substr(0, text.find('\n'));
-}
-
 TEST(Program, WrongUsageIsStatusTwo) {
   for (const char* words :
        {"nope", "play", "play --nope x", "play --tweak", "commands x", "play --root a b c",

@@ -8,10 +8,6 @@
 namespace sim {
 namespace {
 
-std::string firstLine(const std::string& text) {
-  return text.substr(0, text.find('\n'));
-}
-
 TEST(Restarts, LoseObjectsAndSayWhere) {
   const Outcome outcome = play("boot\nlet s Sample.shared\nrespring\nadvance 1s\nget $s.count");
   EXPECT_EQ(outcome.status, 1);

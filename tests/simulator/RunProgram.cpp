@@ -13,7 +13,7 @@
 namespace sim {
 namespace {
 
-const std::filesystem::path& folder() {
+const std::filesystem::path& testFolder() {
   static const TemporaryFolder made;
   return made.path();
 }
@@ -25,14 +25,18 @@ std::string contents(const std::filesystem::path& file) {
 
 }  // namespace
 
+std::string firstLine(const std::string& text) {
+  return text.substr(0, text.find('\n'));
+}
+
 std::string writeFile(const std::string& name, const std::string& text) {
-  const auto file = folder() / name;
+  const auto file = testFolder() / name;
   std::ofstream(file, std::ios::binary) << text;
   return file.string();
 }
 
 Outcome runSimulator(const std::string& shellWords) {
-  const auto output = folder() / "output", errors = folder() / "errors";
+  const auto output = testFolder() / "output", errors = testFolder() / "errors";
   const std::string command =
       "'" SIMULATOR "' " + shellWords + " > '" + output.string() + "' 2> '" + errors.string() + "'";
   const int status = std::system(command.c_str());

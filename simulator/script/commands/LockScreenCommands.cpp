@@ -24,8 +24,8 @@ void unlock(Arguments& words) {
   LockScreen::current().unlock();
 }
 
-[[noreturn]] void failExpectation(const std::string& what, const std::string& expected,
-                                  const std::string& found) {
+[[noreturn]] void refuseLockScreen(const std::string& what, const std::string& expected,
+                                   const std::string& found) {
   throw ScriptError(0, "the lock screen's " + what + ": expected " + expected + ", found " + found);
 }
 
@@ -35,7 +35,7 @@ void expectDate(Arguments& words) {
   words.finish();
   const auto found = LockScreen::current().dateText();
   const auto shown = [](const auto& text) { return text ? sim::quoted(*text) : "none"; };
-  if (found != expected) failExpectation("date", shown(expected), shown(found));
+  if (found != expected) refuseLockScreen("date", shown(expected), shown(found));
 }
 
 bool areNear(std::optional<double> expected, std::optional<double> found, double tolerance) {
@@ -53,7 +53,7 @@ void expectTimer(Arguments& words) {
   const auto found = LockScreen::current().countdown();
   const auto shown = [](const auto& left) { return left ? notation(*left) : "none"; };
   if (!areNear(expected, found, tolerance))
-    failExpectation("countdown", shown(expected), shown(found));
+    refuseLockScreen("countdown", shown(expected), shown(found));
 }
 
 objc::Object lockScreenPlayer() {

@@ -105,8 +105,8 @@ void volumeKey(Arguments& words) {
   AudioSystem::current().setVolume(level);
 }
 
-[[noreturn]] void failExpectation(const std::string& what, const std::string& expected,
-                                  const std::string& found) {
+[[noreturn]] void refusePlayer(const std::string& what, const std::string& expected,
+                               const std::string& found) {
   throw ScriptError(0, what + ": expected " + expected + ", found " + found);
 }
 
@@ -118,14 +118,14 @@ void expectVolume(Arguments& words) {
   const float found = AudioSystem::current().volume();
   // Negated, so that a tolerance that is no number fails.
   if (!(std::abs(double(found) - double(level)) <= tolerance))
-    failExpectation("volume", notation(level), notation(found));
+    refusePlayer("volume", notation(level), notation(found));
 }
 
 void expectPlaying(Arguments& words) {
   const bool expected = words.yesOrNo("whether music plays");
   words.finish();
   const bool found = Player::current().isPlaying();
-  if (found != expected) failExpectation("playing", notation(expected), notation(found));
+  if (found != expected) refusePlayer("playing", notation(expected), notation(found));
 }
 
 void expectTrack(Arguments& words) {
@@ -135,7 +135,7 @@ void expectTrack(Arguments& words) {
   const Track* track = Player::current().track();
   const auto found = track == nullptr ? std::nullopt : track->title;
   const auto shown = [](const auto& title) { return title ? sim::quoted(*title) : "none"; };
-  if (found != expected) failExpectation("track", shown(expected), shown(found));
+  if (found != expected) refusePlayer("track", shown(expected), shown(found));
 }
 
 template <auto action>

@@ -112,14 +112,14 @@ Value restored(const SavedValue& from) {
   throw std::invalid_argument("a saved value is of no known kind");
 }
 
-void to_json(nlohmann::json& json, const SavedValue& value) {
-  json = {int(value.kind), value.type, value.bytes};
+void to_json(nlohmann::json& node, const SavedValue& value) {
+  node = {int(value.kind), value.type, value.bytes};
 }
 
-void from_json(const nlohmann::json& json, SavedValue& value) {
-  value.kind = Kind(json.at(0).get<int>());
-  json.at(1).get_to(value.type);
-  json.at(2).get_to(value.bytes);
+void from_json(const nlohmann::json& node, SavedValue& value) {
+  value.kind = Kind(node.at(0).get<int>());
+  node.at(1).get_to(value.type);
+  node.at(2).get_to(value.bytes);
 }
 
 }  // namespace sim

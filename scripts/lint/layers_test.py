@@ -15,7 +15,7 @@ GOOD = [
     ("tweak/panel/Page.h", "platform/UIKit.h"),
 ]
 BAD = [
-    ("simulator/quartzcore/CALayer.h", "simulator/uikit/UIView.h",
+    ("simulator/quartzcore/CALayer.h", "simulator/uikit/views/UIView.h",
      "simulator/quartzcore must not include simulator/uikit, which comes after it"),
     ("simulator/machine/Phone.h", "simulator/script/words/Script.h",
      "simulator/machine must not include simulator/script, which comes after it"),

@@ -4,7 +4,7 @@
 #include "simulator/quartzcore/CALayer.h"
 #include "simulator/quartzcore/CAPackage.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/Animation.h"
+#include "simulator/uikit/animation/Animation.h"
 
 namespace sim {
 

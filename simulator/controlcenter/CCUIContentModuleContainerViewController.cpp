@@ -1,7 +1,7 @@
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 

@@ -5,7 +5,7 @@
 #include "simulator/controlcenter/ModuleSymbols.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -11,7 +11,7 @@
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/standin/Registration.h"
-#include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/application/UIWindow.h"
 
 namespace sim {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "objc/Message.h"
 #include "simulator/springboard/Shapes.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

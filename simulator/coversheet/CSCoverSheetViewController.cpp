@@ -11,7 +11,7 @@
 #include "simulator/springboard/ClockText.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -10,7 +10,7 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/springboard/StatusBar.h"
-#include "simulator/uikit/Looking.h"
+#include "simulator/uikit/application/Looking.h"
 
 namespace sim {
 namespace {

@@ -6,14 +6,14 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CAGradientLayer.h"
 #include "simulator/quartzcore/CAShapeLayer.h"
-#include "simulator/uikit/LabelText.h"
-#include "simulator/uikit/LayoutDirection.h"
-#include "simulator/uikit/UIButton.h"
-#include "simulator/uikit/UIColor.h"
-#include "simulator/uikit/UIImage.h"
-#include "simulator/uikit/UIImageView.h"
-#include "simulator/uikit/UILabel.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/controls/UIButton.h"
+#include "simulator/uikit/resources/UIColor.h"
+#include "simulator/uikit/resources/UIImage.h"
+#include "simulator/uikit/views/LabelText.h"
+#include "simulator/uikit/views/LayoutDirection.h"
+#include "simulator/uikit/views/UIImageView.h"
+#include "simulator/uikit/views/UILabel.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

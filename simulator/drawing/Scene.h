@@ -15,7 +15,7 @@
 #include "simulator/coretext/FontStyle.h"
 #include "simulator/coretext/Typesetter.h"
 #include "simulator/quartzcore/CAShapeLayer.h"
-#include "simulator/uikit/LabelText.h"
+#include "simulator/uikit/views/LabelText.h"
 
 namespace sim::scene {
 

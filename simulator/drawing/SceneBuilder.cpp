@@ -4,10 +4,10 @@
 #include "simulator/drawing/NodeContent.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/machine/Phone.h"
-#include "simulator/uikit/Looking.h"
-#include "simulator/uikit/UIScreen.h"
-#include "simulator/uikit/UIView.h"
-#include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/UIScreen.h"
+#include "simulator/uikit/application/UIWindow.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

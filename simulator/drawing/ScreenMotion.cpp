@@ -4,8 +4,8 @@
 
 #include "simulator/foundation/Kind.h"
 #include "simulator/quartzcore/CALayer.h"
-#include "simulator/uikit/UIView.h"
-#include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/application/UIWindow.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

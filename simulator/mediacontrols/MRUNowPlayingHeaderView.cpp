@@ -5,7 +5,7 @@
 #include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/mediacontrols/MRULayout.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -2,9 +2,9 @@
 
 #include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/UIControl.h"
-#include "simulator/uikit/ViewAccessibility.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/controls/UIControl.h"
+#include "simulator/uikit/views/ViewAccessibility.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 

@@ -5,7 +5,7 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/mediacontrols/MRUTransportButton.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

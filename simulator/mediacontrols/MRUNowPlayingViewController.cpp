@@ -14,7 +14,7 @@
 #include "simulator/mediaremote/Player.h"
 #include "simulator/radios/Radios.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -3,7 +3,7 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/radios/Radios.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

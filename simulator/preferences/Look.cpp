@@ -2,8 +2,8 @@
 
 #include "objc/Message.h"
 #include "simulator/springboard/Shapes.h"
-#include "simulator/uikit/LayoutDirection.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/LayoutDirection.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim::look {
 namespace {

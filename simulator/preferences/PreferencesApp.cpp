@@ -8,8 +8,8 @@
 #include "simulator/preferences/Pages.h"
 #include "simulator/preferences/SystemWords.h"
 #include "simulator/preferences/TapArea.h"
-#include "simulator/uikit/UIWindow.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/application/UIWindow.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -8,8 +8,8 @@
 #include "simulator/preferences/SwitchView.h"
 #include "simulator/preferences/TapArea.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewAccessibility.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewAccessibility.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

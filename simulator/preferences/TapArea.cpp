@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/UIControl.h"
-#include "simulator/uikit/UITouch.h"
+#include "simulator/uikit/controls/UIControl.h"
+#include "simulator/uikit/touches/UITouch.h"
 
 namespace sim {
 namespace {

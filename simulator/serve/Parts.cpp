@@ -5,7 +5,7 @@
 #include "simulator/preferences/PreferencesApp.h"
 #include "simulator/serve/ServedPhone.h"
 #include "simulator/springboard/SBBacklightController.h"
-#include "simulator/uikit/UIApplication.h"
+#include "simulator/uikit/application/UIApplication.h"
 
 namespace sim {
 

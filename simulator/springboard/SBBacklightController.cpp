@@ -1,7 +1,7 @@
 #include "simulator/springboard/SBBacklightController.h"
 
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/UIScreen.h"
+#include "simulator/uikit/application/UIScreen.h"
 
 namespace sim {
 

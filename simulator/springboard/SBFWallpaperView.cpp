@@ -5,7 +5,7 @@
 #include "simulator/quartzcore/CAGradientLayer.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -6,8 +6,8 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/springboard/HomeIcons.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/UIControl.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/controls/UIControl.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -3,7 +3,7 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/quartzcore/PathText.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 

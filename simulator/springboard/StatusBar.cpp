@@ -3,8 +3,8 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/springboard/StatusBarView.h"
-#include "simulator/uikit/Looking.h"
-#include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/UIWindow.h"
 
 namespace sim {
 namespace {

@@ -5,8 +5,8 @@
 #include "simulator/springboard/ClockText.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/UIScreen.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/application/UIScreen.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -1,4 +1,4 @@
-#include "simulator/uikit/UIImage.h"
+#include "simulator/uikit/resources/UIImage.h"
 #include "tests/autolayout/LayoutTest.h"
 
 namespace sim {

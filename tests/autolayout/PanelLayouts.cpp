@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "simulator/foundation/NSData.h"
-#include "simulator/uikit/UIImage.h"
+#include "simulator/uikit/resources/UIImage.h"
 #include "tests/autolayout/LayoutTest.h"
 #include "tools/nibc/Compiler.h"
 #include "tools/nibc/nib/Writer.h"

@@ -1,7 +1,7 @@
 // The parts of the Now Playing module, each by itself.
 #include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/mediacontrols/MRUNowPlayingHeaderView.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/views/UIView.h"
 #include "tests/hosts/TestHost.h"
 
 namespace sim {

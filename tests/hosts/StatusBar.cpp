@@ -2,9 +2,9 @@
 #include "simulator/springboard/StatusBar.h"
 
 #include "simulator/springboard/StatusBarView.h"
-#include "simulator/uikit/Looking.h"
-#include "simulator/uikit/UIView.h"
-#include "simulator/uikit/UIWindow.h"
+#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/UIWindow.h"
+#include "simulator/uikit/views/UIView.h"
 #include "tests/hosts/TestHost.h"
 
 namespace sim {

@@ -1,5 +1,5 @@
 // What a screen reader is told of views.
-#include "simulator/uikit/ViewAccessibility.h"
+#include "simulator/uikit/views/ViewAccessibility.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {

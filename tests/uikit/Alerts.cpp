@@ -1,6 +1,6 @@
-#include "simulator/uikit/AlertView.h"
-#include "simulator/uikit/Touch.h"
-#include "simulator/uikit/UIAlertController.h"
+#include "simulator/uikit/alerts/AlertView.h"
+#include "simulator/uikit/alerts/UIAlertController.h"
+#include "simulator/uikit/touches/Touch.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {

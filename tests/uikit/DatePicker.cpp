@@ -1,7 +1,7 @@
 #include <functional>
 
-#include "simulator/uikit/UILabel.h"
-#include "simulator/uikit/ViewTree.h"
+#include "simulator/uikit/views/UILabel.h"
+#include "simulator/uikit/views/ViewTree.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {

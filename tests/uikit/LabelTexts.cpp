@@ -1,6 +1,6 @@
 // How labels set their text into their bounds.
-#include "simulator/uikit/LabelText.h"
-#include "simulator/uikit/UILabel.h"
+#include "simulator/uikit/views/LabelText.h"
+#include "simulator/uikit/views/UILabel.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {

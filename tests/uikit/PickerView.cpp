@@ -1,6 +1,6 @@
 #include "objc/Class.h"
-#include "simulator/uikit/UIPickerView.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/pickers/UIPickerView.h"
+#include "simulator/uikit/views/UIView.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {

@@ -1,5 +1,5 @@
-#include "simulator/uikit/UISlider.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/controls/UISlider.h"
+#include "simulator/uikit/views/UIView.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {

@@ -6,8 +6,8 @@
 #include "simulator/machine/Phone.h"
 #include "simulator/script/Command.h"
 #include "simulator/script/commands/UIKitCommands.h"
-#include "simulator/uikit/UIAlertAction.h"
-#include "simulator/uikit/UIAlertController.h"
+#include "simulator/uikit/alerts/UIAlertAction.h"
+#include "simulator/uikit/alerts/UIAlertController.h"
 
 namespace sim {
 namespace {

@@ -5,13 +5,13 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/script/commands/UIKitCommands.h"
-#include "simulator/uikit/Finger.h"
-#include "simulator/uikit/PickerTouches.h"
-#include "simulator/uikit/Touch.h"
-#include "simulator/uikit/UIControl.h"
-#include "simulator/uikit/UIPickerColumnView.h"
-#include "simulator/uikit/UISlider.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/controls/UIControl.h"
+#include "simulator/uikit/controls/UISlider.h"
+#include "simulator/uikit/pickers/PickerTouches.h"
+#include "simulator/uikit/pickers/UIPickerColumnView.h"
+#include "simulator/uikit/touches/Finger.h"
+#include "simulator/uikit/touches/Touch.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

@@ -10,8 +10,8 @@
 #include "simulator/preferences/PreferencesApp.h"
 #include "simulator/script/Command.h"
 #include "simulator/script/values/PhoneVariables.h"
-#include "simulator/uikit/Touch.h"
-#include "simulator/uikit/ViewBuilding.h"
+#include "simulator/uikit/touches/Touch.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {

@@ -10,9 +10,9 @@
 #include "simulator/machine/Phone.h"
 #include "simulator/script/commands/UIKitCommands.h"
 #include "simulator/script/values/Target.h"
-#include "simulator/uikit/UIApplication.h"
-#include "simulator/uikit/UILabel.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/application/UIApplication.h"
+#include "simulator/uikit/views/UILabel.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

@@ -11,8 +11,8 @@
 #include "simulator/script/ScriptFiles.h"
 #include "simulator/script/Session.h"
 #include "simulator/script/values/Target.h"
-#include "simulator/uikit/UIScreen.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/application/UIScreen.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

@@ -9,14 +9,14 @@
 #include "simulator/script/commands/UIKitCommands.h"
 #include "simulator/script/values/Literal.h"
 #include "simulator/script/values/Target.h"
-#include "simulator/uikit/Touch.h"
-#include "simulator/uikit/UIButton.h"
-#include "simulator/uikit/UIControl.h"
-#include "simulator/uikit/UIDatePicker.h"
-#include "simulator/uikit/UIMotionEvent.h"
-#include "simulator/uikit/UIPickerView.h"
-#include "simulator/uikit/UISlider.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/controls/UIButton.h"
+#include "simulator/uikit/controls/UIControl.h"
+#include "simulator/uikit/controls/UISlider.h"
+#include "simulator/uikit/pickers/UIDatePicker.h"
+#include "simulator/uikit/pickers/UIPickerView.h"
+#include "simulator/uikit/touches/Touch.h"
+#include "simulator/uikit/touches/UIMotionEvent.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

@@ -5,11 +5,11 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/uikit/NSLayoutConstraint.h"
-#include "simulator/uikit/UIView.h"
-#include "simulator/uikit/ViewTree.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
+#include "simulator/uikit/autolayout/NSLayoutConstraint.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
+#include "simulator/uikit/views/UIView.h"
+#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {

@@ -1,14 +1,14 @@
 // UIView: Auto Layout.
 #include "objc/Message.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/uikit/LayoutDirection.h"
-#include "simulator/uikit/ViewMethods.h"
 #include "simulator/uikit/autolayout/Activation.h"
 #include "simulator/uikit/autolayout/FittingSize.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
 #include "simulator/uikit/autolayout/NSLayoutAnchor.h"
 #include "simulator/uikit/autolayout/UpdateConstraints.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
+#include "simulator/uikit/views/LayoutDirection.h"
+#include "simulator/uikit/views/ViewMethods.h"
 
 namespace sim {
 namespace {

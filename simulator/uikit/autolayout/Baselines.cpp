@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "simulator/foundation/Kind.h"
-#include "simulator/uikit/UIButton.h"
-#include "simulator/uikit/UIFont.h"
-#include "simulator/uikit/UILabel.h"
-#include "simulator/uikit/UIStackView.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/controls/UIButton.h"
+#include "simulator/uikit/resources/UIFont.h"
+#include "simulator/uikit/views/UILabel.h"
+#include "simulator/uikit/views/UIStackView.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

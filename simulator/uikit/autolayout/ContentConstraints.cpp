@@ -4,10 +4,10 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
-#include "simulator/uikit/UILabel.h"
-#include "simulator/uikit/UIView.h"
 #include "simulator/uikit/autolayout/Constraints.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
+#include "simulator/uikit/views/UILabel.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

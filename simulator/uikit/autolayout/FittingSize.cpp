@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "simulator/uikit/UIScreen.h"
+#include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/autolayout/Constraints.h"
 
 namespace sim {

@@ -1,10 +1,10 @@
 // NSLayoutConstraints as constraints of the problem.
-#include "simulator/uikit/LayoutDirection.h"
-#include "simulator/uikit/NSLayoutConstraint.h"
-#include "simulator/uikit/UIView.h"
-#include "simulator/uikit/ViewTree.h"
 #include "simulator/uikit/autolayout/Attributes.h"
 #include "simulator/uikit/autolayout/Constraints.h"
+#include "simulator/uikit/autolayout/NSLayoutConstraint.h"
+#include "simulator/uikit/views/LayoutDirection.h"
+#include "simulator/uikit/views/UIView.h"
+#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {

@@ -4,14 +4,14 @@
 
 #include "objc/Message.h"
 #include "simulator/machine/Phone.h"
-#include "simulator/uikit/NSLayoutConstraint.h"
-#include "simulator/uikit/UIView.h"
-#include "simulator/uikit/ViewLayout.h"
-#include "simulator/uikit/ViewTree.h"
 #include "simulator/uikit/autolayout/Constraints.h"
+#include "simulator/uikit/autolayout/NSLayoutConstraint.h"
 #include "simulator/uikit/autolayout/Pixels.h"
 #include "simulator/uikit/autolayout/UpdateConstraints.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
+#include "simulator/uikit/views/UIView.h"
+#include "simulator/uikit/views/ViewLayout.h"
+#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {

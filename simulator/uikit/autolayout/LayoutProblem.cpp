@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "simulator/foundation/Kind.h"
-#include "simulator/uikit/NSLayoutConstraint.h"
-#include "simulator/uikit/UIStackView.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/autolayout/NSLayoutConstraint.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
+#include "simulator/uikit/views/UIStackView.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

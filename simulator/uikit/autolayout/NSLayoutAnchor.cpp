@@ -3,8 +3,8 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/uikit/NSLayoutConstraint.h"
 #include "simulator/uikit/autolayout/Attributes.h"
+#include "simulator/uikit/autolayout/NSLayoutConstraint.h"
 
 namespace sim {
 namespace {

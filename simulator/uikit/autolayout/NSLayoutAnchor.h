@@ -3,7 +3,7 @@
 
 #include "objc/Class.h"
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "simulator/coregraphics/Geometry.h"
-#include "simulator/uikit/UIScreen.h"
+#include "simulator/uikit/application/UIScreen.h"
 
 namespace sim {
 

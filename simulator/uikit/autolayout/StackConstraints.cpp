@@ -1,12 +1,12 @@
 // The constraints that a stack has for its arranged views. Priorities and names are the
 // platform's, as far as its messages show them.
 #include "objc/Message.h"
-#include "simulator/uikit/LayoutDirection.h"
-#include "simulator/uikit/UIStackView.h"
-#include "simulator/uikit/UIView.h"
 #include "simulator/uikit/autolayout/Attributes.h"
 #include "simulator/uikit/autolayout/Constraints.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
+#include "simulator/uikit/views/LayoutDirection.h"
+#include "simulator/uikit/views/UIStackView.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

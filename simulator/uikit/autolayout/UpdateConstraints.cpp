@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "objc/Message.h"
-#include "simulator/uikit/UIView.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 

@@ -1,6 +1,6 @@
 #include "simulator/uikit/autolayout/ViewConstraints.h"
 
-#include "simulator/uikit/UIView.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 

@@ -1,4 +1,4 @@
-#include "simulator/uikit/NSLayoutConstraint.h"
+#include "simulator/uikit/autolayout/NSLayoutConstraint.h"
 #include "simulator/uikit/nib/Decoding.h"
 #include "simulator/uikit/nib/NibCoder.h"
 

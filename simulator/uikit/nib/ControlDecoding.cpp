@@ -1,6 +1,6 @@
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/UIButton.h"
-#include "simulator/uikit/UIControl.h"
+#include "simulator/uikit/controls/UIButton.h"
+#include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/nib/Decoding.h"
 #include "simulator/uikit/nib/NibCoder.h"
 

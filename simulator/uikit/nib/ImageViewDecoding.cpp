@@ -1,6 +1,6 @@
-#include "simulator/uikit/UIImageView.h"
 #include "simulator/uikit/nib/Decoding.h"
 #include "simulator/uikit/nib/NibCoder.h"
+#include "simulator/uikit/views/UIImageView.h"
 
 namespace sim {
 namespace {

@@ -1,6 +1,6 @@
-#include "simulator/uikit/UILabel.h"
 #include "simulator/uikit/nib/Decoding.h"
 #include "simulator/uikit/nib/NibCoder.h"
+#include "simulator/uikit/views/UILabel.h"
 
 namespace sim {
 namespace {

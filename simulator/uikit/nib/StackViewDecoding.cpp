@@ -1,6 +1,6 @@
-#include "simulator/uikit/UIStackView.h"
 #include "simulator/uikit/nib/Decoding.h"
 #include "simulator/uikit/nib/NibCoder.h"
+#include "simulator/uikit/views/UIStackView.h"
 
 namespace sim {
 namespace {

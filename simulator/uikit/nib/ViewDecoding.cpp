@@ -1,8 +1,8 @@
 #include <cstdio>
 
-#include "simulator/uikit/UIView.h"
 #include "simulator/uikit/nib/Decoding.h"
 #include "simulator/uikit/nib/NibCoder.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
 namespace {

@@ -1,0 +1,86 @@
+#include "simulator/uikit/animation/Animation.h"
+
+#include "simulator/machine/Phone.h"
+
+namespace sim {
+namespace {
+
+bool enabledNow = true;
+unsigned long groupsBegun = 0;
+
+TimingCurve curveOf(const AnimationParameters& parameters) {
+  if (parameters.damping > 0)
+    return {TimingCurve::Kind::spring, parameters.damping, parameters.initialVelocity};
+  return {TimingCurve::Kind((parameters.options & animation::curveMask) >> 16), 1, 0};
+}
+
+// For the time of the changes.
+class CurrentAnimation {
+ public:
+  explicit CurrentAnimation(const std::optional<AnimationTiming>& timing)
+      : outer_(currentAnimation()) {
+    setCurrentAnimation(timing);
+  }
+  ~CurrentAnimation() { setCurrentAnimation(outer_); }
+  CurrentAnimation(const CurrentAnimation&) = delete;
+  CurrentAnimation& operator=(const CurrentAnimation&) = delete;
+
+ private:
+  std::optional<AnimationTiming> outer_;
+};
+
+}  // namespace
+
+bool animationsAreEnabled() {
+  return enabledNow;
+}
+void setAnimationsEnabled(bool enabled) {
+  enabledNow = enabled;
+}
+
+AnimationTiming timingOf(const AnimationParameters& parameters) {
+  AnimationTiming timing;
+  timing.group = ++groupsBegun;
+  timing.begin = Phone::current().clock.uptime() + nanoseconds(parameters.delay);
+  timing.duration = parameters.duration;
+  timing.curve = curveOf(parameters);
+  timing.repeats = (parameters.options & animation::repeat) != 0;
+  timing.autoreverses = (parameters.options & animation::autoreverse) != 0;
+  timing.fromCurrentState = (parameters.options & animation::beginFromCurrentState) != 0;
+  const auto& outer = currentAnimation();
+  if (!outer) return timing;
+  if ((parameters.options & animation::overrideInheritedDuration) == 0)
+    timing.duration = outer->duration;
+  if ((parameters.options & animation::overrideInheritedCurve) == 0) timing.curve = outer->curve;
+  return timing;
+}
+
+void finishAnimation(const AnimationTiming& timing, AnimationCompletion completion) {
+  if (!completion || timing.repeats) return;
+  Phone& phone = Phone::current();
+  if (timing.end() <= phone.clock.uptime() || !enabledNow) return completion(true);
+  auto kept = objc::adopt(objc::send<AnimationCompletion, "copy">(completion));
+  phone.queue.add(timing.end(), [kept = std::move(kept)] { kept.get()(true); });
+}
+
+void animateChanges(const AnimationParameters& parameters, AnimationBlock changes,
+                    AnimationCompletion completion) {
+  const AnimationTiming timing = timingOf(parameters);
+  const bool takesTime = enabledNow && timing.end() > Phone::current().clock.uptime();
+  {
+    const CurrentAnimation during(takesTime ? std::optional(timing) : std::nullopt);
+    changes();
+  }
+  finishAnimation(timing, completion);
+}
+
+void performWithoutAnimation(AnimationBlock changes) {
+  const bool before = std::exchange(enabledNow, false);
+  {
+    const CurrentAnimation during(std::nullopt);
+    changes();
+  }
+  enabledNow = before;
+}
+
+}  // namespace sim

@@ -1,0 +1,44 @@
+// UIView: animations.
+#include "simulator/uikit/animation/Animation.h"
+#include "simulator/uikit/views/ViewMethods.h"
+
+namespace sim {
+namespace {
+
+void animateCompletion(double seconds, AnimationBlock changes, AnimationCompletion ended) {
+  animateChanges({.duration = seconds}, changes, ended);
+}
+
+void animate(double seconds, AnimationBlock changes) {
+  animateCompletion(seconds, changes, nullptr);
+}
+
+void animateDelayed(double seconds, double delay, unsigned long options, AnimationBlock changes,
+                    AnimationCompletion ended) {
+  animateChanges({.duration = seconds, .delay = delay, .options = options}, changes, ended);
+}
+
+void animateSpring(double seconds, double delay, double damping, double velocity,
+                   unsigned long options, AnimationBlock changes, AnimationCompletion ended) {
+  animateChanges({seconds, delay, options, damping, velocity}, changes, ended);
+}
+
+}  // namespace
+
+void addViewAnimations(StandIn<UIView>& view) {
+  constexpr const char* difference = "takes its time also when nothing changes";
+  view.partialClassMethod<"animateWithDuration:animations:", &animate>(difference)
+      .partialClassMethod<"animateWithDuration:animations:completion:", &animateCompletion>(
+          difference)
+      .partialClassMethod<"animateWithDuration:delay:options:animations:completion:",
+                          &animateDelayed>(difference)
+      .partialClassMethod<
+          "animateWithDuration:delay:usingSpringWithDamping:"
+          "initialSpringVelocity:options:animations:completion:",
+          &animateSpring>(difference)
+      .classMethod<"performWithoutAnimation:", &performWithoutAnimation>()
+      .classMethod<"areAnimationsEnabled", &animationsAreEnabled>()
+      .classMethod<"setAnimationsEnabled:", &setAnimationsEnabled>();
+}
+
+}  // namespace sim

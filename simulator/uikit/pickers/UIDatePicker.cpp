@@ -1,0 +1,65 @@
+#include "simulator/uikit/pickers/UIDatePicker.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "simulator/standin/StandIn.h"
+#include "simulator/uikit/pickers/PickerTouches.h"
+
+namespace sim {
+namespace {
+
+// Private. The argument is a BOOL, but callers also hand over an object, which is no bool that C++
+// may look at.
+void setHighlightsToday(id, SEL, id) {}
+
+void addHighlightsToday() {
+  if (FidelityPage("UIKit", "UIDatePicker")
+          .record('-', "setHighlightsToday:", {Grade::partial, "draws nothing"}))
+    class_addMethod(UIDatePicker::cls(), sel_registerName("setHighlightsToday:"),
+                    reinterpret_cast<IMP>(&setHighlightsToday),
+                    objc::methodEncoding<void, bool>.c_str());
+}
+
+}  // namespace
+
+double UIDatePicker::onWheels(double seconds) const {
+  const double step = double(interval) * 60;
+  constexpr double longest = (23 * 60 + 59) * 60;
+  return std::max(std::floor(std::min(seconds, longest) / step) * step, step);
+}
+
+double UIDatePicker::countDownDuration() const {
+  return mode == countDownTimer ? onWheels(duration) : 0;
+}
+
+void UIDatePicker::setCountDownDuration(double seconds) {
+  if (mode != countDownTimer) return;
+  duration = onWheels(seconds);
+  turnWheels();
+}
+
+void UIDatePicker::setMinuteInterval(long minutes) {
+  const bool works = minutes >= 1 && minutes <= 30 && 60 % minutes == 0;
+  interval = works ? minutes : 1;
+  duration = onWheels(duration);
+  removeWheels();
+}
+
+void UIDatePicker::registerClass() {
+  StandIn<UIDatePicker> picker("UIKit", "UIDatePicker", "UIControl");
+  addPickerTouches(picker);
+  picker.readonlyProperty<"datePickerMode", &UIDatePicker::mode>()
+      .partial<"setDatePickerMode:", &UIDatePicker::setMode>("only the count-down has wheels")
+      .method<"countDownDuration", &UIDatePicker::countDownDuration>()
+      .method<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>()
+      .readonlyProperty<"minuteInterval", &UIDatePicker::interval>()
+      .method<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>()
+      .method<"layoutSubviews", &UIDatePicker::layoutSubviews>()
+      .readonlyProperty<"_textColor", &UIDatePicker::textColor>()
+      .method<"_setTextColor:", &UIDatePicker::setTextColor>()
+      .finish();
+  if (UIDatePicker::cls() != nullptr) addHighlightsToday();
+}
+
+}  // namespace sim

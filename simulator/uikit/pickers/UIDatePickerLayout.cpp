@@ -1,0 +1,152 @@
+// UIDatePicker: the wheels of a count-down.
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "simulator/foundation/Kind.h"
+#include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/StandIn.h"
+#include "simulator/uikit/controls/UIControl.h"
+#include "simulator/uikit/pickers/DurationUnits.h"
+#include "simulator/uikit/pickers/PickerLook.h"
+#include "simulator/uikit/pickers/UIDatePicker.h"
+#include "simulator/uikit/pickers/UIPickerColumnView.h"
+#include "simulator/uikit/views/LayoutDirection.h"
+#include "simulator/uikit/views/UIView.h"
+#include "simulator/uikit/views/ViewTree.h"
+
+namespace sim {
+namespace {
+
+using objc::Object;
+using objc::Strong;
+
+// Points. A wheel is wide enough for two digits, which end where the unit begins.
+constexpr double rowHeight = 32, digitsWidth = 40, beforeUnit = 6, betweenWheels = 28;
+
+Object localizedNumber(long value) {
+  const auto formatter = objc::adopt(objc::send<Object, "new">(objc_getClass("NSNumberFormatter")));
+  if (!formatter) return string(std::to_string(value));
+  return objc::send<Object, "stringFromNumber:">(formatter.get(), number(value));
+}
+
+CGSize sizeOf(Object view) {
+  return UIView::of(view).geometry().bounds.size;
+}
+
+// Lays out from the leading edge, whichever that is.
+class Row {
+ public:
+  Row(const CGRect& bounds, double width, bool isRightToLeft)
+      : bounds_(bounds), x_((bounds.size.width - width) / 2), isRightToLeft_(isRightToLeft) {}
+
+  void add(Object view, CGSize size) {
+    const double x = isRightToLeft_ ? bounds_.size.width - x_ - size.width : x_;
+    const double y = bounds_.origin.y + (bounds_.size.height - size.height) / 2;
+    objc::send<void, "setFrame:">(view, CGRect{{bounds_.origin.x + x, y}, size});
+    x_ += size.width;
+  }
+  void skip(double width) { x_ += width; }
+
+ private:
+  CGRect bounds_;
+  double x_;
+  bool isRightToLeft_;
+};
+
+}  // namespace
+
+void UIDatePicker::setMode(long chosen) {
+  mode = chosen;
+  removeWheels();
+}
+
+void UIDatePicker::setTextColor(Object color) {
+  textColor = objc::retain(color);
+  removeWheels();
+}
+
+void UIDatePicker::removeWheels() {
+  for (auto* part : {&band_, &hours_, &minutes_, &hoursUnit_, &minutesUnit_}) {
+    if (auto* wheel = stateOf<UIPickerColumnView>(part->get())) wheel->turned = nullptr;
+    if (*part) removeFromSuperview(part->get());
+    *part = nullptr;
+  }
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+// Digits stand at the end of their row.
+Strong<Object> UIDatePicker::makeWheel(long rows, long step) {
+  auto made = UIPickerColumnView::make();
+  UIPickerColumnView& wheel = UIPickerColumnView::of(made.get());
+  objc::send<void, "setUserInteractionEnabled:">(made.get(), false);
+  wheel.rowHeight = rowHeight;
+  wheel.numberOfRows = rows;
+  wheel.isEndless = true;
+  wheel.makeRow = [step, color = textColor](long row) {
+    auto label = pickerLabel(localizedNumber(row * step), pickerDigits, color);
+    objc::send<void, "setTextAlignment:">(label.get(), interfaceIsRightToLeft() ? 0L : 2L);
+    objc::send<void, "setBounds:">(label.get(), CGRect{{}, {digitsWidth, rowHeight}});
+    return label;
+  };
+  return made;
+}
+
+void UIDatePicker::makeWheels() {
+  if (hours_ || UIPickerColumnView::cls() == nullptr) return;
+  band_ = pickerBand();
+  hours_ = makeWheel(24, 1);
+  minutes_ = makeWheel(60 / interval, interval);
+  const DurationUnits units = durationUnits(Phone::current().setup.locale);
+  hoursUnit_ = pickerLabel(string(units.hours), pickerUnit, textColor);
+  minutesUnit_ = pickerLabel(string(units.minutes), pickerUnit, textColor);
+  std::size_t index = 0;
+  for (const auto* part : {&band_, &hours_, &hoursUnit_, &minutes_, &minutesUnit_})
+    insertSubview(Object(self()), part->get(), index++);
+  for (const auto* wheel : {&hours_, &minutes_})
+    UIPickerColumnView::of(wheel->get()).turned = [this](long) { turnedTo(); };
+  turnWheels();
+}
+
+// By hand. The wheels do not rest at nothing: they go on to the first step.
+void UIDatePicker::turnedTo() {
+  const long hours = UIPickerColumnView::of(hours_.get()).selectedRow;
+  const long minutes = UIPickerColumnView::of(minutes_.get()).selectedRow * interval;
+  const auto kept = objc::retain(Object(self()));
+  duration = onWheels(double(hours * 60 + minutes) * 60);
+  turnWheels(minutes == 0 && hours == 0);
+  UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
+}
+
+void UIDatePicker::turnWheels(bool animated) {
+  if (!hours_) return;
+  const long shown = std::lround(countDownDuration() / 60);
+  UIPickerColumnView::of(hours_.get()).selectRow(shown / 60, animated);
+  UIPickerColumnView::of(minutes_.get()).selectRow(shown % 60 / interval, animated);
+  const DurationUnits units = durationUnits(Phone::current().setup.locale);
+  objc::send<void, "setText:">(hoursUnit_.get(),
+                               string(shown / 60 == 1 ? units.hour : units.hours));
+}
+
+void UIDatePicker::layoutSubviews() {
+  super<void, "layoutSubviews">();
+  if (mode == countDownTimer) makeWheels();
+  if (!hours_) return;
+  const CGRect bounds = UIView::of(self()).geometry().bounds;
+  objc::send<void, "setFrame:">(band_.get(), pickerBandFrame(bounds, rowHeight));
+  const CGSize wheel = {digitsWidth, bounds.size.height};
+  const CGSize hoursUnit = sizeOf(hoursUnit_.get()), minutesUnit = sizeOf(minutesUnit_.get());
+  const double width =
+      2 * (digitsWidth + beforeUnit) + hoursUnit.width + betweenWheels + minutesUnit.width;
+  Row row(bounds, width, interfaceIsRightToLeft());
+  row.add(hours_.get(), wheel);
+  row.skip(beforeUnit);
+  row.add(hoursUnit_.get(), hoursUnit);
+  row.skip(betweenWheels);
+  row.add(minutes_.get(), wheel);
+  row.skip(beforeUnit);
+  row.add(minutesUnit_.get(), minutesUnit);
+}
+
+}  // namespace sim

@@ -1,0 +1,59 @@
+#include "simulator/uikit/touches/Finger.h"
+
+#include "objc/Message.h"
+#include "simulator/foundation/NSSet.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/uikit/controls/Actions.h"
+#include "simulator/uikit/touches/Touch.h"
+#include "simulator/uikit/touches/UIEvent.h"
+#include "simulator/uikit/touches/UITouch.h"
+
+namespace sim {
+
+using objc::Object;
+
+Finger& Finger::current() {
+  static Finger finger;
+  return finger;
+}
+
+Object Finger::began(CGPoint point) {
+  const Object view = viewOnScreenAt(point);
+  if (!view) return nullptr;
+  touch_ = UITouch::make();
+  UITouch& touch = UITouch::of(touch_.get());
+  touch.view = objc::retain(view);
+  touch.place = point;
+  tell(objc::selector<"touchesBegan:withEvent:">(), UITouch::began, point);
+  return view;
+}
+
+void Finger::moved(CGPoint point) {
+  tell(objc::selector<"touchesMoved:withEvent:">(), UITouch::moved, point);
+}
+
+void Finger::ended(CGPoint point) {
+  tell(objc::selector<"touchesEnded:withEvent:">(), UITouch::ended, point);
+  touch_ = {};
+}
+
+void Finger::cancelled() {
+  const CGPoint point = UITouch::of(touch_.get()).place;
+  tell(objc::selector<"touchesCancelled:withEvent:">(), UITouch::cancelled, point);
+  touch_ = {};
+}
+
+void Finger::tell(SEL selector, long phase, CGPoint point) {
+  UITouch& touch = UITouch::of(touch_.get());
+  touch.placeBefore = touch.place;
+  touch.place = point;
+  touch.phase = phase;
+  touch.timestamp = seconds(Phone::current().clock.uptime());
+  const auto kept = touch.view;  // it may take itself away
+  const Object touches = objc::send<Object, "setWithObject:">(
+      Object(reinterpret_cast<id>(NSSet::cls())), touch_.get());
+  const auto event = UIEvent::make();
+  performAction(selector, kept.get(), touches, event.get());
+}
+
+}  // namespace sim

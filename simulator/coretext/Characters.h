@@ -1,23 +1,15 @@
-// What setting lines must know about characters.
+// What setting lines must know about characters: by ICU.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 namespace sim {
 
-// U+FFFD for every byte that belongs to no character.
-std::u32string charactersOf(std::string_view utf8);
-std::string utf8Of(std::u32string_view characters);
+// By its first letter that has a direction, else as told. The order within a line is found by who
+// draws it, by the same rules: only where the line begins is decided here.
+bool isRightToLeft(std::string_view utf8, bool otherwise);
 
-bool takesNoRoom(char32_t character);  // combining marks, direction marks, joiners
-bool isFullWidth(char32_t character);  // a square: Chinese, Japanese, Korean, pictures
-bool isTracked(char32_t character);    // its script allows room between letters
-// A line may end after it, and begin with it: languages that write no blanks.
-bool breaksAnywhere(char32_t character);
-// Never at the start of a line.
-bool mayNotBegin(char32_t character);
-// By its first letter that has a direction, else as told.
-bool isRightToLeft(std::u32string_view characters, bool otherwise);
+// Whether its scripts allow room between letters: Latin, Greek and Cyrillic only.
+bool takesTracking(std::u16string_view text);
 
 }  // namespace sim

@@ -1,4 +1,4 @@
-// The look of a run of text, and how much room its characters take: alike on every machine.
+// The look of a run of text, and how much room it takes.
 #pragma once
 
 #include <string_view>
@@ -22,9 +22,8 @@ struct FontStyle {
   int cssWeight() const;  // 100 to 900
 };
 
-// Points.
-double advance(char32_t character, const FontStyle& style);
-double textWidth(std::u32string_view characters, const FontStyle& style);
+// Points, kerned and joined as the fonts say, in one line.
 double textWidth(std::string_view utf8, const FontStyle& style);
+double textWidth(std::u16string_view text, const FontStyle& style);
 
 }  // namespace sim

@@ -9,46 +9,45 @@ namespace {
 
 using objc::Object;
 
-bool isNewline(char16_t unit) {
-  return (unit >= 0x0A && unit <= 0x0D) || unit == 0x85 || unit == 0x2028 || unit == 0x2029;
+bool isBlank(char16_t unit) {
+  return unicode::isWhitespace(unit) && !unicode::isNewline(unit);
 }
 
-Object setOf(std::u16string members, bool inverted = false) {
+Object setWhere(bool (*test)(char16_t)) {
   auto made = NSCharacterSet::make();
-  NSCharacterSet::of(made.get()).members = std::move(members);
-  NSCharacterSet::of(made.get()).inverted = inverted;
+  NSCharacterSet::of(made.get()).test = test;
   return autorelease(std::move(made));
 }
 
-template <class Test>
-Object setWhere(Test test) {
-  std::u16string members;
-  for (unsigned unit = 0; unit <= 0xFFFF; ++unit)
-    if (test(char16_t(unit))) members += char16_t(unit);
-  return setOf(std::move(members));
-}
-
 Object whitespace() {
-  return setWhere([](char16_t unit) { return unicode::isWhitespace(unit) && !isNewline(unit); });
+  return setWhere(isBlank);
 }
 Object newlines() {
-  return setWhere(isNewline);
+  return setWhere(unicode::isNewline);
 }
 Object whitespaceAndNewlines() {
   return setWhere(unicode::isWhitespace);
 }
 Object charactersInString(Object text) {
-  return setOf(unitsOf(text));
+  auto made = NSCharacterSet::make();
+  NSCharacterSet::of(made.get()).members = unitsOf(text);
+  return autorelease(std::move(made));
 }
 
 }  // namespace
 
 bool NSCharacterSet::contains(char16_t unit) const {
-  return (members.find(unit) != members.npos) != inverted;
+  const bool isMember = test != nullptr ? test(unit) : members.find(unit) != members.npos;
+  return isMember != inverted;
 }
 
 Object NSCharacterSet::invertedSet() const {
-  return setOf(members, !inverted);
+  auto made = NSCharacterSet::make();
+  NSCharacterSet& other = NSCharacterSet::of(made.get());
+  other.test = test;
+  other.members = members;
+  other.inverted = !inverted;
+  return autorelease(std::move(made));
 }
 
 void NSCharacterSet::registerClass() {

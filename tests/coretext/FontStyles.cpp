@@ -13,6 +13,27 @@ TEST(FontStyles, LettersAreAsWideAsInTheFace) {
   EXPECT_GT(textWidth("W", style), textWidth("l", style));
 }
 
+TEST(FontStyles, PairsAreKerned) {
+  const FontStyle style{28, 0, false};
+  EXPECT_LT(textWidth("To", style), textWidth("T", style) + textWidth("o", style) - 1);
+  EXPECT_LT(textWidth("AV", style), textWidth("A", style) + textWidth("V", style) - 1);
+}
+
+TEST(FontStyles, ArabicLettersAreJoined) {
+  const FontStyle style{20, 0, false};
+  EXPECT_LT(textWidth("ببب", style), 3 * textWidth("ب", style) - 10);
+  // What keeps them apart takes no room itself.
+  EXPECT_NEAR(textWidth("ب\u200Cب", style), 2 * textWidth("ب", style), 0.01);
+}
+
+TEST(FontStyles, SharedSignsAreOfTheScriptAroundThem) {
+  // A comma of the Arabic font, not a square of the far east's.
+  const FontStyle style{20, 0, false};
+  EXPECT_LT(textWidth("،", style), 10);
+  EXPECT_LT(textWidth("A،", style), textWidth("A", style) + 10);
+  EXPECT_LT(textWidth("है।", style), textWidth("है", style) + 10);
+}
+
 TEST(FontStyles, WidthGrowsWithSizeAndWeight) {
   EXPECT_GT(textWidth("minutes", {18, 0, false}), textWidth("minutes", {17, 0, false}));
   EXPECT_GT(textWidth("minutes", {17, 0.3, false}), textWidth("minutes", {17, 0, false}));

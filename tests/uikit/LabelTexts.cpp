@@ -28,7 +28,7 @@ class LabelTexts : public UIKitTest {
 TEST_F(LabelTexts, OneLineThatIsTooLongEndsEarly) {
   const auto text = set("Your music will stop in");
   ASSERT_EQ(text.lines.size(), 1U);
-  EXPECT_EQ(text.lines[0].text, "Your musi…");
+  EXPECT_EQ(text.lines[0].text, "Your music…");
   EXPECT_EQ(text.style.pointSize, 17);
 }
 

@@ -5,11 +5,11 @@
 #include <optional>
 
 #include "objc/Message.h"
+#include "simulator/foundation/Unicode.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/script/Session.h"
 #include "simulator/script/values/Invocation.h"
 #include "simulator/script/values/KeyLookup.h"
-#include "simulator/script/words/Utf8.h"
 #include "simulator/standin/KnownNames.h"
 
 namespace sim {
@@ -81,7 +81,7 @@ Value evaluateTarget(const Word& path) {
   while (end < text.size()) {
     const std::size_t start = end + 1;
     end = std::min(text.find('.', start), text.size());
-    const std::size_t column = path.column + characterCount(text.substr(0, start));
+    const std::size_t column = path.column + unicode::characterCount(text.substr(0, start));
     if (start == end) throw ScriptError(column, "expected a name after the dot");
     value = stepInto(value, std::string(text.substr(start, end - start)), column);
   }

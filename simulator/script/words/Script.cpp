@@ -4,8 +4,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "simulator/foundation/Unicode.h"
 #include "simulator/machine/FileContent.h"
-#include "simulator/script/words/Utf8.h"
 #include "simulator/script/words/WordReader.h"
 
 namespace sim {
@@ -19,17 +19,18 @@ void requireText(std::string_view text) {
     throw ScriptError(1, "expected a line of at most " + std::to_string(longestLine) +
                              " bytes, found " + std::to_string(text.size()));
   if (const auto at = text.find('\0'); at != std::string_view::npos)
-    throw ScriptError(characterCount(text.substr(0, at)) + 1, "expected text, found a NUL byte");
-  const std::size_t valid = validUtf8Prefix(text);
+    throw ScriptError(unicode::characterCount(text.substr(0, at)) + 1,
+                      "expected text, found a NUL byte");
+  const std::size_t valid = unicode::validUtf8Prefix(text);
   if (valid != text.size())
-    throw ScriptError(characterCount(text.substr(0, valid)) + 1, "expected UTF-8 text");
+    throw ScriptError(unicode::characterCount(text.substr(0, valid)) + 1, "expected UTF-8 text");
 }
 
 }  // namespace
 
 ScriptLine parseScriptLine(std::string_view text, std::size_t number) {
   requireText(text);
-  ScriptLine line{number, {}, characterCount(text) + 1};
+  ScriptLine line{number, {}, unicode::characterCount(text) + 1};
   WordReader reader(text);
   while (auto word = reader.next()) line.words.push_back(std::move(*word));
   return line;

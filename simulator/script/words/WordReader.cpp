@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "simulator/script/words/Utf8.h"
+#include "simulator/foundation/Unicode.h"
 
 namespace sim {
 namespace {
@@ -14,7 +14,7 @@ bool isBlank(char letter) {
 }  // namespace
 
 std::size_t WordReader::column(std::size_t at) const {
-  return characterCount(line_.substr(0, at)) + 1;
+  return unicode::characterCount(line_.substr(0, at)) + 1;
 }
 
 void WordReader::skipBlanks() {
@@ -77,7 +77,8 @@ std::string WordReader::unicodeEscape(std::size_t start) {
     const char* last = rest.data() + close;
     const auto end = std::from_chars(rest.data() + 1, last, scalar, 16);
     // NUL would end every C string that the text becomes.
-    if (end.ec == std::errc() && end.ptr == last && scalar != 0) character = utf8(scalar);
+    if (end.ec == std::errc() && end.ptr == last && scalar != 0)
+      character = unicode::utf8Of(scalar);
   }
   if (character.empty())
     throw ScriptError(column(start), R"(expected a character's number, as in \u{1F319})");

@@ -10,7 +10,7 @@
 #include <fstream>
 #include <map>
 
-#include "simulator/script/words/Utf8.h"
+#include "simulator/foundation/Unicode.h"
 
 namespace sim {
 namespace {
@@ -32,7 +32,7 @@ std::string extensionOf(const std::filesystem::path& path) {
 std::string text(const TagLib::String& tag) {
   std::string utf8 = tag.stripWhiteSpace().to8Bit(true);
   utf8.resize(std::min(utf8.find('\0'), utf8.size()));
-  return validUtf8Prefix(utf8) == utf8.size() ? utf8 : std::string();
+  return unicode::validUtf8Prefix(utf8) == utf8.size() ? utf8 : std::string();
 }
 
 // The library gives a WAVE file's tag of the one kind, where most have one of the other.

@@ -4,8 +4,8 @@
 #include <iostream>
 #include <nlohmann/json.hpp>
 
+#include "simulator/foundation/Unicode.h"
 #include "simulator/machine/Journal.h"
-#include "simulator/script/words/Utf8.h"
 #include "simulator/serve/Recording.h"
 
 namespace sim {
@@ -45,7 +45,7 @@ std::optional<MusicFile> readInside(const files::path& folder, const files::path
   if (!liesIn(folder, path)) return std::nullopt;
   problem = "its name is not UTF-8";
   const std::string name = path.string();
-  if (validUtf8Prefix(name) != name.size()) return std::nullopt;
+  if (unicode::validUtf8Prefix(name) != name.size()) return std::nullopt;
   return readMusicFile(path, problem);
 }
 

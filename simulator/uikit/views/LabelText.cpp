@@ -53,8 +53,7 @@ LabelText labelText(const UILabel& label) {
   if (set.lines.size() > fitting)
     set.lines = typeset(shown, set.style, bounds.size.width, long(fitting));
   set.alignment = alignmentOf(label);
-  set.isRightToLeft =
-      isRightToLeft(charactersOf(shown), viewIsRightToLeft(objc::Object(label.self())));
+  set.isRightToLeft = isRightToLeft(shown, viewIsRightToLeft(objc::Object(label.self())));
   set.baseline =
       (bounds.size.height - height * double(set.lines.size())) / 2 + set.style.ascender();
   return set;

@@ -95,7 +95,7 @@ CGSize UILabel::intrinsicContentSize() const {
 }
 
 void UILabel::registerClass() {
-  constexpr const char* widths = "the widths of a similar face; no kerning";
+  constexpr const char* widths = "the widths of a similar face";
   StandIn<UILabel>("UIKit", "UILabel", "UIView")
       .method<"initWithFrame:", &UILabel::initWithFrame>()
       .readonlyProperty<"text", &UILabel::text>()

@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "simulator/coversheet/CSMediaControlsViewController.h"
+#include "simulator/foundation/LocaleText.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
-#include "simulator/springboard/ClockText.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"

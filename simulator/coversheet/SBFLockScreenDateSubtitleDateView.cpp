@@ -1,6 +1,6 @@
 #include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
 
-#include "simulator/coversheet/DateLine.h"
+#include "simulator/foundation/LocaleText.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
@@ -15,8 +15,8 @@ void SBFLockScreenDateSubtitleDateView::setDate_inTimeZone(objc::Object shown, o
   date = objc::retain(shown);
   objc::Object line;
   if (shown)
-    line = string(dateLine(objc::send<double, "timeIntervalSinceReferenceDate">(shown),
-                           Phone::current().setup.locale));
+    line = string(dayText(objc::send<double, "timeIntervalSinceReferenceDate">(shown),
+                          Phone::current().setup.locale));
   objc::send<void, "setString:">(self(), line);
 }
 

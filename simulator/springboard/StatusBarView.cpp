@@ -1,8 +1,8 @@
 #include "simulator/springboard/StatusBarView.h"
 
+#include "simulator/foundation/LocaleText.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
-#include "simulator/springboard/ClockText.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/application/UIScreen.h"

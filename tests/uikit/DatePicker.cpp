@@ -104,7 +104,9 @@ TEST_F(DatePicker, SpeaksThePhonesLanguage) {
   set(45 * 60);
   advance(0);
   // From the right.
-  EXPECT_EQ(selection(picker), (std::vector<std::string>{"د", "٤٥", "ساعات", "٠"}));
+  EXPECT_EQ(selection(picker), (std::vector<std::string>{"د", "٤٥", "ساعة", "٠"}));
+  set(3 * 3600 + 45 * 60);
+  EXPECT_EQ(selection(picker), (std::vector<std::string>{"د", "٤٥", "ساعات", "٣"}));
   phone.setup.locale = "en_US";
 }
 

@@ -1,44 +1,27 @@
 #include "simulator/uikit/pickers/DurationUnits.h"
 
+#include <algorithm>
 #include <array>
 
+#include "simulator/foundation/LocaleText.h"
 #include "simulator/foundation/NSLocale.h"
 
 namespace sim {
-namespace {
 
-struct Language {
-  std::string_view code;
-  DurationUnits units;
-};
+// The platform has words of its own here. They are those of CLDR, mostly hours in full and minutes
+// abbreviated; but where the hours in full are long it abbreviates both.
+std::string hourUnit(long hours, std::string_view locale) {
+  constexpr std::array<std::string_view, 5> abbreviating = {"cs", "de", "pl", "ru", "uk"};
+  const std::string language = partsOf(locale).language;
+  const bool isShort =
+      std::find(abbreviating.begin(), abbreviating.end(), language) != abbreviating.end();
+  return unitText("hour", hours, isShort ? UnitWidth::abbreviated : UnitWidth::full, locale);
+}
 
-constexpr std::array<Language, 21> languages = {{
-    {"en", {"hour", "hours", "min"}},  {"ar", {"ساعة", "ساعات", "د"}},
-    {"cs", {"hod.", "hod.", "min"}},   {"da", {"time", "timer", "min."}},
-    {"de", {"Std.", "Std.", "Min."}},  {"el", {"ώρα", "ώρες", "λ."}},
-    {"es", {"hora", "horas", "min"}},  {"fr", {"heure", "heures", "min"}},
-    {"he", {"שעה", "שעות", "דק׳"}},    {"hi", {"घंटा", "घंटे", "मिनट"}},
-    {"it", {"ora", "ore", "min"}},     {"ja", {"時間", "時間", "分"}},
-    {"ko", {"시간", "시간", "분"}},    {"nl", {"uur", "uur", "min."}},
-    {"pl", {"godz.", "godz.", "min"}}, {"pt", {"hora", "horas", "min"}},
-    {"ru", {"ч", "ч", "мин"}},         {"sv", {"timme", "timmar", "min"}},
-    {"tr", {"saat", "saat", "dk."}},   {"uk", {"год", "год", "хв"}},
-    {"vi", {"giờ", "giờ", "phút"}},
-}};
-
-}  // namespace
-
-DurationUnits durationUnits(std::string_view locale) {
-  const LocaleParts parts = partsOf(locale);
-  if (parts.language == "zh") {
-    const bool isTraditional = parts.script == "Hant" || parts.region == "TW" ||
-                               parts.region == "HK" || parts.region == "MO";
-    return isTraditional ? DurationUnits{"小時", "小時", "分鐘"}
-                         : DurationUnits{"小时", "小时", "分钟"};
-  }
-  for (const Language& each : languages)
-    if (each.code == parts.language) return each.units;
-  return languages.front().units;
+// The same for any number, as an abbreviation is.
+std::string minuteUnit(std::string_view locale) {
+  constexpr long many = 100;
+  return unitText("minute", many, UnitWidth::abbreviated, locale);
 }
 
 }  // namespace sim

@@ -24,11 +24,22 @@ using objc::Strong;
 
 // Points. A wheel is wide enough for two digits, which end where the unit begins.
 constexpr double rowHeight = 32, digitsWidth = 40, beforeUnit = 6, betweenWheels = 28;
+constexpr long hoursOfDay = 24;
 
 Object localizedNumber(long value) {
   const auto formatter = objc::adopt(objc::send<Object, "new">(objc_getClass("NSNumberFormatter")));
   if (!formatter) return string(std::to_string(value));
   return objc::send<Object, "stringFromNumber:">(formatter.get(), number(value));
+}
+
+// The wheels stay where they are when the unit changes its number.
+std::string widestHourUnit(std::string_view locale) {
+  std::string widest;
+  for (long hours = 0; hours < hoursOfDay; ++hours)
+    if (std::string unit = hourUnit(hours, locale);
+        textWidth(unit, pickerUnit) > textWidth(widest, pickerUnit))
+      widest = std::move(unit);
+  return widest;
 }
 
 CGSize sizeOf(Object view) {
@@ -96,11 +107,11 @@ Strong<Object> UIDatePicker::makeWheel(long rows, long step) {
 void UIDatePicker::makeWheels() {
   if (hours_ || UIPickerColumnView::cls() == nullptr) return;
   band_ = pickerBand();
-  hours_ = makeWheel(24, 1);
+  hours_ = makeWheel(hoursOfDay, 1);
   minutes_ = makeWheel(60 / interval, interval);
-  const DurationUnits units = durationUnits(Phone::current().setup.locale);
-  hoursUnit_ = pickerLabel(string(units.hours), pickerUnit, textColor);
-  minutesUnit_ = pickerLabel(string(units.minutes), pickerUnit, textColor);
+  const std::string& locale = Phone::current().setup.locale;
+  hoursUnit_ = pickerLabel(string(widestHourUnit(locale)), pickerUnit, textColor);
+  minutesUnit_ = pickerLabel(string(minuteUnit(locale)), pickerUnit, textColor);
   std::size_t index = 0;
   for (const auto* part : {&band_, &hours_, &hoursUnit_, &minutes_, &minutesUnit_})
     insertSubview(Object(self()), part->get(), index++);
@@ -124,9 +135,8 @@ void UIDatePicker::turnWheels(bool animated) {
   const long shown = std::lround(countDownDuration() / 60);
   UIPickerColumnView::of(hours_.get()).selectRow(shown / 60, animated);
   UIPickerColumnView::of(minutes_.get()).selectRow(shown % 60 / interval, animated);
-  const DurationUnits units = durationUnits(Phone::current().setup.locale);
   objc::send<void, "setText:">(hoursUnit_.get(),
-                               string(shown / 60 == 1 ? units.hour : units.hours));
+                               string(hourUnit(shown / 60, Phone::current().setup.locale)));
 }
 
 void UIDatePicker::layoutSubviews() {

@@ -1,6 +1,7 @@
 #include "simulator/uikit/views/LayoutDirection.h"
 
-#include "simulator/foundation/NSLocale.h"
+#include <unicode/uloc.h>
+
 #include "simulator/machine/Phone.h"
 #include "simulator/uikit/views/UIView.h"
 
@@ -13,8 +14,7 @@ constexpr long forceRightToLeft = 4;
 }  // namespace
 
 bool interfaceIsRightToLeft() {
-  const std::string language = partsOf(Phone::current().setup.locale).language;
-  return language == "ar" || language == "he" || language == "fa" || language == "ur";
+  return uloc_isRightToLeft(Phone::current().setup.locale.c_str()) != 0;
 }
 
 bool isRightToLeftFor(long semanticContentAttribute) {

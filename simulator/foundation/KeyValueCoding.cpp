@@ -47,16 +47,26 @@ std::optional<Place> instanceVariable(Object object, const std::string& key) {
   return std::nullopt;
 }
 
-// Nothing when the object has neither an accessor nor a variable for the key.
-std::optional<Object> find(Object object, const std::string& key) {
+Method accessor(Object object, const std::string& key) {
   const std::string upper = capitalised(key);
   for (const std::string& name : {"get" + upper, key, "is" + upper, '_' + key, "_get" + upper}) {
     const Method method = methodNamed(object, name);
-    if (method == nullptr || !canBox(method_getTypeEncoding(method))) continue;
-    return sendBoxed(object, method_getName(method), method_getTypeEncoding(method));
+    if (method != nullptr && canBox(method_getTypeEncoding(method))) return method;
   }
+  return nullptr;
+}
+
+// Nothing when the object has neither an accessor nor a variable for the key.
+std::optional<Object> find(Object object, const std::string& key) {
+  if (const Method method = accessor(object, key))
+    return sendBoxed(object, method_getName(method), method_getTypeEncoding(method));
   if (const auto place = instanceVariable(object, key)) return boxed(place->bytes, place->encoding);
   return std::nullopt;
+}
+
+bool overrides(Object object, const char* selector) {
+  const Method method = methodNamed(object, selector);
+  return method != class_getInstanceMethod(objc_getClass("NSObject"), sel_registerName(selector));
 }
 
 [[noreturn]] void raiseUnknown(Object self, const char* selector, Object key) {
@@ -165,6 +175,13 @@ void setValueForKeyOfDictionary(Object self, Object value, Object key) {
 }
 
 }  // namespace
+
+bool hasValueForKey(Object object, const std::string& key) {
+  if (key.empty() || !objc::respondsTo<"valueForKey:">(object)) return false;
+  // Collections and the like find values in ways of their own.
+  if (overrides(object, "valueForKey:") || overrides(object, "valueForUndefinedKey:")) return true;
+  return accessor(object, key) != nullptr || instanceVariable(object, key).has_value();
+}
 
 void addKeyValueCoding() {
   addToRootClass<"valueForKey:", &valueForKey>(

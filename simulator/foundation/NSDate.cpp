@@ -9,6 +9,7 @@
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
 
@@ -124,20 +125,32 @@ std::string dateText(double secondsSinceReferenceDate) {
   return text.data();
 }
 
+// "2022-04-16 22:05:00", from the year to the seconds; nothing may follow.
+static bool takeParts(std::string_view text, std::array<int, 6>& parts) {
+  constexpr std::string_view separators = "-- ::";
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    const auto part = takeNumber<int>(text);
+    if (!part || *part < 0) return false;
+    parts[i] = *part;
+    if (i == separators.size()) break;
+    if (!text.starts_with(separators[i])) return false;
+    text.remove_prefix(1);
+  }
+  return text.empty();
+}
+
 bool parseDate(std::string_view text, double& secondsSinceReferenceDate) {
   using namespace std::chrono;
+  constexpr int latestYear = 9999;
   constexpr std::string_view offset = " +0000";
   if (text.ends_with(offset)) text.remove_suffix(offset.size());
-  int parts[6] = {};
-  int taken = 0;
-  const std::string copy(text);
-  const int count = std::sscanf(copy.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%n", &parts[0], &parts[1],
-                                &parts[2], &parts[3], &parts[4], &parts[5], &taken);
+  std::array<int, 6> parts = {};
+  if (!takeParts(text, parts) || parts[0] > latestYear) return false;
   const year_month_day day{year(parts[0]), month(unsigned(parts[1])),
                            std::chrono::day(unsigned(parts[2]))};
   const bool inDay = parts[3] >= 0 && parts[3] < 24 && parts[4] >= 0 && parts[4] < 60 &&
                      parts[5] >= 0 && parts[5] < 60;
-  if (count != 6 || std::size_t(taken) != copy.size() || !day.ok() || !inDay) return false;
+  if (!day.ok() || !inDay) return false;
   const auto since1970 = sys_days(day).time_since_epoch() + hours(parts[3]) + minutes(parts[4]) +
                          std::chrono::seconds(parts[5]);
   secondsSinceReferenceDate =

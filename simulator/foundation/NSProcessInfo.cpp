@@ -2,11 +2,13 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <compare>
-#include <cstdio>
+#include <string_view>
 #include <tuple>
 
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
 
@@ -35,8 +37,11 @@ double systemUptime(Object) {
 // Parts that the version does not have are 0.
 NSOperatingSystemVersion operatingSystemVersion(Object) {
   NSOperatingSystemVersion version = {};
-  std::sscanf(Phone::current().setup.systemVersion.c_str(), "%ld.%ld.%ld", &version.majorVersion,
-              &version.minorVersion, &version.patchVersion);
+  std::string_view text = Phone::current().setup.systemVersion;
+  for (long* part : {&version.majorVersion, &version.minorVersion, &version.patchVersion}) {
+    *part = takeNumber<long>(text).value_or(0);
+    text.remove_prefix(std::min<std::size_t>(1, text.size()));  // the point
+  }
   return version;
 }
 

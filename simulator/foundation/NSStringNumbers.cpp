@@ -1,11 +1,11 @@
 #include "simulator/foundation/NSStringNumbers.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 
 #include "simulator/foundation/Unicode.h"
+#include "simulator/machine/NumberReader.h"
 
 namespace sim {
 namespace {
@@ -32,11 +32,10 @@ Integer integer(Object self) {
   std::string_view digits = ascii;
   if (digits.starts_with('+')) {
     digits.remove_prefix(1);
-    if (digits.starts_with('-')) return 0;  // from_chars would take the second sign
+    if (digits.starts_with('-')) return 0;  // a second sign would be taken
   }
-  Integer value = 0;
-  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (result.ec != std::errc::result_out_of_range) return value;
+  const auto read = numberAtStart<Integer>(digits);
+  if (!read.isOutOfRange) return read.value;
   using Limits = std::numeric_limits<Integer>;
   return digits.front() == '-' ? Limits::min() : Limits::max();
 }
@@ -48,12 +47,11 @@ double real(Object self) {
   if (negative || digits.starts_with('+')) digits.remove_prefix(1);
   // Neither "inf" nor "nan" is a number here.
   if (digits.empty() || !(isDigit(char16_t(digits.front())) || digits.front() == '.')) return 0;
-  double value = 0;
-  const char* end = digits.data() + digits.size();
-  const auto result = std::from_chars(digits.data(), end, value);
-  if (result.ec == std::errc::result_out_of_range) {
+  const auto read = numberAtStart<double>(digits);
+  double value = read.value;
+  if (read.isOutOfRange) {
     // Too large or too small; the exponent's sign tells which.
-    const std::string_view taken(digits.data(), std::size_t(result.ptr - digits.data()));
+    const std::string_view taken = digits.substr(0, read.length);
     value = taken.find("e-") == taken.npos && taken.find("E-") == taken.npos ? HUGE_VAL : 0;
   }
   return negative ? -value : value;

@@ -1,11 +1,10 @@
 #include "simulator/mediaremote/Playlist.h"
 
-#include <charconv>
-#include <cmath>
 #include <optional>
 
 #include "simulator/machine/FileContent.h"
 #include "simulator/machine/Journal.h"
+#include "simulator/machine/NumberReader.h"
 
 namespace sim {
 namespace {
@@ -39,12 +38,10 @@ std::size_t titleComma(std::string_view information) {
 
 // nullopt for anything that is not a playable length.
 std::optional<Nanoseconds> parseLength(std::string_view text) {
-  double length = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), length);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  const auto length = wholeNumber<double>(text);
   if (length == -1) return defaultTrackLength;
-  if (!std::isfinite(length) || length > longestTrack) return std::nullopt;
-  const Nanoseconds exact = nanoseconds(length);
+  if (!length || *length > longestTrack) return std::nullopt;
+  const Nanoseconds exact = nanoseconds(*length);
   return exact > 0 ? std::optional(exact) : std::nullopt;
 }
 

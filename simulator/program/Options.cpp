@@ -1,8 +1,9 @@
 #include "simulator/program/Options.h"
 
-#include <charconv>
 #include <cstdlib>
 #include <map>
+
+#include "simulator/machine/NumberReader.h"
 
 namespace sim {
 namespace {
@@ -104,12 +105,10 @@ class Parser {
   }
 
   static int portFrom(const std::string& word) {
-    int port = -1;
-    const char* end = word.data() + word.size();
-    const auto result = std::from_chars(word.data(), end, port);
-    if (result.ec != std::errc() || result.ptr != end || port < 0 || port > 65535)
+    const auto port = wholeNumber<int>(word);
+    if (!port || *port < 0 || *port > 65535)
       throw UsageError("--port needs a number from 0 to 65535, found " + word);
-    return port;
+    return *port;
   }
 
   static std::filesystem::path folderFrom(const std::string& option, const std::string& word) {

@@ -13,6 +13,7 @@
 
 #include "simulator/host/TemporaryFolder.h"
 #include "simulator/machine/FileContent.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/script/words/Script.h"
 #include "simulator/serve/RequestError.h"
 
@@ -88,9 +89,12 @@ RequestError refusal(const std::string& printed, std::size_t lines) {
   std::smatch found;
   if (!std::regex_search(printed, found, place))
     return {400, "this phone does not boot: " + printed};
-  const std::size_t line = std::stoul(found[1]);
+  const auto number = [](const std::string& digits) {
+    return wholeNumber<std::size_t>(digits).value_or(0);
+  };
+  const std::size_t line = number(found[1]);
   if (line > lines) return {400, "this phone does not boot: " + found[3].str()};
-  return {400, found[3].str(), {{"line", line}, {"column", std::stoul(found[2])}}};
+  return {400, found[3].str(), {{"line", line}, {"column", number(found[2])}}};
 }
 
 bool saysBoot(const std::string& line) {

@@ -1,8 +1,10 @@
 #include "simulator/quartzcore/PathText.h"
 
-#include <sstream>
+#include <algorithm>
 #include <stdexcept>
 #include <string>
+
+#include "simulator/machine/NumberReader.h"
 
 namespace sim {
 namespace {
@@ -15,18 +17,25 @@ constexpr double roundness = 0.5523;
 
 class PathReader {
  public:
-  explicit PathReader(std::string_view text) : text_{std::string(text)} {}
+  explicit PathReader(std::string_view text) : text_(text) {}
 
   std::vector<PathElement> read() {
-    for (char letter = 0; text_ >> letter;) add(letter);
+    for (skipBlanks(); !text_.empty(); skipBlanks()) {
+      const char letter = text_.front();
+      text_.remove_prefix(1);
+      add(letter);
+    }
     return std::move(path_);
   }
 
  private:
+  void skipBlanks() { text_.remove_prefix(std::min(text_.find_first_not_of(" \n"), text_.size())); }
+
   double number() {
-    double value = 0;
-    if (!(text_ >> value)) throw std::logic_error("a path's text lacks a number");
-    return value;
+    skipBlanks();
+    const auto value = takeNumber<double>(text_);
+    if (!value) throw std::logic_error("a path's text lacks a number");
+    return *value;
   }
   CGPoint point() {
     const double x = number();
@@ -80,7 +89,7 @@ class PathReader {
     path_.push_back({Kind::close});
   }
 
-  std::istringstream text_;
+  std::string_view text_;  // what is still to be read
   std::vector<PathElement> path_;
 };
 

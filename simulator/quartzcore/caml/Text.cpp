@@ -1,11 +1,11 @@
 #include "simulator/quartzcore/caml/Text.h"
 
-#include <charconv>
 #include <cmath>
 #include <stdexcept>
 #include <string>
 
 #include "simulator/machine/Journal.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/quartzcore/caml/Words.h"
 
 namespace sim::caml {
@@ -19,11 +19,8 @@ std::string quotedWord(std::string_view word) {
 std::optional<double> number(std::string_view word) {
   constexpr double largest = 1e9;
   if (word.starts_with('+') && !word.starts_with("+-")) word.remove_prefix(1);
-  double value = 0;
-  const auto [end, problem] = std::from_chars(word.data(), word.data() + word.size(), value);
-  const bool whole = problem == std::errc() && end == word.data() + word.size();
-  if (!whole || !(std::abs(value) <= largest)) return std::nullopt;
-  return value;
+  const auto value = wholeNumber<double>(word);
+  return value && std::abs(*value) <= largest ? value : std::nullopt;
 }
 
 double realOf(std::string_view text) {

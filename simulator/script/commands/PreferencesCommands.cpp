@@ -1,7 +1,5 @@
 // The script commands of the person who changes settings, in the settings application.
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
@@ -10,6 +8,7 @@
 #include "simulator/cephei/PreferencesFile.h"
 #include "simulator/cephei/SettingsApp.h"
 #include "simulator/machine/NearestName.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/script/Command.h"
 #include "simulator/script/names/NameChecks.h"
@@ -23,21 +22,12 @@ std::string& domainName() {
   return name;
 }
 
-template <class Number, class... Base>
-std::optional<Number> parse(std::string_view text, Base... base) {
-  Number value{};
-  const char* end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, value, base...);
-  if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-  return value;
-}
-
 std::vector<char> takeData(Arguments& words) {
   const std::string digits = words.text("bytes in hexadecimal");
   std::vector<char> bytes;
   for (std::size_t at = 0; at < digits.size(); at += 2) {
     const auto pair = std::string_view(digits).substr(at, 2);
-    const auto byte = parse<unsigned>(pair, 16);
+    const auto byte = wholeNumber<unsigned>(pair, 16);
     if (pair.size() != 2 || !byte)
       words.failHere("bytes are pairs of hexadecimal digits, found " + digits);
     bytes.push_back(char(*byte));
@@ -52,8 +42,8 @@ SettingsValue takeValue(Arguments& words) {
   if (words.takeKeyword("data")) return takeData(words);
   const Word& word = words.word("YES, NO, a number, a string in quotes, data HEX or none");
   if (word.quoted) return word.text;
-  if (const auto integer = parse<long>(word.text)) return *integer;
-  if (const auto real = parse<double>(word.text); real && std::isfinite(*real)) return *real;
+  if (const auto integer = wholeNumber<long>(word.text)) return *integer;
+  if (const auto real = wholeNumber<double>(word.text)) return *real;
   throw ScriptError(word.column,
                     "expected YES, NO, a number, a string in quotes, data HEX or "
                     "none, found " +

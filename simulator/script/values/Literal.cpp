@@ -1,11 +1,10 @@
 #include "simulator/script/values/Literal.h"
 
-#include <charconv>
-#include <cmath>
 #include <optional>
 #include <stdexcept>
 
 #include "simulator/machine/Journal.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/script/names/NameChecks.h"
 #include "simulator/script/values/ScriptBlock.h"
 #include "simulator/script/values/Target.h"
@@ -14,21 +13,12 @@
 namespace sim {
 namespace {
 
-template <class T>
-std::optional<T> parsed(std::string_view text) {
-  T value{};
-  const auto end = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (end.ec != std::errc() || end.ptr != text.data() + text.size()) return std::nullopt;
-  return value;
-}
-
 std::optional<Literal::Number> parsedNumber(std::string_view text) {
-  if (auto whole = parsed<long>(text))
+  if (auto whole = wholeNumber<long>(text))
     return Literal::Number{static_cast<long double>(*whole), true};
-  if (auto whole = parsed<unsigned long>(text))
+  if (auto whole = wholeNumber<unsigned long>(text))
     return Literal::Number{static_cast<long double>(*whole), true};
-  if (auto real = parsed<double>(text); real && std::isfinite(*real))
-    return Literal::Number{*real, false};
+  if (auto real = wholeNumber<double>(text)) return Literal::Number{*real, false};
   return std::nullopt;
 }
 

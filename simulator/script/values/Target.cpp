@@ -1,15 +1,15 @@
 #include "simulator/script/values/Target.h"
 
-#include <charconv>
 #include <map>
 #include <optional>
 
 #include "objc/Message.h"
+#include "simulator/foundation/KeyValueCoding.h"
 #include "simulator/foundation/Unicode.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/script/Session.h"
 #include "simulator/script/values/Invocation.h"
-#include "simulator/script/values/KeyLookup.h"
 #include "simulator/standin/KnownNames.h"
 
 namespace sim {
@@ -25,13 +25,6 @@ const std::map<std::string_view, std::map<std::string_view, std::size_t>> struct
 std::string className(objc::Object object) {
   return object_isClass(object.get()) ? class_getName(reinterpret_cast<Class>(object.get()))
                                       : object_getClassName(object.get());
-}
-
-std::optional<std::size_t> parsedIndex(std::string_view text) {
-  std::size_t index = 0;
-  const auto end = std::from_chars(text.data(), text.data() + text.size(), index);
-  if (end.ec != std::errc() || end.ptr != text.data() + text.size()) return std::nullopt;
-  return index;
 }
 
 Value elementOf(objc::Object array, std::size_t index, std::size_t column) {
@@ -55,7 +48,7 @@ Value stepInto(const Value& value, const std::string& name, std::size_t column) 
   if (!value.type().isObject()) return memberOf(value, name, column);
   const objc::Object object = value.object();
   if (!object) throw ScriptError(column, "expected an object to ask for " + name + ", found nil");
-  if (const auto index = parsedIndex(name); index && isKindOf(object, "NSArray"))
+  if (const auto index = wholeNumber<std::size_t>(name); index && isKindOf(object, "NSArray"))
     return elementOf(object, *index, column);
   if (auto answer = sendIfKnown(object, name)) return *answer;
   if (hasValueForKey(object, name))

@@ -1,8 +1,7 @@
-#include <charconv>
-#include <cmath>
 #include <utility>
 
 #include "simulator/machine/Journal.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/script/Command.h"
 
 namespace sim {
@@ -16,15 +15,11 @@ std::string shown(const Word& word) {
   throw ScriptError(word.column, "expected " + std::string(what) + ", found " + shown(word));
 }
 
-// The whole word must be the number; infinities and NaN are no numbers of a script.
 template <class Number>
-bool parse(std::string_view text, Number& value) {
-  const auto end = std::from_chars(text.data(), text.data() + text.size(), value);
-  return end.ec == std::errc() && end.ptr == text.data() + text.size();
-}
-
-bool parseFinite(std::string_view text, double& value) {
-  return parse(text, value) && std::isfinite(value);
+Number required(const Word& word, std::string_view what) {
+  const auto value = wholeNumber<Number>(word.text);
+  if (word.quoted || !value) failWord(word, what);
+  return *value;
 }
 
 struct Unit {
@@ -57,17 +52,11 @@ bool Arguments::takeEither(std::string_view first, std::string_view second) {
 }
 
 double Arguments::number(std::string_view what) {
-  const Word& found = word(what);
-  double value = 0;
-  if (found.quoted || !parseFinite(found.text, value)) failWord(found, what);
-  return value;
+  return required<double>(word(what), what);
 }
 
 long Arguments::integer(std::string_view what) {
-  const Word& found = word(what);
-  long value = 0;
-  if (found.quoted || !parse(found.text, value)) failWord(found, what);
-  return value;
+  return required<long>(word(what), what);
 }
 
 bool Arguments::yesOrNo(std::string_view what) {
@@ -84,10 +73,9 @@ Nanoseconds Arguments::duration(std::string_view what) {
   // "ms" before "m" and "s", which it ends and starts with.
   for (const Unit unit : {Unit{"ms", 0.001}, Unit{"s", 1}, Unit{"m", 60}, Unit{"h", 3600}}) {
     const std::string_view text = found.text;
-    double amount = 0;
-    if (!found.quoted && text.ends_with(unit.suffix) &&
-        parseFinite(text.substr(0, text.size() - unit.suffix.size()), amount) && amount >= 0)
-      return nanoseconds(amount * unit.seconds);
+    if (found.quoted || !text.ends_with(unit.suffix)) continue;
+    const auto amount = wholeNumber<double>(text.substr(0, text.size() - unit.suffix.size()));
+    if (amount && *amount >= 0) return nanoseconds(*amount * unit.seconds);
   }
   failWord(found, form);
 }

@@ -1,8 +1,7 @@
 #include "simulator/script/words/WordReader.h"
 
-#include <charconv>
-
 #include "simulator/foundation/Unicode.h"
+#include "simulator/machine/NumberReader.h"
 
 namespace sim {
 namespace {
@@ -71,14 +70,12 @@ std::string WordReader::escape() {
 std::string WordReader::unicodeEscape(std::size_t start) {
   const std::string_view rest = line_.substr(at_);
   const std::size_t close = rest.find('}');
-  unsigned long scalar = 0;
   std::string character;
   if (rest.starts_with('{') && close != std::string_view::npos) {
-    const char* last = rest.data() + close;
-    const auto end = std::from_chars(rest.data() + 1, last, scalar, 16);
+    constexpr int hexadecimal = 16;
+    const auto scalar = wholeNumber<unsigned long>(rest.substr(1, close - 1), hexadecimal);
     // NUL would end every C string that the text becomes.
-    if (end.ec == std::errc() && end.ptr == last && scalar != 0)
-      character = unicode::utf8Of(scalar);
+    if (scalar && *scalar != 0) character = unicode::utf8Of(*scalar);
   }
   if (character.empty())
     throw ScriptError(column(start), R"(expected a character's number, as in \u{1F319})");

@@ -3,9 +3,9 @@
 #include <httplib.h>
 
 #include <algorithm>
-#include <charconv>
 #include <string_view>
 
+#include "simulator/machine/NumberReader.h"
 #include "simulator/serve/RequestError.h"
 
 namespace sim {
@@ -17,9 +17,7 @@ std::optional<std::size_t> takeNumber(std::string_view& text) {
   const std::string_view digits = text.substr(0, end);
   text.remove_prefix(end);
   if (digits.empty()) return std::nullopt;
-  std::size_t value = 0;
-  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  return result.ec == std::errc() ? value : std::string::npos;
+  return wholeNumber<std::size_t>(digits).value_or(std::string::npos);
 }
 
 struct Wish {

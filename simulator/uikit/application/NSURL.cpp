@@ -1,13 +1,13 @@
 #include "simulator/uikit/application/NSURL.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/NumberReader.h"
 #include "simulator/standin/StandIn.h"
 
 namespace sim {
@@ -43,11 +43,9 @@ std::string escaped(std::string_view path) {
 
 // The byte after a percent sign; nothing when no two digits follow.
 std::optional<char> escapedByte(std::string_view digits) {
-  unsigned value = 0;
-  const auto [end, problem] =
-      std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
-  const bool whole = digits.size() == 2 && end == digits.data() + 2 && problem == std::errc();
-  return whole ? std::optional(char(value)) : std::nullopt;
+  constexpr int hexadecimal = 16;
+  const auto value = wholeNumber<unsigned>(digits, hexadecimal);
+  return value && digits.size() == 2 ? std::optional(char(*value)) : std::nullopt;
 }
 
 std::string unescaped(std::string_view url) {

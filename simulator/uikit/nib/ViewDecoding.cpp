@@ -1,5 +1,7 @@
-#include <cstdio>
+#include <string>
+#include <string_view>
 
+#include "simulator/machine/NumberReader.h"
 #include "simulator/uikit/nib/Decoding.h"
 #include "simulator/uikit/nib/NibCoder.h"
 #include "simulator/uikit/views/UIView.h"
@@ -34,11 +36,17 @@ void decodeBehaviour(Object view, const NibCoder& coder) {
 // "{251, 250}": of the horizontal axis, then of the vertical one.
 template <objc::FixedString Setter>
 void decodePriorities(Object view, Object pair) {
-  float horizontal = 0, vertical = 0;
-  const std::string numbers = text(pair);
-  if (std::sscanf(numbers.c_str(), "{%f, %f}", &horizontal, &vertical) != 2) return;
-  objc::send<void, Setter>(view, horizontal, 0L);
-  objc::send<void, Setter>(view, vertical, 1L);
+  constexpr std::string_view opening = "{", between = ", ";
+  const std::string written = text(pair);
+  if (!written.starts_with(opening)) return;
+  std::string_view numbers = std::string_view(written).substr(opening.size());
+  const auto horizontal = takeNumber<float>(numbers);
+  if (!horizontal || !numbers.starts_with(between)) return;
+  numbers.remove_prefix(between.size());
+  const auto vertical = takeNumber<float>(numbers);
+  if (!vertical) return;
+  objc::send<void, Setter>(view, *horizontal, 0L);
+  objc::send<void, Setter>(view, *vertical, 1L);
 }
 
 void decodeLayout(Object view, const NibCoder& coder) {

@@ -79,7 +79,8 @@ TEST_F(NSMutableArrayDeathTest, stopsForNil) {
 TEST_F(NSMutableArrayDeathTest, stopsBehindTheEnd) {
   EXPECT_DEATH((send<void, "removeObjectAtIndex:">(newArray(), 4ul)),
                "index 4 beyond bounds \\[0 .. 3\\]");
-  EXPECT_DEATH((send<void, "insertObject:atIndex:">(newArray(), string("x"), 5ul)), "index 5 beyond");
+  EXPECT_DEATH((send<void, "insertObject:atIndex:">(newArray(), string("x"), 5ul)),
+               "index 5 beyond");
 }
 
 }  // namespace

@@ -95,15 +95,15 @@ std::set<std::pair<std::string, std::string>>& tracedMethods() {
 
 }  // namespace
 
-void traceNewClasses(const TracedMethods& methods) {
-  for (const auto& each : methods) {
+void traceNewClasses(const TracedMethods& traced) {
+  for (const auto& each : traced) {
     if (!tracedMethods().contains(each) && traceMethod(each.first, each.second))
       tracedMethods().insert(each);
   }
 }
 
-void requireTraced(const TracedMethods& methods) {
-  for (const auto& each : methods) {
+void requireTraced(const TracedMethods& traced) {
+  for (const auto& each : traced) {
     if (!tracedMethods().contains(each))
       throw HostError("there is no method " + methodName(each.first, each.second) + " to trace");
   }

@@ -25,10 +25,10 @@ void SwitchView::setOn(bool on) {
 }
 
 void SwitchView::layoutSubviews() {
-  constexpr double gap = 2, side = size.height - 2 * gap;
+  constexpr double margin = 2, side = size.height - 2 * margin;
   super<void, "layoutSubviews">();
-  const double x = isOn ? size.width - gap - side : gap;
-  setFrame(knob.get(), look::placed({{x, gap}, {side, side}}, size.width));
+  const double x = isOn ? size.width - margin - side : margin;
+  setFrame(knob.get(), look::placed({{x, margin}, {side, side}}, size.width));
 }
 
 void SwitchView::registerClass() {

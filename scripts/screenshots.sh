@@ -1,7 +1,7 @@
 #!/bin/bash
 # usage: scripts/screenshots.sh [BUILD-FOLDER]
 #
-# Makes the pictures of docs/pictures anew, from a served phone in the distribution's Chromium. Needs
+# Makes the pictures of docs/pictures again, from a served phone in the distribution's Chromium. Needs
 # a build of preset dev, or of the folder that is named.
 set -euo pipefail
 cd "$(dirname "$0")/.."

@@ -6,7 +6,7 @@
 namespace sim {
 
 void nameCephei() {
-  const NamesAlone names;
+  const NamesOnly names;
   HBPreferences::registerClass();
 }
 

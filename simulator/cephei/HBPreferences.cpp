@@ -56,10 +56,10 @@ void HBPreferences::domainDidChangeElsewhere(const std::string& name) {
   });
 }
 
-std::vector<std::string> HBPreferences::keysAskedFor(const std::string& name) {
+std::vector<std::string> HBPreferences::requestedKeys(const std::string& name) {
   const auto found = instances().find(name);
   if (found == instances().end()) return {};
-  return of(found->second.get()).domain->keysAskedFor();
+  return of(found->second.get()).domain->requestedKeys();
 }
 
 objc::Object HBPreferences::identifier() {
@@ -84,12 +84,12 @@ void HBPreferences::didChange() {
       objc::send<objc::Object, "defaultCenter">(objc_getClass("NSNotificationCenter"));
   objc::send<void, "postNotificationName:object:">(center, HBPreferencesDidChangeNotification,
                                                    self());
-  tellKeyObservers();
+  notifyKeyObservers();
   const auto all = observers;  // a block may register another
   for (const auto& each : all) each.get()();
 }
 
-void HBPreferences::tellKeyObservers() {
+void HBPreferences::notifyKeyObservers() {
   for (std::size_t index = 0; index < keyObservers.size(); ++index) {
     const KeyObserver observer = keyObservers[index];
     const auto value = objc::retain(domain->value(observer.key));

@@ -30,7 +30,7 @@ struct HBPreferences : objc::Implementation<HBPreferences> {
 
   // The keys that this process has read, bound or given a default; none when it has not opened the
   // domain.
-  static std::vector<std::string> keysAskedFor(const std::string& identifier);
+  static std::vector<std::string> requestedKeys(const std::string& identifier);
 
   objc::Object identifier();
   objc::Object defaults() { return domain->defaults(); }
@@ -72,7 +72,7 @@ struct HBPreferences : objc::Implementation<HBPreferences> {
   void addBinding(objc::Object key, Bindings::Address address, objc::Object otherwise);
   void store(objc::Object value, objc::Object key, const std::string& message);
   void didChange();
-  void tellKeyObservers();
+  void notifyKeyObservers();
 
   std::unique_ptr<PreferencesDomain> domain;
   Bindings bindings;

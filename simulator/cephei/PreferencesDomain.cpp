@@ -18,7 +18,7 @@ objc::Object readDictionary(const std::filesystem::path& file) {
   std::string error;
   const objc::Object content = readPropertyList(file, &error);
   if (isKindOf(content, "NSDictionary")) return content;
-  setAsideUnreadable(file, content ? file.string() + ": its root is no dictionary" : error);
+  quarantine(file, content ? file.string() + ": its root is no dictionary" : error);
   return nullptr;
 }
 
@@ -29,7 +29,7 @@ PreferencesDomain::PreferencesDomain(std::string name) : name_(std::move(name)) 
 }
 
 objc::Object PreferencesDomain::value(const std::string& key) const {
-  askedFor_.insert(key);
+  requestedKeys_.insert(key);
   for (const Values* values : {&stored_, &defaults_})
     if (const auto found = values->find(key); found != values->end()) return found->second.get();
   return nullptr;
@@ -40,7 +40,7 @@ void PreferencesDomain::set(const std::string& key, objc::Object value) {
 }
 
 void PreferencesDomain::setDefault(const std::string& key, objc::Object value) {
-  askedFor_.insert(key);
+  requestedKeys_.insert(key);
   assign(defaults_, key, value);
 }
 

@@ -20,7 +20,9 @@ class PreferencesDomain {
   // The stored value, else the registered default, else nil.
   objc::Object value(const std::string& key) const;
   // The keys whose values were asked for, or have a default, in alphabetical order.
-  std::vector<std::string> keysAskedFor() const { return {askedFor_.begin(), askedFor_.end()}; }
+  std::vector<std::string> requestedKeys() const {
+    return {requestedKeys_.begin(), requestedKeys_.end()};
+  }
   // nil removes the value. Not yet in the file.
   void set(const std::string& key, objc::Object value);
   void clear() { stored_.clear(); }
@@ -44,7 +46,7 @@ class PreferencesDomain {
   std::string name_;
   Values stored_;
   Values defaults_;
-  mutable std::set<std::string> askedFor_;
+  mutable std::set<std::string> requestedKeys_;
 };
 
 }  // namespace sim

@@ -13,7 +13,7 @@ std::filesystem::path preferencesFile(std::string_view domain) {
                                ".plist");
 }
 
-void setAsideUnreadable(const std::filesystem::path& file, const std::string& reason) {
+void quarantine(const std::filesystem::path& file, const std::string& reason) {
   auto kept = file;
   kept += ".corrupt";
   std::error_code failure;

@@ -13,6 +13,6 @@ std::filesystem::path preferencesFile(std::string_view domain);
 // Moves a file that cannot be read out of the way, as FILE.corrupt, and says so on stderr: the
 // domain counts as empty then, and nothing overwrites what may still be rescued by hand.
 // `reason` names the file.
-void setAsideUnreadable(const std::filesystem::path& file, const std::string& reason);
+void quarantine(const std::filesystem::path& file, const std::string& reason);
 
 }  // namespace sim

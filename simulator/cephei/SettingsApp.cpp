@@ -13,7 +13,7 @@ PropertyListNode readDictionary(const std::filesystem::path& file) {
     std::string error;
     PropertyListNode content = loadNode(file, &error);
     if (content && plist_get_node_type(content.get()) == PLIST_DICT) return content;
-    setAsideUnreadable(file, content ? file.string() + ": its root is no dictionary" : error);
+    quarantine(file, content ? file.string() + ": its root is no dictionary" : error);
   }
   return PropertyListNode(plist_new_dict());
 }

@@ -31,7 +31,7 @@ void registerControlCenter() {
   CCUICAPackageView::registerClass();
   CCUIContentModuleContainerViewController::registerClass();
   CCUIModularControlCenterOverlayViewController::registerClass();
-  LockScreen::current().whenLocked(closeControlCenter);
+  LockScreen::current().onLock(closeControlCenter);
 }
 
 void openControlCenter() {

@@ -10,7 +10,7 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/springboard/StatusBar.h"
-#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/PreRender.h"
 
 namespace sim {
 namespace {
@@ -29,7 +29,7 @@ LockScreen& LockScreen::current() {
 
 void LockScreen::lock() {
   locked_ = true;
-  for (const auto& told : told_) told();
+  for (const auto& handler : lockHandlers_) handler();
   if (!hasParts_) makeParts();
   const double now = Phone::current().clock.wall();
   drawDate(now);
@@ -61,7 +61,7 @@ void LockScreen::showCoverSheet() {
 // As long as the process lives: there is a cover sheet at times.
 void LockScreen::followCountdown() {
   if (std::exchange(followsCountdown_, true)) return;
-  beforeLooking([this] {
+  addPreRenderHook([this] {
     if (const objc::Object sheet = coverSheet())
       CSCoverSheetViewController::of(sheet).showCountdown(countdown());
   });

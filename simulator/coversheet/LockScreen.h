@@ -21,7 +21,7 @@ class LockScreen {
   void lock();
   void unlock();
   // Called whenever the phone is locked, before the lock screen is there.
-  void whenLocked(std::function<void()> told) { told_.push_back(std::move(told)); }
+  void onLock(std::function<void()> handler) { lockHandlers_.push_back(std::move(handler)); }
   // CSCoverSheetViewController; nil while the phone is not locked.
   objc::Object coverSheet() const;
 
@@ -39,7 +39,7 @@ class LockScreen {
   void redrawAt(double midnight);
 
   bool locked_ = false;
-  std::vector<std::function<void()>> told_;
+  std::vector<std::function<void()>> lockHandlers_;
   // Owned, and never given up. nil before the phone was first locked, or without the class.
   objc::Object timerController_;  // CSTimerViewController
   objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView

@@ -4,7 +4,7 @@
 #include "simulator/drawing/NodeContent.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/machine/Phone.h"
-#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/PreRender.h"
 #include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/application/UIWindow.h"
 #include "simulator/uikit/views/UIView.h"
@@ -106,7 +106,7 @@ Node sceneOf(const CALayer& layer, Nanoseconds now) {
 
 Node screenScene() {
   const objc::AutoreleasePool pool;
-  prepareForLooking();
+  runPreRenderHooks();
   const Nanoseconds now = Phone::current().clock.uptime();
   Node screen;
   screen.attributes.kind = "screen";

@@ -26,7 +26,7 @@ void note(const Absence& absence) {
     methods.emplace(class_getName(absence.cls), absence.name);
 }
 
-void tellOfClass(const std::string& name) {
+void reportClass(const std::string& name) {
   if (const std::string library = libraryToLoadFor(name); !library.empty()) {
     std::fprintf(stderr, "an extension looks for the class %s of %s, but none links lib%s.so\n",
                  name.c_str(), library.c_str(), library.c_str());
@@ -36,7 +36,7 @@ void tellOfClass(const std::string& name) {
                didYouMean(name, classNames()).c_str());
 }
 
-void tellOfMethod(const std::string& cls, const std::string& selector) {
+void reportMethod(const std::string& cls, const std::string& selector) {
   Names known = selectorNames(cls, false);
   const Names ofClass = selectorNames(cls, true);
   known.insert(known.end(), ofClass.begin(), ofClass.end());
@@ -54,8 +54,8 @@ AbsentNames::AbsentNames() {
 AbsentNames::~AbsentNames() {
   simulator::runtime::observeAbsences(nullptr);
   const std::lock_guard guard(noting);
-  for (const std::string& name : classes) tellOfClass(name);
-  for (const auto& [cls, selector] : methods) tellOfMethod(cls, selector);
+  for (const std::string& name : classes) reportClass(name);
+  for (const auto& [cls, selector] : methods) reportMethod(cls, selector);
   classes.clear();
   methods.clear();
 }

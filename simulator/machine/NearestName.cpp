@@ -62,7 +62,7 @@ std::string didYouMean(std::string_view name, const std::vector<std::string>& kn
   return nearest(name, known, std::max<std::size_t>(1, name.size() / 3));
 }
 
-std::string slipOf(std::string_view name, const std::vector<std::string>& known) {
+std::string typoSuggestion(std::string_view name, const std::vector<std::string>& known) {
   if (std::find(known.begin(), known.end(), name) != known.end()) return "";
   return nearest(name, known, std::min<std::size_t>(2, name.size() / 4));
 }

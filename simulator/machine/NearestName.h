@@ -18,6 +18,6 @@ std::string didYouMean(std::string_view name, const std::vector<std::string>& kn
 
 // The same for a name that may be unknown on purpose: only what differs in one or two letters is
 // taken for a slip. Empty for a known name.
-std::string slipOf(std::string_view name, const std::vector<std::string>& known);
+std::string typoSuggestion(std::string_view name, const std::vector<std::string>& known);
 
 }  // namespace sim

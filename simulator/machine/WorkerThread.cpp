@@ -11,7 +11,7 @@ namespace sim {
 namespace {
 
 // The one place where a worker and the waiting main thread meet.
-class Meeting {
+class Rendezvous {
  public:
   // Main thread: runs what is asked for until the worker has finished.
   void serve() {
@@ -49,15 +49,15 @@ class Meeting {
   bool finished_ = false;
 };
 
-thread_local Meeting* meeting = nullptr;
+thread_local Rendezvous* rendezvous = nullptr;
 
 }  // namespace
 
 void runOnWorkerThread(const std::function<void()>& work) {
-  Meeting place;
+  Rendezvous place;
   std::exception_ptr failure;
   std::thread worker([&] {
-    meeting = &place;
+    rendezvous = &place;
     try {
       const objc::AutoreleasePool pool;
       work();
@@ -72,7 +72,7 @@ void runOnWorkerThread(const std::function<void()>& work) {
 }
 
 void runOnMainThread(const std::function<void()>& work) {
-  meeting->ask(work);
+  rendezvous->ask(work);
 }
 
 }  // namespace sim

@@ -15,7 +15,7 @@ namespace {
 // It is a button to UIKit, too.
 unsigned long routingButtonTraits(Object self) {
   return accessibilityTraitsOr(self.get(),
-                               ViewAccessibility::button | UIControl::of(self).spokenState());
+                               ViewAccessibility::button | UIControl::of(self).stateTraits());
 }
 bool routingButtonIsElement(Object self) {
   return isAccessibilityElementOr(self.get(), true);

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "simulator/foundation/Values.h"
-#include "simulator/preferences/Look.h"
+#include "simulator/preferences/Style.h"
 #include "simulator/preferences/TapArea.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
@@ -56,7 +56,7 @@ std::vector<std::string> wordsOf(std::string_view line) {
 Object Keyboard::initWithFrame(CGRect frame) {
   const Object made = super<Object, "initWithFrame:">(frame);
   if (!made) return nullptr;
-  fill(made, look::card());
+  fill(made, style::card());
   makeKeys();
   return made;
 }
@@ -82,7 +82,7 @@ void Keyboard::addKey(std::string_view face) {
   const Special* special = specialOf(face);
   const auto area = addView(Object(self()), "_SettingsTapArea");
   if (!area) return;
-  fill(area.get(), special == nullptr ? look::pressedCard() : look::line(), radius);
+  fill(area.get(), special == nullptr ? style::pressedCard() : style::line(), radius);
   const auto label =
       addLabel(area.get(), {.points = special == nullptr ? 20.0 : 15.0, .alignment = center});
   setText(label.get(), string(face));
@@ -90,7 +90,7 @@ void Keyboard::addKey(std::string_view face) {
   objc::send<void, "setAutoresizingMask:">(label.get(), fillsArea);
   objc::send<void, "setAccessibilityLabel:">(
       area.get(), string(special == nullptr ? face : std::string_view(special->spoken)));
-  TapArea::of(area.get()).whenTapped([this, face = std::string(face)] { press(face); });
+  TapArea::of(area.get()).onTap([this, face = std::string(face)] { press(face); });
   rows_.back().push_back({area, special == nullptr ? 1 : special->width});
 }
 

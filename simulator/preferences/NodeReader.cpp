@@ -10,10 +10,10 @@
 namespace sim {
 namespace {
 
-struct Freed {
+struct FreeDeleter {
   void operator()(char* bytes) const { std::free(bytes); }
 };
-using Bytes = std::unique_ptr<char, Freed>;
+using Bytes = std::unique_ptr<char, FreeDeleter>;
 
 std::string stringOf(plist_t node) {
   char* bytes = nullptr;

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "simulator/foundation/Values.h"
-#include "simulator/preferences/Look.h"
+#include "simulator/preferences/Style.h"
 #include "simulator/preferences/TapArea.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
@@ -25,8 +25,8 @@ bool haveSameRows(const Page& before, const Page& now) {
 objc::Strong<Object> addNote(Object parent, const std::string& words) {
   constexpr double points = 13;
   if (words.empty()) return {};
-  auto label = addLabel(parent, {.points = points, .alignment = look::leading(), .lines = 0});
-  objc::send<void, "setTextColor:">(label.get(), look::faint());
+  auto label = addLabel(parent, {.points = points, .alignment = style::leading(), .lines = 0});
+  objc::send<void, "setTextColor:">(label.get(), style::secondaryText());
   setText(label.get(), string(words));
   return label;
 }
@@ -37,7 +37,7 @@ Object PageView::initWithFrame(CGRect frame) {
   constexpr long center = 1;
   const Object made = super<Object, "initWithFrame:">(frame);
   if (!made) return nullptr;
-  fill(made, look::ground());
+  fill(made, style::background());
   window = addView(made, "_SettingsTapArea");
   scrolled = addView(window.get(), "UIView");
   bar = addView(made, "UIView");
@@ -65,11 +65,11 @@ void PageView::showBack(std::function<void()> goesBack) {
   if (page.back.empty() || back) return;
   back = addView(bar.get(), "_SettingsTapArea");
   if (!back) return;
-  look::addSymbol(back.get(), look::Symbol::back, look::blue());
-  const auto label = addLabel(back.get(), {.alignment = look::leading()});
-  objc::send<void, "setTextColor:">(label.get(), look::blue());
+  style::addSymbol(back.get(), style::Symbol::back, style::blue());
+  const auto label = addLabel(back.get(), {.alignment = style::leading()});
+  objc::send<void, "setTextColor:">(label.get(), style::blue());
   setText(label.get(), string(page.back));
-  TapArea::of(back.get()).whenTapped(std::move(goesBack));
+  TapArea::of(back.get()).onTap(std::move(goesBack));
 }
 
 void PageView::makeGroups() {
@@ -83,13 +83,13 @@ void PageView::makeGroups() {
     made.header = addNote(scrolled.get(), group.header);
     made.card = addView(scrolled.get(), "UIView");
     made.footer = addNote(scrolled.get(), group.footer);
-    fill(made.card.get(), look::card(), radius);
+    fill(made.card.get(), style::card(), radius);
     objc::send<void, "setClipsToBounds:">(made.card.get(), true);
     for (std::size_t i = 0; i < group.rows.size(); ++i) {
       made.rows.push_back(addView(made.card.get(), "_SettingsRow"));
       TapArea::of(made.rows.back().get()).dragged = [this](double way) { scrollBy(-way); };
       made.lines.push_back(addView(made.card.get(), "UIView"));
-      fill(made.lines.back().get(), look::line());
+      fill(made.lines.back().get(), style::line());
     }
   }
 }

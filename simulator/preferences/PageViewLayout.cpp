@@ -1,8 +1,8 @@
 // PageView: where its parts stand.
 #include <algorithm>
 
-#include "simulator/preferences/Look.h"
 #include "simulator/preferences/PageView.h"
+#include "simulator/preferences/Style.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -22,9 +22,9 @@ double topOf(CGSize size) {
 
 double layOutNote(Object label, double top, double width) {
   if (!label) return top;
-  const double room = width - 4 * look::margin;
+  const double room = width - 4 * style::margin;
   const double height = sizeThatFits(label, {room, 1000}).height;
-  setFrame(label, {{2 * look::margin, top}, {room, height}});
+  setFrame(label, {{2 * style::margin, top}, {room, height}});
   return top + height;
 }
 
@@ -33,7 +33,7 @@ double layOutNote(Object label, double top, double width) {
 void PageView::layOutBar(CGSize size) {
   const double top = topOf(size);
   const double backWidth = back ? layOutBack(top, size.width) : 0;
-  const double side = look::margin + backWidth;
+  const double side = style::margin + backWidth;
   setFrame(bar.get(), {{0, 0}, {size.width, top + barHeight}});
   setFrame(title.get(), {{side, top}, {size.width - 2 * side, barHeight}});
 }
@@ -43,13 +43,13 @@ double PageView::layOutBack(double top, double width) {
   const Object parts = objc::send<Object, "subviews">(back.get());
   const Object arrow = objc::send<Object, "firstObject">(parts);
   const Object words = objc::send<Object, "lastObject">(parts);
-  const double x = look::symbolSide + symbolGap;
+  const double x = style::symbolSide + symbolGap;
   const double wordsWidth = std::min(sizeThatFits(words, {width, barHeight}).width, widestBack - x);
   const double its = x + wordsWidth;
-  const double arrowTop = (barHeight - look::symbolSide) / 2;
-  setFrame(back.get(), look::placed({{look::margin / 2, top}, {its, barHeight}}, width));
-  setFrame(arrow, look::placed({{0, arrowTop}, {look::symbolSide, look::symbolSide}}, its));
-  setFrame(words, look::placed({{x, 0}, {wordsWidth, barHeight}}, its));
+  const double arrowTop = (barHeight - style::symbolSide) / 2;
+  setFrame(back.get(), style::placed({{style::margin / 2, top}, {its, barHeight}}, width));
+  setFrame(arrow, style::placed({{0, arrowTop}, {style::symbolSide, style::symbolSide}}, its));
+  setFrame(words, style::placed({{x, 0}, {wordsWidth, barHeight}}, its));
   return its;
 }
 
@@ -57,16 +57,16 @@ double PageView::layOutGroup(std::size_t index, double top, double width) {
   const GroupViews& group = groups[index];
   double y = layOutNote(group.header.get(), top, width);
   if (group.header) y += noteGap;
-  const double cardWidth = width - 2 * look::margin;
+  const double cardWidth = width - 2 * style::margin;
   const double cardHeight = RowView::height * double(group.rows.size());
-  setFrame(group.card.get(), {{look::margin, y}, {cardWidth, cardHeight}});
+  setFrame(group.card.get(), {{style::margin, y}, {cardWidth, cardHeight}});
   for (std::size_t i = 0; i < group.rows.size(); ++i) {
     const double rowTop = RowView::height * double(i);
     setFrame(group.rows[i].get(), {{0, rowTop}, {cardWidth, RowView::height}});
     const bool isFirst = i == 0;
-    const CGRect line = {{look::margin, rowTop},
-                         {cardWidth - look::margin, isFirst ? 0 : look::hairline / 2}};
-    setFrame(group.lines[i].get(), look::placed(line, cardWidth));
+    const CGRect line = {{style::margin, rowTop},
+                         {cardWidth - style::margin, isFirst ? 0 : style::hairline / 2}};
+    setFrame(group.lines[i].get(), style::placed(line, cardWidth));
   }
   y += cardHeight;
   return group.footer ? layOutNote(group.footer.get(), y + noteGap, width) : y;

@@ -17,7 +17,7 @@ void registerPreferences() {
   RowView::registerClass();
   PageView::registerClass();
   Keyboard::registerClass();
-  whenIconTapped("Settings", [] { PreferencesApp::current().open(); });
+  onIconTap("Settings", [] { PreferencesApp::current().open(); });
 }
 
 }  // namespace sim

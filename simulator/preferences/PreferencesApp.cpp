@@ -4,8 +4,8 @@
 
 #include "simulator/foundation/Values.h"
 #include "simulator/preferences/Keyboard.h"
-#include "simulator/preferences/Look.h"
 #include "simulator/preferences/Pages.h"
+#include "simulator/preferences/Style.h"
 #include "simulator/preferences/SystemWords.h"
 #include "simulator/preferences/TapArea.h"
 #include "simulator/uikit/application/UIWindow.h"
@@ -115,8 +115,8 @@ void PreferencesApp::addHomeBar(Object root) {
   fill(drawn.get(), whiteColor(1), line.height / 2);
   objc::send<void, "setUserInteractionEnabled:">(drawn.get(), false);
   objc::send<void, "setAccessibilityLabel:">(bar.get(), string("Home"));
-  TapArea::of(bar.get()).whenTapped([this] { close(); });
-  TapArea::of(bar.get()).whenSwiped([this] { close(); });
+  TapArea::of(bar.get()).onTap([this] { close(); });
+  TapArea::of(bar.get()).onSwipe([this] { close(); });
 }
 
 void PreferencesApp::edit(const std::string& key, const std::string& text,

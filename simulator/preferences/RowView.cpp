@@ -4,7 +4,7 @@
 
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/preferences/Look.h"
+#include "simulator/preferences/Style.h"
 #include "simulator/preferences/SwitchView.h"
 #include "simulator/preferences/TapArea.h"
 #include "simulator/standin/StandIn.h"
@@ -34,8 +34,8 @@ double widthOf(Object label, double room) {
 Object RowView::initWithFrame(CGRect frame) {
   const Object made = super<Object, "initWithFrame:">(frame);
   if (!made) return nullptr;
-  label = addRowLabel(made, look::leading());
-  value = addRowLabel(made, look::trailing());
+  label = addRowLabel(made, style::leading());
+  value = addRowLabel(made, style::trailing());
   return made;
 }
 
@@ -44,11 +44,12 @@ void RowView::show(const Row& shown) {
   row = shown;
   setText(label.get(), string(row.label));
   setText(value.get(), string(row.value));
-  objc::send<void, "setTextColor:">(value.get(), row.valueIsFaint ? look::faint() : whiteColor(1));
+  objc::send<void, "setTextColor:">(value.get(),
+                                    row.valueIsFaint ? style::secondaryText() : whiteColor(1));
   if (!hasSameIcon) showIcon();
   if (!hasSameEnd) showEnd(row.end);
   if (SwitchView* toggle = stateOf<SwitchView>(end.get())) toggle->setOn(row.isOn);
-  if (row.tapped) TapArea::of(self()).whenTapped(row.tapped);
+  if (row.tapped) TapArea::of(self()).onTap(row.tapped);
   speak();
   objc::send<void, "setNeedsLayout">(self());
 }
@@ -68,8 +69,9 @@ void RowView::showEnd(Row::End kind) {
   objc::send<void, "removeFromSuperview">(end.get());
   end = {};
   const Object made(self());
-  if (kind == Row::End::arrow) end = look::addSymbol(made, look::Symbol::forward, look::faint());
-  if (kind == Row::End::check) end = look::addSymbol(made, look::Symbol::check, look::blue());
+  if (kind == Row::End::arrow)
+    end = style::addSymbol(made, style::Symbol::forward, style::secondaryText());
+  if (kind == Row::End::check) end = style::addSymbol(made, style::Symbol::check, style::blue());
   if (kind == Row::End::toggle) end = addView(made, "_SettingsSwitch");
 }
 
@@ -83,17 +85,17 @@ void RowView::speak() {
 
 void RowView::setHighlighted(bool on) {
   super<void, "setHighlighted:">(on);
-  objc::send<void, "setBackgroundColor:">(self(), on ? look::pressedCard() : Object());
+  objc::send<void, "setBackgroundColor:">(self(), on ? style::pressedCard() : Object());
 }
 
 // How much of the width it leaves.
 double RowView::layOutEnd(CGSize size) {
-  const double right = size.width - look::margin;
+  const double right = size.width - style::margin;
   if (!end) return right;
   const CGSize its =
-      row.end == Row::End::toggle ? SwitchView::size : CGSize{look::symbolSide, look::symbolSide};
+      row.end == Row::End::toggle ? SwitchView::size : CGSize{style::symbolSide, style::symbolSide};
   const double x = right - its.width;
-  setFrame(end.get(), look::placed({{x, (size.height - its.height) / 2}, its}, size.width));
+  setFrame(end.get(), style::placed({{x, (size.height - its.height) / 2}, its}, size.width));
   return x - gap;
 }
 
@@ -101,11 +103,11 @@ void RowView::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize size = sizeOf(Object(self()));
   const double right = layOutEnd(size);
-  double left = look::margin;
+  double left = style::margin;
   if (icon) {
     const CGRect place = {{left, (size.height - iconSide) / 2}, {iconSide, iconSide}};
-    setFrame(icon.get(), look::placed(place, size.width));
-    left += iconSide + look::margin;
+    setFrame(icon.get(), style::placed(place, size.width));
+    left += iconSide + style::margin;
   }
   // The value takes what it needs, and leaves the label at least half.
   const double room = right - left;
@@ -113,9 +115,9 @@ void RowView::layoutSubviews() {
   const double valueWidth =
       row.value.empty() ? 0 : widthOf(value.get(), std::max(room / 2, room - labelNeeds - gap));
   const double labelWidth = room - (valueWidth > 0 ? valueWidth + gap : 0);
-  setFrame(label.get(), look::placed({{left, 0}, {labelWidth, size.height}}, size.width));
+  setFrame(label.get(), style::placed({{left, 0}, {labelWidth, size.height}}, size.width));
   setFrame(value.get(),
-           look::placed({{right - valueWidth, 0}, {valueWidth, size.height}}, size.width));
+           style::placed({{right - valueWidth, 0}, {valueWidth, size.height}}, size.width));
 }
 
 void RowView::registerClass() {

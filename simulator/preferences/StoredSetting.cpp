@@ -12,7 +12,7 @@
 namespace sim {
 namespace {
 
-struct Shown {
+struct NotationVisitor {
   std::string operator()(NoValue) const { return "none"; }
   std::string operator()(bool value) const { return notation(number(value)); }
   std::string operator()(long value) const { return notation(number(value)); }
@@ -42,7 +42,8 @@ SettingsValue storedSetting(const Specifier& specifier) {
 }
 
 void storeSetting(const Specifier& specifier, const SettingsValue& value) {
-  Phone::current().journal.record("user set " + specifier.key + ' ' + std::visit(Shown(), value));
+  Phone::current().journal.record("user set " + specifier.key + ' ' +
+                                  std::visit(NotationVisitor(), value));
   writeSetting(preferencesFile(specifier.domain), specifier.key, value);
   postNotification(specifier.notification);
 }

@@ -1,6 +1,6 @@
 #include "simulator/preferences/SwitchView.h"
 
-#include "simulator/preferences/Look.h"
+#include "simulator/preferences/Style.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -20,7 +20,7 @@ Object SwitchView::initWithFrame(CGRect frame) {
 
 void SwitchView::setOn(bool on) {
   isOn = on;
-  fill(Object(self()), on ? look::green() : look::line(), size.height / 2);
+  fill(Object(self()), on ? style::green() : style::line(), size.height / 2);
   objc::send<void, "setNeedsLayout">(self());
 }
 
@@ -28,7 +28,7 @@ void SwitchView::layoutSubviews() {
   constexpr double margin = 2, side = size.height - 2 * margin;
   super<void, "layoutSubviews">();
   const double x = isOn ? size.width - margin - side : margin;
-  setFrame(knob.get(), look::placed({{x, margin}, {side, side}}, size.width));
+  setFrame(knob.get(), style::placed({{x, margin}, {side, side}}, size.width));
 }
 
 void SwitchView::registerClass() {

@@ -22,14 +22,14 @@ double heightOnScreen(Object touch) {
 
 }  // namespace
 
-void TapArea::whenTapped(std::function<void()> does) {
+void TapArea::onTap(std::function<void()> does) {
   const bool isFirst = !std::exchange(tapped_, std::move(does));
   if (isFirst)
     UIControl::of(self()).addTarget(Object(self()), objc::selector<"_tap">(),
                                     UIControl::touchUpInside);
 }
 
-void TapArea::whenSwiped(std::function<void()> does) {
+void TapArea::onSwipe(std::function<void()> does) {
   const bool isFirst = !std::exchange(swiped_, std::move(does));
   if (isFirst)
     UIControl::of(self()).addTarget(Object(self()), objc::selector<"_release">(),

@@ -12,9 +12,9 @@ struct TapArea : objc::Implementation<TapArea> {
   std::function<void(double)> dragged;
 
   // A finger that drags does not tap.
-  void whenTapped(std::function<void()> does);
+  void onTap(std::function<void()> does);
   // The same for a finger that leaves it upwards.
-  void whenSwiped(std::function<void()> does);
+  void onSwipe(std::function<void()> does);
 
   static void registerClass();
 

@@ -63,7 +63,7 @@ auto findKey(Associations& associations, const void* key) {
 Association exchange(id object, const Association& added) {
   AssociationTable& table = tableOf(object);
   const std::lock_guard guard(table.lock);
-  leaveTrace(object, kHasAssociations);
+  setTrace(object, kHasAssociations);
   Associations& associations = table.byObject[object];
   const auto found = findKey(associations, added.key);
   if (found != associations.end()) {

@@ -83,7 +83,7 @@ void* copyToHeap(const BlockLayout& source) {
 
 }  // namespace
 
-void leaveTraceInBlock(id block, ObjectTrace trace) {
+void setTraceInBlock(id block, ObjectTrace trace) {
   if ((flagsOf(block).load() & kBlockNeedsFree) != 0) {
     tracesOf(block).fetch_or(trace, std::memory_order_release);
   }
@@ -144,7 +144,7 @@ void _Block_release(const void* block) {
     helpers->dispose(block);
   }
   const std::uint32_t traces = tracesOf(block).load(std::memory_order_acquire);
-  forgetTraces(reinterpret_cast<id>(layoutOf(block)), traces);
+  clearTraces(reinterpret_cast<id>(layoutOf(block)), traces);
   if ((traces & kCountedBlock) != 0) {
     countLiveBlocks(-1);
   }

@@ -44,7 +44,7 @@ enum BlockFlag : std::int32_t {
 inline constexpr std::uint32_t kCountedBlock = 1u << 31;
 
 // Nothing for blocks that are not on the heap: they have no end, and may be read-only.
-void leaveTraceInBlock(id block, ObjectTrace trace);
+void setTraceInBlock(id block, ObjectTrace trace);
 
 // Whether callers of the block pass the place for its result: on x86-64, as its maker has marked
 // it.

@@ -43,13 +43,13 @@ void destructMembers(id object) {
 
 }  // namespace
 
-void leaveTrace(id object, ObjectTrace trace) {
+void setTrace(id object, ObjectTrace trace) {
   switch (kindOf(object)) {
     case ObjectKind::kInstance:
       headerOf(object).traces.fetch_or(trace, std::memory_order_release);
       break;
     case ObjectKind::kBlock:
-      leaveTraceInBlock(object, trace);
+      setTraceInBlock(object, trace);
       break;
     case ObjectKind::kClass:
       break;  // has no end
@@ -59,10 +59,10 @@ void leaveTrace(id object, ObjectTrace trace) {
 void destructInstance(id object) {
   destructMembers(object);
   // Read only now: destructors may have left some.
-  forgetTraces(object, headerOf(object).traces.load(std::memory_order_acquire));
+  clearTraces(object, headerOf(object).traces.load(std::memory_order_acquire));
 }
 
-void forgetTraces(id object, std::uint32_t traces) {
+void clearTraces(id object, std::uint32_t traces) {
   if ((traces & kHasAssociations) != 0) {
     objc_removeAssociatedObjects(object);
   }
@@ -88,7 +88,7 @@ id class_createInstance(Class cls, std::size_t extraBytes) {
   header->references.store(kOneReference, std::memory_order_relaxed);
   id object = objectOf(header);
   object->isa = cls;
-  enterLiveObject(*header);
+  addLiveObject(*header);
   return object;
 }
 
@@ -98,7 +98,7 @@ id object_dispose(id object) {
   }
   destructInstance(object);
   InstanceHeader& header = headerOf(object);
-  leaveLiveObject(header);
+  removeLiveObject(header);
   header.references.store(kFreed, std::memory_order_relaxed);
   std::free(&header);
   return nullptr;

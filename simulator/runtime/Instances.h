@@ -35,13 +35,13 @@ enum class ObjectKind { kInstance, kClass, kBlock };
 ObjectKind kindOf(id object);
 
 // Remembers that a side table knows the object, so that its end has to look there.
-void leaveTrace(id object, ObjectTrace trace);
+void setTrace(id object, ObjectTrace trace);
 
 // What happens between dealloc and free: the members are destroyed, associations go, then weak
 // references read nil.
 void destructInstance(id object);
 
 // The last two of these, for the bits of ObjectTrace in `traces`.
-void forgetTraces(id object, std::uint32_t traces);
+void clearTraces(id object, std::uint32_t traces);
 
 }  // namespace simulator::runtime

@@ -67,7 +67,7 @@ std::size_t liveBlockCount() {
   return static_cast<std::size_t>(liveBlocks.load());
 }
 
-void enterLiveObject(InstanceHeader& header) {
+void addLiveObject(InstanceHeader& header) {
   LiveList& list = lists().of(&header);
   const std::lock_guard guard(list.lock);
   header.previous = nullptr;
@@ -78,7 +78,7 @@ void enterLiveObject(InstanceHeader& header) {
   list.first = &header;
 }
 
-void leaveLiveObject(InstanceHeader& header) {
+void removeLiveObject(InstanceHeader& header) {
   LiveList& list = lists().of(&header);
   const std::lock_guard guard(list.lock);
   (header.previous != nullptr ? header.previous->next : list.first) = header.next;

@@ -29,8 +29,8 @@ std::vector<LiveCount> liveInstanceCounts();
 std::size_t liveBlockCount();
 
 // For the runtime itself.
-void enterLiveObject(InstanceHeader& header);
-void leaveLiveObject(InstanceHeader& header);
+void addLiveObject(InstanceHeader& header);
+void removeLiveObject(InstanceHeader& header);
 void countLiveBlocks(std::ptrdiff_t change);
 
 }  // namespace simulator::runtime

@@ -36,7 +36,7 @@ void write(id* location, id object) {
 
 // Both are called with the lock of the object's table held.
 void add(WeakTable& table, id object, id* location) {
-  leaveTrace(object, kHasWeakReferences);
+  setTrace(object, kHasWeakReferences);
   table.locations[object].add(location);
 }
 

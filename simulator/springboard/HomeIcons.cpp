@@ -103,7 +103,7 @@ std::string_view homeIconTitle(std::size_t index) {
   return icons.at(index).title;
 }
 
-void whenIconTapped(std::string_view title, std::function<void()> opens) {
+void onIconTap(std::string_view title, std::function<void()> opens) {
   openers()[std::string(title)] = std::move(opens);
 }
 

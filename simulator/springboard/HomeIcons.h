@@ -18,7 +18,7 @@ objc::Strong<objc::Object> makeHomeIcon(std::size_t index);
 std::string_view homeIconTitle(std::size_t index);
 
 // Before the home screen is made.
-void whenIconTapped(std::string_view title, std::function<void()> opens);
+void onIconTap(std::string_view title, std::function<void()> opens);
 // Nothing for an application that cannot be opened.
 void openApplication(std::size_t index);
 

@@ -24,12 +24,12 @@ void setGradient(Object layer, std::initializer_list<Rgb> colors,
   if (!numbers.empty()) objc::send<void, "setLocations:">(layer, array(numbers));
 }
 
-objc::Strong<Object> addShapeLayer(Object layer, std::string_view path, const ShapeLook& look) {
+objc::Strong<Object> addShapeLayer(Object layer, std::string_view path, const ShapeStyle& style) {
   auto shape = objc::adopt(objc::send<Object, "new">(objc_getClass("CAShapeLayer")));
   objc::send<void, "setPath:">(shape.get(), CGPath::of(pathFromText(path)));
-  objc::send<void, "setFillColor:">(shape.get(), look.fill);
-  objc::send<void, "setStrokeColor:">(shape.get(), look.line);
-  objc::send<void, "setLineWidth:">(shape.get(), look.lineWidth);
+  objc::send<void, "setFillColor:">(shape.get(), style.fill);
+  objc::send<void, "setStrokeColor:">(shape.get(), style.line);
+  objc::send<void, "setLineWidth:">(shape.get(), style.lineWidth);
   objc::send<void, "setLineCap:">(shape.get(), string("round"));
   objc::send<void, "setLineJoin:">(shape.get(), string("round"));
   objc::send<void, "setAnchorPoint:">(shape.get(), CGPoint{});

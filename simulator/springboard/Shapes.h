@@ -17,13 +17,13 @@ objc::Object coreColor(const Rgb& color, double alpha = 1);  // CGColor, autorel
 void setGradient(objc::Object layer, std::initializer_list<Rgb> colors,
                  std::initializer_list<double> places = {});
 
-struct ShapeLook {
+struct ShapeStyle {
   objc::Object fill;  // CGColor; nil fills nothing
   objc::Object line;  // CGColor; nil draws no line
   double lineWidth = 1;
 };
 // A new CAShapeLayer on top of the layer's; for the path's text see pathFromText.
 objc::Strong<objc::Object> addShapeLayer(objc::Object layer, std::string_view path,
-                                         const ShapeLook& look);
+                                         const ShapeStyle& style);
 
 }  // namespace sim

@@ -3,7 +3,7 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/springboard/StatusBarView.h"
-#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/PreRender.h"
 #include "simulator/uikit/application/UIWindow.h"
 
 namespace sim {
@@ -34,7 +34,7 @@ void showStatusBar() {
   objc::send<void, "setHidden:">(window.get(), false);
   statusBar = view.get();
   statusWindow = window.detach();
-  beforeLooking([] { shown()->showTime(); });
+  addPreRenderHook([] { shown()->showTime(); });
 }
 
 void setStatusBarShowsTime(bool shows) {

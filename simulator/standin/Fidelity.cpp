@@ -19,7 +19,7 @@ StandIns& allStandIns() {
   return all;
 }
 
-bool namesAlone = false;
+bool namesOnly = false;
 
 // Classes that were registered by name alone, and the library of each.
 std::map<std::string, std::string>& classesToLoad() {
@@ -77,14 +77,14 @@ constexpr const char* tableHead = "\n| what | grade | difference |\n|---|---|---
 FidelityPage::FidelityPage(const char* framework, const char* cls)
     : framework_(framework), cls_(cls) {
   allStandIns()[cls];
-  if (namesAlone)
+  if (namesOnly)
     classesToLoad()[cls] = framework;
   else
     classesToLoad().erase(cls);
 }
 
 bool FidelityPage::isPresent() const {
-  return !namesAlone && Phone::current().setup.hasClass(cls_);
+  return !namesOnly && Phone::current().setup.hasClass(cls_);
 }
 
 bool FidelityPage::record(char kind, const char* name, const Rating& rating) const {
@@ -94,12 +94,12 @@ bool FidelityPage::record(char kind, const char* name, const Rating& rating) con
   return true;
 }
 
-NamesAlone::NamesAlone() {
-  namesAlone = true;
+NamesOnly::NamesOnly() {
+  namesOnly = true;
 }
 
-NamesAlone::~NamesAlone() {
-  namesAlone = false;
+NamesOnly::~NamesOnly() {
+  namesOnly = false;
 }
 
 std::string libraryToLoadFor(const std::string& cls) {

@@ -39,12 +39,12 @@ class FidelityPage {
 
 // As long as it lives, stand-ins that register leave no more than their names: the library that
 // brings them is not loaded yet.
-class NamesAlone {
+class NamesOnly {
  public:
-  NamesAlone();
-  ~NamesAlone();
-  NamesAlone(const NamesAlone&) = delete;
-  NamesAlone& operator=(const NamesAlone&) = delete;
+  NamesOnly();
+  ~NamesOnly();
+  NamesOnly(const NamesOnly&) = delete;
+  NamesOnly& operator=(const NamesOnly&) = delete;
 };
 
 // The library that brings the class of that name; empty when the class needs none, or when the

@@ -24,7 +24,7 @@ class NSUserDefaultsTest : public FoundationTest {
     FoundationTest::TearDown();
   }
 
-  // As if the process had started anew.
+  // As if the process had started again.
   static void forget() {
     NSUserDefaults& state = NSUserDefaults::of(defaults());
     state.values = KeyTable();

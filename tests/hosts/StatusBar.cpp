@@ -2,7 +2,7 @@
 #include "simulator/springboard/StatusBar.h"
 
 #include "simulator/springboard/StatusBarView.h"
-#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/PreRender.h"
 #include "simulator/uikit/application/UIWindow.h"
 #include "simulator/uikit/views/UIView.h"
 #include "tests/hosts/TestHost.h"
@@ -21,7 +21,7 @@ class StatusBar : public TestHost {
     return StatusBarView::of(UIView::of(windows.back().get()).children.front().get());
   }
   static std::string seenTime() {
-    prepareForLooking();
+    runPreRenderHooks();
     return text(objc::send<objc::Object, "text">(view().time.get()));
   }
 };

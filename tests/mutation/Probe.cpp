@@ -1,6 +1,6 @@
 // Linked into the library to learn which of its blocks a script executes. A block that is entered
 // sets its byte in the file MUTATION_HITS. The file is mapped, so that a host which is killed or
-// begins anew loses nothing. MUTATION_BLOCKS gets the blocks' addresses, relative to the library.
+// begins again loses nothing. MUTATION_BLOCKS gets the blocks' addresses, relative to the library.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/mman.h>

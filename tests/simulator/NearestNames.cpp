@@ -36,11 +36,12 @@ TEST(NearestNames, WhatIsFarIsNotNamed) {
 }
 
 TEST(NearestNames, OnlyALetterOrTwoIsASlip) {
-  EXPECT_EQ(slipOf("UIButtom", {"UIButton"}), "; did you mean \"UIButton\"?");
-  EXPECT_EQ(slipOf("UIButton", {"UIButton", "UIButtons"}), "") << "it is known";
-  EXPECT_EQ(slipOf("DozewelButtom", {"DozewellButton"}), "; did you mean \"DozewellButton\"?");
-  EXPECT_EQ(slipOf("DozeBoton", {"DozewellButton"}), "");
-  EXPECT_EQ(slipOf("kay", {"key"}), "") << "short names are near to many";
+  EXPECT_EQ(typoSuggestion("UIButtom", {"UIButton"}), "; did you mean \"UIButton\"?");
+  EXPECT_EQ(typoSuggestion("UIButton", {"UIButton", "UIButtons"}), "") << "it is known";
+  EXPECT_EQ(typoSuggestion("DozewelButtom", {"DozewellButton"}),
+            "; did you mean \"DozewellButton\"?");
+  EXPECT_EQ(typoSuggestion("DozeBoton", {"DozewellButton"}), "");
+  EXPECT_EQ(typoSuggestion("kay", {"key"}), "") << "short names are near to many";
 }
 
 }  // namespace

@@ -70,8 +70,8 @@ TEST_F(PickerView, SelectingByMessageTellsNobody) {
 }
 
 TEST_F(PickerView, SelectingByTouchTellsTheDelegate) {
-  EXPECT_TRUE(UIPickerView::of(picker.get()).userSelectsRow(4, 0));
-  EXPECT_FALSE(UIPickerView::of(picker.get()).userSelectsRow(99, 0));
+  EXPECT_TRUE(UIPickerView::of(picker.get()).selectRowByTouch(4, 0));
+  EXPECT_FALSE(UIPickerView::of(picker.get()).selectRowByTouch(99, 0));
   EXPECT_EQ(selected(), 4);
   EXPECT_EQ(chosen, std::vector<long>{4});
 }

@@ -41,7 +41,7 @@ TEST_F(Slider, TellsOnlyOfWhatAFingerDoes) {
   send<void, "layoutIfNeeded">(shown.get());
   send<void, "setValue:">(slider.get(), 0.5F);
   EXPECT_FALSE(UIView::of(shown.get()).needsLayout);
-  UISlider::of(slider.get()).userSlides(0.25F);
+  UISlider::of(slider.get()).slideByTouch(0.25F);
   EXPECT_EQ(valueOf(slider), 0.25F);
   EXPECT_TRUE(UIView::of(shown.get()).needsLayout);
 }

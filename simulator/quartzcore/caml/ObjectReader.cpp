@@ -128,7 +128,7 @@ Strong<Object> ObjectReader::make(pugi::xml_node element, const std::string& cla
   if (cls == nullptr) fail(element, "there is no class " + quotedWord(className));
   if (!canBeRead(cls)) fail(element, "a " + className + " cannot be read from a document");
   Strong<Object> made = objc::adopt(Object(objc_alloc_init(cls)));
-  keepId(made, element);
+  registerId(made, element);
   setAttributes(made, element);
   const bool isState = isKindOf(made.get(), "CAState");
   ++depth_;
@@ -139,7 +139,7 @@ Strong<Object> ObjectReader::make(pugi::xml_node element, const std::string& cla
   return made;
 }
 
-void ObjectReader::keepId(Object object, pugi::xml_node element) {
+void ObjectReader::registerId(Object object, pugi::xml_node element) {
   const std::string id = element.attribute("id").value();
   if (id.empty() || statesAround_ > 0 || !isA<CALayer>(object)) return;
   if (!layers_.emplace(id, objc::retain(object)).second)

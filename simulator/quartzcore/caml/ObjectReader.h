@@ -38,7 +38,7 @@ class ObjectReader {
   objc::Object objectList(pugi::xml_node element);
   objc::Object typedValue(pugi::xml_node element);
   objc::Object image(pugi::xml_node element);
-  void keepId(objc::Object object, pugi::xml_node element);
+  void registerId(objc::Object object, pugi::xml_node element);
   void connect(const Reference& reference);
 
   std::string folder_;

@@ -53,7 +53,7 @@ void runDefault(Arguments& arguments) {
   const std::string& key = keyWord.text;
   PropertyListNode value = valueArgument(arguments);
   arguments.finish();
-  nameChecks().all.add([keyWord] { requireNoSlip("the user default", keyWord, {}); });
+  nameChecks().all.add([keyWord] { requireNoTypo("the user default", keyWord, {}); });
   const bool hasClasses = objc_getClass("NSUserDefaults") != nullptr;  // the phone has booted
   if (hasClasses)
     userDefaultChanged(string(key), value ? propertyListObject(value.get()) : nullptr);

@@ -53,14 +53,14 @@ SettingsValue takeValue(Arguments& words) {
 // Of a domain that an extension uses, it reads every key at some time or names it at least. Whoever
 // means another one on purpose writes the domain's file.
 void requireKey(const std::string& domain, const Word& key) {
-  Names read = HBPreferences::keysAskedFor(domain);
+  Names read = HBPreferences::requestedKeys(domain);
   if (read.empty() && !isNamedByExtension(domain)) return;
   if (std::find(read.begin(), read.end(), key.text) != read.end()) return;
   // What is near to a key that is read is a slip, even if the extension has such a text.
   const bool isNamed =
       read.empty() ? isNamedByExtension(key.text)
                    : std::ranges::binary_search(Phone::current().extensionNames, key.text) &&
-                         slipOf(key.text, read).empty();
+                         typoSuggestion(key.text, read).empty();
   if (isNamed) return;
   if (read.empty()) read = extensionNames();
   throw ScriptError(key.column, "no extension reads the setting " + key.text + " of " + domain +
@@ -87,7 +87,7 @@ void chooseDomain(Arguments& words) {
   const Word name = words.word("the name of a preferences domain");
   words.finish();
   domainName() = name.text;
-  nameChecks().all.add([name] { requireNoSlip("the domain", name, {}); });
+  nameChecks().all.add([name] { requireNoTypo("the domain", name, {}); });
 }
 
 }  // namespace

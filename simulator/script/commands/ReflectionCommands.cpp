@@ -31,7 +31,7 @@ void expectNoClass(Arguments& arguments) {
   const Word& name = arguments.word("the name of a class");
   if (objc_getClass(name.text.c_str()) != nullptr)
     throw ScriptError(name.column, "expected no class " + name.text + ", found one");
-  requireNoSlip("the class", name, classNames());
+  requireNoTypo("the class", name, classNames());
 }
 
 std::string normalized(const Word& types) {
@@ -82,7 +82,7 @@ void expectResponds(Arguments& arguments) {
   const bool wanted = arguments.yesOrNo("an answer");
   const bool found = class_respondsToSelector(object_getClass(receiver.get()),
                                               sel_registerName(name.text.c_str()));
-  if (!found) requireNoSlip("the selector", name, selectorNames());
+  if (!found) requireNoTypo("the selector", name, selectorNames());
   if (found != wanted)
     throw ScriptError(column, "responds to " + name.text + ": expected " + notation(wanted) +
                                   ", found " + notation(found));

@@ -79,7 +79,7 @@ void select(Arguments& words) {
   words.finish();
   reach(view, centreOf(view));
   record("select row " + std::to_string(row));
-  if (!UIPickerView::of(view).userSelectsRow(row, component))
+  if (!UIPickerView::of(view).selectRowByTouch(row, component))
     throw ScriptError(0, "the picker view has no row " + std::to_string(row) + " in component " +
                              std::to_string(component));
 }
@@ -108,7 +108,7 @@ void slide(Arguments& words) {
     throw ScriptError(0, "the slider goes from " + notation(slider.minimumValue) + " to " +
                              notation(slider.maximumValue));
   record("slide " + notation(value));
-  slider.userSlides(float(value));
+  slider.slideByTouch(float(value));
 }
 
 // Each shake ends with its state back at 0.

@@ -174,7 +174,7 @@ void requireKnown(const Word& line) {
     text.remove_prefix(post.size());
     const std::size_t end = text.find_first_of("\"*");
     if (end != std::string_view::npos && text[end] == '"')
-      requireNoSlip("the notification", {std::string(text.substr(0, end)), true, line.column},
+      requireNoTypo("the notification", {std::string(text.substr(0, end)), true, line.column},
                     functionsAndConstants());
     return;
   }

@@ -30,11 +30,11 @@ void NameChecks::namesAreKnown() {
   }
 }
 
-void requireNoSlip(const std::string& what, const Word& name, Names known) {
+void requireNoTypo(const std::string& what, const Word& name, Names known) {
   if (isNamedByExtension(name.text)) return;
   const Names others = extensionNames();
   known.insert(known.end(), others.begin(), others.end());
-  if (const std::string meant = slipOf(name.text, known); !meant.empty())
+  if (const std::string meant = typoSuggestion(name.text, known); !meant.empty())
     throw ScriptError(name.column, what + ' ' + name.text + " is known nowhere" + meant);
 }
 

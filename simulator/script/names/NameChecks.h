@@ -42,6 +42,6 @@ PhoneNameChecks& nameChecks();
 
 // For a name that may be known nowhere on purpose: throws ScriptError, "WHAT NAME is known nowhere;
 // did you mean …", where it is a letter or two from a known one or from one of an extension.
-void requireNoSlip(const std::string& what, const Word& name, Names known);
+void requireNoTypo(const std::string& what, const Word& name, Names known);
 
 }  // namespace sim

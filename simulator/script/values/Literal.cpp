@@ -81,7 +81,7 @@ Literal readLiteral(Arguments& arguments, std::string_view what) {
   if (const auto number = parsedNumber(text)) return {word.column, text, *number};
   if (text == "selector") {
     const Word name = arguments.word("a selector's name");
-    requireNoSlip("the selector", name, selectorNames());
+    requireNoTypo("the selector", name, selectorNames());
     return {word.column, "selector " + name.text, sel_registerName(name.text.c_str())};
   }
   if (text == "block") return readBlock(word.column, arguments);

@@ -35,16 +35,16 @@ void transitionWithView(Object view, double seconds, unsigned long options, Anim
 
 // The platform dissolves what it showed last, and the second view was not to be seen then, even if
 // it has been unhidden since.
-class Unseen {
+class HiddenGuard {
  public:
-  explicit Unseen(Object view)
+  explicit HiddenGuard(Object view)
       : layer_(view ? stateOf<CALayer>(UIView::layerOf(view)) : nullptr),
         wasHidden_(layer_ != nullptr && std::exchange(layer_->hidden, true)) {}
-  ~Unseen() {
+  ~HiddenGuard() {
     if (layer_ != nullptr) layer_->hidden = wasHidden_;
   }
-  Unseen(const Unseen&) = delete;
-  Unseen& operator=(const Unseen&) = delete;
+  HiddenGuard(const HiddenGuard&) = delete;
+  HiddenGuard& operator=(const HiddenGuard&) = delete;
 
  private:
   CALayer* layer_;
@@ -53,7 +53,7 @@ class Unseen {
 
 AnimationTiming beginWithout(Object second, Object container, double seconds,
                              unsigned long options) {
-  const Unseen unseen(second);
+  const HiddenGuard unseen(second);
   return begin(container, seconds, options);
 }
 

@@ -50,7 +50,7 @@ void UIApplication::rotate(long to) {
   for (const auto& window : UIWindow::visibleWindows()) {
     if (UIView::of(window.get()).geometry().bounds.size == before)
       objc::send<void, "setFrame:">(window.get(), CGRect{{}, now});
-    // Also where the size stays the same, the interface is laid out anew.
+    // Also where the size stays the same, the interface is laid out again.
     const Object root = UIWindow::of(window.get()).rootViewController;
     objc::send<void, "setNeedsLayout">(objc::send<Object, "view">(root));
   }

@@ -14,7 +14,7 @@ void addStackConstraints(LayoutProblem& problem, objc::Object stack);
 // The view hugs its content, and resists being compressed below it.
 void addContentConstraints(LayoutProblem& problem, objc::Object view);
 
-// Measures anew the text of several lines whose width the solution says. False when all heights
+// Measures the text again of several lines whose width the solution says. False when all heights
 // were right.
 bool wrapTexts(const LayoutProblem& problem, const Solution& solution);
 

@@ -16,7 +16,7 @@ void setNeedsUpdateConstraints(Object view) {
   constraintsChanged(view);
 }
 
-void viewCameIntoWindow(Object view) {
+void viewDidMoveToWindow(Object view) {
   const SEL name = objc::selector<"updateConstraints">();
   const IMP its = class_getMethodImplementation(object_getClass(view.get()), name);
   if (its == class_getMethodImplementation(UIView::cls(), name)) return;

@@ -13,9 +13,9 @@ namespace {
 using objc::Object;
 
 // For subclasses.
-void heard(Object) {}
-void heardAnimated(Object, bool) {}
-void heardObject(Object, Object) {}
+void ignore(Object) {}
+void ignoreAnimated(Object, bool) {}
+void ignoreObject(Object, Object) {}
 
 Object nextResponder(Object self) {
   const UIViewController& controller = UIViewController::of(self);
@@ -97,19 +97,19 @@ void UIViewController::registerClass() {
       .method<"isViewLoaded", &UIViewController::isViewLoaded>()
       .method<"viewIfLoaded", &UIViewController::viewIfLoaded>()
       .partial<"loadView", &UIViewController::loadView>("loads no layout")
-      .method<"viewDidLoad", &heard>()
-      .method<"viewWillLayoutSubviews", &heard>()
-      .method<"viewDidLayoutSubviews", &heard>()
-      .method<"viewWillAppear:", &heardAnimated>()
-      .method<"viewDidAppear:", &heardAnimated>()
-      .method<"viewWillDisappear:", &heardAnimated>()
-      .method<"viewDidDisappear:", &heardAnimated>()
+      .method<"viewDidLoad", &ignore>()
+      .method<"viewWillLayoutSubviews", &ignore>()
+      .method<"viewDidLayoutSubviews", &ignore>()
+      .method<"viewWillAppear:", &ignoreAnimated>()
+      .method<"viewDidAppear:", &ignoreAnimated>()
+      .method<"viewWillDisappear:", &ignoreAnimated>()
+      .method<"viewDidDisappear:", &ignoreAnimated>()
       .readonlyProperty<"parentViewController", &UIViewController::parent>()
       .method<"childViewControllers", &UIViewController::childControllers>()
       .method<"addChildViewController:", &UIViewController::addChild>()
       .method<"removeFromParentViewController", &UIViewController::removeFromParent>()
-      .method<"willMoveToParentViewController:", &heardObject>()
-      .method<"didMoveToParentViewController:", &heardObject>()
+      .method<"willMoveToParentViewController:", &ignoreObject>()
+      .method<"didMoveToParentViewController:", &ignoreObject>()
       .readonlyProperty<"presentedViewController", &UIViewController::presented>()
       .readonlyProperty<"presentingViewController", &UIViewController::presenting>()
       .property<"modalPresentationStyle", &UIViewController::modalPresentationStyle>()

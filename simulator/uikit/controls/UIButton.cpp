@@ -54,7 +54,7 @@ Object spokenTitle(Object self) {
 }
 unsigned long buttonTraits(Object self) {
   return accessibilityTraitsOr(self.get(),
-                               ViewAccessibility::button | UIControl::of(self).spokenState());
+                               ViewAccessibility::button | UIControl::of(self).stateTraits());
 }
 bool buttonIsElement(Object self) {
   return isAccessibilityElementOr(self.get(), true);

@@ -18,8 +18,8 @@ void sendActionsForControlEvents(Object self, unsigned long events) {
   UIControl::of(self).sendActionsForEvents(events, nullptr);
 }
 
-unsigned long stateTraits(Object self) {
-  return accessibilityTraitsOr(self.get(), UIControl::of(self).spokenState());
+unsigned long traitsOfState(Object self) {
+  return accessibilityTraitsOr(self.get(), UIControl::of(self).stateTraits());
 }
 
 }  // namespace
@@ -77,7 +77,7 @@ unsigned long UIControl::state() const {
          (selected ? selectedState : normal);
 }
 
-unsigned long UIControl::spokenState() const {
+unsigned long UIControl::stateTraits() const {
   return (enabled ? 0 : ViewAccessibility::notEnabled) |
          (selected ? ViewAccessibility::selected : 0);
 }
@@ -98,7 +98,7 @@ void UIControl::registerClass() {
       .property<"highlighted", &UIControl::highlighted>()
       .readonlyProperty<"isHighlighted", &UIControl::highlighted>()
       .method<"state", &UIControl::state>()
-      .method<"accessibilityTraits", &stateTraits>()
+      .method<"accessibilityTraits", &traitsOfState>()
       .finish();
 }
 

@@ -41,7 +41,7 @@ struct UIControl : objc::Implementation<UIControl> {
   void sendActionsForEvents(unsigned long events, objc::Object event);
   void sendAction(SEL action, objc::Object target, objc::Object event);
   unsigned long state() const;
-  unsigned long spokenState() const;  // of the state; what it is says the subclass
+  unsigned long stateTraits() const;  // of the state; what it is says the subclass
 
   static void registerClass();
 };

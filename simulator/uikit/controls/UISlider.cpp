@@ -33,7 +33,7 @@ Object spokenPart(Object self) {
 }
 unsigned long sliderTraits(Object self) {
   return accessibilityTraitsOr(self.get(),
-                               ViewAccessibility::adjustable | UIControl::of(self).spokenState());
+                               ViewAccessibility::adjustable | UIControl::of(self).stateTraits());
 }
 bool sliderIsElement(Object self) {
   return isAccessibilityElementOr(self.get(), true);
@@ -68,7 +68,7 @@ void UISlider::layoutSubviews() {
   setFrame(filled, {{0, y}, {size.width * part, lineHeight}});
 }
 
-void UISlider::userSlides(float to) {
+void UISlider::slideByTouch(float to) {
   const auto kept = objc::retain(Object(self()));
   objc::send<void, "setValue:">(self(), to);
   UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
@@ -86,14 +86,14 @@ bool UISlider::continueTracking(Object touch, Object) {
   const double way = UITouch::of(touch).locationInView(Object(self())).x - fingerFrom_;
   if (width <= 0) return true;
   const auto to = float(double(heldFrom_) + way / width * range);
-  if (std::clamp(to, minimumValue, maximumValue) != value) userSlides(to);
+  if (std::clamp(to, minimumValue, maximumValue) != value) slideByTouch(to);
   return true;
 }
 
 void UISlider::turnBy(long steps) {
   constexpr double step = 0.05;
   const double range = double(maximumValue) - double(minimumValue);
-  userSlides(float(double(value) - double(steps) * step * range));
+  slideByTouch(float(double(value) - double(steps) * step * range));
 }
 
 void UISlider::registerClass() {

@@ -22,7 +22,7 @@ struct UISlider : objc::Implementation<UISlider> {
   // By a mouse's wheel or a key: so many twentieths of the way down.
   void turnBy(long steps);
   // A finger drags the knob there: its actions are sent.
-  void userSlides(float to);
+  void slideByTouch(float to);
 
   static void registerClass();
 

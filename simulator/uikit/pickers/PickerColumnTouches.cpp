@@ -54,7 +54,7 @@ void UIPickerColumnView::touchMoved(CGPoint point) {
 // A tap turns the wheel to the row under the finger.
 void UIPickerColumnView::touchEnded(CGPoint point) {
   if (fingerWay_ > tapWay) {
-    wheel_->letGo(now());
+    wheel_->release(now());
   } else {
     const double height = UIView::of(self()).geometry().bounds.size.height;
     wheel_->runTo(std::lround(position() + (point.y - height / 2) / rowHeight), now());

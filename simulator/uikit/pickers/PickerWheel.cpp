@@ -45,7 +45,7 @@ void PickerWheel::drag(double rows, Nanoseconds now) {
   speed_ = time > stillFinger ? latest : 0.6 * latest + 0.4 * speed_;
 }
 
-void PickerWheel::letGo(Nanoseconds now) {
+void PickerWheel::release(Nanoseconds now) {
   if (!holding_) return;
   holding_ = false;
   if (seconds(now - movedAt_) > stillFinger) speed_ = 0;

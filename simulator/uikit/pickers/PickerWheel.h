@@ -20,7 +20,7 @@ class PickerWheel {
   // A finger holds it. Each further move is by so many rows, counted in the rows' order.
   void hold();
   void drag(double rows, Nanoseconds now);
-  void letGo(Nanoseconds now);
+  void release(Nanoseconds now);
   // Runs to that place, or to the end that is nearest to it.
   void runTo(long place, Nanoseconds now);
 

@@ -23,26 +23,26 @@ void addHighlightsToday() {
 
 }  // namespace
 
-double UIDatePicker::onWheels(double seconds) const {
+double UIDatePicker::shownDuration(double seconds) const {
   const double step = double(interval) * 60;
   constexpr double longest = (23 * 60 + 59) * 60;
   return std::max(std::floor(std::min(seconds, longest) / step) * step, step);
 }
 
 double UIDatePicker::countDownDuration() const {
-  return mode == countDownTimer ? onWheels(duration) : 0;
+  return mode == countDownTimer ? shownDuration(duration) : 0;
 }
 
 void UIDatePicker::setCountDownDuration(double seconds) {
   if (mode != countDownTimer) return;
-  duration = onWheels(seconds);
-  turnWheels();
+  duration = shownDuration(seconds);
+  updateWheels();
 }
 
 void UIDatePicker::setMinuteInterval(long minutes) {
   const bool works = minutes >= 1 && minutes <= 30 && 60 % minutes == 0;
   interval = works ? minutes : 1;
-  duration = onWheels(duration);
+  duration = shownDuration(duration);
   removeWheels();
 }
 

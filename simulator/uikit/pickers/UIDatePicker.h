@@ -21,7 +21,7 @@ struct UIDatePicker : objc::Implementation<UIDatePicker> {
   void setCountDownDuration(double seconds);
   // Whether the wheels have that position.
   bool canShow(double seconds) const {
-    return mode == countDownTimer && onWheels(seconds) == seconds;
+    return mode == countDownTimer && shownDuration(seconds) == seconds;
   }
   // A divisor of 60 up to 30; others count as 1.
   void setMinuteInterval(long minutes);
@@ -32,12 +32,12 @@ struct UIDatePicker : objc::Implementation<UIDatePicker> {
   static void registerClass();
 
  private:
-  double onWheels(double seconds) const;
+  double shownDuration(double seconds) const;
   void removeWheels();
   void makeWheels();
   objc::Strong<objc::Object> makeWheel(long rows, long step);
-  void turnWheels(bool animated = false);
-  void turnedTo();
+  void updateWheels(bool animated = false);
+  void wheelDidTurn();
 
   objc::Strong<objc::Object> band_;                     // behind the selected rows
   objc::Strong<objc::Object> hours_, minutes_;          // UIPickerColumnView

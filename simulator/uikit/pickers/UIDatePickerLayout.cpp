@@ -9,7 +9,7 @@
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/pickers/DurationUnits.h"
-#include "simulator/uikit/pickers/PickerLook.h"
+#include "simulator/uikit/pickers/PickerStyle.h"
 #include "simulator/uikit/pickers/UIDatePicker.h"
 #include "simulator/uikit/pickers/UIPickerColumnView.h"
 #include "simulator/uikit/views/LayoutDirection.h"
@@ -116,21 +116,21 @@ void UIDatePicker::makeWheels() {
   for (const auto* part : {&band_, &hours_, &hoursUnit_, &minutes_, &minutesUnit_})
     insertSubview(Object(self()), part->get(), index++);
   for (const auto* wheel : {&hours_, &minutes_})
-    UIPickerColumnView::of(wheel->get()).turned = [this](long) { turnedTo(); };
-  turnWheels();
+    UIPickerColumnView::of(wheel->get()).turned = [this](long) { wheelDidTurn(); };
+  updateWheels();
 }
 
 // By hand. The wheels do not rest at nothing: they go on to the first step.
-void UIDatePicker::turnedTo() {
+void UIDatePicker::wheelDidTurn() {
   const long hours = UIPickerColumnView::of(hours_.get()).selectedRow;
   const long minutes = UIPickerColumnView::of(minutes_.get()).selectedRow * interval;
   const auto kept = objc::retain(Object(self()));
-  duration = onWheels(double(hours * 60 + minutes) * 60);
-  turnWheels(minutes == 0 && hours == 0);
+  duration = shownDuration(double(hours * 60 + minutes) * 60);
+  updateWheels(minutes == 0 && hours == 0);
   UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
 }
 
-void UIDatePicker::turnWheels(bool animated) {
+void UIDatePicker::updateWheels(bool animated) {
   if (!hours_) return;
   const long shown = std::lround(countDownDuration() / 60);
   UIPickerColumnView::of(hours_.get()).selectRow(shown / 60, animated);

@@ -81,7 +81,7 @@ Object UIPickerColumnView::selectedCell() const {
   return found == cells_.end() ? Object() : Object(found->second);
 }
 
-void UIPickerColumnView::stand(Object its, double rowsFromMiddle) {
+void UIPickerColumnView::placeCell(Object its, double rowsFromMiddle) {
   const CGSize size = UIView::of(self()).geometry().bounds.size;
   const double radius = std::max(size.height / 2, rowHeight);
   const double angle = std::clamp(rowsFromMiddle * rowHeight / radius, -quarterTurn, quarterTurn);
@@ -99,11 +99,11 @@ void UIPickerColumnView::arrange() {
   for (long at = middle - cellsEachWay; at <= middle + cellsEachWay; ++at) {
     if (!cells_.contains(at)) {
       const auto begin = objc::block<void()>([&] {
-        if (const Object made = cell(at)) stand(made, double(at) - before);
+        if (const Object made = cell(at)) placeCell(made, double(at) - before);
       });
       performWithoutAnimation(begin.get());
     }
-    if (const Object its = cell(at)) stand(its, double(at) - here);
+    if (const Object its = cell(at)) placeCell(its, double(at) - here);
   }
   arranged_ = here;
   std::erase_if(cells_, [middle](const auto& each) {

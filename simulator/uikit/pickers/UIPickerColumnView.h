@@ -25,7 +25,7 @@ struct UIPickerColumnView : objc::Implementation<UIPickerColumnView> {
 
   // Rolls there, on the shorter way if it is endless.
   void selectRow(long row, bool animated);
-  // All rows are made anew.
+  // All rows are made again.
   void reload();
   void layoutSubviews();
 
@@ -51,7 +51,7 @@ struct UIPickerColumnView : objc::Implementation<UIPickerColumnView> {
   long rowAt(long place) const;
   objc::Object cell(long place);
   void arrange();
-  void stand(objc::Object cell, double rowsFromMiddle);
+  void placeCell(objc::Object cell, double rowsFromMiddle);
   double position() const;  // in places; between two of them while it turns
   void takeWheel();
   void keepRunning();

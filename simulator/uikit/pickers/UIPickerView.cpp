@@ -85,15 +85,15 @@ void UIPickerView::reloadAllComponents() {
     reloadComponent(component);
 }
 
-bool UIPickerView::userSelectsRow(long row, long component) {
+bool UIPickerView::selectRowByTouch(long row, long component) {
   if (component < 0 || component >= numberOfComponents()) return false;
   if (row < 0 || row >= numberOfRows(component)) return false;
   selectRow(row, component, true);
-  turnedTo(row, component);
+  wheelDidTurn(row, component);
   return true;
 }
 
-void UIPickerView::turnedTo(long row, long component) {
+void UIPickerView::wheelDidTurn(long row, long component) {
   selected[std::size_t(component)] = row;
   const auto listener = delegate.load();
   if (objc::respondsTo<"pickerView:didSelectRow:inComponent:">(listener.get()))

@@ -29,7 +29,7 @@ struct UIPickerView : objc::Implementation<UIPickerView> {
   void reloadComponent(long component);
 
   // By touch: the delegate hears of it. False when there is no such row.
-  bool userSelectsRow(long row, long component);
+  bool selectRowByTouch(long row, long component);
 
   ~UIPickerView();
   void layoutSubviews();
@@ -38,11 +38,11 @@ struct UIPickerView : objc::Implementation<UIPickerView> {
 
  private:
   void countComponents();
-  void turnedTo(long row, long component);
+  void wheelDidTurn(long row, long component);
   static void leave(objc::Object column);
   double rowHeight(long component) const;
   void makeColumns();
-  void reloadColumns();  // they are made anew when they are next laid out
+  void reloadColumns();  // they are made again when they are next laid out
   objc::Strong<objc::Object> rowShown(long row, long component);
   std::map<std::pair<long, long>, objc::Strong<objc::Object>> rowViews_;
   objc::Strong<objc::Object> band_;                  // behind the selected rows

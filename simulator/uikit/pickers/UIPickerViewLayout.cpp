@@ -1,6 +1,6 @@
 // UIPickerView: its wheels.
 #include "simulator/standin/StandIn.h"
-#include "simulator/uikit/pickers/PickerLook.h"
+#include "simulator/uikit/pickers/PickerStyle.h"
 #include "simulator/uikit/pickers/UIPickerColumnView.h"
 #include "simulator/uikit/pickers/UIPickerView.h"
 #include "simulator/uikit/views/UIView.h"
@@ -61,7 +61,7 @@ void UIPickerView::makeColumns() {
     column.rowHeight = rowHeight(component);
     column.numberOfRows = numberOfRows(component);
     column.makeRow = [this, component](long row) { return rowShown(row, component); };
-    column.turned = [this, component](long row) { turnedTo(row, component); };
+    column.turned = [this, component](long row) { wheelDidTurn(row, component); };
     column.selectRow(selected[std::size_t(component)], false);
     // Behind what others have added.
     insertSubview(Object(self()), made.get(), std::size_t(component) + 1);

@@ -24,26 +24,26 @@ Object Finger::began(CGPoint point) {
   UITouch& touch = UITouch::of(touch_.get());
   touch.view = objc::retain(view);
   touch.place = point;
-  tell(objc::selector<"touchesBegan:withEvent:">(), UITouch::began, point);
+  send(objc::selector<"touchesBegan:withEvent:">(), UITouch::began, point);
   return view;
 }
 
 void Finger::moved(CGPoint point) {
-  tell(objc::selector<"touchesMoved:withEvent:">(), UITouch::moved, point);
+  send(objc::selector<"touchesMoved:withEvent:">(), UITouch::moved, point);
 }
 
 void Finger::ended(CGPoint point) {
-  tell(objc::selector<"touchesEnded:withEvent:">(), UITouch::ended, point);
+  send(objc::selector<"touchesEnded:withEvent:">(), UITouch::ended, point);
   touch_ = {};
 }
 
 void Finger::cancelled() {
   const CGPoint point = UITouch::of(touch_.get()).place;
-  tell(objc::selector<"touchesCancelled:withEvent:">(), UITouch::cancelled, point);
+  send(objc::selector<"touchesCancelled:withEvent:">(), UITouch::cancelled, point);
   touch_ = {};
 }
 
-void Finger::tell(SEL selector, long phase, CGPoint point) {
+void Finger::send(SEL selector, long phase, CGPoint point) {
   UITouch& touch = UITouch::of(touch_.get());
   touch.placeBefore = touch.place;
   touch.place = point;

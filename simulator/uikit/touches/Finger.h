@@ -23,7 +23,7 @@ class Finger {
   void cancelled();
 
  private:
-  void tell(SEL selector, long phase, CGPoint point);
+  void send(SEL selector, long phase, CGPoint point);
 
   objc::Strong<objc::Object> touch_;  // UITouch, while the finger is down
 };

@@ -56,15 +56,15 @@ Object tintColor(Object self) {
   return UIColor::systemBlue();
 }
 
-void tellTint(Object view) {
+void propagateTintChange(Object view) {
   objc::send<void, "tintColorDidChange">(view);
   const auto children = UIView::of(view).children;
   for (const auto& child : children)
-    if (!UIView::of(child.get()).tintColor) tellTint(child.get());
+    if (!UIView::of(child.get()).tintColor) propagateTintChange(child.get());
 }
 void setTintColor(Object self, Object color) {
   UIView::of(self).tintColor = objc::retain(color);
-  tellTint(self);
+  propagateTintChange(self);
 }
 void tintColorDidChange(Object) {}
 

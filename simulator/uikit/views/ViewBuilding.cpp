@@ -14,15 +14,15 @@ objc::Strong<Object> addView(Object parent, const char* className) {
   return view;
 }
 
-objc::Strong<Object> addLabel(Object parent, const LabelLook& look) {
+objc::Strong<Object> addLabel(Object parent, const LabelStyle& style) {
   auto label = addView(parent, "UILabel");
   const Class fonts = objc_getClass("UIFont");
   objc::send<void, "setFont:">(
-      label.get(), look.isBold ? objc::send<Object, "boldSystemFontOfSize:">(fonts, look.points)
-                               : objc::send<Object, "systemFontOfSize:">(fonts, look.points));
-  objc::send<void, "setTextColor:">(label.get(), whiteColor(look.alpha));
-  objc::send<void, "setTextAlignment:">(label.get(), look.alignment);
-  objc::send<void, "setNumberOfLines:">(label.get(), look.lines);
+      label.get(), style.isBold ? objc::send<Object, "boldSystemFontOfSize:">(fonts, style.points)
+                                : objc::send<Object, "systemFontOfSize:">(fonts, style.points));
+  objc::send<void, "setTextColor:">(label.get(), whiteColor(style.alpha));
+  objc::send<void, "setTextAlignment:">(label.get(), style.alignment);
+  objc::send<void, "setNumberOfLines:">(label.get(), style.lines);
   return label;
 }
 

@@ -10,14 +10,14 @@ namespace sim {
 // A new view of that class on top of the parent's; nil when the class is missing.
 objc::Strong<objc::Object> addView(objc::Object parent, const char* className);
 
-struct LabelLook {
+struct LabelStyle {
   double points = 17;
   bool isBold = false;
   double alpha = 1;  // of white
   long alignment = 0;
   long lines = 1;
 };
-objc::Strong<objc::Object> addLabel(objc::Object parent, const LabelLook& look);
+objc::Strong<objc::Object> addLabel(objc::Object parent, const LabelStyle& style);
 
 // White of that opacity, or black; autoreleased.
 objc::Object whiteColor(double alpha);

@@ -50,7 +50,7 @@ void didMoveToWindow(Object view, Object before) {
   UIView& state = UIView::of(view);
   const bool isInWindow = bool(windowOf(view));
   state.needsLayout = isInWindow || state.needsLayout;
-  if (isInWindow) viewCameIntoWindow(view);
+  if (isInWindow) viewDidMoveToWindow(view);
   objc::send<void, "didMoveToWindow">(view);
   const auto children = state.children;
   for (const auto& child : children) didMoveToWindow(child.get(), before);

@@ -51,8 +51,8 @@ Object viewWithTag(Object self, long tag) {
 }
 
 // For subclasses.
-void heard(Object, Object) {}
-void heardPlain(Object) {}
+void ignore(Object, Object) {}
+void ignorePlain(Object) {}
 
 }  // namespace
 
@@ -70,12 +70,12 @@ void addViewTree(StandIn<UIView>& view) {
       .method<"isDescendantOfView:", &isDescendant>()
       .property<"tag", &UIView::tag>()
       .method<"viewWithTag:", &viewWithTag>()
-      .method<"willMoveToSuperview:", &heard>()
-      .method<"didMoveToSuperview", &heardPlain>()
-      .method<"willMoveToWindow:", &heard>()
-      .method<"didMoveToWindow", &heardPlain>()
-      .method<"didAddSubview:", &heard>()
-      .method<"willRemoveSubview:", &heard>();
+      .method<"willMoveToSuperview:", &ignore>()
+      .method<"didMoveToSuperview", &ignorePlain>()
+      .method<"willMoveToWindow:", &ignore>()
+      .method<"didMoveToWindow", &ignorePlain>()
+      .method<"didAddSubview:", &ignore>()
+      .method<"willRemoveSubview:", &ignore>();
 }
 
 }  // namespace sim

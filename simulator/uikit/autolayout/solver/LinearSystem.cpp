@@ -37,20 +37,20 @@ bool LinearSystem::require(const LinearExpression& left, Relation relation) {
   return true;
 }
 
-void LinearSystem::prefer(const std::vector<Wish>& wishes) {
+void LinearSystem::prefer(const std::vector<SoftConstraint>& constraints) {
   std::vector<Symbol> errors;
-  for (const Wish& wish : wishes) {
-    reduce(*wish.left, wish.relation == Relation::atMost ? -1 : 1);
+  for (const SoftConstraint& each : constraints) {
+    reduce(*each.left, each.relation == Relation::atMost ? -1 : 1);
     Symbol free = -1;
     const bool isFree = isAnyFree(free);
     const Symbol above = makeRestricted(), below = makeRestricted();
     errors.push_back(below);
-    if (wish.relation == Relation::equal) errors.push_back(above);
+    if (each.relation == Relation::equal) errors.push_back(above);
     if (!isFree) {
       addRow(above, below);
       continue;
     }
-    for (const Symbol each : {above, below}) tableau_.addColumn(each);
+    for (const Symbol slack : {above, below}) tableau_.addColumn(slack);
     coefficients_[std::size_t(above)] = -1;
     coefficients_[std::size_t(below)] = 1;
     define(free);

@@ -16,18 +16,19 @@ namespace sim {
 
 class LinearSystem {
  public:
-  struct Wish {
+  struct SoftConstraint {
     const LinearExpression* left;  // not owned
     Relation relation;             // to zero
   };
 
   explicit LinearSystem(std::size_t variables);
 
-  // Must come before the wishes. False for one that contradicts those before it: it does not hold.
+  // Must come before the soft constraints. False for one that contradicts those before it: it does
+  // not hold.
   bool require(const LinearExpression& left, Relation relation);
   // Of one priority: the sum of what they are missed by is made as small as it can be without
-  // costing any wish before them anything.
-  void prefer(const std::vector<Wish>& wishes);
+  // costing any that came before them anything.
+  void prefer(const std::vector<SoftConstraint>& constraints);
   // Last: makes the expression, which cannot be negative, as small as all that lets it be.
   void minimise(const LinearExpression& expression);
 

@@ -15,7 +15,7 @@ Variable Part::addVariable(Variable ofProblem, bool isLength) {
 
 void Part::addConstraint(std::size_t number, LinearExpression left, Relation relation,
                          double priority) {
-  auto& kind = priority >= Problem::required ? required_ : wishes_;
+  auto& kind = priority >= Problem::required ? required_ : softConstraints_;
   kind.push_back({number, std::move(left), relation, priority});
 }
 
@@ -60,11 +60,11 @@ std::vector<std::size_t> Part::requireConstraints(LinearSystem& system) const {
 
 void Part::preferConstraints(LinearSystem& system) const {
   std::vector<const Constraint*> sorted;
-  for (const Constraint& each : wishes_) sorted.push_back(&each);
+  for (const Constraint& each : softConstraints_) sorted.push_back(&each);
   std::stable_sort(sorted.begin(), sorted.end(), [](const Constraint* a, const Constraint* b) {
     return a->priority > b->priority;
   });
-  std::vector<LinearSystem::Wish> alike;
+  std::vector<LinearSystem::SoftConstraint> alike;
   for (std::size_t i = 0; i < sorted.size(); ++i) {
     alike.push_back({&sorted[i]->left, sorted[i]->relation});
     if (i + 1 < sorted.size() && sorted[i + 1]->priority == sorted[i]->priority) continue;

@@ -37,8 +37,8 @@ class Part {
 
   std::vector<Variable> variables_;
   std::vector<bool> isLength_;
-  std::vector<Constraint> required_;  // in the order in which they were made
-  std::vector<Constraint> wishes_;    // likewise
+  std::vector<Constraint> required_;         // in the order in which they were made
+  std::vector<Constraint> softConstraints_;  // likewise
 };
 
 }  // namespace sim

@@ -1,7 +1,7 @@
 // A whole problem of linear constraints with priorities, and its solution.
 //
-// Priorities are strict: one wish outweighs any number of those with lower priorities. Where
-// several wishes of one priority cannot be granted together, the sum of what they are missed by is
+// Priorities are strict: one soft constraint outweighs any number of those with lower priorities.
+// Where several of one priority cannot be granted together, the sum of what they are missed by is
 // smallest. What is still open then is settled alike every time: lengths are as small as they can
 // be, positions that nothing determines are 0, and where there is a choice left it is the order in
 // which variables and constraints were made that decides.

@@ -1,4 +1,4 @@
-#include "simulator/uikit/application/Looking.h"
+#include "simulator/uikit/application/PreRender.h"
 
 #include <vector>
 
@@ -12,11 +12,11 @@ std::vector<std::function<void()>>& updates() {
 
 }  // namespace
 
-void beforeLooking(std::function<void()> update) {
+void addPreRenderHook(std::function<void()> update) {
   updates().push_back(std::move(update));
 }
 
-void prepareForLooking() {
+void runPreRenderHooks() {
   for (const auto& update : updates()) update();
 }
 

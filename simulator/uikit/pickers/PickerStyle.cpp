@@ -1,4 +1,4 @@
-#include "simulator/uikit/pickers/PickerLook.h"
+#include "simulator/uikit/pickers/PickerStyle.h"
 
 #include "objc/Message.h"
 #include "simulator/uikit/resources/UIFont.h"

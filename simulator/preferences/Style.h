@@ -4,14 +4,14 @@
 #include "objc/Ownership.h"
 #include "simulator/coregraphics/Geometry.h"
 
-namespace sim::look {
+namespace sim::style {
 
 // UIColors, autoreleased.
-objc::Object ground();
+objc::Object background();
 objc::Object card();
 objc::Object pressedCard();
 objc::Object line();
-objc::Object faint();  // of text that explains
+objc::Object secondaryText();  // of text that explains
 objc::Object blue();
 objc::Object green();
 
@@ -30,4 +30,4 @@ enum class Symbol { forward, back, check };
 objc::Strong<objc::Object> addSymbol(objc::Object view, Symbol symbol, objc::Object color);
 inline constexpr double symbolSide = 16;
 
-}  // namespace sim::look
+}  // namespace sim::style

@@ -1,11 +1,11 @@
-#include "simulator/preferences/Look.h"
+#include "simulator/preferences/Style.h"
 
 #include "objc/Message.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/uikit/views/LayoutDirection.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
-namespace sim::look {
+namespace sim::style {
 namespace {
 
 using objc::Object;
@@ -22,7 +22,7 @@ const char* pathOf(Symbol symbol) {
 
 }  // namespace
 
-Object ground() {
+Object background() {
   return blackColor(1);
 }
 Object card() {
@@ -34,7 +34,7 @@ Object pressedCard() {
 Object line() {
   return gray(56);
 }
-Object faint() {
+Object secondaryText() {
   return gray(142);
 }
 Object blue() {
@@ -66,4 +66,4 @@ objc::Strong<Object> addSymbol(Object view, Symbol symbol, Object color) {
   return place;
 }
 
-}  // namespace sim::look
+}  // namespace sim::style

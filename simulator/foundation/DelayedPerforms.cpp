@@ -30,7 +30,7 @@ std::list<Perform>& pending() {
 }
 
 void perform(Object target, SEL selector, Object argument) {
-  simulator::runtime::send<void>(target.get(), selector, argument.get());
+  sim::runtime::send<void>(target.get(), selector, argument.get());
 }
 
 void performAfterDelay(Object self, SEL selector, Object argument, double delay) {

@@ -8,8 +8,8 @@
 namespace sim {
 
 void raiseException(const char* name, const std::string& reason) {
-  simulator::runtime::fatal("*** Terminating app due to uncaught exception '%s', reason: '%s'",
-                            name, reason.c_str());
+  sim::runtime::fatal("*** Terminating app due to uncaught exception '%s', reason: '%s'", name,
+                      reason.c_str());
 }
 
 std::string methodName(objc::Object receiver, const char* selector) {

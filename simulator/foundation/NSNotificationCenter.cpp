@@ -30,7 +30,7 @@ void deliver(const Observation& observation, Object notification) {
   }
   const Strong<Object> observer = observation.observer.load();
   if (observer) {
-    simulator::runtime::send<void>(observer.get().get(), observation.selector, notification.get());
+    sim::runtime::send<void>(observer.get().get(), observation.selector, notification.get());
   }
 }
 

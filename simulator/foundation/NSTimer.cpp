@@ -124,7 +124,7 @@ void NSTimer::call() {
     running.get()(keep);
   } else {
     const Strong<Object> receiver = target;
-    simulator::runtime::send<void>(receiver.get().get(), selector, self());
+    sim::runtime::send<void>(receiver.get().get(), selector, self());
   }
 }
 

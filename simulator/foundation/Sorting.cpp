@@ -17,7 +17,7 @@ void sort(ObjectList& elements, Compare compare) {
 
 ObjectList sorted(ObjectList elements, SEL compare) {
   sort(elements, [compare](objc::Object left, objc::Object right) {
-    return simulator::runtime::send<long>(left.get(), compare, right.get());
+    return sim::runtime::send<long>(left.get(), compare, right.get());
   });
   return elements;
 }

@@ -12,7 +12,7 @@
 namespace sim {
 namespace {
 
-using simulator::runtime::Absence;
+using sim::runtime::Absence;
 
 std::mutex noting;
 std::set<std::string> classes;
@@ -48,11 +48,11 @@ void reportMethod(const std::string& cls, const std::string& selector) {
 }  // namespace
 
 AbsentNames::AbsentNames() {
-  simulator::runtime::observeAbsences(note);
+  sim::runtime::observeAbsences(note);
 }
 
 AbsentNames::~AbsentNames() {
-  simulator::runtime::observeAbsences(nullptr);
+  sim::runtime::observeAbsences(nullptr);
   const std::lock_guard guard(noting);
   for (const std::string& name : classes) reportClass(name);
   for (const auto& [cls, selector] : methods) reportMethod(cls, selector);

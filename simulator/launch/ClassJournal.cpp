@@ -7,7 +7,7 @@
 namespace sim {
 namespace {
 
-using simulator::runtime::ClassChange;
+using sim::runtime::ClassChange;
 
 std::string methodName(const ClassChange& change) {
   return std::string(class_isMetaClass(change.cls) ? "+[" : "-[") + class_getName(change.cls) +
@@ -37,18 +37,17 @@ void record(const ClassChange& change) {
 }  // namespace
 
 ClassJournal::ClassJournal(bool on) {
-  if (on) simulator::runtime::observeClassChanges(record);
+  if (on) sim::runtime::observeClassChanges(record);
 }
 
 ClassJournal::~ClassJournal() {
-  simulator::runtime::observeClassChanges(nullptr);
+  sim::runtime::observeClassChanges(nullptr);
 }
 
-ClassJournalPause::ClassJournalPause()
-    : observer_(simulator::runtime::observeClassChanges(nullptr)) {}
+ClassJournalPause::ClassJournalPause() : observer_(sim::runtime::observeClassChanges(nullptr)) {}
 
 ClassJournalPause::~ClassJournalPause() {
-  simulator::runtime::observeClassChanges(observer_);
+  sim::runtime::observeClassChanges(observer_);
 }
 
 }  // namespace sim

@@ -27,7 +27,7 @@ class ClassJournalPause {
   ClassJournalPause& operator=(const ClassJournalPause&) = delete;
 
  private:
-  simulator::runtime::ClassChangeObserver observer_;
+  sim::runtime::ClassChangeObserver observer_;
 };
 
 }  // namespace sim

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 std::atomic<AbsenceObserver> currentAbsenceObserver{nullptr};
@@ -17,4 +17,4 @@ void reportAbsence(const Absence& absence) {
   if (const AbsenceObserver observer = currentAbsenceObserver) observer(absence);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

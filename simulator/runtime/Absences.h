@@ -3,7 +3,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 struct Absence {
   Class cls;         // where a method to hook is missing; nullptr for a class that is missing
@@ -17,4 +17,4 @@ void observeAbsences(AbsenceObserver observer);
 // Never called while the runtime is locked.
 void reportAbsence(const Absence& absence);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

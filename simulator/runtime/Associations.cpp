@@ -9,13 +9,13 @@
 #include "simulator/runtime/Send.h"
 #include "simulator/runtime/Shards.h"
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 namespace {
 
 // The bits of a policy, in the platform's terms.
-constexpr objc_AssociationPolicy kSetterMask = 0xff;
-constexpr objc_AssociationPolicy kGetterRetains = 0x100;  // and autoreleases: 01401, 01403
+constexpr objc_AssociationPolicy setterMask = 0xff;
+constexpr objc_AssociationPolicy getterRetains = 0x100;  // and autoreleases: 01401, 01403
 
 struct Association {
   const void* key;
@@ -36,7 +36,7 @@ AssociationTable& tableOf(id object) {
 }
 
 id acquire(id value, objc_AssociationPolicy policy) {
-  switch (policy & kSetterMask) {
+  switch (policy & setterMask) {
     case OBJC_ASSOCIATION_RETAIN_NONATOMIC:
       return objc_retain(value);
     case OBJC_ASSOCIATION_COPY_NONATOMIC: {
@@ -49,9 +49,7 @@ id acquire(id value, objc_AssociationPolicy policy) {
 }
 
 void releaseOwned(const Association& association) {
-  if ((association.policy & kSetterMask) != OBJC_ASSOCIATION_ASSIGN) {
-    objc_release(association.value);
-  }
+  if ((association.policy & setterMask) != OBJC_ASSOCIATION_ASSIGN) objc_release(association.value);
 }
 
 auto findKey(Associations& associations, const void* key) {
@@ -63,12 +61,10 @@ auto findKey(Associations& associations, const void* key) {
 Association exchange(id object, const Association& added) {
   AssociationTable& table = tableOf(object);
   const std::lock_guard guard(table.lock);
-  setTrace(object, kHasAssociations);
+  setTrace(object, ObjectTrace::associations);
   Associations& associations = table.byObject[object];
   const auto found = findKey(associations, added.key);
-  if (found != associations.end()) {
-    return std::exchange(*found, added);
-  }
+  if (found != associations.end()) return std::exchange(*found, added);
   associations.push_back(added);
   return {added.key, nullptr, OBJC_ASSOCIATION_ASSIGN};
 }
@@ -78,16 +74,12 @@ Association take(id object, const void* key) {
   const std::lock_guard guard(table.lock);
   const auto entry = table.byObject.find(object);
   Association taken{key, nullptr, OBJC_ASSOCIATION_ASSIGN};
-  if (entry == table.byObject.end()) {
-    return taken;
-  }
+  if (entry == table.byObject.end()) return taken;
   if (const auto found = findKey(entry->second, key); found != entry->second.end()) {
     taken = *found;
     entry->second.erase(found);
   }
-  if (entry->second.empty()) {
-    table.byObject.erase(entry);
-  }
+  if (entry->second.empty()) table.byObject.erase(entry);
   return taken;
 }
 
@@ -96,9 +88,7 @@ Association take(id object, const void* key) {
 void objc_setAssociatedObject(id object, const void* key, id value, objc_AssociationPolicy policy) {
   if (object == nullptr) {
     // Removing what nil cannot have is harmless, on the platform too.
-    if (value == nullptr) {
-      return;
-    }
+    if (value == nullptr) return;
     fatal("objc_setAssociatedObject: the object is nil, its value would be an instance of %s",
           object_getClassName(value));
   }
@@ -108,30 +98,22 @@ void objc_setAssociatedObject(id object, const void* key, id value, objc_Associa
 }
 
 id objc_getAssociatedObject(id object, const void* key) {
-  if (object == nullptr) {
-    return nullptr;
-  }
+  if (object == nullptr) return nullptr;
   Association found{key, nullptr, OBJC_ASSOCIATION_ASSIGN};
   {
     AssociationTable& table = tableOf(object);
     const std::lock_guard guard(table.lock);
     if (const auto entry = table.byObject.find(object); entry != table.byObject.end()) {
-      if (const auto one = findKey(entry->second, key); one != entry->second.end()) {
-        found = *one;
-      }
+      if (const auto one = findKey(entry->second, key); one != entry->second.end()) found = *one;
     }
     // Under the lock: outside it another thread could replace and free the value first.
-    if ((found.policy & kGetterRetains) != 0) {
-      objc_retain(found.value);
-    }
+    if ((found.policy & getterRetains) != 0) objc_retain(found.value);
   }
-  return (found.policy & kGetterRetains) != 0 ? objc_autorelease(found.value) : found.value;
+  return (found.policy & getterRetains) != 0 ? objc_autorelease(found.value) : found.value;
 }
 
 void objc_removeAssociatedObjects(id object) {
-  if (object == nullptr) {
-    return;
-  }
+  if (object == nullptr) return;
   Associations removed;
   {
     AssociationTable& table = tableOf(object);

@@ -9,7 +9,7 @@
 
 #include "simulator/runtime/Fatal.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 // All pools of one thread: the objects of the inner pools follow those of the outer ones; nil
@@ -29,9 +29,8 @@ class PoolStack {
   // that is being emptied.
   void pop(void* token) {
     const auto size = reinterpret_cast<std::uintptr_t>(token);
-    if (size == 0 || size > entries_.size() || entries_[size - 1] != nullptr) {
+    if (size == 0 || size > entries_.size() || entries_[size - 1] != nullptr)
       fatal("invalid or prematurely freed autorelease pool %p", token);
-    }
     releaseDownTo(size);
     releaseDownTo(size - 1);
   }
@@ -72,9 +71,8 @@ void endThread(void* memory) {
 pthread_key_t threadEndKey() {
   static const pthread_key_t key = [] {
     pthread_key_t made{};
-    if (pthread_key_create(&made, &endThread) != 0) {
+    if (pthread_key_create(&made, &endThread) != 0)
       fatal("no thread key left for autorelease pools");
-    }
     return made;
   }();
   return key;
@@ -103,9 +101,9 @@ id addToAutoreleasePool(id object) {
   return object;
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 void* objc_autoreleasePoolPush() {
   return PoolStack::current().push();

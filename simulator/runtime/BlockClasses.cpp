@@ -7,14 +7,11 @@
 
 // The third word is objc_class::cache. It is there from the start, so that a message to a block
 // reaches the lookup, and with it the bootstrap, even from the first static initialiser.
-alignas(16) void* _NSConcreteStackBlock[32] = {nullptr, nullptr,
-                                               &simulator::runtime::emptyMethodCache};
-alignas(16) void* _NSConcreteGlobalBlock[32] = {nullptr, nullptr,
-                                                &simulator::runtime::emptyMethodCache};
-alignas(16) void* _NSConcreteMallocBlock[32] = {nullptr, nullptr,
-                                                &simulator::runtime::emptyMethodCache};
+alignas(16) void* _NSConcreteStackBlock[32] = {nullptr, nullptr, &sim::runtime::emptyMethodCache};
+alignas(16) void* _NSConcreteGlobalBlock[32] = {nullptr, nullptr, &sim::runtime::emptyMethodCache};
+alignas(16) void* _NSConcreteMallocBlock[32] = {nullptr, nullptr, &sim::runtime::emptyMethodCache};
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 id copyBlock(id self, SEL) {
@@ -33,7 +30,7 @@ std::size_t retainCountOfBlock(id self, SEL) {
   return blockRetainCount(self);
 }
 
-template <typename Function>
+template <class Function>
 void add(Class cls, const char* name, Function* function, const char* types) {
   class_addMethod(cls, sel_registerName(name), reinterpret_cast<IMP>(function), types);
 }
@@ -48,7 +45,7 @@ void registerConcreteClass(void** symbol, Class superclass, const char* name) {
 
 void registerBlockClasses() {
   Class block = objc_allocateClassPair(objc_getClass("NSObject"), "NSBlock", 0);
-  block->flags.fetch_or(kBlockClass);
+  block->flags.fetch_or(ClassFlag::blockClass);
   add(block, "copy", &copyBlock, "@@:");
   add(block, "copyWithZone:", &copyBlockWithZone, "@@:^{_NSZone=}");
   add(block, "retain", &copyBlock, "@@:");
@@ -61,4 +58,4 @@ void registerBlockClasses() {
   registerConcreteClass(_NSConcreteMallocBlock, block, "__NSMallocBlock__");
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

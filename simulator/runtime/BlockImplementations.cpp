@@ -2,15 +2,13 @@
 #include "simulator/runtime/Blocks.h"
 #include "simulator/runtime/Trampolines.h"
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 // nil for nil.
 IMP imp_implementationWithBlock(id block) {
-  if (block == nullptr) {
-    return nullptr;
-  }
+  if (block == nullptr) return nullptr;
   const TrampolineKind kind =
-      returnsLargeStructure(block) ? TrampolineKind::kStret : TrampolineKind::kPlain;
+      returnsLargeStructure(block) ? TrampolineKind::stret : TrampolineKind::plain;
   return makeTrampoline(kind, static_cast<id>(_Block_copy(block)));
 }
 

@@ -8,7 +8,7 @@
 #include "simulator/runtime/Instances.h"
 #include "simulator/runtime/LiveObjects.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 BlockLayout* layoutOf(const void* block) {
@@ -24,7 +24,7 @@ std::atomic_ref<std::uint32_t> tracesOf(const void* block) {
 }
 
 const BlockHelpers* helpersOf(const BlockLayout& block) {
-  return (block.flags & kBlockHasCopyDispose) != 0
+  return (block.flags & BlockFlag::hasCopyDispose) != 0
              ? reinterpret_cast<const BlockHelpers*>(block.descriptor + 1)
              : nullptr;
 }
@@ -33,13 +33,9 @@ const BlockHelpers* helpersOf(const BlockLayout& block) {
 bool retainHeapBlock(const void* block) {
   std::int32_t flags = flagsOf(block).load(std::memory_order_relaxed);
   do {
-    if ((flags & kBlockDeallocating) != 0) {
-      return false;
-    }
-    if ((flags & kBlockReferenceMask) == kBlockReferenceMask) {
-      return true;
-    }
-  } while (!flagsOf(block).compare_exchange_weak(flags, flags + kBlockOneReference));
+    if ((flags & BlockFlag::deallocating) != 0) return false;
+    if ((flags & BlockFlag::referenceMask) == BlockFlag::referenceMask) return true;
+  } while (!flagsOf(block).compare_exchange_weak(flags, flags + BlockFlag::oneReference));
   return true;
 }
 
@@ -48,105 +44,84 @@ bool releaseHeapBlock(const void* block) {
   std::int32_t flags = flagsOf(block).load(std::memory_order_relaxed);
   std::int32_t lowered = 0;
   do {
-    const std::int32_t count = flags & kBlockReferenceMask;
-    if (count == kBlockReferenceMask || (flags & kBlockDeallocating) != 0) {
-      return false;
-    }
-    if (count == 0) {
-      fatal("block %p was released too often", const_cast<void*>(block));
-    }
-    lowered = flags - kBlockOneReference;
-    if (count == kBlockOneReference) {
-      lowered |= kBlockDeallocating;
-    }
+    const std::int32_t count = flags & BlockFlag::referenceMask;
+    if (count == BlockFlag::referenceMask || (flags & BlockFlag::deallocating) != 0) return false;
+    if (count == 0) fatal("block %p was released too often", const_cast<void*>(block));
+    lowered = flags - BlockFlag::oneReference;
+    if (count == BlockFlag::oneReference) lowered |= BlockFlag::deallocating;
   } while (!flagsOf(block).compare_exchange_weak(flags, lowered));
-  return (lowered & kBlockDeallocating) != 0;
+  return (lowered & BlockFlag::deallocating) != 0;
 }
 
 void* copyToHeap(const BlockLayout& source) {
   void* memory = std::malloc(source.descriptor->size);
-  if (memory == nullptr) {
-    return nullptr;
-  }
+  if (memory == nullptr) return nullptr;
   std::memcpy(memory, &source, source.descriptor->size);
   auto* copy = static_cast<BlockLayout*>(memory);
-  copy->flags &= ~(kBlockReferenceMask | kBlockDeallocating);
-  copy->flags |= kBlockNeedsFree | kBlockOneReference;
-  if (const BlockHelpers* helpers = helpersOf(*copy)) {
-    helpers->copy(copy, &source);
-  }
+  copy->flags &= ~(BlockFlag::referenceMask | BlockFlag::deallocating);
+  copy->flags |= BlockFlag::needsFree | BlockFlag::oneReference;
+  if (const BlockHelpers* helpers = helpersOf(*copy)) helpers->copy(copy, &source);
   copy->isa = _NSConcreteMallocBlock;
-  copy->traces = kCountedBlock;
+  copy->traces = countedBlock;
   countLiveBlocks(1);
   return copy;
 }
 
 }  // namespace
 
-void setTraceInBlock(id block, ObjectTrace trace) {
-  if ((flagsOf(block).load() & kBlockNeedsFree) != 0) {
+void setTraceInBlock(id block, ObjectTrace::Value trace) {
+  if ((flagsOf(block).load() & BlockFlag::needsFree) != 0)
     tracesOf(block).fetch_or(trace, std::memory_order_release);
-  }
 }
 
 bool returnsLargeStructure([[maybe_unused]] id block) {
 #if defined(__x86_64__)
-  constexpr std::int32_t kMarks = kBlockUseStret | kBlockHasSignature;
-  return (flagsOf(block).load() & kMarks) == kMarks;
+  constexpr std::int32_t marks = BlockFlag::useStret | BlockFlag::hasSignature;
+  return (flagsOf(block).load() & marks) == marks;
 #else
   return false;
 #endif
 }
 
 bool tryRetainBlock(id block) {
-  return (flagsOf(block).load() & kBlockNeedsFree) == 0 || retainHeapBlock(block);
+  return (flagsOf(block).load() & BlockFlag::needsFree) == 0 || retainHeapBlock(block);
 }
 
 bool isBlockDeallocating(id block) {
-  return (flagsOf(block).load() & kBlockDeallocating) != 0;
+  return (flagsOf(block).load() & BlockFlag::deallocating) != 0;
 }
 
 std::size_t blockRetainCount(id block) {
   const std::int32_t flags = flagsOf(block).load();
-  return (flags & kBlockNeedsFree) != 0
-             ? static_cast<std::size_t>(flags & kBlockReferenceMask) / kBlockOneReference
+  return (flags & BlockFlag::needsFree) != 0
+             ? static_cast<std::size_t>(flags & BlockFlag::referenceMask) / BlockFlag::oneReference
              : 1;
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 void* _Block_copy(const void* block) {
-  if (block == nullptr) {
-    return nullptr;
-  }
+  if (block == nullptr) return nullptr;
   const std::int32_t flags = flagsOf(block).load();
-  if ((flags & kBlockIsGlobal) != 0) {
-    return layoutOf(block);
-  }
-  if ((flags & kBlockNeedsFree) != 0) {
+  if ((flags & BlockFlag::isGlobal) != 0) return layoutOf(block);
+  if ((flags & BlockFlag::needsFree) != 0) {
     retainHeapBlock(block);
     return layoutOf(block);
   }
-  if (layoutOf(block)->invoke == nullptr) {
+  if (layoutOf(block)->invoke == nullptr)
     fatal("_Block_copy: block %p has no function", const_cast<void*>(block));
-  }
   return copyToHeap(*layoutOf(block));
 }
 
 void _Block_release(const void* block) {
-  if (block == nullptr || (flagsOf(block).load() & kBlockIsGlobal) != 0 ||
-      (flagsOf(block).load() & kBlockNeedsFree) == 0 || !releaseHeapBlock(block)) {
+  if (block == nullptr || (flagsOf(block).load() & BlockFlag::isGlobal) != 0 ||
+      (flagsOf(block).load() & BlockFlag::needsFree) == 0 || !releaseHeapBlock(block))
     return;
-  }
-  if (const BlockHelpers* helpers = helpersOf(*layoutOf(block))) {
-    helpers->dispose(block);
-  }
+  if (const BlockHelpers* helpers = helpersOf(*layoutOf(block))) helpers->dispose(block);
   const std::uint32_t traces = tracesOf(block).load(std::memory_order_acquire);
   clearTraces(reinterpret_cast<id>(layoutOf(block)), traces);
-  if ((traces & kCountedBlock) != 0) {
-    countLiveBlocks(-1);
-  }
+  if ((traces & countedBlock) != 0) countLiveBlocks(-1);
   std::free(layoutOf(block));
 }

@@ -6,7 +6,7 @@
 #include "simulator/runtime/NSObject.h"
 #include "simulator/runtime/Protocols.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 std::atomic<bool> finished;
@@ -20,16 +20,12 @@ std::atomic<bool> finished;
 }  // namespace
 
 void ensureBootstrapped() {
-  if (finished.load(std::memory_order_acquire)) {
-    return;
-  }
+  if (finished.load(std::memory_order_acquire)) return;
   // The registration calls public functions, which come here again.
   static auto* lock = new std::recursive_mutex;
   static bool begun = false;
   const std::lock_guard guard(*lock);
-  if (begun) {
-    return;
-  }
+  if (begun) return;
   begun = true;
   registerRootClass();
   registerProtocolClass();
@@ -37,4 +33,4 @@ void ensureBootstrapped() {
   finished.store(true, std::memory_order_release);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

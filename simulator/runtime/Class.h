@@ -15,29 +15,31 @@
 #include "objc/runtime.h"
 #include "simulator/runtime/AssemblyOffsets.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 struct ClassData;
 struct MethodCache;
 
-enum ClassFlag : std::uint32_t {
-  kMetaclass = 1u << 0,
-  kRegistered = 1u << 1,
-  kInitialized = 1u << 2,       // +initialize has returned
-  kInlineReferences = 1u << 3,  // inherits NSObject's retain, release and autorelease
-  kBlockClass = 1u << 4,        // instances are blocks: no InstanceHeader in front of them
-  kCxxDestruct = 1u << 5,       // has or inherits a .cxx_destruct
+struct ClassFlag {
+  enum Value : std::uint32_t {
+    metaclass = 1u << 0,
+    registered = 1u << 1,
+    initialized = 1u << 2,       // +initialize has returned
+    inlineReferences = 1u << 3,  // inherits NSObject's retain, release and autorelease
+    blockClass = 1u << 4,        // instances are blocks: no InstanceHeader in front of them
+    cxxDestruct = 1u << 5,       // has or inherits a .cxx_destruct
+  };
 };
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
 // Small, because block classes must fit into the 32 pointers of _NSConcreteStackBlock and its kin.
 struct objc_class {
   Class isa;
   Class superclass;
-  std::atomic<simulator::runtime::MethodCache*> cache;  // never null; probed by the assembly
+  std::atomic<sim::runtime::MethodCache*> cache;  // never null; probed by the assembly
   std::atomic<std::uint32_t> flags;
-  simulator::runtime::ClassData* data;  // owned
+  sim::runtime::ClassData* data;  // owned
 
-  bool has(simulator::runtime::ClassFlag flag) const {
+  bool has(sim::runtime::ClassFlag::Value flag) const {
     return (flags.load(std::memory_order_acquire) & flag) != 0;
   }
 };
@@ -64,7 +66,7 @@ struct objc_property {
   std::string attributes;
 };
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 struct ClassData {
   std::string name;
@@ -95,4 +97,4 @@ inline Class asClass(id object) {
   return reinterpret_cast<Class>(object);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 std::atomic<ClassChangeObserver> currentObserver{nullptr};
@@ -17,4 +17,4 @@ void reportClassChange(const ClassChange& change) {
   if (const ClassChangeObserver observer = currentObserver) observer(change);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -3,7 +3,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 struct ClassChange {
   enum class Kind { classRegistered, methodAdded, propertyAdded, methodHooked };
@@ -22,4 +22,4 @@ ClassChangeObserver observeClassChanges(ClassChangeObserver observer);
 // Never called while the runtime is locked.
 void reportClassChange(const ClassChange& change);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

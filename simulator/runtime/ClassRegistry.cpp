@@ -14,7 +14,7 @@
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/MethodCache.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 std::mutex& runtimeLock() {
   static auto* lock = new std::mutex;
@@ -35,15 +35,14 @@ Registry& registry() {
 
 Class findRegistered(const char* name) {
   const auto found = registry().byName.find(name);
-  return found != registry().byName.end() && found->second->has(kRegistered) ? found->second
-                                                                             : nullptr;
+  return found != registry().byName.end() && found->second->has(ClassFlag::registered)
+             ? found->second
+             : nullptr;
 }
 
 Class allocateClassMemory(std::size_t extraBytes) {
   void* memory = std::calloc(1, sizeof(objc_class) + extraBytes);
-  if (memory == nullptr) {
-    throw std::bad_alloc();
-  }
+  if (memory == nullptr) throw std::bad_alloc();
   return new (memory) objc_class{};
 }
 
@@ -55,7 +54,8 @@ void initClass(Class cls, Class isa, Class superclass, std::uint32_t flags) {
   if (superclass != nullptr) {
     superclass->data->subclasses.push_back(cls);
     cls->data->instanceSize = superclass->data->instanceSize;
-    flags |= superclass->flags.load() & (kInlineReferences | kBlockClass | kCxxDestruct);
+    flags |= superclass->flags.load() &
+             (ClassFlag::inlineReferences | ClassFlag::blockClass | ClassFlag::cxxDestruct);
   } else {
     cls->data->instanceSize = sizeof(objc_object);
   }
@@ -69,7 +69,8 @@ void construct(Class cls, Class superclass, const char* name, std::size_t extraB
   // Every metaclass is an instance of the root's metaclass, which is an instance of itself and
   // inherits from the root class: so class objects answer to the root's instance methods.
   Class rootMetaclass = superclass != nullptr ? superclass->isa->isa : metaclass;
-  initClass(metaclass, rootMetaclass, superclass != nullptr ? superclass->isa : cls, kMetaclass);
+  initClass(metaclass, rootMetaclass, superclass != nullptr ? superclass->isa : cls,
+            ClassFlag::metaclass);
   metaclass->data->instanceSize = sizeof(objc_class);
   for (Class one : {cls, metaclass}) {
     one->data->name = name;
@@ -83,9 +84,7 @@ void destroyClass(Class cls) {
     fatal("objc_disposeClassPair: class %s still has the subclass %s", cls->data->name.c_str(),
           cls->data->subclasses.front()->data->name.c_str());
   }
-  if (cls->superclass != nullptr) {
-    std::erase(cls->superclass->data->subclasses, cls);
-  }
+  if (cls->superclass != nullptr) std::erase(cls->superclass->data->subclasses, cls);
   freeCaches(cls);
   delete cls->data;
   std::free(cls);
@@ -98,14 +97,12 @@ void constructClassPair(Class cls, Class superclass, const char* name, std::size
   construct(cls, superclass, name, extraBytes);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 Class objc_lookUpClass(const char* name) {
-  if (name == nullptr) {
-    return nullptr;
-  }
+  if (name == nullptr) return nullptr;
   ensureBootstrapped();
   const std::lock_guard guard(runtimeLock());
   return findRegistered(name);
@@ -126,49 +123,42 @@ int objc_getClassList(Class* buffer, int count) {
   ensureBootstrapped();
   const std::lock_guard guard(runtimeLock());
   const std::vector<Class>& all = registry().registered;
-  if (buffer != nullptr && count > 0) {
+  if (buffer != nullptr && count > 0)
     std::copy_n(all.begin(), std::min(all.size(), static_cast<std::size_t>(count)), buffer);
-  }
   return static_cast<int>(all.size());
 }
 
 Class objc_allocateClassPair(Class superclass, const char* name, std::size_t extraBytes) {
   ensureBootstrapped();
   const std::lock_guard guard(runtimeLock());
-  const bool unfinishedSuperclass = superclass != nullptr && !superclass->has(kRegistered);
-  if (name == nullptr || unfinishedSuperclass || registry().byName.contains(name)) {
-    return nullptr;
-  }
+  const bool unfinishedSuperclass =
+      superclass != nullptr && !superclass->has(ClassFlag::registered);
+  if (name == nullptr || unfinishedSuperclass || registry().byName.contains(name)) return nullptr;
   Class cls = allocateClassMemory(extraBytes);
   construct(cls, superclass, name, extraBytes);
   return cls;
 }
 
 void objc_registerClassPair(Class cls) {
-  if (cls == nullptr) {
-    return;
-  }
+  if (cls == nullptr) return;
   {
     const std::lock_guard guard(runtimeLock());
-    if (cls->has(kMetaclass) || cls->has(kRegistered)) {
+    if (cls->has(ClassFlag::metaclass) || cls->has(ClassFlag::registered)) {
       fatal("objc_registerClassPair: %s %s", cls->data->name.c_str(),
-            cls->has(kMetaclass) ? "is a metaclass" : "is registered already");
+            cls->has(ClassFlag::metaclass) ? "is a metaclass" : "is registered already");
     }
-    cls->isa->flags.fetch_or(kRegistered, std::memory_order_release);
-    cls->flags.fetch_or(kRegistered, std::memory_order_release);
+    cls->isa->flags.fetch_or(ClassFlag::registered, std::memory_order_release);
+    cls->flags.fetch_or(ClassFlag::registered, std::memory_order_release);
     registry().registered.push_back(cls);
   }
   reportClassChange({ClassChange::Kind::classRegistered, cls, class_getName(cls), ""});
 }
 
 void objc_disposeClassPair(Class cls) {
-  if (cls == nullptr) {
-    return;
-  }
+  if (cls == nullptr) return;
   const std::lock_guard guard(runtimeLock());
-  if (cls->has(kMetaclass)) {
+  if (cls->has(ClassFlag::metaclass))
     fatal("objc_disposeClassPair: %s is a metaclass", cls->data->name.c_str());
-  }
   registry().byName.erase(cls->data->name);
   std::erase(registry().registered, cls);
   Class metaclass = cls->isa;

@@ -5,7 +5,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 struct ClassData;
 
@@ -20,4 +20,4 @@ void ensureBootstrapped();
 // For the block classes, whose addresses are symbols.
 void constructClassPair(Class cls, Class superclass, const char* name, std::size_t extraBytes);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -2,7 +2,7 @@
 #include "objc/runtime.h"
 #include "simulator/runtime/Class.h"
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 const char* class_getName(Class cls) {
   return cls != nullptr ? cls->data->name.c_str() : "nil";
@@ -13,10 +13,10 @@ Class class_getSuperclass(Class cls) {
 }
 
 bool class_isMetaClass(Class cls) {
-  return cls != nullptr && cls->has(kMetaclass);
+  return cls != nullptr && cls->has(ClassFlag::metaclass);
 }
 
 std::size_t class_getInstanceSize(Class cls) {
-  constexpr std::size_t kWord = sizeof(void*);
-  return cls != nullptr ? (cls->data->instanceSize + kWord - 1) / kWord * kWord : 0;
+  constexpr std::size_t wordSize = sizeof(void*);
+  return cls != nullptr ? (cls->data->instanceSize + wordSize - 1) / wordSize * wordSize : 0;
 }

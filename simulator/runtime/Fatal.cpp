@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 void fatal(const char* format, ...) {
   std::va_list arguments;
@@ -25,4 +25,4 @@ void unrecognizedSelector(id receiver, SEL selector) {
         static_cast<void*>(receiver));
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

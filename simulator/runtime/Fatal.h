@@ -3,7 +3,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // Prints one line on stderr and aborts.
 [[noreturn]] [[gnu::format(printf, 1, 2)]] void fatal(const char* format, ...);
@@ -11,4 +11,4 @@ namespace simulator::runtime {
 // The platform's line for a message that nobody implements. `receiver` is not nil.
 [[noreturn]] void unrecognizedSelector(id receiver, SEL selector);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

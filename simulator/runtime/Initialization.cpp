@@ -8,7 +8,7 @@
 #include "simulator/runtime/MethodResolution.h"
 #include "simulator/runtime/Send.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 struct InitializationMonitor {
@@ -25,13 +25,9 @@ InitializationMonitor& monitor() {
 bool begin(Class cls) {
   std::unique_lock guard(monitor().lock);
   ClassData& data = *cls->data;
-  if (data.initializing && data.initializingThread == std::this_thread::get_id()) {
-    return false;
-  }
+  if (data.initializing && data.initializingThread == std::this_thread::get_id()) return false;
   monitor().finished.wait(guard, [&] { return !data.initializing; });
-  if (cls->has(kInitialized)) {
-    return false;
-  }
+  if (cls->has(ClassFlag::initialized)) return false;
   data.initializing = true;
   data.initializingThread = std::this_thread::get_id();
   return true;
@@ -40,17 +36,15 @@ bool begin(Class cls) {
 // Called with the monitor's lock held.
 void openToAll(Class cls) {
   cls->data->initializing = false;
-  cls->isa->flags.fetch_or(kInitialized, std::memory_order_release);
-  cls->flags.fetch_or(kInitialized, std::memory_order_release);
-  for (Class subclass : std::exchange(cls->data->initializedEarly, {})) {
-    openToAll(subclass);
-  }
+  cls->isa->flags.fetch_or(ClassFlag::initialized, std::memory_order_release);
+  cls->flags.fetch_or(ClassFlag::initialized, std::memory_order_release);
+  for (Class subclass : std::exchange(cls->data->initializedEarly, {})) openToAll(subclass);
 }
 
 void finish(Class cls) {
   const std::lock_guard guard(monitor().lock);
   Class superclass = cls->superclass;
-  if (superclass != nullptr && !superclass->has(kInitialized)) {
+  if (superclass != nullptr && !superclass->has(ClassFlag::initialized)) {
     // The calling thread is still in the superclass's +initialize and has come here from inside
     // it. Other threads must not get past that one by way of the subclass.
     superclass->data->initializedEarly.push_back(cls);
@@ -63,22 +57,14 @@ void finish(Class cls) {
 }  // namespace
 
 void initializeIfNeeded(Class cls) {
-  if (cls->has(kInitialized)) {
-    return;
-  }
+  if (cls->has(ClassFlag::initialized)) return;
   Class target = cls->data->instanceClass;
-  if (target->superclass != nullptr) {
-    initializeIfNeeded(target->superclass);
-  }
-  if (!begin(target)) {
-    return;
-  }
+  if (target->superclass != nullptr) initializeIfNeeded(target->superclass);
+  if (!begin(target)) return;
   static const SEL initialize = sel_registerName("initialize");
   // A root class of its own may have none.
-  if (hasMethod(target->isa, initialize)) {
-    send<void>(asObject(target), initialize);
-  }
+  if (hasMethod(target->isa, initialize)) send<void>(asObject(target), initialize);
   finish(target);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -3,7 +3,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // Sends +initialize to the class (of a metaclass: to its class) unless that has happened,
 // superclasses first. Waits while another thread is doing it; returns at once to the thread that
@@ -11,4 +11,4 @@ namespace simulator::runtime {
 // that is initialized from inside waits with the rest until its superclass is.
 void initializeIfNeeded(Class cls);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

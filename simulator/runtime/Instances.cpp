@@ -12,14 +12,12 @@
 #include "simulator/runtime/Send.h"
 #include "simulator/runtime/WeakReferences.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 ObjectKind kindOf(id object) {
   Class cls = object_getClass(object);
-  if (cls->has(kMetaclass)) {
-    return ObjectKind::kClass;
-  }
-  return cls->has(kBlockClass) ? ObjectKind::kBlock : ObjectKind::kInstance;
+  if (cls->has(ClassFlag::metaclass)) return ObjectKind::classObject;
+  return cls->has(ClassFlag::blockClass) ? ObjectKind::block : ObjectKind::instance;
 }
 
 namespace {
@@ -33,25 +31,23 @@ IMP ownImplementation(Class cls, SEL selector) {
 // Each class destroys its own members, subclasses first. Not a message: an inherited one would run
 // twice.
 void destructMembers(id object) {
-  for (Class cls = object_getClass(object); cls != nullptr && cls->has(kCxxDestruct);
-       cls = cls->superclass) {
-    if (const IMP destruct = ownImplementation(cls, cxxDestruct())) {
+  for (Class cls = object_getClass(object); cls != nullptr && cls->has(ClassFlag::cxxDestruct);
+       cls = cls->superclass)
+    if (const IMP destruct = ownImplementation(cls, cxxDestruct()))
       reinterpret_cast<void (*)(id, SEL)>(destruct)(object, cxxDestruct());
-    }
-  }
 }
 
 }  // namespace
 
-void setTrace(id object, ObjectTrace trace) {
+void setTrace(id object, ObjectTrace::Value trace) {
   switch (kindOf(object)) {
-    case ObjectKind::kInstance:
+    case ObjectKind::instance:
       headerOf(object).traces.fetch_or(trace, std::memory_order_release);
       break;
-    case ObjectKind::kBlock:
+    case ObjectKind::block:
       setTraceInBlock(object, trace);
       break;
-    case ObjectKind::kClass:
+    case ObjectKind::classObject:
       break;  // has no end
   }
 }
@@ -63,29 +59,22 @@ void destructInstance(id object) {
 }
 
 void clearTraces(id object, std::uint32_t traces) {
-  if ((traces & kHasAssociations) != 0) {
-    objc_removeAssociatedObjects(object);
-  }
-  if ((traces & kHasWeakReferences) != 0) {
-    clearWeakReferences(object);
-  }
+  if ((traces & ObjectTrace::associations) != 0) objc_removeAssociatedObjects(object);
+  if ((traces & ObjectTrace::weakReferences) != 0) clearWeakReferences(object);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 id class_createInstance(Class cls, std::size_t extraBytes) {
-  if (cls == nullptr || cls->has(kMetaclass) || cls->has(kBlockClass)) {
+  if (cls == nullptr || cls->has(ClassFlag::metaclass) || cls->has(ClassFlag::blockClass))
     return nullptr;
-  }
   const std::size_t bytes = sizeof(InstanceHeader) + class_getInstanceSize(cls) + extraBytes;
   void* memory = std::calloc(1, bytes);
-  if (memory == nullptr) {
-    return nullptr;
-  }
+  if (memory == nullptr) return nullptr;
   auto* header = new (memory) InstanceHeader{};
-  header->references.store(kOneReference, std::memory_order_relaxed);
+  header->references.store(oneReference, std::memory_order_relaxed);
   id object = objectOf(header);
   object->isa = cls;
   addLiveObject(*header);
@@ -93,13 +82,11 @@ id class_createInstance(Class cls, std::size_t extraBytes) {
 }
 
 id object_dispose(id object) {
-  if (object == nullptr || kindOf(object) != ObjectKind::kInstance) {
-    return nullptr;
-  }
+  if (object == nullptr || kindOf(object) != ObjectKind::instance) return nullptr;
   destructInstance(object);
   InstanceHeader& header = headerOf(object);
   removeLiveObject(header);
-  header.references.store(kFreed, std::memory_order_relaxed);
+  header.references.store(freedMark, std::memory_order_relaxed);
   std::free(&header);
   return nullptr;
 }

@@ -7,12 +7,14 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // Which side tables know an object.
-enum ObjectTrace : std::uint32_t {
-  kHasAssociations = 1u << 0,
-  kHasWeakReferences = 1u << 1,
+struct ObjectTrace {
+  enum Value : std::uint32_t {
+    associations = 1u << 0,
+    weakReferences = 1u << 1,
+  };
 };
 
 struct alignas(16) InstanceHeader {
@@ -31,11 +33,11 @@ inline id objectOf(InstanceHeader* header) {
 }
 
 // What stands behind a pointer to an object; decided by its class alone.
-enum class ObjectKind { kInstance, kClass, kBlock };
+enum class ObjectKind { instance, classObject, block };
 ObjectKind kindOf(id object);
 
 // Remembers that a side table knows the object, so that its end has to look there.
-void setTrace(id object, ObjectTrace trace);
+void setTrace(id object, ObjectTrace::Value trace);
 
 // What happens between dealloc and free: the members are destroyed, associations go, then weak
 // references read nil.
@@ -44,4 +46,4 @@ void destructInstance(id object);
 // The last two of these, for the bits of ObjectTrace in `traces`.
 void clearTraces(id object, std::uint32_t traces);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

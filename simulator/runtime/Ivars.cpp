@@ -5,17 +5,14 @@
 #include "simulator/runtime/ClassRegistry.h"
 #include "simulator/runtime/Lists.h"
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 namespace {
 
 // Called with runtimeLock() held. nullptr when the class itself has no such ivar.
 Ivar findOwnIvar(Class cls, const char* name) {
-  for (const auto& ivar : cls->data->ivars) {
-    if (ivar->name == name) {
-      return ivar.get();
-    }
-  }
+  for (const auto& ivar : cls->data->ivars)
+    if (ivar->name == name) return ivar.get();
   return nullptr;
 }
 
@@ -27,14 +24,12 @@ char* storage(id object, Ivar ivar) {
 
 bool class_addIvar(Class cls, const char* name, std::size_t size, std::uint8_t alignment,
                    const char* types) {
-  if (cls == nullptr || name == nullptr) {
-    return false;
-  }
+  if (cls == nullptr || name == nullptr) return false;
   const std::lock_guard guard(runtimeLock());
   // Instances of a registered class may exist, and their size cannot change any more.
-  if (cls->has(kRegistered) || cls->has(kMetaclass) || findOwnIvar(cls, name) != nullptr) {
+  if (cls->has(ClassFlag::registered) || cls->has(ClassFlag::metaclass) ||
+      findOwnIvar(cls, name) != nullptr)
     return false;
-  }
   const std::size_t mask = (std::size_t{1} << alignment) - 1;
   const std::size_t offset = (cls->data->instanceSize + mask) & ~mask;
   cls->data->ivars.emplace_back(
@@ -44,15 +39,10 @@ bool class_addIvar(Class cls, const char* name, std::size_t size, std::uint8_t a
 }
 
 Ivar class_getInstanceVariable(Class cls, const char* name) {
-  if (name == nullptr) {
-    return nullptr;
-  }
+  if (name == nullptr) return nullptr;
   const std::lock_guard guard(runtimeLock());
-  for (; cls != nullptr; cls = cls->superclass) {
-    if (const Ivar ivar = findOwnIvar(cls, name)) {
-      return ivar;
-    }
-  }
+  for (; cls != nullptr; cls = cls->superclass)
+    if (const Ivar ivar = findOwnIvar(cls, name)) return ivar;
   return nullptr;
 }
 
@@ -74,9 +64,7 @@ std::ptrdiff_t ivar_getOffset(Ivar ivar) {
 }
 
 id object_getIvar(id object, Ivar ivar) {
-  if (object == nullptr || ivar == nullptr) {
-    return nullptr;
-  }
+  if (object == nullptr || ivar == nullptr) return nullptr;
   id value = nullptr;
   std::memcpy(&value, storage(object, ivar), sizeof value);
   return value;
@@ -84,7 +72,6 @@ id object_getIvar(id object, Ivar ivar) {
 
 // As on the platform for ivars added at run time: the value is not retained.
 void object_setIvar(id object, Ivar ivar, id value) {
-  if (object != nullptr && ivar != nullptr) {
+  if (object != nullptr && ivar != nullptr)
     std::memcpy(storage(object, ivar), &value, sizeof value);
-  }
 }

@@ -8,7 +8,7 @@
 #include "simulator/runtime/Instances.h"
 #include "simulator/runtime/Shards.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 struct LiveList {
@@ -23,13 +23,12 @@ Shards<LiveList>& lists() {
 
 std::atomic<std::ptrdiff_t> liveBlocks;
 
-template <typename Visit>
+template <class Visit>
 void visitLiveObjects(Visit visit) {
   for (LiveList& list : lists()) {
     const std::lock_guard guard(list.lock);
-    for (InstanceHeader* header = list.first; header != nullptr; header = header->next) {
+    for (InstanceHeader* header = list.first; header != nullptr; header = header->next)
       visit(objectOf(header));
-    }
   }
 }
 
@@ -38,9 +37,7 @@ void visitLiveObjects(Visit visit) {
 std::vector<id> liveInstances(Class cls) {
   std::vector<id> found;
   visitLiveObjects([&](id object) {
-    if (object_getClass(object) == cls) {
-      found.push_back(object);
-    }
+    if (object_getClass(object) == cls) found.push_back(object);
   });
   return found;
 }
@@ -54,9 +51,7 @@ std::vector<LiveCount> liveInstanceCounts() {
   visitLiveObjects([&](id object) { ++byClass[object_getClass(object)]; });
   std::vector<LiveCount> counts;
   counts.reserve(byClass.size());
-  for (const auto& [cls, count] : byClass) {
-    counts.push_back({cls, count});
-  }
+  for (const auto& [cls, count] : byClass) counts.push_back({cls, count});
   std::sort(counts.begin(), counts.end(), [](const LiveCount& left, const LiveCount& right) {
     return std::strcmp(class_getName(left.cls), class_getName(right.cls)) < 0;
   });
@@ -72,9 +67,7 @@ void addLiveObject(InstanceHeader& header) {
   const std::lock_guard guard(list.lock);
   header.previous = nullptr;
   header.next = list.first;
-  if (list.first != nullptr) {
-    list.first->previous = &header;
-  }
+  if (list.first != nullptr) list.first->previous = &header;
   list.first = &header;
 }
 
@@ -82,13 +75,11 @@ void removeLiveObject(InstanceHeader& header) {
   LiveList& list = lists().of(&header);
   const std::lock_guard guard(list.lock);
   (header.previous != nullptr ? header.previous->next : list.first) = header.next;
-  if (header.next != nullptr) {
-    header.next->previous = header.previous;
-  }
+  if (header.next != nullptr) header.next->previous = header.previous;
 }
 
 void countLiveBlocks(std::ptrdiff_t change) {
   liveBlocks.fetch_add(change);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -7,7 +7,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 struct InstanceHeader;
 
@@ -33,4 +33,4 @@ void addLiveObject(InstanceHeader& header);
 void removeLiveObject(InstanceHeader& header);
 void countLiveBlocks(std::ptrdiff_t change);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -8,14 +8,14 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // Most objects have one or two, which a short list holds in one allocation; a delegate of many has
 // thousands, which no list must be searched for.
 class LocationSet {
  public:
   void add(id* location) {
-    if (!many_.empty() || few_.size() == kFew) {
+    if (!many_.empty() || few_.size() == listLimit) {
       many_.insert(few_.begin(), few_.end());
       few_.clear();
       many_.insert(location);
@@ -34,17 +34,17 @@ class LocationSet {
 
   bool empty() const { return few_.empty() && many_.empty(); }
 
-  template <typename Visit>
+  template <class Visit>
   void forEach(Visit visit) const {
     std::for_each(few_.begin(), few_.end(), visit);
     std::for_each(many_.begin(), many_.end(), visit);
   }
 
  private:
-  static constexpr std::size_t kFew = 8;
+  static constexpr std::size_t listLimit = 8;
 
   std::vector<id*> few_;  // empty as soon as there are many
   std::unordered_set<id*> many_;
 };
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -11,7 +11,7 @@
 #include "simulator/runtime/Methods.h"
 #include "simulator/runtime/Send.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 namespace {
 
@@ -19,14 +19,10 @@ namespace {
 IMP findAndCache(Class cls, SEL selector) {
   const std::lock_guard guard(runtimeLock());
   const Method method = findMethod(cls, selector);
-  if (method == nullptr) {
-    return nullptr;
-  }
+  if (method == nullptr) return nullptr;
   const IMP implementation = method->implementation.load();
   // While +initialize runs, other threads must come here and wait for its end.
-  if (cls->has(kInitialized)) {
-    fillCache(cls, selector, implementation);
-  }
+  if (cls->has(ClassFlag::initialized)) fillCache(cls, selector, implementation);
   return implementation;
 }
 
@@ -34,24 +30,18 @@ IMP findAndCache(Class cls, SEL selector) {
 
 IMP lookUpImplementation(Class cls, SEL selector) {
   ensureBootstrapped();
-  if (const IMP cached = cachedImplementation(cls, selector)) {
-    return cached;
-  }
+  if (const IMP cached = cachedImplementation(cls, selector)) return cached;
   initializeIfNeeded(cls);
-  if (const IMP found = findAndCache(cls, selector)) {
-    return found;
-  }
+  if (const IMP found = findAndCache(cls, selector)) return found;
   return findOrResolveMethod(cls, selector) != nullptr ? findAndCache(cls, selector) : nullptr;
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 IMP simulatorRuntimeLookUp(id receiver, SEL selector, Class cls) {
-  if (cls == nullptr) {
-    unrecognizedSelector(receiver, selector);
-  }
+  if (cls == nullptr) unrecognizedSelector(receiver, selector);
   return lookUpImplementation(cls, selector);
 }
 
@@ -61,8 +51,6 @@ id simulatorRuntimeForwardingTarget(id receiver, SEL selector) {
   id target = class_respondsToSelector(object_getClass(receiver), forwardingTarget)
                   ? send<id>(receiver, forwardingTarget, selector)
                   : nullptr;
-  if (target == nullptr || target == receiver) {
-    unrecognizedSelector(receiver, selector);
-  }
+  if (target == nullptr || target == receiver) unrecognizedSelector(receiver, selector);
   return target;
 }

@@ -7,13 +7,13 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // Sends +initialize if that is due, searches the superclasses too, asks the resolver and fills the
 // cache. nullptr when nobody implements the selector.
 IMP lookUpImplementation(Class cls, SEL selector);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
 extern "C" {
 

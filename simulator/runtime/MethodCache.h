@@ -13,7 +13,7 @@
 #include "objc/runtime.h"
 #include "simulator/runtime/AssemblyOffsets.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 struct CacheBucket {
   std::atomic<SEL> selector;  // written once, after the implementation; null: empty
@@ -43,4 +43,4 @@ void fillCache(Class cls, SEL selector, IMP implementation);
 void refreshCaches(Class cls, SEL selector, IMP implementation);  // and inheriting subclasses
 void freeCaches(Class cls);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -7,25 +7,21 @@
 #include "simulator/runtime/Methods.h"
 #include "simulator/runtime/Send.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 // A root class of its own may have no resolver. The answer counts for nothing: what matters is
 // whether the method is there afterwards.
 void ask(Class cls, SEL resolver, SEL wanted) {
-  if (hasMethod(cls->isa, resolver)) {
-    send<bool>(asObject(cls), resolver, wanted);
-  }
+  if (hasMethod(cls->isa, resolver)) send<bool>(asObject(cls), resolver, wanted);
 }
 
 void askResolvers(Class cls, SEL wanted) {
   static const SEL resolveInstanceMethod = sel_registerName("resolveInstanceMethod:");
   static const SEL resolveClassMethod = sel_registerName("resolveClassMethod:");
-  if (cls->has(kMetaclass)) {
+  if (cls->has(ClassFlag::metaclass)) {
     ask(cls->data->instanceClass, resolveClassMethod, wanted);
-    if (hasMethod(cls, wanted)) {
-      return;
-    }
+    if (hasMethod(cls, wanted)) return;
   }
   // A class object is an instance too, of its metaclass.
   ask(cls, resolveInstanceMethod, wanted);
@@ -39,25 +35,21 @@ bool hasMethod(Class cls, SEL selector) {
 }
 
 Method findOrResolveMethod(Class cls, SEL selector) {
-  if (cls == nullptr || selector == nullptr) {
-    return nullptr;
-  }
+  if (cls == nullptr || selector == nullptr) return nullptr;
   {
     const std::lock_guard guard(runtimeLock());
     const Method method = findMethod(cls, selector);
     // A class that is still being made is not asked: the question would send it +initialize
     // before it has all its methods.
-    if (method != nullptr || !cls->has(kRegistered) || cls->data->unanswered.contains(selector)) {
+    if (method != nullptr || !cls->has(ClassFlag::registered) ||
+        cls->data->unanswered.contains(selector))
       return method;
-    }
   }
   askResolvers(cls, selector);
   const std::lock_guard guard(runtimeLock());
   const Method method = findMethod(cls, selector);
-  if (method == nullptr) {
-    cls->data->unanswered.insert(selector);
-  }
+  if (method == nullptr) cls->data->unanswered.insert(selector);
   return method;
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

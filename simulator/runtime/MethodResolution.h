@@ -4,7 +4,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // Searches the superclasses too and, when nobody has the method, asks the class's resolver. nullptr
 // when even that brings none; the same question is not asked again until a method is added to the
@@ -14,4 +14,4 @@ Method findOrResolveMethod(Class cls, SEL selector);
 // Asks nobody.
 bool hasMethod(Class cls, SEL selector);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -10,7 +10,7 @@
 #include "simulator/runtime/MethodCache.h"
 #include "simulator/runtime/MethodResolution.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 Method findOwnMethod(Class cls, SEL selector) {
   const auto& methods = cls->data->methodsBySelector;
@@ -24,21 +24,16 @@ SEL cxxDestruct() {
 }
 
 Method findMethod(Class cls, SEL selector) {
-  for (; cls != nullptr; cls = cls->superclass) {
-    if (const Method method = findOwnMethod(cls, selector)) {
-      return method;
-    }
-  }
+  for (; cls != nullptr; cls = cls->superclass)
+    if (const Method method = findOwnMethod(cls, selector)) return method;
   return nullptr;
 }
 
 namespace {
 
 void stopInliningReferences(Class cls) {
-  cls->flags.fetch_and(~std::uint32_t{kInlineReferences}, std::memory_order_release);
-  for (const Class subclass : cls->data->subclasses) {
-    stopInliningReferences(subclass);
-  }
+  cls->flags.fetch_and(~std::uint32_t{ClassFlag::inlineReferences}, std::memory_order_release);
+  for (const Class subclass : cls->data->subclasses) stopInliningReferences(subclass);
 }
 
 // objc_retain and its kin go past the methods only while nobody overrides them.
@@ -46,25 +41,20 @@ void noticeReferenceMethod(Class cls, SEL selector) {
   static const SEL retain = sel_registerName("retain");
   static const SEL release = sel_registerName("release");
   static const SEL autorelease = sel_registerName("autorelease");
-  if (selector == retain || selector == release || selector == autorelease) {
+  if (selector == retain || selector == release || selector == autorelease)
     stopInliningReferences(cls);
-  }
 }
 
 // Instances are to run it at their end: see destructInstance.
 void noticeCxxDestruct(Class cls) {
-  cls->flags.fetch_or(kCxxDestruct, std::memory_order_release);
-  for (const Class subclass : cls->data->subclasses) {
-    noticeCxxDestruct(subclass);
-  }
+  cls->flags.fetch_or(ClassFlag::cxxDestruct, std::memory_order_release);
+  for (const Class subclass : cls->data->subclasses) noticeCxxDestruct(subclass);
 }
 
 // A resolver may now know what it did not know before.
 void forgetUnanswered(Class cls) {
   cls->data->unanswered.clear();
-  for (const Class subclass : cls->data->subclasses) {
-    forgetUnanswered(subclass);
-  }
+  for (const Class subclass : cls->data->subclasses) forgetUnanswered(subclass);
 }
 
 void addNewMethod(Class cls, SEL selector, IMP implementation, const char* types) {
@@ -72,9 +62,7 @@ void addNewMethod(Class cls, SEL selector, IMP implementation, const char* types
       new objc_method{selector, types != nullptr ? types : "", implementation, cls});
   cls->data->methodsBySelector.emplace(selector, added.get());
   noticeReferenceMethod(cls, selector);
-  if (selector == cxxDestruct()) {
-    noticeCxxDestruct(cls);
-  }
+  if (selector == cxxDestruct()) noticeCxxDestruct(cls);
   forgetUnanswered(cls);
   refreshCaches(cls, selector, implementation);
 }
@@ -87,22 +75,18 @@ IMP replaceImplementation(Method method, IMP implementation) {
 }
 
 }  // namespace
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 bool class_addMethod(Class cls, SEL selector, IMP implementation, const char* types) {
-  if (cls == nullptr || selector == nullptr) {
-    return false;
-  }
+  if (cls == nullptr || selector == nullptr) return false;
   {
     const std::lock_guard guard(runtimeLock());
-    if (findOwnMethod(cls, selector) != nullptr) {
-      return false;
-    }
+    if (findOwnMethod(cls, selector) != nullptr) return false;
     addNewMethod(cls, selector, implementation, types);
   }
-  if (cls->has(kRegistered)) {
+  if (cls->has(ClassFlag::registered)) {
     reportClassChange({ClassChange::Kind::methodAdded, cls, sel_getName(selector),
                        types != nullptr ? types : ""});
   }
@@ -110,13 +94,10 @@ bool class_addMethod(Class cls, SEL selector, IMP implementation, const char* ty
 }
 
 IMP class_replaceMethod(Class cls, SEL selector, IMP implementation, const char* types) {
-  if (cls == nullptr || selector == nullptr) {
-    return nullptr;
-  }
+  if (cls == nullptr || selector == nullptr) return nullptr;
   const std::lock_guard guard(runtimeLock());
-  if (const Method method = findOwnMethod(cls, selector)) {
+  if (const Method method = findOwnMethod(cls, selector))
     return replaceImplementation(method, implementation);
-  }
   addNewMethod(cls, selector, implementation, types);
   return nullptr;
 }
@@ -126,14 +107,13 @@ Method class_getInstanceMethod(Class cls, SEL selector) {
 }
 
 Method class_getClassMethod(Class cls, SEL selector) {
-  return cls != nullptr ? class_getInstanceMethod(cls->has(kMetaclass) ? cls : cls->isa, selector)
-                        : nullptr;
+  return cls != nullptr
+             ? class_getInstanceMethod(cls->has(ClassFlag::metaclass) ? cls : cls->isa, selector)
+             : nullptr;
 }
 
 IMP class_getMethodImplementation(Class cls, SEL selector) {
-  if (cls == nullptr || selector == nullptr) {
-    return nullptr;
-  }
+  if (cls == nullptr || selector == nullptr) return nullptr;
   const IMP found = lookUpImplementation(cls, selector);
   return found != nullptr ? found : &simulatorRuntimeForward;
 }
@@ -146,9 +126,7 @@ IMP class_getMethodImplementation_stret(Class cls, SEL selector) {
 #endif
 
 bool class_respondsToSelector(Class cls, SEL selector) {
-  if (cls == nullptr || selector == nullptr) {
-    return false;
-  }
+  if (cls == nullptr || selector == nullptr) return false;
   return cachedImplementation(cls, selector) != nullptr ||
          findOrResolveMethod(cls, selector) != nullptr;
 }
@@ -171,17 +149,13 @@ const char* method_getTypeEncoding(Method method) {
 }
 
 IMP method_setImplementation(Method method, IMP implementation) {
-  if (method == nullptr || implementation == nullptr) {
-    return nullptr;
-  }
+  if (method == nullptr || implementation == nullptr) return nullptr;
   const std::lock_guard guard(runtimeLock());
   return replaceImplementation(method, implementation);
 }
 
 void method_exchangeImplementations(Method one, Method other) {
-  if (one == nullptr || other == nullptr) {
-    return;
-  }
+  if (one == nullptr || other == nullptr) return;
   const std::lock_guard guard(runtimeLock());
   const IMP first = one->implementation.load();
   replaceImplementation(one, other->implementation.load());

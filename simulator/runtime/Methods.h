@@ -3,7 +3,7 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // nullptr when the class itself has no such method.
 Method findOwnMethod(Class cls, SEL selector);
@@ -14,4 +14,4 @@ Method findMethod(Class cls, SEL selector);
 // .cxx_destruct: what a compiler generates to destroy the instance variables of one class.
 SEL cxxDestruct();
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

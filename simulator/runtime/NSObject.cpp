@@ -8,7 +8,7 @@
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Send.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 // Life.
@@ -76,9 +76,7 @@ Class superclassOfClass(id self, SEL) {
   return class_getSuperclass(asClass(self));
 }
 bool inherits(Class cls, Class from) {
-  while (cls != nullptr && cls != from) {
-    cls = class_getSuperclass(cls);
-  }
+  while (cls != nullptr && cls != from) cls = class_getSuperclass(cls);
   return cls != nullptr;
 }
 bool isKindOfClass(id self, SEL, Class cls) {
@@ -91,9 +89,7 @@ bool isSubclassOfClass(id self, SEL, Class cls) {
   return inherits(asClass(self), cls);
 }
 bool anyConforms(Class cls, Protocol* protocol) {
-  while (cls != nullptr && !class_conformsToProtocol(cls, protocol)) {
-    cls = class_getSuperclass(cls);
-  }
+  while (cls != nullptr && !class_conformsToProtocol(cls, protocol)) cls = class_getSuperclass(cls);
   return cls != nullptr;
 }
 bool conformsToProtocol(id self, SEL, Protocol* protocol) {
@@ -149,7 +145,7 @@ std::size_t hash(id self, SEL) {
   return reinterpret_cast<std::uintptr_t>(self);
 }
 
-template <typename Function>
+template <class Function>
 void add(Class cls, const char* name, Function* function, const char* types) {
   class_addMethod(cls, sel_registerName(name), reinterpret_cast<IMP>(function), types);
 }
@@ -213,8 +209,8 @@ void registerRootClass() {
   addInstanceMethods(cls);
   addClassMethods(cls->isa);
   // From here on an override of retain, release or autorelease takes the flag away again.
-  cls->flags.fetch_or(kInlineReferences);
+  cls->flags.fetch_or(ClassFlag::inlineReferences);
   objc_registerClassPair(cls);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

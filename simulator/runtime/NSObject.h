@@ -2,8 +2,8 @@
 // Foundation and is added there.
 #pragma once
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 void registerRootClass();
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

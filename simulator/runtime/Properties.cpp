@@ -6,27 +6,21 @@
 #include "simulator/runtime/ClassRegistry.h"
 #include "simulator/runtime/Lists.h"
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 namespace {
 
 // Called with runtimeLock() held. nullptr when the class itself has no such property.
 objc_property_t findOwnProperty(Class cls, const char* name) {
-  for (const auto& property : cls->data->properties) {
-    if (property->name == name) {
-      return property.get();
-    }
-  }
+  for (const auto& property : cls->data->properties)
+    if (property->name == name) return property.get();
   return nullptr;
 }
 
 // Called with runtimeLock() held. Searches the superclasses too.
 objc_property_t findProperty(Class cls, const char* name) {
-  for (; cls != nullptr; cls = cls->superclass) {
-    if (const objc_property_t property = findOwnProperty(cls, name)) {
-      return property;
-    }
-  }
+  for (; cls != nullptr; cls = cls->superclass)
+    if (const objc_property_t property = findOwnProperty(cls, name)) return property;
   return nullptr;
 }
 
@@ -35,9 +29,7 @@ std::string attributeString(const objc_property_attribute_t* attributes, unsigne
   std::string text;
   for (unsigned int i = 0; i < count; ++i) {
     const std::string_view name = attributes[i].name != nullptr ? attributes[i].name : "";
-    if (name.empty() || attributes[i].value == nullptr) {
-      continue;
-    }
+    if (name.empty() || attributes[i].value == nullptr) continue;
     text += text.empty() ? "" : ",";
     text += name.size() > 1 ? '"' + std::string(name) + '"' : std::string(name);
     text += attributes[i].value;
@@ -49,27 +41,20 @@ std::string attributeString(const objc_property_attribute_t* attributes, unsigne
 
 bool class_addProperty(Class cls, const char* name, const objc_property_attribute_t* attributes,
                        unsigned int count) {
-  if (cls == nullptr || name == nullptr) {
-    return false;
-  }
+  if (cls == nullptr || name == nullptr) return false;
   const std::string text = attributeString(attributes, count);
   {
     const std::lock_guard guard(runtimeLock());
-    if (findProperty(cls, name) != nullptr) {
-      return false;
-    }
+    if (findProperty(cls, name) != nullptr) return false;
     cls->data->properties.emplace_back(new objc_property{name, text});
   }
-  if (cls->has(kRegistered)) {
+  if (cls->has(ClassFlag::registered))
     reportClassChange({ClassChange::Kind::propertyAdded, cls, name, text.c_str()});
-  }
   return true;
 }
 
 objc_property_t class_getProperty(Class cls, const char* name) {
-  if (name == nullptr) {
-    return nullptr;
-  }
+  if (name == nullptr) return nullptr;
   const std::lock_guard guard(runtimeLock());
   return findProperty(cls, name);
 }

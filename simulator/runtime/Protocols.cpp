@@ -16,7 +16,7 @@
 #include "simulator/runtime/Lists.h"
 #include "simulator/runtime/ReferenceCounting.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 // Lives forever, so the list of live objects does not know it. Guarded by runtimeLock().
@@ -69,7 +69,7 @@ id makeNone(id, SEL, void*) {
   return nullptr;
 }
 
-template <typename Function>
+template <class Function>
 void addMethod(Class cls, const char* name, Function* function, const char* types) {
   class_addMethod(cls, sel_registerName(name), reinterpret_cast<IMP>(function), types);
 }
@@ -89,14 +89,12 @@ void registerProtocolClass() {
   class_addProtocol(objc_getClass("NSObject"), ofRoot);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 Protocol* objc_getProtocol(const char* name) {
-  if (name == nullptr) {
-    return nullptr;
-  }
+  if (name == nullptr) return nullptr;
   ensureBootstrapped();
   const std::lock_guard guard(runtimeLock());
   const auto found = table().registered.find(name);
@@ -104,20 +102,16 @@ Protocol* objc_getProtocol(const char* name) {
 }
 
 Protocol* objc_allocateProtocol(const char* name) {
-  if (name == nullptr || objc_getProtocol(name) != nullptr) {
-    return nullptr;
-  }
+  if (name == nullptr || objc_getProtocol(name) != nullptr) return nullptr;
   Class cls = objc_getClass("Protocol");
   const std::lock_guard guard(runtimeLock());
   auto& made = table().all.emplace_back(new ProtocolObject{{}, {cls}, name, false, {}});
-  made->header.references.store(kOneReference, std::memory_order_relaxed);
+  made->header.references.store(oneReference, std::memory_order_relaxed);
   return &made->object;
 }
 
 void objc_registerProtocol(Protocol* protocol) {
-  if (protocol == nullptr) {
-    return;
-  }
+  if (protocol == nullptr) return;
   const std::lock_guard guard(runtimeLock());
   ProtocolObject& contents = contentsOf(protocol);
   if (!table().registered.emplace(contents.name, protocol).second) {
@@ -128,17 +122,14 @@ void objc_registerProtocol(Protocol* protocol) {
 }
 
 void protocol_addProtocol(Protocol* protocol, Protocol* addition) {
-  if (protocol == nullptr || addition == nullptr) {
-    return;
-  }
+  if (protocol == nullptr || addition == nullptr) return;
   const std::lock_guard guard(runtimeLock());
-  if (contentsOf(protocol).registered) {
+  if (contentsOf(protocol).registered)
     complain("is registered: nothing can be added", protocol);
-  } else if (!contentsOf(addition).registered) {
+  else if (!contentsOf(addition).registered)
     complain("is not registered: it cannot be added", addition);
-  } else {
+  else
     contentsOf(protocol).adopted.push_back(addition);
-  }
 }
 
 const char* protocol_getName(Protocol* protocol) {
@@ -146,9 +137,7 @@ const char* protocol_getName(Protocol* protocol) {
 }
 
 bool protocol_conformsToProtocol(Protocol* protocol, Protocol* other) {
-  if (protocol == nullptr || other == nullptr) {
-    return false;
-  }
+  if (protocol == nullptr || other == nullptr) return false;
   const std::lock_guard guard(runtimeLock());
   return conforms(protocol, other);
 }
@@ -159,22 +148,16 @@ bool protocol_isEqual(Protocol* protocol, Protocol* other) {
 }
 
 bool class_addProtocol(Class cls, Protocol* protocol) {
-  if (cls == nullptr || protocol == nullptr) {
-    return false;
-  }
+  if (cls == nullptr || protocol == nullptr) return false;
   const std::lock_guard guard(runtimeLock());
   std::vector<Protocol*>& protocols = cls->data->protocols;
-  if (anyConforms(protocols, protocol)) {
-    return false;
-  }
+  if (anyConforms(protocols, protocol)) return false;
   protocols.insert(protocols.begin(), protocol);
   return true;
 }
 
 bool class_conformsToProtocol(Class cls, Protocol* protocol) {
-  if (cls == nullptr || protocol == nullptr) {
-    return false;
-  }
+  if (cls == nullptr || protocol == nullptr) return false;
   const std::lock_guard guard(runtimeLock());
   return anyConforms(cls->data->protocols, protocol);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // The class of protocols, and the root class's own protocol.
 void registerProtocolClass();
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -7,23 +7,21 @@
 #include "simulator/runtime/Instances.h"
 #include "simulator/runtime/Send.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 bool usesInlineReferences(id object) {
-  return object_getClass(object)->has(kInlineReferences);
+  return object_getClass(object)->has(ClassFlag::inlineReferences);
 }
 
-// An object in dealloc keeps kDeallocating through retains and releases: neither revives it nor
+// An object in dealloc keeps deallocatingBit through retains and releases: neither revives it nor
 // sends dealloc a second time.
 bool tryRetainInstance(id object) {
   std::atomic<std::uint32_t>& references = headerOf(object).references;
   std::uint32_t current = references.load(std::memory_order_relaxed);
   do {
-    if ((current & kDeallocating) != 0) {
-      return false;
-    }
-  } while (!references.compare_exchange_weak(current, current + kOneReference,
+    if ((current & deallocatingBit) != 0) return false;
+  } while (!references.compare_exchange_weak(current, current + oneReference,
                                              std::memory_order_relaxed));
   return true;
 }
@@ -40,32 +38,29 @@ void releaseInstance(id object) {
   std::uint32_t current = references.load(std::memory_order_relaxed);
   std::uint32_t lowered = 0;
   do {
-    if (current == kFreed) {
+    if (current == freedMark)
       fatal("object %p was released after it had been freed", static_cast<void*>(object));
-    }
-    if ((current & kDeallocating) != 0) {
-      return;
-    }
-    lowered = current == kOneReference ? kDeallocating : current - kOneReference;
+    if ((current & deallocatingBit) != 0) return;
+    lowered = current == oneReference ? deallocatingBit : current - oneReference;
   } while (!references.compare_exchange_weak(current, lowered, std::memory_order_acq_rel,
                                              std::memory_order_relaxed));
-  if (lowered == kDeallocating) {
+  if (lowered == deallocatingBit) {
     static const SEL dealloc = sel_registerName("dealloc");
     send<void>(object, dealloc);
   }
 }
 
 std::size_t instanceRetainCount(id object) {
-  return headerOf(object).references.load(std::memory_order_relaxed) / kOneReference;
+  return headerOf(object).references.load(std::memory_order_relaxed) / oneReference;
 }
 
 bool tryRetain(id object) {
   switch (kindOf(object)) {
-    case ObjectKind::kClass:
+    case ObjectKind::classObject:
       return true;
-    case ObjectKind::kBlock:
+    case ObjectKind::block:
       return tryRetainBlock(object);
-    case ObjectKind::kInstance:
+    case ObjectKind::instance:
       break;
   }
   return tryRetainInstance(object);
@@ -73,35 +68,29 @@ bool tryRetain(id object) {
 
 bool isDeallocating(id object) {
   switch (kindOf(object)) {
-    case ObjectKind::kClass:
+    case ObjectKind::classObject:
       return false;
-    case ObjectKind::kBlock:
+    case ObjectKind::block:
       return isBlockDeallocating(object);
-    case ObjectKind::kInstance:
+    case ObjectKind::instance:
       break;
   }
-  return (headerOf(object).references.load(std::memory_order_acquire) & kDeallocating) != 0;
+  return (headerOf(object).references.load(std::memory_order_acquire) & deallocatingBit) != 0;
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 id objc_retain(id object) {
-  if (object == nullptr) {
-    return nullptr;
-  }
-  if (usesInlineReferences(object)) {
-    return retainInstance(object);
-  }
+  if (object == nullptr) return nullptr;
+  if (usesInlineReferences(object)) return retainInstance(object);
   static const SEL retain = sel_registerName("retain");
   return send<id>(object, retain);
 }
 
 void objc_release(id object) {
-  if (object == nullptr) {
-    return;
-  }
+  if (object == nullptr) return;
   if (usesInlineReferences(object)) {
     releaseInstance(object);
     return;
@@ -111,12 +100,8 @@ void objc_release(id object) {
 }
 
 id objc_autorelease(id object) {
-  if (object == nullptr) {
-    return nullptr;
-  }
-  if (usesInlineReferences(object)) {
-    return addToAutoreleasePool(object);
-  }
+  if (object == nullptr) return nullptr;
+  if (usesInlineReferences(object)) return addToAutoreleasePool(object);
   static const SEL autorelease = sel_registerName("autorelease");
   return send<id>(object, autorelease);
 }

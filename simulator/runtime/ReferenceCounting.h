@@ -6,13 +6,13 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
-// InstanceHeader::references: the count times kOneReference, kDeallocating once it has
-// reached zero, or kFreed.
-inline constexpr std::uint32_t kDeallocating = 1;
-inline constexpr std::uint32_t kOneReference = 2;
-inline constexpr std::uint32_t kFreed = 0xdeadbeef;
+// InstanceHeader::references: the count times oneReference, deallocatingBit once it has
+// reached zero, or freedMark.
+inline constexpr std::uint32_t deallocatingBit = 1;
+inline constexpr std::uint32_t oneReference = 2;
+inline constexpr std::uint32_t freedMark = 0xdeadbeef;
 
 // NSObject's retain and release, for objects with an InstanceHeader.
 id retainInstance(id object);
@@ -23,4 +23,4 @@ std::size_t instanceRetainCount(id object);
 bool tryRetain(id object);
 bool isDeallocating(id object);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -31,14 +31,11 @@ SelectorTable& table() {
 }  // namespace
 
 SEL sel_registerName(const char* name) {
-  if (name == nullptr) {
-    return nullptr;
-  }
+  if (name == nullptr) return nullptr;
   SelectorTable& selectors = table();
   const std::lock_guard guard(selectors.lock);
-  if (const auto found = selectors.byName.find(name); found != selectors.byName.end()) {
+  if (const auto found = selectors.byName.find(name); found != selectors.byName.end())
     return found->second;
-  }
   const SEL selector = intern(name);
   selectors.byName.emplace(sel_getName(selector), selector);
   return selector;

@@ -3,13 +3,13 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // For results in registers only; the arguments' types are the method's.
-template <typename Result, typename... Arguments>
+template <class Result, typename... Arguments>
 Result send(id receiver, SEL selector, Arguments... arguments) {
   using Prototype = Result (*)(id, SEL, Arguments...);
   return reinterpret_cast<Prototype>(&objc_msgSend)(receiver, selector, arguments...);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

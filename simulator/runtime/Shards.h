@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
-template <typename Shard>
+template <class Shard>
 class Shards {
  public:
   Shard& of(const void* object) { return shards_[indexOf(object)]; }
@@ -15,15 +15,15 @@ class Shards {
   auto end() { return shards_.end(); }
 
  private:
-  static constexpr std::size_t kCount = 16;
+  static constexpr std::size_t shardCount = 16;
 
   static std::size_t indexOf(const void* object) {
     const auto address = reinterpret_cast<std::uintptr_t>(object);
     // Neighbours on the heap differ in the low bits, but never below the allocator's 16 bytes.
-    return ((address >> 4) ^ (address >> 9)) % kCount;
+    return ((address >> 4) ^ (address >> 9)) % shardCount;
   }
 
-  std::array<Shard, kCount> shards_;
+  std::array<Shard, shardCount> shards_;
 };
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

@@ -21,7 +21,7 @@ extern "C" {
 #endif
 }
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 static_assert(offsetof(BlockLayout, invoke) == BLOCK_INVOKE_OFFSET);
@@ -39,9 +39,7 @@ TrampolineTable& table() {
 
 const char* templateOf([[maybe_unused]] TrampolineKind kind) {
 #if defined(__x86_64__)
-  if (kind == TrampolineKind::kStret) {
-    return simulatorRuntimeTrampoline_stret;
-  }
+  if (kind == TrampolineKind::stret) return simulatorRuntimeTrampoline_stret;
 #endif
   return simulatorRuntimeTrampoline;
 }
@@ -55,16 +53,12 @@ id& blockOf(char* trampoline) {
 char* mapTrampolines(TrampolineKind kind) {
   void* memory = mmap(nullptr, std::size_t{2} * TRAMPOLINE_DISTANCE, PROT_READ | PROT_WRITE,
                       MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-  if (memory == MAP_FAILED) {
-    fatal("imp_implementationWithBlock: no memory");
-  }
+  if (memory == MAP_FAILED) fatal("imp_implementationWithBlock: no memory");
   char* code = static_cast<char*>(memory) + TRAMPOLINE_DISTANCE;
-  for (std::size_t offset = 0; offset < TRAMPOLINE_DISTANCE; offset += TRAMPOLINE_SIZE) {
+  for (std::size_t offset = 0; offset < TRAMPOLINE_DISTANCE; offset += TRAMPOLINE_SIZE)
     std::memcpy(code + offset, templateOf(kind), TRAMPOLINE_SIZE);
-  }
-  if (mprotect(code, TRAMPOLINE_DISTANCE, PROT_READ | PROT_EXEC) != 0) {
+  if (mprotect(code, TRAMPOLINE_DISTANCE, PROT_READ | PROT_EXEC) != 0)
     fatal("imp_implementationWithBlock: this system lets no program make functions");
-  }
   __builtin___clear_cache(code, code + TRAMPOLINE_DISTANCE);
   return code;
 }
@@ -74,9 +68,8 @@ char* takeUnused(TrampolineKind kind) {
   if (unused.empty()) {
     char* code = mapTrampolines(kind);
     // The last is taken first, and so the first one mapped.
-    for (std::size_t offset = TRAMPOLINE_DISTANCE; offset > 0; offset -= TRAMPOLINE_SIZE) {
+    for (std::size_t offset = TRAMPOLINE_DISTANCE; offset > 0; offset -= TRAMPOLINE_SIZE)
       unused.push_back(code + offset - TRAMPOLINE_SIZE);
-    }
   }
   char* taken = unused.back();
   unused.pop_back();
@@ -103,12 +96,10 @@ id destroyTrampoline(IMP function) {
   const std::lock_guard guard(table().lock);
   auto* trampoline = reinterpret_cast<char*>(function);
   const auto found = table().used.find(trampoline);
-  if (found == table().used.end()) {
-    return nullptr;
-  }
+  if (found == table().used.end()) return nullptr;
   table().unused[static_cast<int>(found->second)].push_back(trampoline);
   table().used.erase(found);
   return std::exchange(blockOf(trampoline), nullptr);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

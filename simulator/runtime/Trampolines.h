@@ -3,11 +3,11 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 enum class TrampolineKind {
-  kPlain,
-  kStret,  // x86-64 only: the first argument is where a large structure goes
+  plain,
+  stret,  // x86-64 only: the first argument is where a large structure goes
 };
 
 // A function that calls `block` as imp_implementationWithBlock says. `block` is not retained.
@@ -19,4 +19,4 @@ id blockOfTrampoline(IMP function);
 // The block of the trampoline that is no more; nil when it was none.
 id destroyTrampoline(IMP function);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

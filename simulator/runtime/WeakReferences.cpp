@@ -12,7 +12,7 @@
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Shards.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 namespace {
 
 // An object's end passes through its shard's lock before its memory goes. So whoever holds the
@@ -36,19 +36,15 @@ void write(id* location, id object) {
 
 // Both are called with the lock of the object's table held.
 void add(WeakTable& table, id object, id* location) {
-  setTrace(object, kHasWeakReferences);
+  setTrace(object, ObjectTrace::weakReferences);
   table.locations[object].add(location);
 }
 
 void remove(WeakTable& table, id object, id* location) {
   const auto entry = table.locations.find(object);
-  if (entry == table.locations.end()) {
-    return;
-  }
+  if (entry == table.locations.end()) return;
   entry->second.remove(location);
-  if (entry->second.empty()) {
-    table.locations.erase(entry);
-  }
+  if (entry->second.empty()) table.locations.erase(entry);
 }
 
 // The locks of both objects' tables, either of which may be nil; always taken in the same order.
@@ -57,15 +53,9 @@ class TwoTables {
   TwoTables(id one, id other) {
     WeakTable* first = one != nullptr ? &tableOf(one) : nullptr;
     WeakTable* second = other != nullptr ? &tableOf(other) : nullptr;
-    if (std::less<>()(second, first)) {
-      std::swap(first, second);
-    }
-    if (first != nullptr && first != second) {
-      first_ = std::unique_lock(first->lock);
-    }
-    if (second != nullptr) {
-      second_ = std::unique_lock(second->lock);
-    }
+    if (std::less<>()(second, first)) std::swap(first, second);
+    if (first != nullptr && first != second) first_ = std::unique_lock(first->lock);
+    if (second != nullptr) second_ = std::unique_lock(second->lock);
   }
 
  private:
@@ -86,9 +76,7 @@ void requireAlive(id object) {
 void forget(id* location) {
   for (;;) {
     id object = read(location);
-    if (object == nullptr) {
-      return;
-    }
+    if (object == nullptr) return;
     WeakTable& table = tableOf(object);
     const std::lock_guard guard(table.lock);
     if (read(location) == object) {
@@ -103,12 +91,8 @@ void exchange(id* location, id object) {
   for (;;) {
     id previous = read(location);
     const TwoTables locks(previous, object);
-    if (read(location) != previous) {
-      continue;
-    }
-    if (previous != nullptr) {
-      remove(tableOf(previous), previous, location);
-    }
+    if (read(location) != previous) continue;
+    if (previous != nullptr) remove(tableOf(previous), previous, location);
     if (object != nullptr) {
       requireAlive(object);
       add(tableOf(object), object, location);
@@ -124,16 +108,14 @@ void clearWeakReferences(id object) {
   WeakTable& table = tableOf(object);
   const std::lock_guard guard(table.lock);
   const auto entry = table.locations.find(object);
-  if (entry == table.locations.end()) {
-    return;
-  }
+  if (entry == table.locations.end()) return;
   entry->second.forEach([](id* location) { write(location, nullptr); });
   table.locations.erase(entry);
 }
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime
 
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 id objc_initWeak(id* location, id object) {
   write(location, nullptr);  // it was garbage
@@ -149,13 +131,9 @@ id objc_storeWeak(id* location, id object) {
 id objc_loadWeakRetained(id* location) {
   for (;;) {
     id object = read(location);
-    if (object == nullptr) {
-      return nullptr;
-    }
+    if (object == nullptr) return nullptr;
     const std::lock_guard guard(tableOf(object).lock);
-    if (read(location) == object) {
-      return tryRetain(object) ? object : nullptr;
-    }
+    if (read(location) == object) return tryRetain(object) ? object : nullptr;
   }
 }
 
@@ -178,9 +156,7 @@ void objc_moveWeak(id* to, id* from) {
   write(to, nullptr);
   for (;;) {
     id object = read(from);
-    if (object == nullptr) {
-      return;
-    }
+    if (object == nullptr) return;
     WeakTable& table = tableOf(object);
     const std::lock_guard guard(table.lock);
     if (read(from) == object) {

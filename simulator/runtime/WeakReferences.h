@@ -3,10 +3,10 @@
 
 #include "objc/runtime.h"
 
-namespace simulator::runtime {
+namespace sim::runtime {
 
 // Makes all weak references to the object read nil and forgets them: the object is about to be
 // freed.
 void clearWeakReferences(id object);
 
-}  // namespace simulator::runtime
+}  // namespace sim::runtime

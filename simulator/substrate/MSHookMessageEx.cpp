@@ -11,7 +11,7 @@ void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* previous) {
     method = class_getInstanceMethod(target, selector);
   }
   if (method == nullptr) {
-    if (cls != nullptr) simulator::runtime::reportAbsence({cls, sel_getName(selector)});
+    if (cls != nullptr) sim::runtime::reportAbsence({cls, sel_getName(selector)});
     return;
   }
   // Read before the replacement: afterwards the inherited method may be somebody else's hook.
@@ -21,7 +21,7 @@ void MSHookMessageEx(Class cls, SEL selector, IMP replacement, IMP* previous) {
   if (previous != nullptr) {
     *previous = own != nullptr ? own : inherited;
   }
-  using simulator::runtime::ClassChange;
-  simulator::runtime::reportClassChange(
+  using sim::runtime::ClassChange;
+  sim::runtime::reportClassChange(
       {ClassChange::Kind::methodHooked, target, sel_getName(selector), ""});
 }

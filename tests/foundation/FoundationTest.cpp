@@ -79,7 +79,7 @@ std::string FoundationTest::readFile(const std::string& phonePath) const {
 
 std::map<std::string, std::size_t> FoundationTest::liveObjects() const {
   std::map<std::string, std::size_t> counts;
-  for (const auto& live : simulator::runtime::liveInstanceCounts())
+  for (const auto& live : sim::runtime::liveInstanceCounts())
     counts[class_getName(live.cls)] = live.count;
   return counts;
 }

@@ -34,7 +34,7 @@ inline void require(bool holds) {
 
 inline std::size_t liveObjectCount() {
   std::size_t count = 0;
-  for (const auto& live : simulator::runtime::liveInstanceCounts()) count += live.count;
+  for (const auto& live : sim::runtime::liveInstanceCounts()) count += live.count;
   return count;
 }
 

@@ -26,7 +26,7 @@ class ControlCenterTest : public TestHost {
 
   static std::size_t live() {
     std::size_t all = 0;
-    for (const auto& each : simulator::runtime::liveInstanceCounts()) all += each.count;
+    for (const auto& each : sim::runtime::liveInstanceCounts()) all += each.count;
     return all;
   }
 
@@ -108,8 +108,7 @@ TEST_F(ControlCenterTest, DoesNotWatchThePlayerWhileItIsClosed) {
   launch();
   playTracks();
   openAndClose();
-  EXPECT_EQ(simulator::runtime::liveInstanceCount(objc_getClass("MRUNowPlayingViewController")),
-            0U);
+  EXPECT_EQ(sim::runtime::liveInstanceCount(objc_getClass("MRUNowPlayingViewController")), 0U);
   AudioSystem::current().setVolume(0.25F);
   Player::current().nextTrack();
   advance(5);

@@ -11,7 +11,7 @@ class LockScreenTest : public TestHost {
  protected:
   static LockScreen& screen() { return LockScreen::current(); }
   static unsigned long controllers() {
-    return simulator::runtime::liveInstanceCount(objc_getClass("CSTimerViewController"));
+    return sim::runtime::liveInstanceCount(objc_getClass("CSTimerViewController"));
   }
 };
 

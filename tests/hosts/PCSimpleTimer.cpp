@@ -20,7 +20,7 @@ struct Sleeper : objc::Implementation<Sleeper> {
 };
 
 std::size_t live(const char* className) {
-  return simulator::runtime::liveInstanceCount(objc_getClass(className));
+  return sim::runtime::liveInstanceCount(objc_getClass(className));
 }
 
 class PCSimpleTimerTest : public TestHost {

@@ -87,7 +87,7 @@ TEST_F(LockScreenDateView, TakesItsLabelAlong) {
     const auto view = make();
     setDate(view.get(), 0);
   }
-  EXPECT_EQ(simulator::runtime::liveInstanceCount(objc_getClass("SBUILegibilityLabel")), 0U);
+  EXPECT_EQ(sim::runtime::liveInstanceCount(objc_getClass("SBUILegibilityLabel")), 0U);
 }
 
 }  // namespace

@@ -55,9 +55,9 @@ TEST_F(UIViewTest, OwnsItsSubviewsAndLetsThemGo) {
     const auto parent = make();
     add(parent.get(), survivor.get());
     add(parent.get(), make().get());
-    EXPECT_EQ(simulator::runtime::liveInstanceCount(objc_getClass("UIView")), 3U);
+    EXPECT_EQ(sim::runtime::liveInstanceCount(objc_getClass("UIView")), 3U);
   }
-  EXPECT_EQ(simulator::runtime::liveInstanceCount(objc_getClass("UIView")), 1U);
+  EXPECT_EQ(sim::runtime::liveInstanceCount(objc_getClass("UIView")), 1U);
   EXPECT_FALSE(superview(survivor.get()));
 }
 

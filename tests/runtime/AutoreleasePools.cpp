@@ -9,7 +9,7 @@
 #include "simulator/runtime/LiveObjects.h"
 
 using namespace testing_runtime;
-using simulator::runtime::liveInstanceCount;
+using sim::runtime::liveInstanceCount;
 
 namespace {
 

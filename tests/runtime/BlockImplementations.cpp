@@ -9,7 +9,7 @@
 #include "simulator/runtime/LiveObjects.h"
 
 using namespace testing_runtime;
-using simulator::runtime::liveBlockCount;
+using sim::runtime::liveBlockCount;
 
 namespace {
 

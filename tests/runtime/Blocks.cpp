@@ -10,7 +10,7 @@
 #include "simulator/runtime/LiveObjects.h"
 
 using namespace testing_runtime;
-using simulator::runtime::liveBlockCount;
+using sim::runtime::liveBlockCount;
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "TestClasses.h"
 
 using namespace testing_runtime;
-using simulator::runtime::ClassChange;
+using sim::runtime::ClassChange;
 
 namespace {
 
@@ -33,9 +33,9 @@ class ClassChanges : public testing::Test {
  protected:
   void SetUp() override {
     seen.clear();
-    simulator::runtime::observeClassChanges(&observe);
+    sim::runtime::observeClassChanges(&observe);
   }
-  void TearDown() override { simulator::runtime::observeClassChanges(nullptr); }
+  void TearDown() override { sim::runtime::observeClassChanges(nullptr); }
 };
 
 TEST_F(ClassChanges, ofARegisteredClassAreTold) {

@@ -8,7 +8,7 @@
 #include "TestClasses.h"
 
 using namespace testing_runtime;
-using namespace simulator::runtime;
+using namespace sim::runtime;
 
 namespace {
 

@@ -44,7 +44,7 @@ void addClassMethod(Class cls, const char* name, Function* function, const char*
 
 template <typename Result = void, typename... Arguments>
 Result send(id receiver, const char* name, Arguments... arguments) {
-  return simulator::runtime::send<Result>(receiver, sel(name), arguments...);
+  return sim::runtime::send<Result>(receiver, sel(name), arguments...);
 }
 
 template <typename Result = void, typename... Arguments>

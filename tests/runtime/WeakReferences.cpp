@@ -244,7 +244,7 @@ TEST(WeakReferences, loadsRaceWithTheLastRelease) {
     EXPECT_FALSE(wrong);
     EXPECT_EQ(weak, nullptr);
   }
-  EXPECT_EQ(simulator::runtime::liveInstanceCount(cls), 0u);
+  EXPECT_EQ(sim::runtime::liveInstanceCount(cls), 0u);
 }
 
 TEST(WeakReferences, storesRaceWithStoresAndLoads) {
@@ -272,7 +272,7 @@ TEST(WeakReferences, storesRaceWithStoresAndLoads) {
   objc_release(first);
   objc_release(second);
   EXPECT_EQ(weak, nullptr);
-  EXPECT_EQ(simulator::runtime::liveInstanceCount(cls), 0u);
+  EXPECT_EQ(sim::runtime::liveInstanceCount(cls), 0u);
 }
 
 }  // namespace

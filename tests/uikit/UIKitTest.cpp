@@ -30,7 +30,7 @@ void makeSingleInstances() {
 
 std::map<std::string, std::size_t> liveObjects() {
   std::map<std::string, std::size_t> counts;
-  for (const auto& live : simulator::runtime::liveInstanceCounts())
+  for (const auto& live : sim::runtime::liveInstanceCounts())
     counts[class_getName(live.cls)] = live.count;
   return counts;
 }

@@ -15,7 +15,7 @@ using Counts = std::map<std::string, std::size_t>;
 
 Counts counts() {
   Counts all;
-  for (const auto& [cls, count] : simulator::runtime::liveInstanceCounts())
+  for (const auto& [cls, count] : sim::runtime::liveInstanceCounts())
     all[class_getName(cls)] += count;
   return all;
 }
@@ -33,7 +33,7 @@ void expectLive(Arguments& words) {
   words.finish();
   const Class cls = objc_getClass(name.text.c_str());
   if (cls == nullptr) throw ScriptError(name.column, noSuchClass(name.text));
-  const std::size_t found = simulator::runtime::liveInstanceCount(cls);
+  const std::size_t found = sim::runtime::liveInstanceCount(cls);
   if (found != std::size_t(expected))
     throw ScriptError(0, "live objects of " + name.text + ": expected " + std::to_string(expected) +
                              ", found " + std::to_string(found));

@@ -16,9 +16,9 @@ void performAction(SEL action, Object target, Object sender, Object event) {
   const auto kept = objc::retain(target);
   const std::string_view name = sel_getName(action);
   const auto arguments = std::count(name.begin(), name.end(), ':');
-  if (arguments == 0) return simulator::runtime::send<void>(target.get(), action);
-  if (arguments == 1) return simulator::runtime::send<void>(target.get(), action, sender.get());
-  simulator::runtime::send<void>(target.get(), action, sender.get(), event.get());
+  if (arguments == 0) return sim::runtime::send<void>(target.get(), action);
+  if (arguments == 1) return sim::runtime::send<void>(target.get(), action, sender.get());
+  sim::runtime::send<void>(target.get(), action, sender.get(), event.get());
 }
 
 Object firstResponderTo(SEL action, Object sender) {

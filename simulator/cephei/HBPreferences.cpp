@@ -12,12 +12,13 @@ id HBPreferencesDidChangeNotification;
 namespace sim {
 namespace {
 
-using Instances = std::map<std::string, objc::Strong<objc::Object>>;
+// By domain; for good.
+struct Instances {
+  std::map<std::string, objc::Strong<objc::Object>> all;
+};
 
-// Never destroyed, as the objects in it are not.
-Instances& instances() {
-  static auto& all = *new Instances;
-  return all;
+auto& instances() {
+  return Phone::current().state<Instances>().all;
 }
 
 bool isSame(objc::Object left, objc::Object right) {

@@ -10,6 +10,7 @@
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/standin/Registration.h"
 #include "simulator/uikit/application/UIWindow.h"
 
@@ -21,8 +22,15 @@ using objc::Object;
 constexpr double windowLevel = 1090;  // above the lock screen, below alerts
 constexpr double backdropBlur = 20;   // points
 
-Object shown;                  // UIWindow; owned, nil while Control Center is closed
-objc::Weak<Object> keyBefore;  // UIWindow; the key window that it took the place of
+struct ControlCenter {
+  Object window;                             // UIWindow; owned, nil while Control Center is closed
+  objc::Weak<Object> keyBefore;              // UIWindow; the key window that it took the place of
+  std::map<std::string, Object> containers;  // by module; owned, and never given up
+};
+
+ControlCenter& controlCenter() {
+  return Phone::current().state<ControlCenter>();
+}
 
 }  // namespace
 
@@ -36,6 +44,7 @@ void registerControlCenter() {
 
 void openControlCenter() {
   const Class overlayClass = CCUIModularControlCenterOverlayViewController::cls();
+  Object& shown = controlCenter().window;
   if (shown || overlayClass == nullptr) return;
   const auto overlay = objc::adopt(Object(objc_alloc_init(overlayClass)));
   shown = objc::send<Object, "new">(objc_getClass("UIWindow"));
@@ -43,33 +52,33 @@ void openControlCenter() {
   objc::send<void, "_setBackdropBlur:">(objc::send<Object, "layer">(shown), backdropBlur);
   objc::send<void, "setRootViewController:">(shown, overlay.get());
   // The key window while it is open: alerts that are shown over all else come over it.
-  keyBefore = objc::weak(UIWindow::keyWindow());
+  controlCenter().keyBefore = objc::weak(UIWindow::keyWindow());
   objc::send<void, "makeKeyAndVisible">(shown);
 }
 
 void closeControlCenter() {
+  Object& shown = controlCenter().window;
   if (!shown) return;
   const auto overlay = objc::retain(openedControlCenter());
   CCUIModularControlCenterOverlayViewController::of(overlay.get()).collapseModules();
   const auto window = objc::adopt(std::exchange(shown, nullptr));
   objc::send<void, "setRootViewController:">(window.get(), nullptr);
   objc::send<void, "setHidden:">(window.get(), true);
-  objc::send<void, "makeKeyWindow">(keyBefore.load().get());
+  objc::send<void, "makeKeyWindow">(controlCenter().keyBefore.load().get());
 }
 
 Object openedControlCenter() {
-  return objc::send<Object, "rootViewController">(shown);
+  return objc::send<Object, "rootViewController">(controlCenter().window);
 }
 
 Object moduleContainer(const std::string& identifier) {
-  static std::map<std::string, Object> containers;  // owned, and never given up
   if (const Object overlay = openedControlCenter())
     if (const Object found =
             CCUIModularControlCenterOverlayViewController::of(overlay).container(identifier))
       return found;
   Class cls = CCUIContentModuleContainerViewController::cls();
   if (cls == nullptr) return nullptr;
-  Object& container = containers[identifier];
+  Object& container = controlCenter().containers[identifier];
   if (!container)
     container = objc::send<Object, "initWithModuleIdentifier:contentModule:">(
         objc_alloc(cls), string(identifier), nullptr);

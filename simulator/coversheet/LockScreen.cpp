@@ -23,8 +23,7 @@ double midnightAfter(double moment) {
 }  // namespace
 
 LockScreen& LockScreen::current() {
-  static LockScreen screen;
-  return screen;
+  return Phone::current().state<LockScreen>();
 }
 
 void LockScreen::lock() {

@@ -23,10 +23,12 @@ struct Perform {
   MainQueue::Ticket ticket;
 };
 
-// Never destroyed: what still waits when the process ends is not performed, and not released.
+struct PendingPerforms {
+  std::list<Perform> all;
+};
+
 std::list<Perform>& pending() {
-  static auto* all = new std::list<Perform>;
-  return *all;
+  return Phone::current().state<PendingPerforms>().all;
 }
 
 void perform(Object target, SEL selector, Object argument) {

@@ -28,22 +28,26 @@ Strong<Object> makeAt(const std::string& path) {
   return made;
 }
 
-// One object per folder, as long as anybody keeps it.
+struct Bundles {
+  Object main = makeAt(hostPath).detach();  // owned, and never given up
+  // One object per folder, as long as anybody keeps it.
+  std::map<std::string, objc::Weak<Object>> others;
+};
+
 Object bundleWithPath(Object path) {
-  static auto* known = new std::map<std::string, objc::Weak<Object>>;
   const std::string where = withoutSlashes(text(path));
   if (where.empty() || !std::filesystem::is_directory(Phone::current().file(where))) return nullptr;
-  Strong<Object> bundle = (*known)[where].load();
+  objc::Weak<Object>& known = Phone::current().state<Bundles>().others[where];
+  Strong<Object> bundle = known.load();
   if (!bundle) {
     bundle = makeAt(where);
-    (*known)[where] = objc::weak(bundle.get());
+    known = objc::weak(bundle.get());
   }
   return autorelease(std::move(bundle));
 }
 
 Object mainBundle() {
-  static const Object only = makeAt(hostPath).detach();
-  return only;
+  return Phone::current().state<Bundles>().main;
 }
 
 Object bundleForClass(Class) {

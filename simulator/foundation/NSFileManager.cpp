@@ -27,8 +27,7 @@ void clear(Object* error) {
 }
 
 Object defaultManager() {
-  static const Object only = NSFileManager::make().detach();
-  return only;
+  return onlyObject<NSFileManager>();
 }
 
 bool fileExists(Object, Object path) {

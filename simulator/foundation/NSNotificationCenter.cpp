@@ -18,8 +18,7 @@ using objc::Strong;
 struct Token : objc::Implementation<Token> {};
 
 Object defaultCenter() {
-  static const Object only = NSNotificationCenter::make().detach();
-  return only;
+  return onlyObject<NSNotificationCenter>();
 }
 
 void deliver(const Observation& observation, Object notification) {

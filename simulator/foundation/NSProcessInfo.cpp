@@ -18,8 +18,7 @@ namespace {
 using objc::Object;
 
 Object processInfo() {
-  static const Object only = NSProcessInfo::make().detach();
-  return only;
+  return onlyObject<NSProcessInfo>();
 }
 
 Object processName(Object) {

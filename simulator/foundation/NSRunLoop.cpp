@@ -14,8 +14,7 @@ namespace {
 using objc::Object;
 
 Object mainRunLoop() {
-  static const Object only = NSRunLoop::make().detach();
-  return only;
+  return onlyObject<NSRunLoop>();
 }
 
 void addTimer(Object, Object timer, Object) {

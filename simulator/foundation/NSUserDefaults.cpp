@@ -16,11 +16,17 @@ namespace {
 using objc::Object;
 using objc::Strong;
 
-Object theStandard;  // nil until it is asked for; never freed
+struct StandardDefaults {
+  Object object;  // nil until it is asked for; owned, and never given up
+};
+
+Object& theStandard() {
+  return Phone::current().state<StandardDefaults>().object;
+}
 
 Object standardUserDefaults() {
-  if (!theStandard) theStandard = NSUserDefaults::make().detach();
-  return theStandard;
+  if (!theStandard()) theStandard() = NSUserDefaults::make().detach();
+  return theStandard();
 }
 
 void journal(const std::string& message) {
@@ -103,12 +109,12 @@ void NSUserDefaults::registerDefaults(Object dictionary) {
 }
 
 void saveChangedUserDefaults() {
-  if (theStandard) NSUserDefaults::of(theStandard).save();
+  if (theStandard()) NSUserDefaults::of(theStandard()).save();
 }
 
 void userDefaultChanged(Object key, Object value) {
-  if (!theStandard) return;
-  NSUserDefaults& defaults = NSUserDefaults::of(theStandard);
+  if (!theStandard()) return;
+  NSUserDefaults& defaults = NSUserDefaults::of(theStandard());
   if (!defaults.loaded) return;
   if (value)
     put(defaults.values, key, value);

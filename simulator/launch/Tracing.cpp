@@ -88,9 +88,12 @@ bool traceMethod(const std::string& cls, const std::string& selector) {
   return true;
 }
 
-std::set<std::pair<std::string, std::string>>& tracedMethods() {
-  static std::set<std::pair<std::string, std::string>> all;
-  return all;
+struct TracedSoFar {
+  std::set<std::pair<std::string, std::string>> methods;
+};
+
+auto& tracedMethods() {
+  return Phone::current().state<TracedSoFar>().methods;
 }
 
 }  // namespace

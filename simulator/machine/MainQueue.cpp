@@ -25,6 +25,15 @@ void MainQueue::cancel(Ticket ticket) {
   entries_.erase(found);
 }
 
+void MainQueue::clear() {
+  std::map<Key, Task> forgotten;  // destroyed without the lock, as in cancel()
+  do {
+    forgotten.clear();
+    const std::lock_guard lock(mutex_);
+    forgotten.swap(entries_);
+  } while (!forgotten.empty());
+}
+
 void MainQueue::runUntil(Nanoseconds until) {
   while (std::optional<Task> task = takeDue(until)) {
     const objc::AutoreleasePool pool;

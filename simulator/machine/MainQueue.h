@@ -28,6 +28,9 @@ class MainQueue {
   // Any thread; forgetting an entry that has run does nothing.
   void cancel(Ticket ticket);
 
+  // Forgets all entries, also those that are added while others are destroyed.
+  void clear();
+
   // Main thread only. Runs every entry due up to `until`, moving the clock to each due time in
   // turn and at last to `until`. Each entry runs in an autorelease pool of its own.
   void runUntil(Nanoseconds until);

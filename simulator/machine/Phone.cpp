@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 
+#include "objc/Ownership.h"
+
 namespace sim {
 namespace {
 
@@ -16,6 +18,12 @@ Phone::Phone(const std::filesystem::path& root) : root_(std::filesystem::absolut
 }
 
 Phone::~Phone() {
+  {
+    // While this is still the phone that the objects in them may ask for as they end.
+    const objc::AutoreleasePool pool;
+    queue.clear();
+    states_.clear();
+  }
   if (theCurrent == this) theCurrent = nullptr;
 }
 

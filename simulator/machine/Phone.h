@@ -55,7 +55,7 @@ class Phone {
   // The phone's one object of that type, made on first use; it ends with the phone.
   template <class T>
   T& state() {
-    return states_.get<T>();
+    return states_.get<T>(*this);
   }
 
  private:

@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "simulator/machine/Phone.h"
+
 namespace sim {
 namespace {
 
@@ -21,8 +23,7 @@ AudioSystem::AudioSystem(Phone& phone) : phone_(phone) {
 }
 
 AudioSystem& AudioSystem::current() {
-  static AudioSystem system(Phone::current());
-  return system;
+  return Phone::current().state<AudioSystem>();
 }
 
 float AudioSystem::volume(std::string_view category) const {

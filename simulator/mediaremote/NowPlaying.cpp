@@ -61,9 +61,13 @@ bool hasLaunched() {
   return bool(objc::send<objc::Object, "sharedApplication">(objc_getClass("UIApplication")));
 }
 
+struct AnnouncedApplication {
+  std::string name;  // empty: nothing plays
+};
+
 // The player is another process: the host hears of a change when its main queue comes to it.
 void announceChange() {
-  static std::string announced;  // empty: nothing
+  std::string& announced = Phone::current().state<AnnouncedApplication>().name;
   const Player& player = Player::current();
   const std::string application = player.track() != nullptr ? player.application() : "";
   const bool applicationChanged = std::exchange(announced, application) != application;

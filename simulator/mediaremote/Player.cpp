@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "simulator/machine/Phone.h"
+
 namespace sim {
 
 std::string notation(const Track& track) {
@@ -15,8 +17,7 @@ Player::Player(Phone& phone) : phone_(phone) {
 }
 
 Player& Player::current() {
-  static Player player(Phone::current());
-  return player;
+  return Phone::current().state<Player>();
 }
 
 void Player::load(std::vector<Track> tracks) {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/preferences/Keyboard.h"
 #include "simulator/preferences/Pages.h"
 #include "simulator/preferences/Style.h"
@@ -26,8 +27,7 @@ void setMask(Object view, unsigned long mask) {
 }  // namespace
 
 PreferencesApp& PreferencesApp::current() {
-  static PreferencesApp app;
-  return app;
+  return Phone::current().state<PreferencesApp>();
 }
 
 void PreferencesApp::open() {

@@ -138,7 +138,9 @@ std::array<double, 4> componentsOf(Object color) {
   return state != nullptr ? state->color.values : std::array<double, 4>{};
 }
 
-unsigned long layersMade = 0;
+struct LayerCount {
+  unsigned long made = 0;
+};
 
 // The whole of what was there goes first.
 void setSublayers(Object self, Object layers) {
@@ -172,7 +174,7 @@ void setValueForKeyPath(Object self, Object value, Object path) {
 
 }  // namespace
 
-CALayer::CALayer() : identity(++layersMade) {}
+CALayer::CALayer() : identity(++Phone::current().state<LayerCount>().made) {}
 
 LayerValues CALayer::values() const {
   return {{geometry.bounds, geometry.position, opacity, componentsOf(backgroundColor), cornerRadius,

@@ -13,7 +13,9 @@
 namespace sim {
 namespace {
 
-std::optional<AnimationTiming> current;
+struct Current {
+  std::optional<AnimationTiming> timing;
+};
 
 LayerAnimation& animationOf(CALayer& layer, const AnimationTiming& timing) {
   auto& all = layer.animations;
@@ -50,10 +52,10 @@ CGAffineTransform partOf(const CGAffineTransform& wayBack, double part) {
 }  // namespace
 
 const std::optional<AnimationTiming>& currentAnimation() {
-  return current;
+  return Phone::current().state<Current>().timing;
 }
 void setCurrentAnimation(const std::optional<AnimationTiming>& timing) {
-  current = timing;
+  Phone::current().state<Current>().timing = timing;
 }
 
 double AnimationTiming::progress(Nanoseconds now) const {
@@ -88,19 +90,19 @@ void animateFrom(CALayer& layer, const LayerValues& start, const AnimationTiming
   animation.wayBack = wayBackFrom(end.transform, start.transform).then(animation.wayBack);
 }
 
-LayerChange::LayerChange(CALayer* layer) : layer_(current ? layer : nullptr) {
+LayerChange::LayerChange(CALayer* layer) : layer_(currentAnimation() ? layer : nullptr) {
   if (layer_ == nullptr) return;
   const Nanoseconds now = Phone::current().clock.uptime();
   removeEnded(layer_->animations, now);
   before_ = layer_->values();
-  seen_ = current->fromCurrentState ? layer_->presentation(now) : before_;
+  seen_ = currentAnimation()->fromCurrentState ? layer_->presentation(now) : before_;
 }
 
 LayerChange::~LayerChange() {
   if (layer_ == nullptr) return;
   const LayerValues after = layer_->values();
   if (before_ == after) return;
-  LayerAnimation& animation = animationOf(*layer_, *current);
+  LayerAnimation& animation = animationOf(*layer_, *currentAnimation());
   animateNumbers(animation, after);
   animateTransform(animation, after.transform);
 }
@@ -111,7 +113,7 @@ void LayerChange::animateNumbers(LayerAnimation& animation, const LayerMeasures&
   const LayerNumbers after = numbersOf(now);
   for (std::size_t i = 0; i < after.size(); ++i) {
     if (before[i] == after[i]) continue;
-    if (current->fromCurrentState)
+    if (currentAnimation()->fromCurrentState)
       for (LayerAnimation& each : layer_->animations) each.difference[i] = 0;
     animation.difference[i] += seen[i] - after[i];
   }
@@ -119,7 +121,7 @@ void LayerChange::animateNumbers(LayerAnimation& animation, const LayerMeasures&
 
 void LayerChange::animateTransform(LayerAnimation& animation, const CGAffineTransform& now) const {
   if (before_.transform == now) return;
-  if (current->fromCurrentState)
+  if (currentAnimation()->fromCurrentState)
     for (LayerAnimation& each : layer_->animations) each.wayBack = {};
   animation.wayBack = wayBackFrom(now, seen_.transform).then(animation.wayBack);
 }

@@ -4,13 +4,20 @@
 #include <string>
 
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
 
 namespace sim {
+namespace {
+
+struct KnownDevices {
+  std::map<std::string, objc::Object, std::less<>> byAddress;  // owned, and never given up
+};
+
+}  // namespace
 
 objc::Object BluetoothDevice::withAddress(std::string_view address, std::string_view name) {
-  // Not owners: the objects are never freed, not even when the program ends.
-  static std::map<std::string, objc::Object, std::less<>> known;
+  auto& known = Phone::current().state<KnownDevices>().byAddress;
   if (const auto found = known.find(address); found != known.end()) return found->second;
   auto device = make();
   if (!device) return nullptr;

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
+#include "simulator/machine/Phone.h"
+
 namespace sim {
 namespace {
 
@@ -23,8 +25,7 @@ Radios::Radios(Phone& phone) {
 }
 
 Radios& Radios::current() {
-  static Radios radios(Phone::current());
-  return radios;
+  return Phone::current().state<Radios>();
 }
 
 void Radios::setBluetooth(bool on) {

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "simulator/machine/Phone.h"
 #include "simulator/runwright/RunwrightManager.h"
 
 namespace sim {
@@ -12,8 +13,7 @@ ShortcutRunner::ShortcutRunner(Phone& phone) {
 }
 
 ShortcutRunner& ShortcutRunner::current() {
-  static ShortcutRunner runner(Phone::current());
-  return runner;
+  return Phone::current().state<ShortcutRunner>();
 }
 
 bool ShortcutRunner::install() {

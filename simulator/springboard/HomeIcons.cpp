@@ -6,6 +6,7 @@
 
 #include "objc/Message.h"
 #include "simulator/coregraphics/Geometry.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/springboard/Shapes.h"
 
 namespace sim {
@@ -91,10 +92,12 @@ constexpr std::array<Icon, homeIconCount + dockIconCount> icons = {{
      white},
 }};
 
-using Openers = std::map<std::string, std::function<void()>, std::less<>>;
-Openers& openers() {
-  static Openers all;
-  return all;
+struct Openers {
+  std::map<std::string, std::function<void()>, std::less<>> all;  // by the icon's title
+};
+
+auto& openers() {
+  return Phone::current().state<Openers>().all;
 }
 
 }  // namespace

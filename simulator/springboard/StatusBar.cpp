@@ -2,6 +2,7 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/springboard/StatusBarView.h"
 #include "simulator/uikit/application/PreRender.h"
 #include "simulator/uikit/application/UIWindow.h"
@@ -9,11 +10,17 @@
 namespace sim {
 namespace {
 
-objc::Object statusWindow;  // owned, and never given up
-objc::Object statusBar;     // StatusBarView; not owned: its window owns it
+struct StatusBar {
+  objc::Object window;  // owned, and never given up
+  objc::Object view;    // StatusBarView; not owned: its window owns it
+};
+
+StatusBar& statusBar() {
+  return Phone::current().state<StatusBar>();
+}
 
 StatusBarView* shown() {
-  return stateOf<StatusBarView>(statusBar);
+  return stateOf<StatusBarView>(statusBar().view);
 }
 
 }  // namespace
@@ -32,8 +39,7 @@ void showStatusBar() {
   objc::send<void, "setUserInteractionEnabled:">(window.get(), false);
   objc::send<void, "setWindowLevel:">(window.get(), windowLevel);
   objc::send<void, "setHidden:">(window.get(), false);
-  statusBar = view.get();
-  statusWindow = window.detach();
+  statusBar() = {window.detach(), view.get()};
   addPreRenderHook([] { shown()->showTime(); });
 }
 

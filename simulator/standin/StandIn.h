@@ -16,9 +16,20 @@
 #include <string_view>
 
 #include "objc/Class.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/standin/Fidelity.h"
 
 namespace sim {
+
+// The phone's one object of that class, made on first use: +mainRunLoop and the like. It does not
+// end with the phone, as nothing of a host that is killed does.
+template <class T>
+objc::Object onlyObject() {
+  struct Only {
+    objc::Object object = T::make().detach();
+  };
+  return Phone::current().state<Only>().object;
+}
 
 // Journals "stub -[Class selector]".
 void logStub(id receiver, SEL selector);

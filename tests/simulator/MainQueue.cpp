@@ -130,5 +130,14 @@ TEST_F(MainQueueTest, AnEntrysAutoreleasedObjectsDieWithIt) {
   EXPECT_EQ(ran, Names{"dead@2"});
 }
 
+// What a task holds may ask for more as it ends.
+TEST_F(MainQueueTest, ClearForgetsAlsoWhatIsAddedMeanwhile) {
+  std::shared_ptr<void> held(nullptr, [this](void*) { phone.queue.add(10, note("more")); });
+  phone.queue.add(10, [kept = std::move(held)] {});
+  phone.queue.clear();
+  phone.queue.runUntil(20);
+  EXPECT_EQ(ran, Names());
+}
+
 }  // namespace
 }  // namespace sim

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "simulator/machine/Phone.h"
 #include "simulator/runtime/LiveObjects.h"
 #include "simulator/script/Session.h"
 #include "simulator/script/commands/PhoneCommands.h"
@@ -20,7 +21,13 @@ Counts counts() {
   return all;
 }
 
-std::optional<Counts> marked;
+struct MarkedObjects {
+  std::optional<Counts> counts;
+};
+
+std::optional<Counts>& marked() {
+  return Phone::current().state<MarkedObjects>().counts;
+}
 
 std::size_t countOf(const Counts& all, const std::string& name) {
   const auto found = all.find(name);
@@ -43,16 +50,16 @@ void expectLive(Arguments& words) {
 void mark(Arguments& words) {
   words.finish();
   Session::current().last.reset();
-  marked = counts();
+  marked() = counts();
 }
 
 void expectNoNewObjects(Arguments& words) {
   words.finish();
-  if (!marked) throw ScriptError(0, "mark-objects comes first");
+  if (!marked()) throw ScriptError(0, "mark-objects comes first");
   Session::current().last.reset();
   std::string added;
   for (const auto& [name, count] : counts())
-    if (const std::size_t before = countOf(*marked, name); count > before)
+    if (const std::size_t before = countOf(*marked(), name); count > before)
       added += ' ' + std::to_string(count - before) + " of " + name;
   if (!added.empty()) throw ScriptError(0, "expected no new objects, found" + added);
 }

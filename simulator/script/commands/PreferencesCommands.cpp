@@ -17,9 +17,12 @@
 namespace sim {
 namespace {
 
+struct SetDomain {
+  std::string name = "com.corvane.dozewell2";
+};
+
 std::string& domainName() {
-  static std::string name = "com.corvane.dozewell2";
-  return name;
+  return Phone::current().state<SetDomain>().name;
 }
 
 std::vector<char> takeData(Arguments& words) {

@@ -3,12 +3,17 @@
 #include <map>
 #include <utility>
 
+#include "simulator/machine/Phone.h"
+
 namespace sim {
 namespace {
 
-std::map<std::string, std::function<objc::Object()>>& variables() {
-  static std::map<std::string, std::function<objc::Object()>> all;
-  return all;
+struct PhoneVariables {
+  std::map<std::string, std::function<objc::Object()>> all;
+};
+
+auto& variables() {
+  return Phone::current().state<PhoneVariables>().all;
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 namespace sim {
 
 // Asked each time the script names the variable; nil when there is nothing of the kind just now.
-// Added once a process.
+// Added once a phone.
 void addPhoneVariable(const std::string& name, std::function<objc::Object()> current);
 bool isPhoneVariable(const std::string& name);
 // nil also for a name that nobody has added.

@@ -5,8 +5,14 @@
 namespace sim {
 namespace {
 
-bool enabledNow = true;
-unsigned long groupsBegun = 0;
+struct Animations {
+  bool areEnabled = true;
+  unsigned long groupsBegun = 0;
+};
+
+Animations& animations() {
+  return Phone::current().state<Animations>();
+}
 
 TimingCurve curveOf(const AnimationParameters& parameters) {
   if (parameters.damping > 0)
@@ -32,15 +38,15 @@ class CurrentAnimation {
 }  // namespace
 
 bool animationsAreEnabled() {
-  return enabledNow;
+  return animations().areEnabled;
 }
 void setAnimationsEnabled(bool enabled) {
-  enabledNow = enabled;
+  animations().areEnabled = enabled;
 }
 
 AnimationTiming timingOf(const AnimationParameters& parameters) {
   AnimationTiming timing;
-  timing.group = ++groupsBegun;
+  timing.group = ++animations().groupsBegun;
   timing.begin = Phone::current().clock.uptime() + nanoseconds(parameters.delay);
   timing.duration = parameters.duration;
   timing.curve = curveOf(parameters);
@@ -58,7 +64,7 @@ AnimationTiming timingOf(const AnimationParameters& parameters) {
 void finishAnimation(const AnimationTiming& timing, AnimationCompletion completion) {
   if (!completion || timing.repeats) return;
   Phone& phone = Phone::current();
-  if (timing.end() <= phone.clock.uptime() || !enabledNow) return completion(true);
+  if (timing.end() <= phone.clock.uptime() || !animations().areEnabled) return completion(true);
   auto kept = objc::adopt(objc::send<AnimationCompletion, "copy">(completion));
   phone.queue.add(timing.end(), [kept = std::move(kept)] { kept.get()(true); });
 }
@@ -66,7 +72,7 @@ void finishAnimation(const AnimationTiming& timing, AnimationCompletion completi
 void animateChanges(const AnimationParameters& parameters, AnimationBlock changes,
                     AnimationCompletion completion) {
   const AnimationTiming timing = timingOf(parameters);
-  const bool takesTime = enabledNow && timing.end() > Phone::current().clock.uptime();
+  const bool takesTime = animations().areEnabled && timing.end() > Phone::current().clock.uptime();
   {
     const CurrentAnimation during(takesTime ? std::optional(timing) : std::nullopt);
     changes();
@@ -75,12 +81,12 @@ void animateChanges(const AnimationParameters& parameters, AnimationBlock change
 }
 
 void performWithoutAnimation(AnimationBlock changes) {
-  const bool before = std::exchange(enabledNow, false);
+  const bool before = std::exchange(animations().areEnabled, false);
   {
     const CurrentAnimation during(std::nullopt);
     changes();
   }
-  enabledNow = before;
+  animations().areEnabled = before;
 }
 
 }  // namespace sim

@@ -2,22 +2,27 @@
 
 #include <vector>
 
+#include "simulator/machine/Phone.h"
+
 namespace sim {
 namespace {
 
-std::vector<std::function<void()>>& updates() {
-  static std::vector<std::function<void()>> all;
-  return all;
+struct PreRenderHooks {
+  std::vector<std::function<void()>> all;
+};
+
+auto& hooks() {
+  return Phone::current().state<PreRenderHooks>().all;
 }
 
 }  // namespace
 
 void addPreRenderHook(std::function<void()> update) {
-  updates().push_back(std::move(update));
+  hooks().push_back(std::move(update));
 }
 
 void runPreRenderHooks() {
-  for (const auto& update : updates()) update();
+  for (const auto& update : hooks()) update();
 }
 
 }  // namespace sim

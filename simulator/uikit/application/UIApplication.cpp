@@ -12,7 +12,13 @@ namespace {
 
 using objc::Object;
 
-Object theApplication;  // owned, and never given up
+struct Application {
+  Object object;  // owned, and never given up
+};
+
+Object& theApplication() {
+  return Phone::current().state<Application>().object;
+}
 
 Object keyWindow(Object) {
   return UIWindow::keyWindow();
@@ -21,12 +27,12 @@ Object keyWindow(Object) {
 }  // namespace
 
 Object UIApplication::sharedApplication() {
-  return theApplication;
+  return theApplication();
 }
 
 Object UIApplication::init() {
   const Object made = super<Object, "init">();
-  if (!theApplication) theApplication = objc::retain(made).detach();
+  if (!theApplication()) theApplication() = objc::retain(made).detach();
   return made;
 }
 

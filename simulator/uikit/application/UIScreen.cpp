@@ -1,21 +1,24 @@
 #include "simulator/uikit/application/UIScreen.h"
 
 #include "simulator/foundation/Kind.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/application/UIApplication.h"
 
 namespace sim {
 namespace {
 
-bool lit = true;
+struct Backlight {
+  bool isOn = true;
+};
 
 }  // namespace
 
 bool UIScreen::isLit() {
-  return lit;
+  return Phone::current().state<Backlight>().isOn;
 }
 void UIScreen::setLit(bool isOn) {
-  lit = isOn;
+  Phone::current().state<Backlight>().isOn = isOn;
 }
 
 objc::Object UIScreen::mainScreen() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/views/ViewLayout.h"
@@ -12,9 +13,15 @@ namespace {
 
 using objc::Object;
 
-std::vector<UIWindow*> windows;  // all, also hidden ones
-UIWindow* key = nullptr;
-unsigned long timesShown = 0;
+struct Windows {
+  std::vector<UIWindow*> all;  // also hidden ones
+  UIWindow* key = nullptr;
+  unsigned long timesShown = 0;
+};
+
+Windows& windows() {
+  return Phone::current().state<Windows>();
+}
 
 Object init(Object self) {
   return objc::send<Object, "initWithFrame:">(self, CGRect{{0, 0}, UIScreen::size()});
@@ -27,12 +34,12 @@ bool isKeyWindow(Object self) {
 }  // namespace
 
 UIWindow::UIWindow() {
-  windows.push_back(this);
+  windows().all.push_back(this);
 }
 
 UIWindow::~UIWindow() {
-  std::erase(windows, this);
-  if (key == this) key = nullptr;
+  std::erase(windows().all, this);
+  if (windows().key == this) windows().key = nullptr;
 }
 
 Object UIWindow::initWithFrame(CGRect frame) {
@@ -60,16 +67,16 @@ void UIWindow::showRoot() {
 void UIWindow::setHidden(bool hidden) {
   super<void, "setHidden:">(hidden);
   if (hidden) {
-    if (key == this) key = nullptr;
+    if (windows().key == this) windows().key = nullptr;
     return;
   }
-  shownAs = ++timesShown;
+  shownAs = ++windows().timesShown;
   showRoot();
   queueLayoutPass();
 }
 
 void UIWindow::makeKeyWindow() {
-  key = this;
+  windows().key = this;
 }
 
 void UIWindow::makeKeyAndVisible() {
@@ -88,7 +95,7 @@ void UIWindow::layoutSubviews() {
 
 std::vector<objc::Strong<Object>> UIWindow::visibleWindows() {
   std::vector<UIWindow*> visible;
-  for (UIWindow* window : windows)
+  for (UIWindow* window : windows().all)
     if (!UIView::of(window->self()).isHidden()) visible.push_back(window);
   std::sort(visible.begin(), visible.end(), [](const UIWindow* a, const UIWindow* b) {
     return std::pair(a->windowLevel, a->shownAs) < std::pair(b->windowLevel, b->shownAs);
@@ -106,7 +113,7 @@ std::vector<objc::Strong<Object>> UIWindow::applicationWindows() {
 
 // When the key window goes the uppermost of those that remain takes its place.
 Object UIWindow::keyWindow() {
-  if (key != nullptr) return Object(key->self());
+  if (windows().key != nullptr) return Object(windows().key->self());
   const auto visible = applicationWindows();
   return visible.empty() ? Object() : autorelease(visible.back());
 }

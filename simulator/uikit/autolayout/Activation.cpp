@@ -5,6 +5,7 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
 #include "simulator/uikit/autolayout/NSLayoutConstraint.h"
 #include "simulator/uikit/autolayout/ViewConstraints.h"
@@ -16,7 +17,9 @@ namespace {
 
 using objc::Object;
 
-unsigned long activations = 0;
+struct Activations {
+  unsigned long count = 0;
+};
 
 }  // namespace
 
@@ -29,7 +32,7 @@ void addConstraint(Object view, Object constraint) {
   if (before) removeConstraint(before, constraint);
   constraintsOf(view).owned.push_back(kept);
   state.owner = objc::weak(view);
-  state.activation = ++activations;
+  state.activation = ++Phone::current().state<Activations>().count;
   constraintsChanged(view);
 }
 

@@ -13,8 +13,7 @@ namespace sim {
 using objc::Object;
 
 Finger& Finger::current() {
-  static Finger finger;
-  return finger;
+  return Phone::current().state<Finger>();
 }
 
 Object Finger::began(CGPoint point) {

@@ -16,8 +16,13 @@ using objc::Strong;
 
 constexpr double secondsPerFrame = 1.0 / 60;
 
-// Lives as long as the entry of the queue.
-std::weak_ptr<int> queuedPass;
+struct LayoutPasses {
+  std::weak_ptr<int> queued;  // lives as long as the entry of the queue
+};
+
+std::weak_ptr<int>& queuedPass() {
+  return Phone::current().state<LayoutPasses>().queued;
+}
 
 void layOut(Object view) {
   UIView& state = UIView::of(view);
@@ -53,19 +58,19 @@ void layoutPass() {
   constexpr int enoughRounds = 10;
   for (int round = 0; round < enoughRounds; ++round)
     if (!layOutWindows()) return;
-  queuedPass.reset();
+  queuedPass().reset();
   Phone& phone = Phone::current();
   auto token = std::make_shared<int>();
-  queuedPass = token;
+  queuedPass() = token;
   phone.queue.add(phone.clock.uptime() + nanoseconds(secondsPerFrame), [token] { layoutPass(); });
 }
 
 }  // namespace
 
 void queueLayoutPass() {
-  if (!queuedPass.expired()) return;
+  if (!queuedPass().expired()) return;
   auto token = std::make_shared<int>();
-  queuedPass = token;
+  queuedPass() = token;
   Phone::current().queue.addNow([token] { layoutPass(); });
 }
 

@@ -42,7 +42,7 @@ hb_font_t* fontAt(const Folder& folder, const std::string& name) {
 hb_font_t* required(const Folder& folder, const std::string& name) {
   hb_font_t* font = fontAt(folder, name);
   if (font == nullptr)
-    simulator::runtime::fatal(
+    sim::runtime::fatal(
         "%s%s is missing, and text is measured with it: install the package %s", folder.path,
         name.c_str(), folder.package);
   return font;

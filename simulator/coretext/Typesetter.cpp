@@ -27,7 +27,7 @@ std::vector<std::size_t> breaksOf(Text text, UBreakIteratorType kind) {
   UErrorCode problem = U_ZERO_ERROR;
   UBreakIterator* iterator =
       ubrk_open(kind, noLanguage, text.data(), std::int32_t(text.size()), &problem);
-  if (U_FAILURE(problem)) simulator::runtime::fatal("no line breaks: %s", u_errorName(problem));
+  if (U_FAILURE(problem)) sim::runtime::fatal("no line breaks: %s", u_errorName(problem));
   std::vector<std::size_t> breaks;
   for (auto at = ubrk_next(iterator); at != UBRK_DONE; at = ubrk_next(iterator))
     breaks.push_back(std::size_t(at));

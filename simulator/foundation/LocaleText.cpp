@@ -15,7 +15,7 @@ namespace sim {
 namespace {
 
 void require(UErrorCode problem, const char* what) {
-  if (U_FAILURE(problem)) simulator::runtime::fatal("ICU: %s: %s", what, u_errorName(problem));
+  if (U_FAILURE(problem)) sim::runtime::fatal("ICU: %s: %s", what, u_errorName(problem));
 }
 
 // Calls one of ICU's functions that fill an array.

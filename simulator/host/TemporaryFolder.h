@@ -5,6 +5,8 @@
 
 namespace sim {
 
+// As long as somebody needs it, it is locked. Whoever makes one removes those before that were left
+// behind: their programs had no time to.
 class TemporaryFolder {
  public:
   // Throws std::system_error.
@@ -17,6 +19,7 @@ class TemporaryFolder {
 
  private:
   std::filesystem::path path_;
+  int lock_;
 };
 
 }  // namespace sim

@@ -54,6 +54,7 @@ void Host::registerClasses() {
 
 void Host::launch() {
   registerClasses();
+  launchedAt_ = Phone::current().clock.uptime();
   const objc::AutoreleasePool pool;
   for (const std::string& name : Phone::current().setup.foreignClasses) registerForeignClass(name);
   const ClassJournal journal(Phone::current().setup.journalsClassChanges);

@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <vector>
 
+#include "simulator/machine/Clock.h"
+
 namespace sim {
 
 class HostError : public std::runtime_error {
@@ -26,6 +28,12 @@ class Host {
   // HostError when an extension cannot be loaded.
   void launch();
   bool isLaunched() const { return launched_; }
+  Nanoseconds launchedAt() const { return launchedAt_; }  // uptime
+  bool isRegistered() const { return registered_; }
+  // Before they are loaded.
+  void setExtensions(std::vector<std::filesystem::path> extensions) {
+    extensions_ = std::move(extensions);
+  }
 
   struct Symbol {
     enum class Kind { function, variable, other };
@@ -47,6 +55,7 @@ class Host {
   std::vector<void*> handles_;  // never closed: classes and hooks point into them
   bool registered_ = false;
   bool launched_ = false;
+  Nanoseconds launchedAt_ = 0;
 };
 
 }  // namespace sim

@@ -23,9 +23,23 @@ std::string shortest(Number value) {
 }  // namespace
 
 void Journal::record(std::string text) {
-  entries_.push_back({clock_.uptime(), std::move(text)});
-  const JournalEntry entry = entries_.back();  // an observer may record, too
+  const JournalEntry entry{clock_.uptime(), std::move(text)};
+  if (!file_) file_ = std::make_unique<JournalFile>();
+  file_->append(entry);
   for (std::size_t index = 0; index < observers_.size(); ++index) observers_[index](entry);
+}
+
+void Journal::visit(std::size_t first, const JournalFile::Visitor& visitor) const {
+  if (file_) file_->visit(first, visitor);
+}
+
+std::vector<JournalEntry> Journal::entries(std::size_t first) const {
+  std::vector<JournalEntry> all;
+  visit(first, [&all](const JournalEntry& entry) {
+    all.push_back(entry);
+    return true;
+  });
+  return all;
 }
 
 void Journal::observe(std::function<void(const JournalEntry&)> observer) {
@@ -36,6 +50,15 @@ std::string formatted(const JournalEntry& entry) {
   std::array<char, 48> time;
   std::snprintf(time.data(), time.size(), "%10.3f  ", seconds(entry.time));
   return time.data() + entry.text;
+}
+
+std::string secondsText(Nanoseconds duration) {
+  constexpr std::size_t decimals = 9;  // of nanoseconds
+  std::string fraction = std::to_string(duration % nanosecondsPerSecond);
+  fraction.insert(0, decimals - fraction.size(), '0');
+  fraction.erase(fraction.find_last_not_of('0') + 1);
+  const std::string whole = std::to_string(duration / nanosecondsPerSecond);
+  return fraction.empty() ? whole : whole + '.' + fraction;
 }
 
 std::string quoted(std::string_view text) {

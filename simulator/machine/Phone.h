@@ -41,6 +41,7 @@ class Phone {
   // A path that would leave the root ("..") stays inside it.
   std::filesystem::path file(std::string_view phonePath) const;
   const std::filesystem::path& root() const { return root_; }
+  void setRoot(const std::filesystem::path& root) { root_ = std::filesystem::absolute(root); }
 
   // What outlives the host process because on a phone it lives in another one (the music player,
   // the audio system): saved before a restart, given back after it.

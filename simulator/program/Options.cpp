@@ -9,10 +9,8 @@ namespace sim {
 namespace {
 
 const std::map<std::string, Action> actions = {
-    {"play", Action::play},         {"resume", Action::resume},
-    {"serve", Action::serve},       {"serve-on", Action::goOnServing},
-    {"fidelity", Action::fidelity}, {"commands", Action::commands},
-    {"--version", Action::version},
+    {"play", Action::play},         {"serve", Action::serve},       {"fidelity", Action::fidelity},
+    {"commands", Action::commands}, {"--version", Action::version},
 };
 
 // Instead of --token, which everybody on the machine sees in the list of its processes.
@@ -81,6 +79,8 @@ class Parser {
       options_.root = valueOf(word);
     else if (word == "--playlist")
       options_.playlist = valueOf(word);
+    else if (word == "--limit")
+      options_.limit = secondsFrom(valueOf(word));
     else
       return false;
     return true;
@@ -109,6 +109,15 @@ class Parser {
     if (!port || *port < 0 || *port > 65535)
       throw UsageError("--port needs a number from 0 to 65535, found " + word);
     return *port;
+  }
+
+  static double secondsFrom(const std::string& word) {
+    double seconds = -1;
+    const char* end = word.data() + word.size();
+    const auto result = std::from_chars(word.data(), end, seconds);
+    if (result.ec != std::errc() || result.ptr != end || !(seconds >= 0 && seconds <= 1e9))
+      throw UsageError("--limit needs a number of seconds, found " + word);
+    return seconds;
   }
 
   static std::filesystem::path folderFrom(const std::string& option, const std::string& word) {
@@ -151,8 +160,6 @@ class Parser {
     const std::size_t count = options_.files.size();
     switch (options_.action) {
       case Action::play:
-      case Action::resume:
-      case Action::goOnServing:
         if (count == 0) throw UsageError("which script?");
         return;
       case Action::serve:
@@ -218,6 +225,8 @@ To play:
   --root DIR       keep the phone's files there; without it, a temporary folder
   --playlist PATH  an M3U file that is played instead of those that scripts name
   --quiet          do not print the journal
+  --limit SECONDS  the processor time that one script may take, with all restarts of its host: 60
+                   without it, 0 for any; a script that takes more has failed
 
 Exit status: 0 every script passed, 1 one failed, 2 wrong usage.
 )";

@@ -17,9 +17,7 @@ class UsageError : public std::runtime_error {
 enum class Action {
   help,
   play,
-  resume,  // not for people: what a restarting host calls itself with
   serve,
-  goOnServing,  // not for people, either
   fidelity,
   commands,
   version,
@@ -35,6 +33,7 @@ struct Options {
   // All that scripts may name; none: for `play` anything, for `serve` a temporary folder.
   std::optional<std::filesystem::path> folder;
   bool quiet = false;
+  double limit = 60;  // seconds of processor time for one script; 0: any
 
   std::optional<int> port;                      // none: a usual one that is free
   std::optional<std::filesystem::path> web;     // the page's files; none: its own

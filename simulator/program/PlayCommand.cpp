@@ -1,88 +1,78 @@
 #include "simulator/program/PlayCommand.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstring>
 #include <iostream>
-#include <system_error>
 
-#include "objc/Ownership.h"
+#include "simulator/host/EndSignals.h"
+#include "simulator/host/PhonePackage.h"
+#include "simulator/host/ScriptPlayer.h"
 #include "simulator/host/TemporaryFolder.h"
-#include "simulator/program/CrashNote.h"
-#include "simulator/program/PhonePackage.h"
-#include "simulator/script/Commands.h"
-#include "simulator/script/Interpreter.h"
+#include "simulator/script/words/Script.h"
 
 namespace sim {
+
+namespace files = std::filesystem;
+
 namespace {
 
-void printEntry(const JournalEntry& entry) {
-  std::cout << formatted(entry) << '\n';
+ScriptJob jobFor(const Options& options, const files::path& script, const files::path& root) {
+  ScriptJob job;
+  job.options = {script,           files::canonical(root), options.extensions,
+                 options.playlist, options.folder,         options.quiet};
+  job.text = scriptText(script);
+  job.processorSeconds = options.limit;
+  return job;
 }
 
-// Plays from the start, or goes on after a restart.
-int playOne(const SessionOptions& options, const RestartState* state) {
-  const objc::AutoreleasePool pool;
-  Session session(options);
-  const CommandTable table = allCommands();
-  noteScriptInCrashes(options.script.string(), session.lineNumber);
-  if (!options.quiet) session.phone.journal.observe(printEntry);
+// As compilers do, so that editors find the line.
+void print(const files::path& script, const ScriptOutcome& outcome) {
+  const auto place = [&script](std::size_t line, std::size_t column) {
+    return script.string() + ':' + std::to_string(line) + ':' + std::to_string(column) + ": ";
+  };
+  if (!outcome.error.empty())
+    std::cerr << (outcome.line > 0 ? place(outcome.line, outcome.column) : "") << outcome.error
+              << '\n';
+  if (!outcome.crash) return;
+  const std::size_t line = outcome.crash->line;
+  std::cerr << (line > 0 ? place(line, 1) : script.string() + ": ") << "the phone stopped here\n"
+            << asText(*outcome.crash);
+}
+
+int playOne(const Options& options, const files::path& script, ScriptPlayer& player) {
   try {
-    Interpreter interpreter(session, table, readScript(options.script));
-    if (state == nullptr)
-      interpreter.play();
-    else
-      interpreter.resume(*state);
-    return 0;
-  } catch (const ScriptParseError& error) {
-    std::cerr << options.script.string() << ':' << error.line << ':' << error.column << ": "
-              << error.what() << '\n';
+    const TemporaryFolder temporary;
+    const auto root = options.root.value_or(temporary.path() / "phone");
+    files::create_directories(root);
+    if (options.package) installPackage(*options.package, root);
+    const ScriptOutcome outcome = player.play(jobFor(options, script, root));
+    print(script, outcome);
+    return outcome.status;
+  } catch (const EndSignal&) {
+    throw;
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
+    return 1;
   }
-  return 1;
 }
 
-int waitFor(pid_t child, const std::filesystem::path& script) {
-  int status = 0;
-  while (waitpid(child, &status, 0) < 0) {
-    if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "waitpid");
-  }
-  if (WIFEXITED(status)) return WEXITSTATUS(status);
-  std::cerr << script.string() << ": the phone stopped: " << strsignal(WTERMSIG(status)) << '\n';
-  return 1;
-}
-
-// A process of its own: classes cannot be unregistered, and an extension may stop the program.
-int playInChild(const SessionOptions& options) {
-  std::cout.flush();
-  const pid_t child = fork();
-  if (child < 0) throw std::system_error(errno, std::generic_category(), "fork");
-  if (child > 0) return waitFor(child, options.script);
-  std::exit(playOne(options, nullptr));
+int playAll(const Options& options) {
+  const EndSignals endSignals;
+  ScriptPlayer player(endSignals.descriptor());
+  int worst = 0;
+  for (const files::path& script : options.files)
+    worst = std::max(worst, playOne(options, script, player));
+  return worst;
 }
 
 }  // namespace
 
 int playScripts(const Options& options) {
-  int worst = 0;
-  for (const std::filesystem::path& script : options.files) {
-    const TemporaryFolder temporary;
-    const auto root = options.root.value_or(temporary.path() / "phone");
-    std::filesystem::create_directories(root);
-    if (options.package) installPackage(*options.package, root);
-    worst =
-        std::max(worst, playInChild({script, std::filesystem::canonical(root), options.extensions,
-                                     options.playlist, options.folder, options.quiet}));
+  try {
+    return playAll(options);
+  } catch (const EndSignal& signal) {
+    EndSignals::endBy(signal.number);
   }
-  return worst;
-}
-
-int resumeScript(const std::filesystem::path& stateFile) {
-  const RestartState state = takeRestartState(stateFile);
-  return playOne(state.options, &state);
 }
 
 }  // namespace sim

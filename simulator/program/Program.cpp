@@ -22,12 +22,8 @@ int runProgram(const std::vector<std::string>& words) {
         return 0;
       case Action::play:
         return playScripts(options);
-      case Action::resume:
-        return resumeScript(options.files.front());
       case Action::serve:
         return servePhone(options);
-      case Action::goOnServing:
-        return goOnServing(options.files.front());
       case Action::fidelity:
         return printFidelity();
       case Action::commands:

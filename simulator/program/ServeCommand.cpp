@@ -1,21 +1,18 @@
 #include "simulator/program/ServeCommand.h"
 
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <iostream>
-#include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "simulator/host/EndSignals.h"
 #include "simulator/host/TemporaryFolder.h"
 #include "simulator/machine/FileContent.h"
-#include "simulator/program/EndSignals.h"
-#include "simulator/program/ServingProcess.h"
-#include "simulator/serve/http/Access.h"
+#include "simulator/serve/Api.h"
+#include "simulator/serve/ServeState.h"
+#include "simulator/serve/ServedPhone.h"
+#include "simulator/serve/Supervisor.h"
+#include "simulator/serve/http/Guard.h"
 #include "simulator/serve/http/Listener.h"
 
 namespace sim {
@@ -34,13 +31,17 @@ std::string contentOf(const files::path& file) {
   return *std::move(content);
 }
 
-// Empty: none.
-std::optional<files::path> musicOf(const Options& options) {
-  if (!options.music) return std::nullopt;
-  const files::path folder = options.files.empty() ? beside("music") : options.files.front();
-  if (files::exists(folder) && !files::is_directory(folder))
-    throw std::runtime_error(folder.string() + ": expected a folder of music, found a file");
-  return files::canonical(folder);
+MusicLibrary libraryFor(const Options& options) {
+  if (!options.music) return {};
+  const files::path named = options.files.empty() ? beside("music") : options.files.front();
+  if (files::exists(named) && !files::is_directory(named))
+    throw std::runtime_error(named.string() + ": expected a folder of music, found a file");
+  const files::path folder = files::canonical(named);
+  MusicLibrary library(folder);
+  if (library.files().empty())
+    throw std::runtime_error(folder.string() + ": no music to play: expected files named " +
+                             musicNameEndings() + " there or in folders within");
+  return library;
 }
 
 // Nobody else can look into the temporary folder.
@@ -50,19 +51,8 @@ files::path folderOf(const Options& options, const files::path& temporary) {
   return files::canonical(temporary / "files");
 }
 
-ServeState stateFrom(const Options& options, const Listener& listener,
-                     const files::path& temporary) {
+ServeState stateFrom(const Options& options) {
   ServeState state;
-  state.listener = listener.descriptor();
-  state.root = temporary / "phone";
-  state.folder = folderOf(options, temporary);
-  state.token = options.token ? *options.token : randomDigits(32);
-  state.place = randomDigits(placeDigits);
-  state.extensions = options.extensions;
-  state.package = options.package;
-  state.music = musicOf(options);
-  state.web = files::canonical(options.web.value_or(beside("web")));
-  state.epoch = randomDigits(8);
   state.paused = options.paused;
   if (options.script) {
     state.script.emplace();
@@ -72,55 +62,38 @@ ServeState stateFrom(const Options& options, const Listener& listener,
   return state;
 }
 
-pid_t served = 0;
-
-void passOn(int signal) {
-  kill(served, signal);
-}
-
-void passOnSignals() {
-  struct sigaction action {};
-  action.sa_handler = passOn;
-  sigaction(SIGINT, &action, nullptr);
-  sigaction(SIGTERM, &action, nullptr);
-  EndSignals::unblock();
-}
-
-int waitForEnd() {
-  int status = 0;
-  while (waitpid(served, &status, 0) < 0) {
-    if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "waitpid");
-  }
-  if (WIFEXITED(status)) return WEXITSTATUS(status);
-  std::cerr << "dozewell-simulator: the phone stopped: " << strsignal(WTERMSIG(status)) << '\n';
-  return 1;
-}
-
 }  // namespace
 
 int servePhone(const Options& options) {
+  const EndSignals endSignals;
+  std::signal(SIGPIPE, SIG_IGN);
   const TemporaryFolder temporary;
   const Listener listener = Listener::open(options.port);
-  const ServeState state = stateFrom(options, listener, temporary.path());
-  std::cout.flush();
-  EndSignals::block();  // none is lost between the two processes' beginnings
-  served = fork();
-  if (served < 0) throw std::system_error(errno, std::generic_category(), "fork");
-  if (served > 0) {
-    passOnSignals();
-    return waitForEnd();
-  }
-  prctl(PR_SET_PDEATHSIG, SIGTERM);
-  _exit(beginServing(state));
-}
-
-int goOnServing(const files::path& stateFile) {
-  const auto saved = nlohmann::json::parse(contentOf(stateFile));
-  if (const auto fresh = saved.find("fresh"); fresh != saved.end()) {
-    files::remove(stateFile);
-    return beginServing(serveStateFrom(*fresh));
-  }
-  return continueServing(takeRestartState(stateFile));
+  const MusicLibrary library = libraryFor(options);
+  const files::path folder = folderOf(options, temporary.path());
+  const files::path web = files::canonical(options.web.value_or(beside("web")));
+  const auto state = asJson(stateFrom(options));
+  // Forked before there are threads, and with what all hosts need.
+  const HostMain main = [&library](Session& session, const CommandTable& commands, HostEnds& ends,
+                                   const nlohmann::json& job) {
+    ServedPhone(session, commands, ends, library, job).run();
+  };
+  Zygote zygote(Zygote::Classes::none, main);
+  const Access access(options.token ? *options.token : randomDigits(32), randomDigits(placeDigits));
+  Inbox inbox;
+  Router router;
+  HttpServer server;
+  guard(server, listener.port(), access);
+  addApi(router, {inbox, access, library, web, folder});
+  router.serve(server);
+  Supervisor supervisor({temporary.path(), folder, options.package}, options.extensions, zygote,
+                        inbox, endSignals.descriptor());
+  if (!supervisor.begin(state)) return 0;
+  std::cout << "The phone is at http://127.0.0.1:" << listener.port() << access.entrance()
+            << std::endl;
+  server.start(listener);
+  supervisor.run();
+  return 0;
 }
 
 }  // namespace sim

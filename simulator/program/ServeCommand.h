@@ -5,10 +5,7 @@
 
 namespace sim {
 
-// Watches over the process that serves the phone, until that ends.
+// Serves a phone until the program is told to end; gives its exit status.
 int servePhone(const Options& options);
-
-// The next process of a phone that is being served.
-int goOnServing(const std::filesystem::path& stateFile);
 
 }  // namespace sim

@@ -5,16 +5,24 @@
 #include <cstdlib>
 
 namespace sim::runtime {
+namespace {
+
+char message[2000] = "";
+
+}  // namespace
+
+const char* fatalMessage() {
+  return message;
+}
 
 void fatal(const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
   // What the program had to say so far must not be lost behind the abort.
   std::fflush(stdout);
-  std::fputs("objc: ", stderr);
-  std::vfprintf(stderr, format, arguments);
-  std::fputc('\n', stderr);
+  std::vsnprintf(message, sizeof message, format, arguments);
   va_end(arguments);
+  std::fprintf(stderr, "objc: %s\n", message);
   std::abort();
 }
 

@@ -1,72 +1,36 @@
 #include "simulator/script/Restart.h"
 
-#include <unistd.h>
-
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
-#include <fstream>
+#include <cstdlib>
 
 namespace sim {
-namespace {
 
-std::string described(HostEnd how, const Session& session) {
-  return (how == HostEnd::respring ? "in the respring at " : "as the host died at ") +
-         session.place();
-}
-
-RestartState recorded(Session& session, HostEnd how) {
+RestartState recorded(const Session& session, const std::string& howItEnds) {
   const Phone& phone = session.phone;
   RestartState state;
-  state.options = session.options;
   state.lineNumber = session.lineNumber;
   state.uptime = phone.clock.uptime();
   state.wallAtZero = phone.clock.wallAtZero();
-  state.journal = phone.journal.entries();
   state.survivors = phone.saveSurvivors().dump();
   state.journalStart = session.journalStart;
   state.killPoints = session.killPoints;
   state.killTexts = session.killTexts;
-  state.variables = session.variables.saved(described(how, session));
+  state.variables = session.variables.saved(howItEnds);
   state.functions = session.functions.all();
   state.advanceUntil = session.advanceUntil;
   return state;
 }
 
-// Beside the root folder, not inside: the phone's own files are none of ours.
-std::filesystem::path stateFile(const std::filesystem::path& root) {
-  return root.parent_path() / (root.filename().string() + ".restart.json");
-}
-
-[[noreturn]] void stop(const std::string& what) {
-  std::fprintf(stderr, "the host cannot be restarted: %s: %s\n", what.c_str(),
-               std::strerror(errno));
-  std::abort();
-}
-
-}  // namespace
-
 void endHostProcess(HostEnd how, std::optional<Nanoseconds> relaunchAt) {
   Session& session = Session::current();
-  RestartState state = recorded(session, how);
+  RestartState state = recorded(
+      session, (how == HostEnd::respring ? "in the respring at " : "as the host died at ") +
+                   session.place());
   state.relaunchAt = relaunchAt;
-  const auto file = stateFile(session.phone.root());
-  std::ofstream stream(file, std::ios::binary);
-  stream << restartStateAsJson(state);
-  stream.close();
-  if (!stream) stop(file.string());
   std::fflush(nullptr);
-  if (session.relaunch) session.relaunch(file);
-  execl("/proc/self/exe", "dozewell-simulator", "resume", file.c_str(), nullptr);
-  stop("/proc/self/exe");
-}
-
-RestartState takeRestartState(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw std::runtime_error(file.string() + ": " + std::strerror(errno));
-  const auto json = nlohmann::json::parse(stream);
-  std::filesystem::remove(file);
-  return restartStateFromJson(json);
+  if (session.handOver) session.handOver(state);
+  std::fputs("nobody goes on with a host that ends\n", stderr);
+  std::abort();
 }
 
 void restoreSession(Session& session, const RestartState& state) {
@@ -74,7 +38,6 @@ void restoreSession(Session& session, const RestartState& state) {
   session.state = HostState::dead;
   session.lineNumber = state.lineNumber;
   phone.clock.restore(state.uptime, state.wallAtZero);
-  phone.journal.restore(state.journal);
   session.journalStart = state.journalStart;
   session.killPoints = state.killPoints;
   session.killTexts = state.killTexts;

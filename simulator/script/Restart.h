@@ -1,8 +1,7 @@
-// The end of a host process and the start of the next: the program executes itself again, and
-// what it may know afterwards travels in a file, so that nothing survives by accident.
+// The end of a host process and the start of the next, which is another: what it may know of the
+// one before is said here, so that nothing survives by accident.
 #pragma once
 
-#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <set>
@@ -14,11 +13,9 @@
 namespace sim {
 
 struct RestartState {
-  SessionOptions options;
   std::size_t lineNumber = 0;  // of the last command that ran; the script goes on after it
   Nanoseconds uptime = 0;
   double wallAtZero = 0;  // the wall clock at uptime 0, seconds since the reference date
-  std::vector<JournalEntry> journal;
   std::string survivors;  // JSON text: a json value's moves are not taken to be noexcept
   std::size_t journalStart = 0;
   std::set<std::size_t> killPoints;
@@ -34,8 +31,8 @@ nlohmann::json restartStateAsJson(const RestartState& state);
 // Throws nlohmann::json::exception when something is missing or of another type.
 RestartState restartStateFromJson(const nlohmann::json& from);
 
-// Reads the file and removes it. Throws std::runtime_error when it is not what was written.
-RestartState takeRestartState(const std::filesystem::path& file);
+// What a host that came after this one would have to know.
+RestartState recorded(const Session& session, const std::string& howItEnds);
 
 enum class HostEnd { respring, death };
 

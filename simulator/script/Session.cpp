@@ -12,12 +12,19 @@ Session* theCurrent = nullptr;
 
 }  // namespace
 
-Session::Session(SessionOptions givenOptions)
-    : options(std::move(givenOptions)), phone(options.root), host(options.extensions) {
+Session::Session(const SessionOptions& givenOptions)
+    : phone(givenOptions.root), host(givenOptions.extensions) {
+  theCurrent = this;
+  choose(givenOptions);
+}
+
+void Session::choose(const SessionOptions& givenOptions) {
+  options = givenOptions;
+  phone.setRoot(options.root);
+  host.setExtensions(options.extensions);
   phone.setup.playlist = options.playlist;
   phone.state<ScriptFiles>() = options.folder ? ScriptFiles::below(*options.folder)
                                               : ScriptFiles::from(options.script.parent_path());
-  theCurrent = this;
 }
 
 Session::~Session() {
@@ -28,8 +35,14 @@ Session::~Session() {
 }
 
 std::string Session::place() const {
-  if (relaunch) return notation(seconds(phone.clock.uptime())) + " s";
+  if (options.isServed) return notation(seconds(phone.clock.uptime())) + " s";
   return "line " + std::to_string(lineNumber);
+}
+
+void Session::checkInterruption() const {
+  if (beforeGoingOn) beforeGoingOn();
+  if (const std::string problem = phone.journal.problem(); !problem.empty())
+    throw ScriptError(0, problem);
 }
 
 Session& Session::current() {

@@ -24,8 +24,11 @@ struct SessionOptions {
   std::optional<std::filesystem::path> playlist;  // instead of those that the script names
   // Below it lies all that the script's commands may name; none: anywhere, relative to the script.
   std::optional<std::filesystem::path> folder;
-  bool quiet = false;  // the journal is not printed
+  bool quiet = false;     // the journal is not printed
+  bool isServed = false;  // its lines have no numbers that anybody sees
 };
+
+struct RestartState;
 
 enum class HostState { off, running, dead };
 
@@ -37,13 +40,16 @@ struct KillText {
 
 class Session {
  public:
-  explicit Session(SessionOptions givenOptions);
+  explicit Session(const SessionOptions& givenOptions);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
   // The session of this process.
   static Session& current();
+
+  // Which phone it is, as long as nothing has happened to it.
+  void choose(const SessionOptions& givenOptions);
 
   // Of the command that runs, for messages: "line 4"; on a served phone, whose lines have no
   // numbers that anybody sees, "12.5 s".
@@ -63,9 +69,12 @@ class Session {
   std::optional<Nanoseconds> advanceUntil;         // while `advance` runs
   std::size_t lineNumber = 0;                      // of the command that runs
   std::function<void(const ScriptLine&)> runLine;  // as if it stood in the script
-  // Begins the next host process from the recorded state; does not return. The program executes
-  // itself again when there is none.
-  std::function<void(const std::filesystem::path& stateFile)> relaunch;
+  // Between two of the many things that one command does. Throws what ends the command there:
+  // somebody's wish, or a journal that can hold no more.
+  void checkInterruption() const;
+  std::function<void()> beforeGoingOn;  // may throw it, see Interrupted
+  // Ends this process, and has the next one go on from the recorded state; does not return.
+  std::function<void(const RestartState&)> handOver;
 };
 
 }  // namespace sim

@@ -2,9 +2,6 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
-#include <string>
-#include <vector>
 
 #include "simulator/serve/Inbox.h"
 #include "simulator/serve/http/Access.h"
@@ -17,14 +14,10 @@ namespace sim {
 // What answers need that is not the phone's. Any thread.
 struct ApiParts {
   Inbox& inbox;
-  HttpServer& server;
   const Access& access;
   const MusicLibrary& library;
-  std::filesystem::path web;         // folder of the page
-  std::filesystem::path phoneFiles;  // where the phone's "/" lies
-  std::filesystem::path folder;      // of the scripts' files
-  // Plays the set-up on another phone; throws RequestError when it is wrong.
-  std::function<void(const std::vector<std::string>& setup)> checkSetup;
+  std::filesystem::path web;     // folder of the page
+  std::filesystem::path folder;  // of the scripts' files
 };
 
 // The parts must outlive the router.

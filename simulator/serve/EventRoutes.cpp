@@ -2,7 +2,7 @@
 
 #include "simulator/serve/Api.h"
 #include "simulator/serve/JsonBody.h"
-#include "simulator/serve/ServedPhone.h"
+#include "simulator/serve/Supervisor.h"
 
 namespace sim {
 
@@ -27,6 +27,12 @@ std::string newPage() {
   return "page-" + std::to_string(++count);
 }
 
+void watch(const Watchers::Watcher& watcher, Inbox& inbox) {
+  inbox.ask([&watcher](Supervisor& supervisor, const Inbox::Promise& promise) {
+    supervisor.watch(watcher, promise);
+  });
+}
+
 // One piece of the stream; false when it is over.
 bool sendNews(const Watchers::Watcher& watcher, Inbox& inbox, int socket, httplib::DataSink& sink) {
   switch (watcher->wait(socket)) {
@@ -35,10 +41,7 @@ bool sendNews(const Watchers::Watcher& watcher, Inbox& inbox, int socket, httpli
       return sink.write(events.data(), events.size());
     }
     case EventQueue::News::behind:
-      inbox.ask([&watcher](ServedPhone& phone) {
-        phone.watch(watcher);
-        return json();
-      });
+      watch(watcher, inbox);
       return true;
     case EventQueue::News::closed:
     case EventQueue::News::readerGone:
@@ -47,54 +50,52 @@ bool sendNews(const Watchers::Watcher& watcher, Inbox& inbox, int socket, httpli
   return false;
 }
 
-void stream(const Router::Visit& visit, Inbox& inbox, HttpServer& server) {
+void stream(const Router::Visit& visit, Inbox& inbox) {
   std::string page = visit.request.get_param_value("page");
   if (visit.request.has_param("page"))
     requirePage(page);
   else
     page = newPage();
   const auto watcher = std::make_shared<EventQueue>(page);
-  inbox.ask([&watcher](ServedPhone& phone) {
-    phone.watch(watcher);
-    return json();
-  });
-  server.leaveAnswering();
+  watch(watcher, inbox);
   visit.response.set_chunked_content_provider(
       "text/event-stream",
       [watcher, &inbox, socket = HttpServer::connection()](std::size_t, httplib::DataSink& sink) {
         try {
           return sendNews(watcher, inbox, socket, sink);
         } catch (const RequestError&) {
-          return false;  // the phone begins anew: so does the page
+          return false;  // the program ends
         }
       },
       [watcher, &inbox](bool) {
-        inbox.tell([watcher](ServedPhone& phone) { phone.unwatch(watcher); });
+        inbox.tell([watcher](Supervisor& supervisor) { supervisor.unwatch(watcher); });
       });
 }
 
-ServedPhone::Sound soundFrom(const JsonBody& body) {
+Supervisor::Sound soundFrom(const JsonBody& body) {
   const bool takes = body.flag("take").value_or(false);
   const bool releases = body.flag("release").value_or(false);
   if (takes && releases) throw RequestError(400, "expected either take or release");
-  if (takes) return ServedPhone::Sound::take;
-  return releases ? ServedPhone::Sound::release : ServedPhone::Sound::ask;
+  if (takes) return Supervisor::Sound::take;
+  return releases ? Supervisor::Sound::release : Supervisor::Sound::ask;
 }
 
 }  // namespace
 
 void addEventRoutes(Router& router, const ApiParts& parts) {
   Inbox& inbox = parts.inbox;
-  router.add("GET", "/api/events", [&inbox, &server = parts.server](const Router::Visit& visit) {
+  router.add("GET", "/api/events", [&inbox](const Router::Visit& visit) {
     if (visit.request.method == "HEAD") throw RequestError(405, "expected GET, found HEAD");
-    stream(visit, inbox, server);
+    stream(visit, inbox);
   });
-  router.addJson("POST", "/api/audio-owner", [&inbox](const Router::Visit& visit) {
+  router.addText("POST", "/api/audio-owner", [&inbox](const Router::Visit& visit) {
     const JsonBody body(visit.request.body, {"page", "take", "release"});
     const std::string page = body.text("page", longestPage);
     requirePage(page);
-    const ServedPhone::Sound how = soundFrom(body);
-    return inbox.ask([&page, how](ServedPhone& phone) { return phone.chooseSound(page, how); });
+    const Supervisor::Sound how = soundFrom(body);
+    return inbox.ask([&page, how](Supervisor& supervisor, const Inbox::Promise& promise) {
+      answer(promise, supervisor.chooseSound(page, how));
+    });
   });
 }
 

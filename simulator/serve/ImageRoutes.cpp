@@ -2,6 +2,7 @@
 #include "simulator/script/Command.h"
 #include "simulator/script/ScriptFiles.h"
 #include "simulator/serve/Api.h"
+#include "simulator/serve/Supervisor.h"
 #include "simulator/serve/http/Files.h"
 
 namespace sim {
@@ -26,9 +27,12 @@ std::string pictureIn(const std::filesystem::path& folder, const std::string& fi
 }  // namespace
 
 void addImageRoutes(Router& router, const ApiParts& parts) {
-  router.add("GET", "/api/image", [root = parts.phoneFiles](const Router::Visit& visit) {
+  router.add("GET", "/api/image", [&inbox = parts.inbox](const Router::Visit& visit) {
     const std::string file = visit.request.get_param_value("file");
     if (!isPicture(file)) throw RequestError(400, "expected file, the phone's path of a .png");
+    const std::string root = inbox.ask([](Supervisor& supervisor, const Inbox::Promise& promise) {
+      answer(promise, supervisor.root());
+    });
     answerFileOf(root, file.substr(1), visit.request, visit.response);
   });
   // What scripts have drawn is somebody's file, not a part of the page.

@@ -1,87 +1,92 @@
 #include "simulator/serve/Inbox.h"
 
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <system_error>
 #include <utility>
 
 #include "simulator/serve/RequestError.h"
+#include "simulator/serve/Supervisor.h"
 
 namespace sim {
-
 namespace {
 
 RequestError refusal() {
-  return {503, "the phone begins anew: ask again"};
+  return {503, "the phone ends"};
 }
 
 }  // namespace
 
-nlohmann::json Inbox::ask(Work work) {
-  std::future<nlohmann::json> answer;
-  {
-    const std::lock_guard lock(mutex_);
-    if (ends_ || stopped_) throw refusal();
-    Entry& entry = entries_.emplace_back(Entry{std::move(work), {}});
-    answer = entry.answer.get_future();
-    changed_.notify_one();
-  }
-  return answer.get();
+Inbox::Inbox() : wakeUp_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+  if (wakeUp_ < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
 }
 
-void Inbox::tell(std::function<void(ServedPhone&)> work) {
+Inbox::~Inbox() {
+  close(wakeUp_);
+}
+
+bool Inbox::add(Entry entry) {
   const std::lock_guard lock(mutex_);
-  if (ends_ || stopped_) return;
-  entries_.push_back({[work = std::move(work)](ServedPhone& phone) {
-                        work(phone);
-                        return nlohmann::json();
-                      },
-                      {}});
-  changed_.notify_one();
-}
-
-void Inbox::stop() {
-  std::deque<Entry> refused;
-  const std::lock_guard lock(mutex_);
-  stopped_ = true;
-  refused.swap(entries_);
-  for (Entry& entry : refused) entry.answer.set_exception(std::make_exception_ptr(refusal()));
-  changed_.notify_one();
-}
-
-void Inbox::waitUntil(std::optional<Moment> moment) {
-  std::unique_lock lock(mutex_);
-  const auto isNeeded = [this] { return stopped_ || !entries_.empty(); };
-  if (moment)
-    changed_.wait_until(lock, *moment, isNeeded);
-  else
-    changed_.wait(lock, isNeeded);
-}
-
-bool Inbox::isStopped() const {
-  const std::lock_guard lock(mutex_);
-  return stopped_;
-}
-
-bool Inbox::doNext(ServedPhone& phone) {
-  {
-    const std::lock_guard lock(mutex_);
-    if (entries_.empty()) return false;
-    current_ = std::move(entries_.front());
-    entries_.pop_front();
-  }
-  try {
-    current_->answer.set_value(current_->work(phone));
-  } catch (...) {
-    current_->answer.set_exception(std::current_exception());
-  }
-  current_.reset();
+  if (stopped_) return false;
+  entries_.push_back(std::move(entry));
+  const std::uint64_t one = 1;
+  [[maybe_unused]] const auto written = write(wakeUp_, &one, sizeof one);
   return true;
 }
 
-void Inbox::answerEarly(nlohmann::json answer) {
+std::string Inbox::ask(Work work) {
+  auto promise = std::make_shared<std::promise<std::string>>();
+  auto answer = promise->get_future();
+  if (!add({std::move(work), std::move(promise)})) throw refusal();
+  return answer.get();
+}
+
+std::string Inbox::askHost(const char* what, nlohmann::json members) {
+  members["ask"] = what;
+  return ask([&members](Supervisor& supervisor, const Promise& promise) {
+    supervisor.forward(std::move(members), promise);
+  });
+}
+
+void Inbox::tell(std::function<void(Supervisor&)> work) {
+  add({[work = std::move(work)](Supervisor& supervisor, const Promise&) { work(supervisor); },
+       std::make_shared<std::promise<std::string>>()});
+}
+
+void Inbox::doAll(Supervisor& supervisor) {
+  std::uint64_t count = 0;
+  [[maybe_unused]] const auto ignored = read(wakeUp_, &count, sizeof count);
+  std::deque<Entry> entries;
+  {
+    const std::lock_guard lock(mutex_);
+    entries.swap(entries_);
+  }
+  for (const Entry& entry : entries) {
+    try {
+      entry.work(supervisor, entry.promise);
+    } catch (...) {
+      refuse(entry.promise, std::current_exception());
+    }
+  }
+}
+
+void Inbox::stop() {
   const std::lock_guard lock(mutex_);
-  ends_ = true;
-  if (current_) current_->answer.set_value(std::move(answer));
-  for (Entry& entry : entries_) entry.answer.set_exception(std::make_exception_ptr(refusal()));
+  stopped_ = true;
+  for (const Entry& entry : entries_) refuse(entry.promise, std::make_exception_ptr(refusal()));
   entries_.clear();
+}
+
+void answer(const Inbox::Promise& promise, std::string text) {
+  promise->set_value(std::move(text));
+}
+
+void refuse(const Inbox::Promise& promise, const std::exception_ptr& error) {
+  promise->set_exception(error);
 }
 
 }  // namespace sim

@@ -1,54 +1,60 @@
-// What other threads ask of the phone, which lives on the main thread alone.
+// What the threads that answer pages ask of the supervisor, which lives on the main thread alone.
 #pragma once
 
-#include <chrono>
-#include <condition_variable>
 #include <deque>
 #include <functional>
 #include <future>
+#include <memory>
 #include <mutex>
-#include <nlohmann/json.hpp>
-#include <optional>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 
 namespace sim {
 
-class ServedPhone;
+class Supervisor;
 
 class Inbox {
  public:
-  using Work = std::function<nlohmann::json(ServedPhone&)>;
-  using Moment = std::chrono::steady_clock::time_point;
+  // Somebody waits for it: JSON text, or a RequestError.
+  using Promise = std::shared_ptr<std::promise<std::string>>;
+  // Keeps the promise, at once or later.
+  using Work = std::function<void(Supervisor&, const Promise&)>;
 
-  // Any thread but the phone's: waits for the answer. Throws what the work throws, and
-  // RequestError with status 503 when the phone will not come to it.
-  nlohmann::json ask(Work work);
-  // Any thread, in no hurry: nobody waits.
-  void tell(std::function<void(ServedPhone&)> work);
-  // Any thread: the phone shall end.
+  // Throws std::system_error.
+  Inbox();
+  ~Inbox();
+  Inbox(const Inbox&) = delete;
+  Inbox& operator=(const Inbox&) = delete;
+
+  // Any thread but the main one: waits for the answer. Throws RequestError, with status 503 when
+  // the program ends.
+  std::string ask(Work work);
+  // The same of the host, see ServedPhone::answer.
+  std::string askHost(const char* what, nlohmann::json members);
+  // Nobody waits.
+  void tell(std::function<void(Supervisor&)> work);
+
+  // The main thread. Readable when there is something to do.
+  int descriptor() const { return wakeUp_; }
+  void doAll(Supervisor& supervisor);
+  // Refuses whatever comes from now on.
   void stop();
-
-  // The phone's thread. Sleeps until something is there or until that moment; without one, as
-  // long as it takes.
-  void waitUntil(std::optional<Moment> moment);
-  bool isStopped() const;
-  // Does the oldest piece of work; false when there is none.
-  bool doNext(ServedPhone& phone);
-  // The process ends: the work being done is answered early, what waits is refused.
-  void answerEarly(nlohmann::json answer);
 
  private:
   struct Entry {
     Work work;
-    std::promise<nlohmann::json> answer;
+    Promise promise;
   };
+  bool add(Entry entry);
 
-  mutable std::mutex mutex_;
-  std::condition_variable changed_;
+  std::mutex mutex_;
+  int wakeUp_;  // eventfd
   std::deque<Entry> entries_;
-  std::optional<Entry> current_;  // the phone's thread only
   bool stopped_ = false;
-  bool ends_ = false;
 };
+
+// Keeps a promise.
+void answer(const Inbox::Promise& promise, std::string text);
+void refuse(const Inbox::Promise& promise, const std::exception_ptr& error);
 
 }  // namespace sim

@@ -9,17 +9,6 @@ using nlohmann::json;
 
 namespace {
 
-std::vector<std::string> linesOf(std::string_view text) {
-  std::vector<std::string> lines;
-  while (!text.empty()) {
-    std::string_view line = text.substr(0, text.find('\n'));
-    text.remove_prefix(std::min(line.size() + 1, text.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines.emplace_back(line);
-  }
-  return lines;
-}
-
 bool isBlank(const std::string& line) {
   const auto first = line.find_first_not_of(" \t");
   return first == std::string::npos || line[first] == '#';
@@ -33,9 +22,9 @@ std::size_t nextLine(const std::vector<std::string>& lines, std::size_t line) {
 
 }  // namespace
 
-json ServedPhone::openScript(std::string name, std::string text) {
+void ServedPhone::requireCommands(const std::string& script) const {
   try {
-    for (const ScriptLine& line : parseScript(text)) {
+    for (const ScriptLine& line : parseScript(script)) {
       const Word& command = line.words.front();
       if (command.quoted || table_.find(command.text) == nullptr)
         throw ScriptParseError(line.number,
@@ -44,12 +33,6 @@ json ServedPhone::openScript(std::string name, std::string text) {
   } catch (const ScriptParseError& error) {
     throw RequestError(400, error.what(), {{"line", error.line}, {"column", error.column}});
   }
-  ServeState fresh = state_;
-  fresh.setup.clear();
-  fresh.settings.clear();
-  fresh.script = OpenScript{std::move(name), std::move(text), 1, OpenScript::State::ready, {}};
-  leaveForFreshPhone(std::move(fresh));
-  return {};
 }
 
 json ServedPhone::stepScript(std::optional<long> lines) {
@@ -67,7 +50,7 @@ json ServedPhone::stepScript(std::optional<long> lines) {
 void ServedPhone::playScriptLine() {
   changed_ = true;
   OpenScript& script = *state_.script;
-  const auto lines = linesOf(script.text);
+  const auto& lines = scriptLines_;
   const std::size_t number = nextLine(lines, script.line);
   if (number > lines.size()) {
     script.state = OpenScript::State::finished;
@@ -94,6 +77,7 @@ bool ServedPhone::isScriptRunning() const {
 
 json ServedPhone::closeScript() {
   state_.script.reset();
+  mustSave_ = true;
   return nullptr;
 }
 

@@ -12,18 +12,18 @@ constexpr double farthest = 1e9;  // seconds: nobody waits thirty years
 
 }  // namespace
 
-void Pace::setOut(Nanoseconds uptime, Moment now) {
+void Pace::rebase(Nanoseconds uptime, Moment now) {
   uptime_ = uptime;
   departure_ = now;
 }
 
 void Pace::setSpeed(double speed, Moment now) {
-  setOut(uptimeAt(now), now);
+  rebase(uptimeAt(now), now);
   speed_ = std::clamp(speed, slowest, fastest);
 }
 
 void Pace::setPaused(bool paused, Moment now) {
-  setOut(uptimeAt(now), now);
+  rebase(uptimeAt(now), now);
   paused_ = paused;
 }
 

@@ -17,7 +17,7 @@ class Pace {
   bool isPaused() const { return paused_; }
 
   // From `now` on the phone's time is `uptime`, and goes on from there.
-  void setOut(Nanoseconds uptime, Moment now);
+  void rebase(Nanoseconds uptime, Moment now);
   // Both leave the phone's time where it is at that moment.
   void setSpeed(double speed, Moment now);
   void setPaused(bool paused, Moment now);

@@ -59,7 +59,6 @@ void ServedPhone::addParts() {
   report_.addOnDemandPart("clock", [this] { return clockPart(); });
   report_.addPart("phone", [this] { return phonePart(); });
   report_.addPart("player", [this] { return player_.now(); });
-  report_.addPart("audio", [this] { return audioPart(); });
   report_.addPart("script", [this] { return scriptPart(); });
   report_.addPart("pictures", [this] { return asJson(state_.pictures); });
   report_.addPart("setup", [this] { return setup(); });
@@ -87,13 +86,9 @@ json ServedPhone::phonePart() const {
           {"orientation", session_.state == HostState::running ? orientation() : "portrait"}};
 }
 
-json ServedPhone::audioPart() const {
-  return {{"page", state_.audioPage.empty() ? json() : json(state_.audioPage)}};
-}
-
 json ServedPhone::setup() const {
   const Setup& setup = session_.phone.setup;
-  return {{"lines", state_.setup},
+  return {{"lines", job_.setup},
           {"ios", setup.systemVersion},
           {"locale", setup.locale},
           {"haptics", setup.feedbackSupportLevel},

@@ -1,72 +1,64 @@
 #include "simulator/serve/Recording.h"
 
-#include <nlohmann/json.hpp>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
+#include "simulator/machine/Journal.h"
+
 namespace sim {
-
-using nlohmann::json;
-
 namespace {
 
-constexpr std::size_t decimals = 9;  // of nanoseconds
+constexpr const char* endOfSetup = "boot";
+
+std::string advanceLine(Nanoseconds uptime) {
+  return "advance-to " + secondsText(uptime);
+}
 
 }  // namespace
 
-std::string secondsText(Nanoseconds duration) {
-  std::string fraction = std::to_string(duration % nanosecondsPerSecond);
-  fraction.insert(0, decimals - fraction.size(), '0');
-  fraction.erase(fraction.find_last_not_of('0') + 1);
-  const std::string whole = std::to_string(duration / nanosecondsPerSecond);
-  return fraction.empty() ? whole : whole + '.' + fraction;
+Recording::Recording() : file_(std::tmpfile()) {
+  if (file_ == nullptr) throw std::system_error(errno, std::generic_category(), "tmpfile");
+}
+
+Recording::~Recording() {
+  std::fclose(file_);
+}
+
+void Recording::write(const std::string& line) {
+  std::fputs((line + '\n').c_str(), file_);
 }
 
 void Recording::begin(std::string line, Nanoseconds uptime) {
-  open_ = Step{std::move(line), uptime, uptime};
+  open_ = Step{std::move(line), uptime};
 }
 
 void Recording::done(Nanoseconds uptime) {
-  if (!open_) return;
-  open_->ended = uptime;
-  steps_.push_back(std::move(*open_));
-  open_.reset();
+  if (open_) doneBy({open_->line}, uptime);
 }
 
-std::vector<std::string> Recording::lines() const {
-  std::vector<std::string> all;
-  all.reserve(steps_.size());
-  for (const Step& step : steps_) all.push_back(step.line);
-  return all;
+void Recording::doneBy(const std::vector<std::string>& lines, Nanoseconds uptime) {
+  const auto step = std::exchange(open_, std::nullopt);
+  if (!step) return;
+  if (step->begun > reached_) write(advanceLine(step->begun));
+  for (const std::string& line : lines) {
+    write(line);
+    if (setup_.empty() || setup_.back() != endOfSetup) setup_.push_back(line);
+  }
+  reached_ = uptime;
 }
 
 std::string Recording::asScript(Nanoseconds uptime) const {
-  std::string script;
-  Nanoseconds reached = 0;
-  const auto advanceTo = [&script, &reached](Nanoseconds moment) {
-    if (moment > reached) script += "advance-to " + secondsText(moment) + '\n';
-    reached = moment;
-  };
-  for (const Step& step : steps_) {
-    advanceTo(step.begun);
-    script += step.line + '\n';
-    reached = step.ended;
-  }
-  advanceTo(uptime);
-  return script;
-}
-
-json Recording::save() const {
-  json saved = json::array();
-  for (const Step& step : steps_) saved.push_back({step.line, step.begun, step.ended});
-  if (open_) saved.push_back({open_->line, open_->begun, open_->ended});
-  return saved;
-}
-
-void Recording::restore(const json& saved) {
-  steps_.clear();
-  for (const json& step : saved)
-    steps_.push_back({step.at(0).get<std::string>(), step.at(1).get<Nanoseconds>(),
-                      step.at(2).get<Nanoseconds>()});
+  std::fflush(file_);
+  struct stat status {};
+  fstat(fileno(file_), &status);
+  std::string script(std::size_t(status.st_size), '\0');
+  const ssize_t count = pread(fileno(file_), script.data(), script.size(), 0);
+  script.resize(count > 0 ? std::size_t(count) : 0);
+  return uptime > reached_ ? script + advanceLine(uptime) + '\n' : script;
 }
 
 }  // namespace sim

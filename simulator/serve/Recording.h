@@ -1,7 +1,7 @@
-// What was done to the phone since it was made, and when.
+// What was done to the phone since it was made, and when: as a phone script, which lies in a file.
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,34 +10,39 @@
 
 namespace sim {
 
+// The main thread only.
 class Recording {
  public:
-  // The line takes effect at this uptime. It counts only if done() follows.
+  // Throws std::system_error.
+  Recording();
+  ~Recording();
+  Recording(const Recording&) = delete;
+  Recording& operator=(const Recording&) = delete;
+
+  // The line takes effect at this uptime. It counts only if done() follows, or doneBy() with the
+  // lines that do as much.
   void begin(std::string line, Nanoseconds uptime);
   void done(Nanoseconds uptime);
+  void doneBy(const std::vector<std::string>& lines, Nanoseconds uptime);
   // It was refused, or is nothing that a script should repeat.
   void forget() { open_.reset(); }
 
-  // What has been played, as lines of a script, time's passing left out.
-  std::vector<std::string> lines() const;
+  // What has been played up to `boot`, time's passing left out.
+  const std::vector<std::string>& setup() const { return setup_; }
   // A phone script that repeats it all, up to this uptime.
   std::string asScript(Nanoseconds uptime) const;
-
-  // A line that has begun is saved as done: the process ends in its middle when it is `respring`.
-  nlohmann::json save() const;
-  void restore(const nlohmann::json& saved);
 
  private:
   struct Step {
     std::string line;
-    Nanoseconds begun = 0, ended = 0;  // uptimes
+    Nanoseconds begun;  // uptime
   };
+  void write(const std::string& line);
 
-  std::vector<Step> steps_;
+  std::FILE* file_;
+  std::vector<std::string> setup_;
   std::optional<Step> open_;
+  Nanoseconds reached_ = 0;  // uptime
 };
-
-// "61", "61.25": exact, as few digits as will do.
-std::string secondsText(Nanoseconds duration);
 
 }  // namespace sim

@@ -35,33 +35,34 @@ void Report::addOnDemandPart(const std::string& name, std::function<Json()> whol
   parts_[name] = {Way::onDemand, std::move(whole), {}};
 }
 
-void Report::tell(const Watchers& watchers) {
-  if (watchers.isEmpty()) return;
-  for (auto& [name, part] : parts_) tellPart(watchers, name, part);
-  tellJournal(watchers);
-  tellScene(watchers);
+void Report::tell(const Send& send) {
+  for (auto& [name, part] : parts_) tellPart(send, name, part);
+  tellJournal(send);
+  tellScene(send);
 }
 
-void Report::tellPart(const Watchers& watchers, const std::string& name, Part& part) {
+void Report::tellPart(const Send& send, const std::string& name, Part& part) {
   if (part.way == Way::onDemand) {
-    if (std::exchange(part.isDemanded, false)) watchers.send(name, part.whole());
+    if (std::exchange(part.isDemanded, false)) send(name, part.whole());
     return;
   }
   Json now = part.whole();
   if (now == part.known) return;
-  watchers.send(name, part.way == Way::memberwise ? changedMembers(part.known, now) : now);
+  send(name, part.way == Way::memberwise ? changedMembers(part.known, now) : now);
   part.known = std::move(now);
 }
 
-void Report::tellJournal(const Watchers& watchers) {
-  const std::size_t count = journal_.entries().size();
+void Report::tellJournal(const Send& send) {
+  const std::size_t count = journal_.size();
   if (count == journalKnown_) return;
-  watchers.send("journal", {{"entries", entriesFrom(journalKnown_)}});
+  // Nobody reads more in one picture.
+  const std::size_t recent = count - std::min(count, entriesInSnapshot);
+  send("journal", {{"entries", entriesFrom(std::max(journalKnown_, recent))}});
   journalKnown_ = count;
 }
 
-void Report::tellScene(const Watchers& watchers) {
-  if (const Json changes = scene_.changes(); !changes.is_null()) watchers.send("scene", changes);
+void Report::tellScene(const Send& send) {
+  if (const Json changes = scene_.changes(); !changes.is_null()) send("scene", changes);
 }
 
 json Report::snapshot() {
@@ -71,7 +72,7 @@ json Report::snapshot() {
     part.isDemanded = false;
     whole[name] = part.known;
   }
-  journalKnown_ = journal_.entries().size();
+  journalKnown_ = journal_.size();
   whole["journal"] = entriesFrom(journalKnown_ - std::min(journalKnown_, entriesInSnapshot));
   whole["scene"] = scene_.whole();
   return whole;
@@ -79,11 +80,15 @@ json Report::snapshot() {
 
 json Report::entriesFrom(std::size_t index) const {
   Json entries = Json::array();
-  for (; index < journal_.entries().size(); ++index) {
-    const JournalEntry& entry = journal_.entries()[index];
-    entries.push_back({{"n", index + 1}, {"time", seconds(entry.time)}, {"text", entry.text}});
-  }
+  journal_.visit(index, [&entries, &index](const JournalEntry& entry) {
+    entries.push_back(asJson(entry, index++));
+    return true;
+  });
   return entries;
+}
+
+json asJson(const JournalEntry& entry, std::size_t index) {
+  return {{"n", index + 1}, {"time", seconds(entry.time)}, {"text", entry.text}};
 }
 
 }  // namespace sim

@@ -9,7 +9,6 @@
 
 #include "simulator/machine/Journal.h"
 #include "simulator/serve/SceneSource.h"
-#include "simulator/serve/Watchers.h"
 
 namespace sim {
 
@@ -28,8 +27,9 @@ class Report {
   void addOnDemandPart(const std::string& name, std::function<Json()> whole);
   void demand(const std::string& name) { parts_.at(name).isDemanded = true; }
 
-  // Sends what has changed. Costs nothing without watchers.
-  void tell(const Watchers& watchers);
+  // Sends what has changed.
+  using Send = std::function<void(const std::string& event, const Json& data)>;
+  void tell(const Send& send);
   // Takes the present state for known to everybody; its whole, as an event's data.
   Json snapshot();
 
@@ -44,9 +44,9 @@ class Report {
     bool isDemanded = false;
   };
 
-  void tellPart(const Watchers& watchers, const std::string& name, Part& part);
-  void tellJournal(const Watchers& watchers);
-  void tellScene(const Watchers& watchers);
+  static void tellPart(const Send& send, const std::string& name, Part& part);
+  void tellJournal(const Send& send);
+  void tellScene(const Send& send);
   Json entriesFrom(std::size_t index) const;
 
   const Journal& journal_;
@@ -54,6 +54,9 @@ class Report {
   std::map<std::string, Part> parts_;
   std::size_t journalKnown_ = 0;
 };
+
+// As pages get it; the index counts from 0.
+nlohmann::json asJson(const JournalEntry& entry, std::size_t index);
 
 // Members of `now` that are not in `before` or different there.
 nlohmann::json changedMembers(const nlohmann::json& before, const nlohmann::json& now);

@@ -2,10 +2,12 @@
 #include <iostream>
 #include <sstream>
 
+#include "simulator/script/Interrupted.h"
 #include "simulator/script/commands/HostCommands.h"
 #include "simulator/script/values/Target.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/ServedPhone.h"
+#include "simulator/serve/Watchers.h"
 
 namespace sim {
 
@@ -17,8 +19,15 @@ namespace {
 // What commands print, as long as this lives.
 class PrintedText {
  public:
-  PrintedText() : usual_(std::cout.rdbuf(text_.rdbuf())) {}
-  ~PrintedText() { std::cout.rdbuf(usual_); }
+  // `current` names it meanwhile.
+  explicit PrintedText(std::ostream*& current)
+      : usual_(std::cout.rdbuf(text_.rdbuf())), current_(current) {
+    current_ = &text_;
+  }
+  ~PrintedText() {
+    std::cout.rdbuf(usual_);
+    current_ = nullptr;
+  }
   PrintedText(const PrintedText&) = delete;
   PrintedText& operator=(const PrintedText&) = delete;
 
@@ -27,6 +36,7 @@ class PrintedText {
  private:
   std::ostringstream text_;
   std::streambuf* usual_;
+  std::ostream*& current_;
 };
 
 const char* nameOf(Stage stage) {
@@ -49,9 +59,44 @@ Value valueAt(const char* target) {
 
 }  // namespace
 
+json ServedPhone::answer(const json& request) {
+  const auto what = request.at("ask").get<std::string>();
+  const auto number = [&request](const char* name) -> std::optional<double> {
+    const auto found = request.find(name);
+    return found == request.end() || found->is_null() ? std::nullopt
+                                                      : std::optional(found->get<double>());
+  };
+  if (what == "snapshot") return snapshot();
+  if (what == "command") return command(request.at("lines").get<std::vector<std::string>>());
+  if (what == "commands") return commands();
+  if (what == "setup") return setup();
+  if (what == "uptime") return session_.phone.clock.uptime();
+  if (what == "settings") return settings_.list();
+  if (what == "heritage")
+    return {{"settings",
+             session_.state == HostState::running ? settings_.changedLines() : job_.settings},
+            {"serve", asJson(state_)}};
+  if (what == "script") return script();
+  if (what == "step script") {
+    const auto lines = number("lines");
+    return stepScript(lines ? std::optional(long(*lines)) : std::nullopt);
+  }
+  if (what == "close script") return closeScript();
+  if (what == "check script") {
+    requireCommands(request.at("text").get<std::string>());
+    return nullptr;
+  }
+  if (what != "time") throw RequestError(400, "the phone knows no " + what);
+  TimeChange change{number("speed"),   std::nullopt, request.value("step", false),
+                    number("advance"), number("to"), number("beforeEnd")};
+  if (const auto paused = request.find("paused"); paused != request.end())
+    change.paused = paused->get<bool>();
+  return changeTime(change);
+}
+
 json ServedPhone::command(const std::vector<std::string>& lines) {
   catchUp();
-  const PrintedText printed;
+  const PrintedText printed(printed_);
   const auto refuse = [this](const std::exception& error, std::size_t column) {
     return RequestError(400, error.what(), {{"line", ran_ + 1}, {"column", column}, {"ran", ran_}});
   };
@@ -92,6 +137,7 @@ json ServedPhone::changeTime(const TimeChange& change) {
   state_.speed = pace_.speed();
   state_.paused = pace_.isPaused();
   report_.demand("clock");
+  mustSave_ = true;
   return clockPart();
 }
 
@@ -125,58 +171,22 @@ Nanoseconds ServedPhone::destination(const TimeChange& change) const {
 
 void ServedPhone::jumpTo(Nanoseconds uptime) {
   ran_ = 0;
-  advanceTo(uptime);
-  setOut();
-}
-
-json ServedPhone::makeAnew(const std::vector<std::string>& setup, bool keepsSettings) {
-  ServeState fresh = state_;
-  fresh.setup = setup;
-  if (!keepsSettings)
-    fresh.settings.clear();
-  else if (session_.state == HostState::running)
-    fresh.settings = settings_.changedLines();
-  fresh.script.reset();
-  leaveForFreshPhone(std::move(fresh));
-  return {};
-}
-
-json ServedPhone::chooseSound(const std::string& page, Sound how) {
-  std::string& owner = state_.audioPage;
-  if (how == Sound::release) {
-    if (owner == page) owner.clear();
-  } else if (how == Sound::take || owner.empty() || !watchers_.has(owner)) {
-    owner = page;
+  changed_ = mustSave_ = true;
+  progressed_ = steady_clock::now();
+  try {
+    advanceTo(uptime);
+  } catch (const Interrupted& error) {
+    rebase();
+    throw RequestError(409, error.what());
   }
-  return audioPart();
+  rebase();
 }
 
-json ServedPhone::journal() const {
-  json entries = json::array();
-  for (const JournalEntry& entry : session_.phone.journal.entries())
-    entries.push_back(
-        {{"n", entries.size() + 1}, {"time", seconds(entry.time)}, {"text", entry.text}});
-  return entries;
-}
-
-std::string ServedPhone::recording() const {
-  return state_.recording.asScript(session_.phone.clock.uptime());
-}
-
-void ServedPhone::watch(const Watchers::Watcher& watcher) {
-  const objc::AutoreleasePool pool;
-  report_.tell(watchers_);
-  json whole = report_.snapshot();
-  whole["epoch"] = state_.epoch + '-' + std::to_string(state_.restarts);
-  whole["page"] = watcher->page();
-  watcher->startOver(eventText("snapshot", whole));
-  watchers_.add(watcher);
-}
-
-void ServedPhone::unwatch(const Watchers::Watcher& watcher) {
-  watchers_.remove(watcher);
-  if (!watchers_.has(watcher->page()) && state_.audioPage == watcher->page())
-    state_.audioPage.clear();
+json ServedPhone::snapshot() {
+  report_.tell([this](const std::string& event, const json& data) {
+    send({{"event", event}}, eventText(event, data));
+  });
+  return report_.snapshot();
 }
 
 }  // namespace sim

@@ -1,6 +1,6 @@
 #include "simulator/serve/Api.h"
 #include "simulator/serve/JsonBody.h"
-#include "simulator/serve/ServedPhone.h"
+#include "simulator/serve/Supervisor.h"
 #include "simulator/serve/http/Guard.h"
 
 namespace sim {
@@ -26,25 +26,30 @@ std::optional<long> stepsFrom(const std::string& text) {
 void addScriptRoutes(Router& router, const ApiParts& parts) {
   Inbox& inbox = parts.inbox;
   router.add("GET", "/api/recording.phone", [&inbox](const Router::Visit& visit) {
-    const json text = inbox.ask([](ServedPhone& phone) { return json(phone.recording()); });
+    const std::string text = inbox.ask([](Supervisor& supervisor, const Inbox::Promise& promise) {
+      supervisor.giveRecording(promise);
+    });
     visit.response.set_header("Content-Disposition", "attachment; filename=\"recording.phone\"");
-    visit.response.set_content(text.get<std::string>(), "text/plain; charset=utf-8");
+    visit.response.set_content(text, "text/plain; charset=utf-8");
   });
-  router.addJson("GET", "/api/script", [&inbox](const Router::Visit&) {
-    return inbox.ask([](ServedPhone& phone) { return phone.script(); });
+  router.addText("GET", "/api/script", [&inbox](const Router::Visit&) {
+    return inbox.askHost("script", json::object());
   });
-  router.addJson("POST", "/api/script", [&inbox](const Router::Visit& visit) {
+  router.addText("POST", "/api/script", [&inbox](const Router::Visit& visit) {
     const JsonBody body(visit.request.body, {"name", "text"});
     const std::string name = body.text("name", longestName);
     const std::string text = body.text("text", largestBody);
-    return inbox.ask([&](ServedPhone& phone) { return phone.openScript(name, text); });
+    inbox.askHost("check script", {{"text", text}});
+    return inbox.ask([&](Supervisor& supervisor, const Inbox::Promise& promise) {
+      supervisor.openScript(name, text, promise);
+    });
   });
-  router.addJson("DELETE", "/api/script", [&inbox](const Router::Visit&) {
-    return inbox.ask([](ServedPhone& phone) { return phone.closeScript(); });
+  router.addText("DELETE", "/api/script", [&inbox](const Router::Visit&) {
+    return inbox.askHost("close script", json::object());
   });
-  router.addJson("POST", "/api/script/step", [&inbox](const Router::Visit& visit) {
+  router.addText("POST", "/api/script/step", [&inbox](const Router::Visit& visit) {
     const auto lines = stepsFrom(visit.request.body);
-    return inbox.ask([lines](ServedPhone& phone) { return phone.stepScript(lines); });
+    return inbox.askHost("step script", {{"lines", lines ? json(*lines) : json()}});
   });
 }
 

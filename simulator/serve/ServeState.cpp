@@ -1,5 +1,6 @@
 #include "simulator/serve/ServeState.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace sim {
@@ -37,6 +38,17 @@ std::optional<OpenScript> scriptFrom(const json& saved) {
 
 }  // namespace
 
+std::vector<std::string> linesOf(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) {
+    std::string_view line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines.emplace_back(line);
+  }
+  return lines;
+}
+
 json overview(const OpenScript& script) {
   json failure;
   if (script.failure)
@@ -56,51 +68,16 @@ json asJson(const std::vector<Picture>& pictures) {
 }
 
 json asJson(const ServeState& state) {
-  json extensions = json::array();
-  for (const auto& each : state.extensions) extensions.push_back(each.string());
-  return {{"listener", state.listener},
-          {"root", state.root.string()},
-          {"extensions", std::move(extensions)},
-          {"package", state.package ? json(state.package->string()) : json()},
-          {"music", state.music ? json(state.music->string()) : json()},
-          {"web", state.web.string()},
-          {"folder", state.folder.string()},
-          {"token", state.token},
-          {"place", state.place},
-          {"epoch", state.epoch},
-          {"restarts", state.restarts},
-          {"speed", state.speed},
+  return {{"speed", state.speed},
           {"paused", state.paused},
-          {"audioPage", state.audioPage},
-          {"setup", state.setup},
-          {"settings", state.settings},
-          {"recording", state.recording.save()},
           {"script", asJson(state.script)},
           {"pictures", asJson(state.pictures)}};
 }
 
 ServeState serveStateFrom(const json& saved) {
   ServeState state;
-  saved.at("listener").get_to(state.listener);
-  state.root = saved.at("root").get<std::string>();
-  for (const json& each : saved.at("extensions"))
-    state.extensions.emplace_back(each.get<std::string>());
-  if (const json& package = saved.at("package"); !package.is_null())
-    state.package = package.get<std::string>();
-  if (const json& music = saved.at("music"); !music.is_null())
-    state.music = music.get<std::string>();
-  state.web = saved.at("web").get<std::string>();
-  state.folder = saved.at("folder").get<std::string>();
-  saved.at("token").get_to(state.token);
-  saved.at("place").get_to(state.place);
-  saved.at("epoch").get_to(state.epoch);
-  saved.at("restarts").get_to(state.restarts);
   saved.at("speed").get_to(state.speed);
   saved.at("paused").get_to(state.paused);
-  saved.at("audioPage").get_to(state.audioPage);
-  saved.at("setup").get_to(state.setup);
-  saved.at("settings").get_to(state.settings);
-  state.recording.restore(saved.at("recording"));
   state.script = scriptFrom(saved.at("script"));
   for (const json& each : saved.at("pictures"))
     state.pictures.push_back({each.at("name").get<std::string>(), each.at("n").get<long>()});

@@ -1,14 +1,11 @@
-// What a served phone is, apart from the phone itself: it goes on through every restart of the
-// process.
+// What of a served phone, apart from the phone itself, goes on through every restart of its host.
 #pragma once
 
-#include <filesystem>
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
-
-#include "simulator/serve/Recording.h"
 
 namespace sim {
 
@@ -33,25 +30,8 @@ struct Picture {
 };
 
 struct ServeState {
-  int listener = -1;  // descriptor
-  std::filesystem::path root;
-  std::vector<std::filesystem::path> extensions;
-  std::optional<std::filesystem::path> package;
-  std::optional<std::filesystem::path> music;  // folder; none: nothing to play
-  std::filesystem::path web;                   // folder
-  std::filesystem::path folder;                // all that scripts may name lies below it
-
-  std::string token;  // the secret that lets pages in
-  std::string place;  // first part of the page's path, see Access.h
-  std::string epoch;  // of this server
-  long restarts = 0;  // of its process
   double speed = 1;
   bool paused = false;
-  std::string audioPage;  // empty: none plays sound
-
-  std::vector<std::string> setup;     // lines that pages have chosen
-  std::vector<std::string> settings;  // `set` lines kept from the phone before
-  Recording recording;
   std::optional<OpenScript> script;
   std::vector<Picture> pictures;  // in the order in which they were first written
 };
@@ -59,6 +39,9 @@ struct ServeState {
 nlohmann::json asJson(const ServeState& state);
 // Throws nlohmann::json::exception when something is missing or of another type.
 ServeState serveStateFrom(const nlohmann::json& saved);
+
+// Of a script, without their breaks.
+std::vector<std::string> linesOf(std::string_view script);
 
 // As pages see it, without its text.
 nlohmann::json overview(const OpenScript& script);

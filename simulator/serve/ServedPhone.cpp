@@ -1,13 +1,16 @@
 // The phone's life: how it begins, how it goes on, how its time passes.
 #include "simulator/serve/ServedPhone.h"
 
-#include <algorithm>
-#include <fstream>
+#include <unistd.h>
 
-#include "simulator/script/Commands.h"
+#include <algorithm>
+#include <ostream>
+
+#include "simulator/host/CrashHandler.h"
+#include "simulator/script/Interrupted.h"
+#include "simulator/script/Restart.h"
 #include "simulator/script/ScriptFiles.h"
-#include "simulator/script/commands/HostCommands.h"
-#include "simulator/serve/RequestError.h"
+#include "simulator/serve/Watchers.h"
 
 namespace sim {
 
@@ -21,8 +24,15 @@ constexpr std::chrono::microseconds frame{16'667};
 // So long the phone may run on when it is behind, before it looks at what people want.
 constexpr std::chrono::milliseconds slice{8};
 
-SessionOptions optionsOf(const ServeState& state) {
-  return {"the served phone", state.root, state.extensions, std::nullopt, state.folder, true};
+SessionOptions optionsOf(const PhoneJob& job) {
+  SessionOptions options;
+  options.script = "the served phone";
+  options.root = job.root;
+  options.extensions = job.extensions;
+  options.folder = job.folder;
+  options.quiet = true;
+  options.isServed = true;
+  return options;
 }
 
 bool isPlaylist(const std::string& line) {
@@ -31,31 +41,37 @@ bool isPlaylist(const std::string& line) {
 
 }  // namespace
 
-ServedPhone::ServedPhone(ServeState state, const MusicLibrary& library, Inbox& inbox, Leave leave)
-    : state_(std::move(state)),
+ServedPhone::ServedPhone(Session& session, const CommandTable& commands, HostEnds& ends,
+                         const MusicLibrary& library, const Json& job)
+    : session_(session),
+      table_(commands),
+      supervisor_(ends.supervisor),
       library_(library),
-      inbox_(inbox),
-      leave_(std::move(leave)),
-      session_(optionsOf(state_)),
-      table_(allCommands()),
+      job_(phoneJobFrom(job)),
+      state_(serveStateFrom(job_.serve)),
       player_(library),
-      report_(session_.phone.journal) {
-  session_.relaunch = [this](const std::filesystem::path& file) { leaveInMiddle(file); };
+      report_(session.phone.journal) {
+  session_.choose(optionsOf(job_));
+  watchForCrashes(ends.report, session_);
   scriptFiles().whenWritten = [this](const std::string& name) { notePicture(name); };
-  session_.phone.survives("serve", {[this] { return asJson(state_); }, [](const json&) {}});
-  pace_.setSpeed(state_.speed, steady_clock::now());
-  pace_.setPaused(state_.paused, steady_clock::now());
+  session_.phone.survives("serve", {[this] { return asJson(state_); },
+                                    [this](const json& saved) { state_ = serveStateFrom(saved); }});
+  session_.beforeGoingOn = [this] { progress(); };
+  session_.handOver = [this](const RestartState& state) {
+    stopWatching();
+    send({{"restart", restartStateAsJson(state)},
+          {"request", request_.is_null() ? json() : request_.at("id")},
+          {"uptime", seconds(session_.phone.clock.uptime())},
+          {"ran", ran_ + 1}});
+    _exit(0);
+  };
   addParts();
-}
-
-ServedPhone::~ServedPhone() {
-  watchers_.close();
 }
 
 std::vector<std::string> ServedPhone::firstLines() const {
   if (state_.script) return {};
-  std::vector<std::string> lines = state_.settings;
-  lines.insert(lines.end(), state_.setup.begin(), state_.setup.end());
+  std::vector<std::string> lines = job_.settings;
+  lines.insert(lines.end(), job_.setup.begin(), job_.setup.end());
   const std::string music = library_.playlistLine();
   if (!music.empty() && std::none_of(lines.begin(), lines.end(), isPlaylist)) {
     lines.push_back(music);
@@ -67,36 +83,63 @@ std::vector<std::string> ServedPhone::firstLines() const {
   return lines;
 }
 
-void ServedPhone::begin() {
-  interpreter_ = std::make_unique<Interpreter>(session_, table_, std::vector<ScriptLine>());
+bool ServedPhone::begin() {
+  interpreter_.emplace(session_, table_, std::vector<ScriptLine>());
   interpreter_->play();
-  for (const std::string& line : firstLines()) play(line);
-  setOut();
+  const auto lines = firstLines();
+  for (std::size_t index = 0; index < lines.size(); ++index) {
+    linesPlayed_ = long(index);
+    try {
+      play(lines[index]);
+      continue;
+    } catch (const ScriptParseError& error) {
+      // Some mistakes show only at `boot`.
+      send({{"failed", error.what()}, {"index", error.line - 1}, {"column", error.column}});
+    } catch (const ScriptError& error) {
+      send({{"failed", error.what()}, {"index", index}, {"column", error.column}});
+    }
+    return false;
+  }
+  return true;
 }
 
-void ServedPhone::goOn(const RestartState& saved) {
+void ServedPhone::resume() {
   // What kind of phone it is, is said by the lines before its boot.
   std::vector<ScriptLine> lines;
-  for (const std::string& line : state_.recording.lines())
+  for (const std::string& line : job_.done)
     lines.push_back(parseScriptLine(line, lines.size() + 1));
-  linesPlayed_ = saved.lineNumber;
-  interpreter_ = std::make_unique<Interpreter>(session_, table_, std::move(lines));
+  const RestartState saved = restartStateFromJson(job_.state);
+  linesPlayed_ = long(saved.lineNumber);
+  interpreter_.emplace(session_, table_, std::move(lines));
   interpreter_->resume(saved);
-  setOut();
 }
 
-void ServedPhone::setOut() {
-  pace_.setOut(session_.phone.clock.uptime(), steady_clock::now());
+void ServedPhone::rebase() {
+  pace_.rebase(session_.phone.clock.uptime(), steady_clock::now());
   report_.demand("clock");
 }
 
 void ServedPhone::run() {
-  while (!inbox_.isStopped()) {
+  if (job_.state.is_null()) {
+    if (!begin()) return;
+  } else {
+    resume();
+  }
+  if (state_.script) scriptLines_ = linesOf(state_.script->text);
+  pace_.setSpeed(state_.speed, steady_clock::now());
+  pace_.setPaused(state_.paused, steady_clock::now());
+  rebase();
+  saveState(steady_clock::now());
+  send({{"ready", true}});
+  for (;;) {
     const bool isBehind = !catchUp();
-    if (inbox_.doNext(*this)) changed_ = true;
+    receive();
+    answerNext();
     if (isScriptRunning()) playScriptLine();
-    tellWatchers(steady_clock::now());
-    if (!isBehind && !isScriptRunning()) inbox_.waitUntil(nextMoment());
+    const Moment now = steady_clock::now();
+    tellWatchers(now);
+    saveState(now);
+    if (!isBehind && !isScriptRunning() && requests_.empty()) supervisor_.waitUntil(nextMoment());
   }
 }
 
@@ -120,15 +163,17 @@ std::optional<ServedPhone::Moment> ServedPhone::nextMoment() const {
   const auto due = session_.phone.queue.nextDue();
   if (due && session_.state != HostState::off) next = pace_.momentOf(*due);
   const bool isAnimating = report_.isAnimating() && !pace_.isPaused();
-  if (watchers_.isEmpty() || (!changed_ && !isAnimating)) return next;
+  if (!isWatched_ || (!changed_ && !isAnimating)) return next;
   return next ? std::min(*next, told_ + frame) : told_ + frame;
 }
 
 void ServedPhone::tellWatchers(Moment now) {
-  if (watchers_.isEmpty() || now < told_ + frame) return;
+  if (!isWatched_ || now < told_ + frame) return;
   if (!changed_ && !report_.isAnimating()) return;
   const objc::AutoreleasePool pool;
-  report_.tell(watchers_);
+  report_.tell([this](const std::string& event, const json& data) {
+    send({{"event", event}}, eventText(event, data));
+  });
   changed_ = false;
   told_ = now;
 }
@@ -137,21 +182,28 @@ void ServedPhone::play(const std::string& text) {
   const ScriptLine line = parseScriptLine(text, std::size_t(linesPlayed_) + 1);
   if (line.words.empty()) return;
   ++linesPlayed_;
-  Recording& recording = state_.recording;
-  const Nanoseconds before = session_.phone.clock.uptime();
-  const double wallBefore = session_.phone.clock.wallAtZero();
+  const Clock& clock = session_.phone.clock;
+  const Nanoseconds before = clock.uptime();
+  const double wallBefore = clock.wallAtZero();
   const bool wasOff = session_.state == HostState::off;
-  recording.begin(text, before);
+  const std::string& name = line.words.front().text;
+  const bool isRecorded = name != "get" && name != "tree";
+  if (isRecorded) send({{"begun", text}, {"uptime", before}});
+  changed_ = mustSave_ = true;
+  progressed_ = steady_clock::now();
   try {
     interpreter_->perform(line);
+  } catch (const Interrupted& error) {
+    if (isRecorded) send({{"instead", error.lines}, {"uptime", clock.uptime()}});
+    rebase();
+    throw;
   } catch (...) {
-    recording.forget();
+    if (isRecorded) send({{"forget", true}});
     throw;
   }
-  const std::string& name = line.words.front().text;
-  if (name != "get" && name != "tree") recording.done(session_.phone.clock.uptime());
-  if (wasOff || session_.phone.clock.uptime() != before) setOut();
-  if (session_.phone.clock.wallAtZero() != wallBefore) report_.demand("clock");
+  if (isRecorded) send({{"done", true}, {"uptime", clock.uptime()}});
+  if (wasOff || clock.uptime() != before) rebase();
+  if (clock.wallAtZero() != wallBefore) report_.demand("clock");
 }
 
 void ServedPhone::notePicture(const std::string& name) {
@@ -164,26 +216,6 @@ void ServedPhone::notePicture(const std::string& name) {
     all.push_back({name, number});
   else
     known->number = number;
-}
-
-// The process ends where it stands; the journal, the recording and the rest go on in the next.
-void ServedPhone::leaveInMiddle(const std::filesystem::path& stateFile) {
-  leave_({{"ok", true},
-          {"restarts", true},
-          {"uptime", seconds(session_.phone.clock.uptime())},
-          {"ran", ran_ + 1}},
-         stateFile);
-}
-
-void ServedPhone::leaveForFreshPhone(ServeState fresh) {
-  ++fresh.restarts;
-  fresh.recording = {};
-  const auto file = state_.root.parent_path() / (state_.root.filename().string() + ".restart.json");
-  std::ofstream stream(file, std::ios::binary);
-  stream << jsonText({{"fresh", asJson(fresh)}});
-  stream.close();
-  if (!stream) throw RequestError(500, file.string() + " cannot be written");
-  leave_({{"ok", true}, {"restarts", true}, {"uptime", 0}}, file);
 }
 
 }  // namespace sim

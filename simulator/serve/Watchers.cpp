@@ -25,9 +25,15 @@ void Watchers::remove(const Watcher& watcher) {
 }
 
 void Watchers::send(const std::string& event, const nlohmann::json& data) const {
-  if (watchers_.empty()) return;
-  const std::string text = eventText(event, data);
-  for (const Watcher& each : watchers_) each->put(text);
+  if (!watchers_.empty()) sendText(eventText(event, data));
+}
+
+void Watchers::sendText(const std::string& event) const {
+  for (const Watcher& each : watchers_) each->put(event);
+}
+
+void Watchers::startOver(const std::function<std::string(const Watcher&)>& snapshot) const {
+  for (const Watcher& each : watchers_) each->startOver(snapshot(each));
 }
 
 void Watchers::close() const {

@@ -1,6 +1,7 @@
 // The pages that watch the phone.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
@@ -10,7 +11,7 @@
 
 namespace sim {
 
-// The phone's thread only.
+// The main thread only.
 class Watchers {
  public:
   using Watcher = std::shared_ptr<EventQueue>;
@@ -26,6 +27,9 @@ class Watchers {
   void remove(const Watcher& watcher);
   // To all of them.
   void send(const std::string& event, const nlohmann::json& data) const;
+  void sendText(const std::string& event) const;  // see eventText
+  // Each begins anew with its own snapshot.
+  void startOver(const std::function<std::string(const Watcher&)>& snapshot) const;
   void close() const;
 
  private:

@@ -1,7 +1,6 @@
 // Puts the page together.
 import { takeParameter } from "./server/address.js";
 import { Connection } from "./server/connection.js";
-import { onRestart } from "./server/commands.js";
 import { pageId } from "./server/page.js";
 import { PhoneState } from "./server/state.js";
 import { Alerts } from "./phone/alerts.js";
@@ -9,6 +8,7 @@ import { Device } from "./phone/device.js";
 import { Handset } from "./phone/handset.js";
 import { Hint } from "./phone/hint.js";
 import { Keyboard } from "./phone/keyboard.js";
+import { Life } from "./phone/life.js";
 import { Screen } from "./phone/screen.js";
 import { Touch } from "./phone/touch.js";
 import { JournalPanel } from "./journal/panel.js";
@@ -36,6 +36,7 @@ const handset = new Handset(state, byId("phone-stand"), screen, device);
 new Touch(state, handset, device);
 new Keyboard(handset, screen, device);
 new Hint(state, screen);
+new Life(state, byId("life-place"));
 new Alerts(screen);
 
 new TimePanel(state);
@@ -51,5 +52,4 @@ const follower = new SoundFollower(state, page, output);
 new SoundStart(state, page, output, follower, handset.glass, byId("top-state"));
 
 const connection = new Connection(state, page);
-new Veil(connection, handset.glass);
-onRestart(() => connection.expectRestart());
+new Veil(state, connection, handset.glass);

@@ -1,19 +1,11 @@
-// Plays phone scripts one after another, each on a fresh phone. The classes of the phone are
-// registered once; every host process, of the first launch and of each restart, is a fork of the
-// process that stands there, which is much cheaper than a program of its own.
+// Plays phone scripts one after another, each on a fresh phone with the extension.
 #pragma once
 
-#include <sys/types.h>
-
 #include <filesystem>
-#include <optional>
 #include <string>
-#include <vector>
 
+#include "simulator/host/ScriptPlayer.h"
 #include "simulator/host/TemporaryFolder.h"
-#include "simulator/script/Command.h"
-#include "simulator/script/Session.h"
-#include "simulator/script/words/Script.h"
 
 namespace model {
 
@@ -26,16 +18,11 @@ class PhoneFork {
   std::string play(const std::string& script);
 
  private:
-  using Lines = std::vector<sim::ScriptLine>;
-
   void eraseTheNightBefore() const;
-  int runHost(const Lines& script, const std::optional<std::filesystem::path>& state);
-  [[noreturn]] void beHost(const Lines& script, const std::optional<std::filesystem::path>& state);
-  std::string errors() const;
 
   sim::TemporaryFolder folder_;
-  sim::Session session_;
-  sim::CommandTable commands_;
+  sim::ScriptPlayer player_;
+  sim::ScriptJob job_;
 };
 
 }  // namespace model

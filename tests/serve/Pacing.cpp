@@ -14,7 +14,7 @@ const Pace::Moment noon{100h};
 
 TEST(Pacing, GoesOnFromWhereItSetsOut) {
   Pace pace;
-  pace.setOut(nanoseconds(10), noon);
+  pace.rebase(nanoseconds(10), noon);
   EXPECT_EQ(pace.uptimeAt(noon), nanoseconds(10));
   EXPECT_EQ(pace.uptimeAt(noon + 2500ms), nanoseconds(12.5));
   EXPECT_EQ(pace.uptimeAt(noon - 1s), nanoseconds(10));
@@ -22,7 +22,7 @@ TEST(Pacing, GoesOnFromWhereItSetsOut) {
 
 TEST(Pacing, KeepsItsPlaceWhenItsSpeedChanges) {
   Pace pace;
-  pace.setOut(0, noon);
+  pace.rebase(0, noon);
   pace.setSpeed(60, noon + 1s);
   EXPECT_EQ(pace.uptimeAt(noon + 1s), nanoseconds(1));
   EXPECT_EQ(pace.uptimeAt(noon + 2s), nanoseconds(61));
@@ -36,10 +36,10 @@ TEST(Pacing, KeepsItsPlaceWhenItsSpeedChanges) {
 
 TEST(Pacing, TellsWholeMilliseconds) {
   Pace pace;
-  pace.setOut(nanoseconds(1), noon);
+  pace.rebase(nanoseconds(1), noon);
   EXPECT_EQ(pace.uptimeAt(noon + 1999us), nanoseconds(1.001));
   // But never goes back to one.
-  pace.setOut(nanoseconds(2) + 7, noon);
+  pace.rebase(nanoseconds(2) + 7, noon);
   EXPECT_EQ(pace.uptimeAt(noon + 999us), nanoseconds(2) + 7);
 }
 
@@ -47,7 +47,7 @@ TEST(Pacing, KnowsWhenSomethingIsReached) {
   for (const double speed : {1.0, 7.0, 60.0, 3600.0}) {
     Pace pace;
     pace.setSpeed(speed, noon);
-    pace.setOut(nanoseconds(1.5), noon);
+    pace.rebase(nanoseconds(1.5), noon);
     for (const Nanoseconds due : {nanoseconds(1), nanoseconds(1.5), nanoseconds(61) + 1,
                                   nanoseconds(61.001), nanoseconds(86'400)}) {
       const auto moment = pace.momentOf(due);
@@ -67,7 +67,7 @@ TEST(Pacing, ReachesNothingWhilePaused) {
 
 TEST(Pacing, WaitsForNothingForever) {
   Pace pace;
-  pace.setOut(0, noon);
+  pace.rebase(0, noon);
   EXPECT_TRUE(pace.momentOf(std::numeric_limits<Nanoseconds>::max()));
 }
 

@@ -1,8 +1,7 @@
 // What was done, as a script.
 #include <gtest/gtest.h>
 
-#include <nlohmann/json.hpp>
-
+#include "simulator/machine/Journal.h"
 #include "simulator/serve/Recording.h"
 
 namespace sim {
@@ -30,14 +29,23 @@ TEST(Recorder, LeavesOutWhatWasRefused) {
   EXPECT_EQ(recording.asScript(0), "");
 }
 
-TEST(Recorder, KeepsWhatEndsTheProcess) {
-  Recording before;
-  before.begin("boot", 0);
-  before.done(0);
-  before.begin("respring", nanoseconds(5));
-  Recording after;
-  after.restore(before.save());
-  EXPECT_EQ(after.asScript(nanoseconds(5)), "boot\nadvance-to 5\nrespring\n");
+TEST(Recorder, WritesDownWhatAnInterruptedLineHasDone) {
+  Recording recording;
+  recording.begin("boot", 0);
+  recording.done(0);
+  recording.begin("repeat 9 lock", nanoseconds(5));
+  recording.doneBy({"repeat 2 lock", "advance-to 6"}, nanoseconds(6));
+  EXPECT_EQ(recording.asScript(nanoseconds(6)),
+            "boot\nadvance-to 5\nrepeat 2 lock\nadvance-to 6\n");
+}
+
+TEST(Recorder, KeepsTheLinesBeforeBoot) {
+  Recording recording;
+  for (const char* line : {"ios 16.1", "boot", "lock"}) {
+    recording.begin(line, 0);
+    recording.done(0);
+  }
+  EXPECT_EQ(recording.setup(), (std::vector<std::string>{"ios 16.1", "boot"}));
 }
 
 TEST(Recorder, WritesTimesExactly) {

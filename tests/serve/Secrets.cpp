@@ -187,7 +187,7 @@ TEST(Secrets, AreInNoListOfProcesses) {
   const ServedProgram program;
   program.command("respring");
   EventReader(program).next("snapshot");  // of the process that serves now
-  for (const pid_t each : {program.process(), program.servingProcess()}) {
+  for (const pid_t each : {program.process(), program.hostProcess()}) {
     const std::string words = contentOf("/proc/" + std::to_string(each) + "/cmdline");
     EXPECT_FALSE(words.empty());
     EXPECT_EQ(words.find(program.token()), std::string::npos) << words;
@@ -253,7 +253,7 @@ TEST(Secrets, AreNotFoundByAnotherUser) {
             }),
             0);
   EXPECT_EQ(asAnotherUser([&] {
-              for (const pid_t each : {program.process(), program.servingProcess()}) {
+              for (const pid_t each : {program.process(), program.hostProcess()}) {
                 const std::string folder = "/proc/" + std::to_string(each);
                 if (!contentOf(folder + "/environ").empty()) return true;
                 if (access((folder + "/mem").c_str(), R_OK) == 0) return true;

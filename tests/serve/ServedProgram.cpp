@@ -56,6 +56,23 @@ Address readAddress(int input) {
   return address;
 }
 
+std::vector<pid_t> childrenOf(pid_t process) {
+  const std::string name = std::to_string(process);
+  std::ifstream listed("/proc/" + name + "/task/" + name + "/children");
+  std::vector<pid_t> all;
+  for (pid_t each = 0; listed >> each;) all.push_back(each);
+  return all;
+}
+
+long residentKilobytesOf(pid_t process) {
+  std::ifstream status("/proc/" + std::to_string(process) + "/status");
+  for (std::string word; status >> word;) {
+    long kilobytes = 0;
+    if (word == "VmRSS:" && status >> kilobytes) return kilobytes;
+  }
+  throw std::runtime_error("it does not run");
+}
+
 }  // namespace
 
 std::string contentOf(const files::path& file) {
@@ -108,21 +125,15 @@ int ServedProgram::wait() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-pid_t ServedProgram::servingProcess() const {
-  const std::string name = "/proc/" + std::to_string(process_);
-  std::ifstream children(name + "/task/" + std::to_string(process_) + "/children");
-  pid_t serving = 0;
-  children >> serving;
-  return serving;
+// The one zygote that has children has one, but while another phone is tried.
+pid_t ServedProgram::hostProcess() const {
+  for (const pid_t zygote : childrenOf(process_))
+    if (const auto hosts = childrenOf(zygote); !hosts.empty()) return hosts.back();
+  throw std::runtime_error("there is no host");
 }
 
 long ServedProgram::residentKilobytes() const {
-  std::ifstream status("/proc/" + std::to_string(servingProcess()) + "/status");
-  for (std::string word; status >> word;) {
-    long kilobytes = 0;
-    if (word == "VmRSS:" && status >> kilobytes) return kilobytes;
-  }
-  throw std::runtime_error("it does not run");
+  return residentKilobytesOf(process_) + residentKilobytesOf(hostProcess());
 }
 
 int ServedProgram::end(int signal) {

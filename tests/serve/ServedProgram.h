@@ -66,10 +66,10 @@ class ServedProgram {
   // As the program prints journals.
   std::string journal() const;
 
-  // Of the process that was started, and of the one that serves.
+  // Of the supervisor, which was started, and of the host.
   pid_t process() const { return process_; }
-  pid_t servingProcess() const;
-  // Of memory, of the process that serves.
+  pid_t hostProcess() const;
+  // Of memory, of both.
   long residentKilobytes() const;
 
   // Has it end, and gives its exit status; -1 when a signal ended it.

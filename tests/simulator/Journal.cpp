@@ -1,5 +1,7 @@
 #include "simulator/machine/Journal.h"
 
+#include <unistd.h>
+
 #include "tests/simulator/TestPhone.h"
 
 namespace sim {
@@ -35,13 +37,29 @@ TEST_F(JournalTest, AnObserverMayRecord) {
   EXPECT_EQ(lastSeen, "outer");
 }
 
-TEST_F(JournalTest, RestoredEntriesAreNotToldAgain) {
+TEST_F(JournalTest, GoesOnWithTheFileOfAnother) {
   int told = 0;
-  phone.journal.observe([&told](const JournalEntry&) { ++told; });
-  phone.journal.restore({{5, "before"}});
-  phone.journal.record("after");
+  Journal next(phone.clock);
+  next.observe([&told](const JournalEntry&) { ++told; });
+  JournalFile shared;
+  shared.append({5, "before"});
+  next.adopt(dup(shared.descriptor()));
+  EXPECT_EQ(next.size(), 1u);
+  next.record("after");
   EXPECT_EQ(told, 1);
-  EXPECT_EQ(phone.journal.entries()[0].time, 5);
+  EXPECT_EQ(next.entries()[0].time, 5);
+  EXPECT_EQ(next.entries(1)[0].text, "after");
+  EXPECT_EQ(shared.size(), 1u);
+  shared.refresh();
+  EXPECT_EQ(shared.size(), 2u);
+}
+
+TEST_F(JournalTest, FindsAnyOfManyLines) {
+  for (int index = 0; index < 5000; ++index) phone.journal.record(std::to_string(index));
+  EXPECT_EQ(phone.journal.size(), 5000u);
+  EXPECT_EQ(phone.journal.entries(4321)[0].text, "4321");
+  EXPECT_EQ(phone.journal.entries(4999).size(), 1u);
+  EXPECT_TRUE(phone.journal.entries(5000).empty());
 }
 
 TEST(JournalLine, KeepsItsColumnsForLongTimes) {

@@ -17,6 +17,17 @@ void launchHost(Session& session) {
   nameChecks().all.namesAreKnown();
 }
 
+// However much falls due on the way, somebody may end it.
+void passTime(Nanoseconds uptime) {
+  Session& session = Session::current();
+  MainQueue& queue = session.phone.queue;
+  for (auto due = queue.nextDue(); due && *due <= uptime; due = queue.nextDue()) {
+    queue.runUntil(*due);
+    session.checkInterruption();
+  }
+  queue.runUntil(uptime);
+}
+
 void boot(Arguments& arguments) {
   arguments.finish();
   Session& session = Session::current();
@@ -69,7 +80,7 @@ void killAt(Arguments& arguments) {
     return killAtText(arguments);
   const long count = arguments.integer("a number of journal lines");
   Session& session = Session::current();
-  const auto recorded = long(session.phone.journal.entries().size());
+  const auto recorded = long(session.phone.journal.size());
   if (count <= recorded)
     throw ScriptError(0, "expected a number of journal lines above " + std::to_string(recorded) +
                              ", found " + std::to_string(count));
@@ -104,14 +115,18 @@ void respring(Arguments& arguments) {
 void advanceTo(Nanoseconds uptime) {
   Session& session = Session::current();
   session.advanceUntil = uptime;
-  session.phone.queue.runUntil(uptime);
+  try {
+    passTime(uptime);
+  } catch (...) {
+    session.advanceUntil.reset();
+    throw;
+  }
   session.advanceUntil.reset();
 }
 
 void relaunchHost(Nanoseconds uptime) {
-  Session& session = Session::current();
-  session.phone.queue.runUntil(uptime);
-  launchHost(session);
+  passTime(uptime);
+  launchHost(Session::current());
 }
 
 void watchKillPoints() {
@@ -119,7 +134,7 @@ void watchKillPoints() {
     Session& session = Session::current();
     if (session.state != HostState::running) return;
     const Phone& phone = session.phone;
-    const bool dies = session.killPoints.erase(phone.journal.entries().size()) > 0;
+    const bool dies = session.killPoints.erase(phone.journal.size()) > 0;
     if (reachedKillText(session, entry.text) || dies)
       endHostProcess(HostEnd::death, phone.clock.uptime());
   });

@@ -14,16 +14,12 @@ namespace {
 // Journal lines are printed to the millisecond; that is what a script means by a time.
 constexpr double printedPrecision = 0.0005;
 
-std::vector<JournalEntry> entriesInView() {
-  const Session& session = Session::current();
-  const auto& all = session.phone.journal.entries();
-  return {all.begin() + std::ptrdiff_t(std::min(session.journalStart, all.size())), all.end()};
-}
-
 std::vector<JournalEntry> matching(std::string_view pattern) {
-  std::vector<JournalEntry> found = entriesInView();
-  std::erase_if(found, [pattern](const JournalEntry& entry) {
-    return !matchesWildcard(entry.text, pattern);
+  const Session& session = Session::current();
+  std::vector<JournalEntry> found;
+  session.phone.journal.visit(session.journalStart, [&](const JournalEntry& entry) {
+    if (matchesWildcard(entry.text, pattern)) found.push_back(entry);
+    return true;
   });
   return found;
 }
@@ -39,13 +35,13 @@ std::string times(const std::vector<JournalEntry>& entries) {
 // What the journal does say, for the reader of a failure: its last lines.
 std::string lastLines() {
   constexpr std::size_t shown = 12;
-  const auto entries = entriesInView();
-  if (entries.empty()) return "\n  the journal is empty";
-  std::string text;
-  const std::size_t first = entries.size() > shown ? entries.size() - shown : 0;
-  if (first > 0) text = "\n         …";
-  for (std::size_t index = first; index < entries.size(); ++index)
-    text += "\n  " + formatted(entries[index]);
+  const Session& session = Session::current();
+  const Journal& journal = session.phone.journal;
+  if (journal.size() <= session.journalStart) return "\n  the journal is empty";
+  const std::size_t first =
+      std::max(session.journalStart, journal.size() - std::min(journal.size(), shown));
+  std::string text = first > session.journalStart ? "\n         …" : "";
+  for (const JournalEntry& entry : journal.entries(first)) text += "\n  " + formatted(entry);
   return text;
 }
 
@@ -100,26 +96,28 @@ void expectNoJournal(Arguments& arguments) {
 }
 
 void expectJournalOrder(Arguments& arguments) {
-  const auto entries = entriesInView();
-  auto from = entries.begin();
+  const Journal& journal = Session::current().phone.journal;
+  std::size_t from = Session::current().journalStart;
   for (bool first = true; first || !arguments.atEnd(); first = false) {
     const Word text = arguments.word("a journal line");
-    from = std::find_if(from, entries.end(), [&text](const JournalEntry& entry) {
-      return matchesWildcard(entry.text, text.text);
+    bool found = false;
+    journal.visit(from, [&](const JournalEntry& entry) {
+      ++from;
+      found = matchesWildcard(entry.text, text.text);
+      return !found;
     });
-    if (from == entries.end()) {
+    if (!found) {
       requireKnownNames(text);
       throw ScriptError(text.column, "expected in the journal, after the lines before it, " +
                                          sim::quoted(text.text) + ", found " +
                                          times(matching(text.text)) + lastLines());
     }
-    ++from;
   }
 }
 
 void clearJournal(Arguments&) {
   Session& session = Session::current();
-  session.journalStart = session.phone.journal.entries().size();
+  session.journalStart = session.phone.journal.size();
 }
 
 }  // namespace

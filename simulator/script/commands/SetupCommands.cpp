@@ -70,6 +70,8 @@ void requireStandIn(const Word& cls, const std::optional<Word>& member) {
 }
 
 void missing(Arguments& arguments) {
+  if (Session::current().host.isRegistered())
+    throw ScriptError(0, "what is missing must be said by a line of its own");
   const Word cls = arguments.word("the name of a class");
   std::optional<Word> member;
   if (arguments.atEnd()) {

@@ -24,7 +24,8 @@ Value perform(void (*entry)(), const TypeEncoding& result, std::vector<Value>& a
                    argumentTypes.data()) != FFI_OK)
     throw std::invalid_argument("the call cannot be prepared");
   Value answer(result);  // its bytes are more than one register, which libffi may fill whole
-  ffi_call(&call, entry, answer.bytes(), places.data());
+  // What an extension throws is nobody's to catch: it ends the process where it is thrown.
+  [&]() noexcept { ffi_call(&call, entry, answer.bytes(), places.data()); }();
   // It may lie inside an argument, which does not outlive the call.
   if (result.kind == '*' && answer.as<const char*>() != nullptr)
     return Value::ofCString(answer.as<const char*>());

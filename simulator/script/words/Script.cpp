@@ -52,12 +52,12 @@ std::vector<ScriptLine> parseScript(std::string_view text) {
   return lines;
 }
 
-std::vector<ScriptLine> readScript(const std::filesystem::path& file) {
+std::string scriptText(const std::filesystem::path& file) {
   if (std::filesystem::is_directory(file))
     throw std::runtime_error(file.string() + ": is a folder, not a script");
-  const auto text = fileContent(file);
+  auto text = fileContent(file);
   if (!text) throw std::runtime_error(file.string() + ": " + std::strerror(errno));
-  return parseScript(*text);
+  return *std::move(text);
 }
 
 }  // namespace sim

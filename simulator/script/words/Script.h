@@ -35,7 +35,7 @@ class ScriptParseError : public std::runtime_error {
 
 // Every line, in order. Throws ScriptParseError.
 std::vector<ScriptLine> parseScript(std::string_view text);
-// Throws std::runtime_error, too, when the file cannot be read.
-std::vector<ScriptLine> readScript(const std::filesystem::path& file);
+// The whole file. Throws std::runtime_error when it cannot be read.
+std::string scriptText(const std::filesystem::path& file);
 
 }  // namespace sim

@@ -37,7 +37,6 @@ constexpr milliseconds roomPatience{100};
 constexpr int threadTries = 20;
 
 thread_local int theConnection = -1;
-thread_local bool isAnswering = false;
 thread_local bool lastAnswerWasError = false;
 thread_local const HeadRecorder* theHead = nullptr;
 
@@ -73,22 +72,6 @@ void drain(int descriptor) {
 
 }  // namespace
 
-// As long as an answer is being worked out and sent.
-class HttpServer::Answering {
- public:
-  explicit Answering(HttpServer& server) : server_(server) {
-    const std::lock_guard lock(server_.mutex_);
-    ++server_.answering_;
-    isAnswering = true;
-  }
-  ~Answering() { server_.leaveAnswering(); }
-  Answering(const Answering&) = delete;
-  Answering& operator=(const Answering&) = delete;
-
- private:
-  HttpServer& server_;
-};
-
 HttpServer::HttpServer()
     : connections_(connectionsFor(raisedLimit())), wakeUp_(eventfd(0, EFD_CLOEXEC)) {
   if (wakeUp_ < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
@@ -108,21 +91,13 @@ void HttpServer::start(const Listener& listener) {
   acceptor_ = std::thread([this] { acceptConnections(); });
 }
 
-void HttpServer::stopAccepting() {
-  if (!acceptor_.joinable()) return;
-  const std::uint64_t one = 1;
-  [[maybe_unused]] const auto written = write(wakeUp_, &one, sizeof one);
-  acceptor_.join();
-}
-
 void HttpServer::stopServing() {
-  stopAccepting();
+  if (acceptor_.joinable()) {
+    const std::uint64_t one = 1;
+    [[maybe_unused]] const auto written = write(wakeUp_, &one, sizeof one);
+    acceptor_.join();
+  }
   connections_.endAll();
-}
-
-bool HttpServer::waitUntilAnswered(milliseconds patience) {
-  std::unique_lock lock(mutex_);
-  return changed_.wait_for(lock, patience, [this] { return answering_ == 0; });
 }
 
 int HttpServer::connection() {
@@ -133,20 +108,11 @@ const std::string& HttpServer::head() {
   return theHead->head();
 }
 
-void HttpServer::leaveAnswering() {
-  if (!isAnswering) return;
-  isAnswering = false;
-  const std::lock_guard lock(mutex_);
-  --answering_;
-  changed_.notify_all();
-}
-
 void HttpServer::trust() {
   connections_.trust(theConnection);
 }
 
 bool HttpServer::processRequest(httplib::Stream& stream, bool isLast) {
-  const Answering answering(*this);
   lastAnswerWasError = false;
   bool closed = false;
   // The library's own ranges may reach beyond a file's end: see ByteRange.
@@ -170,7 +136,6 @@ bool HttpServer::waitForConnection() const {
 
 void HttpServer::acceptConnections() {
   while (waitForConnection()) {
-    // Closed by exec(): pages notice at once that the phone's process begins anew.
     const int descriptor = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
     const int problem = errno;
     if (descriptor >= 0)

@@ -3,9 +3,7 @@
 
 #include <httplib.h>
 
-#include <condition_variable>
 #include <functional>
-#include <mutex>
 #include <thread>
 
 #include "simulator/serve/http/Connections.h"
@@ -13,8 +11,8 @@
 
 namespace sim {
 
-// The library's own accepting loop cannot take over a socket, polls idle connections a hundred
-// times a second and lends a bounded number of threads, of which each watching page keeps one.
+// The library's own accepting loop polls idle connections a hundred times a second and lends a
+// bounded number of threads, of which each watching page keeps one.
 class HttpServer : public httplib::Server {
  public:
   HttpServer();
@@ -29,20 +27,12 @@ class HttpServer : public httplib::Server {
   void setPreparation(std::function<void(httplib::Request&)> prepare) {
     prepare_ = std::move(prepare);
   }
-  // Leaves further connections to whoever takes over the listener.
-  void stopAccepting();
   // Answers no longer and closes every connection; waits for handlers that run.
   void stopServing();
-
-  // Waits until every answer that has been worked out is on its way, event streams aside; false
-  // when that takes longer.
-  bool waitUntilAnswered(std::chrono::milliseconds patience);
 
   // Of the request that this thread is processing: the socket, and its head as it was sent.
   static int connection();
   static const std::string& head();
-  // This thread's request is a stream of events: nobody waits for its end.
-  void leaveAnswering();
   // This thread's request has shown the secret: its connection is no stranger's any more.
   void trust();
 
@@ -51,8 +41,6 @@ class HttpServer : public httplib::Server {
   bool processRequest(httplib::Stream& stream, bool isLast);
 
  private:
-  class Answering;
-
   void acceptConnections();
   bool waitForConnection() const;
   void take(int descriptor);
@@ -60,9 +48,6 @@ class HttpServer : public httplib::Server {
   void serve(int descriptor);
 
   std::thread acceptor_;
-  std::mutex mutex_;
-  std::condition_variable changed_;
-  int answering_ = 0;
   Connections connections_;
   std::function<void(httplib::Request&)> prepare_;
   int listener_ = -1;

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int usualPort = 8420;
 constexpr int portsTried = 100;
-constexpr int backlog = 512;  // pages that connect while the phone's process begins anew
+constexpr int backlog = 512;
 
 [[noreturn]] void fail(const std::string& what) {
   throw std::system_error(errno, std::generic_category(), what);
@@ -31,7 +31,7 @@ sockaddr_in loopback(int port) {
 
 // -1 when the port is in use.
 int tryToListen(int port) {
-  const int descriptor = socket(AF_INET, SOCK_STREAM, 0);
+  const int descriptor = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   if (descriptor < 0) fail("socket");
   // A port whose last connections are still winding down is free; one where others listen is not.
   const int on = 1;

@@ -5,16 +5,11 @@
 
 namespace sim {
 
-// A listening socket that survives exec(): while the phone's process begins anew, pages that
-// connect wait in its queue.
 class Listener {
  public:
   // Without a port, the first free one from the usual one on. Throws std::system_error when the
   // port, or every port tried, is in use.
   static Listener open(std::optional<int> port);
-  // Takes over the descriptor of an open one.
-  static Listener adopt(int descriptor) { return Listener(descriptor); }
-
   Listener(Listener&& other) noexcept;
   Listener& operator=(Listener&&) = delete;
   ~Listener();

@@ -32,6 +32,12 @@ void Router::addJson(const std::string& method, const std::string& path, JsonHan
   });
 }
 
+void Router::addText(const std::string& method, const std::string& path, TextHandler handler) {
+  add(method, path, [handler = std::move(handler)](const Visit& visit) {
+    visit.response.set_content(handler(visit), "application/json");
+  });
+}
+
 bool Router::matches(const Route& route, const std::string& path) {
   if (route.path == "/" || !route.path.ends_with('/')) return path == route.path;
   return path.size() > route.path.size() && path.starts_with(route.path);

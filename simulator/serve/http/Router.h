@@ -30,6 +30,9 @@ class Router {
   // answer: RequestError as it says, anything else 500.
   void add(const std::string& method, const std::string& path, Handler handler);
   void addJson(const std::string& method, const std::string& path, JsonHandler handler);
+  // Of JSON that is text already.
+  using TextHandler = std::function<std::string(const Visit&)>;
+  void addText(const std::string& method, const std::string& path, TextHandler handler);
 
   // For GET of everything else.
   void addPage(Handler handler) { page_ = std::move(handler); }

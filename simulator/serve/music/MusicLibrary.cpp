@@ -2,16 +2,13 @@
 
 #include <algorithm>
 #include <iostream>
-#include <nlohmann/json.hpp>
 
 #include "simulator/foundation/Unicode.h"
 #include "simulator/machine/Journal.h"
-#include "simulator/serve/Recording.h"
 
 namespace sim {
 
 namespace files = std::filesystem;
-using nlohmann::json;
 
 namespace {
 
@@ -49,16 +46,6 @@ std::optional<MusicFile> readInside(const files::path& folder, const files::path
   return readMusicFile(path, problem);
 }
 
-MusicFile restored(const json& saved) {
-  Track track;
-  track.title = saved.at("title").get<std::string>();
-  saved.at("artist").get_to(track.artist);
-  saved.at("album").get_to(track.album);
-  saved.at("length").get_to(track.length);
-  return {saved.at("path").get<std::string>(), saved.at("type").get<std::string>(),
-          std::move(track), saved.at("cover").get<bool>()};
-}
-
 std::string words(const Track& track) {
   const std::string text = ' ' + sim::quoted(*track.title) + ' ' + secondsText(track.length);
   return track.artist.empty() ? text : text + " by " + sim::quoted(track.artist);
@@ -76,23 +63,6 @@ MusicLibrary::MusicLibrary(const files::path& folder) {
     else
       leaveOut(named, problem);
   }
-}
-
-MusicLibrary::MusicLibrary(const json& saved) {
-  for (const json& each : saved) files_.push_back(restored(each));
-}
-
-json MusicLibrary::save() const {
-  json all = json::array();
-  for (const MusicFile& file : files_)
-    all.push_back({{"path", file.path.string()},
-                   {"type", file.mimeType},
-                   {"title", *file.track.title},
-                   {"artist", file.track.artist},
-                   {"album", file.track.album},
-                   {"length", file.track.length},
-                   {"cover", file.hasCover}});
-  return all;
 }
 
 const MusicFile* MusicLibrary::find(const std::string& id) const {

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <vector>
 
@@ -21,9 +20,6 @@ class MusicLibrary {
   // on standard error and left out; so is a link that leads out of the folder. Throws
   // std::filesystem::filesystem_error when there is no such folder.
   explicit MusicLibrary(const std::filesystem::path& folder);
-  // What save() gave: reading thousands of files takes its time.
-  explicit MusicLibrary(const nlohmann::json& saved);
-  nlohmann::json save() const;
 
   const std::vector<MusicFile>& files() const { return files_; }
   // nullptr when there is none.

@@ -3,7 +3,6 @@
 import { post } from "./requests.js";
 import { toast } from "../ui/toast.js";
 
-const restarts = new EventTarget(); // "restarting": the host's process begins anew
 const waiting = []; // {lines, resolve, reject}
 let busy = false;
 
@@ -17,9 +16,7 @@ function enqueue(entry) {
 
 async function send(entry) {
   try {
-    const answer = await post("api/command", { lines: entry.lines });
-    if (answer.restarts) restarts.dispatchEvent(new Event("restarting"));
-    entry.resolve(answer);
+    entry.resolve(await post("api/command", { lines: entry.lines }));
   } catch (error) {
     entry.reject(error);
   }
@@ -60,8 +57,6 @@ export async function perform(...lines) {
     return null;
   }
 }
-
-export const onRestart = (listener) => restarts.addEventListener("restarting", listener);
 
 // A word of a script line.
 export const quoted = (text) =>

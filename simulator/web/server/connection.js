@@ -4,13 +4,13 @@ import { parts } from "./state.js";
 
 const goneAfter = 2500; // milliseconds without an answer until the server counts as gone
 const retryEvery = 1000; // milliseconds
-const retrySoon = 150; // milliseconds: a server that restarts keeps its port open
+const retrySoon = 150; // milliseconds: at first, a connection may have been lost by chance
 
 export class Connection extends EventTarget {
   #state;
   #url;
   #gone = null;
-  status = "connecting"; // connecting, open, restarting, gone, refused
+  status = "connecting"; // connecting, open, gone, refused
 
   constructor(state, page) {
     super();
@@ -48,7 +48,7 @@ export class Connection extends EventTarget {
     // The browser has given up: what was answered is no stream. It does not say what it is.
     const isAnswered = source.readyState === EventSource.CLOSED;
     source.close(); // the browser would try again by itself, but only after seconds
-    if (this.status === "open") this.#become("restarting");
+    if (this.status === "open") this.#become("connecting");
     this.#gone ??= setTimeout(() => this.#become("gone"), goneAfter);
     if (isAnswered && (await isRefused())) this.#refuse();
     const isSlow = this.status === "gone" || this.status === "refused";
@@ -59,10 +59,5 @@ export class Connection extends EventTarget {
   #refuse() {
     this.#isThere();
     this.#become("refused");
-  }
-
-  // The host's process is about to begin anew.
-  expectRestart() {
-    if (this.status === "open") this.#become("restarting");
   }
 }

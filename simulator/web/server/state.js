@@ -4,6 +4,7 @@
 // What the server tells of, each by an event of that name; a snapshot has them all.
 export const parts = [
   "clock",
+  "life",
   "phone",
   "player",
   "setup",
@@ -21,6 +22,7 @@ export class PhoneState extends EventTarget {
   epoch = null;
   clock = { uptime: 0, wall: 0, speed: 1, paused: true };
   clockAt = performance.now();
+  life = { state: "running", doing: null, safeMode: false, report: null };
   phone = { host: "off", screenOn: true, locked: false, orientation: "portrait" };
   player = null;
   setup = { lines: [] };

@@ -1,4 +1,5 @@
-// A calm veil over the phone while the server restarts, is gone, or does not let this page in.
+// A calm veil over the phone while its host restarts, or the server is gone or does not let this
+// page in.
 import { h } from "./dom.js";
 
 const words = {
@@ -15,6 +16,7 @@ const words = {
 };
 
 export class Veil {
+  #state;
   #connection;
   #title = h("p", { class: "veil-title" });
   #more = h("p", { class: "veil-more" });
@@ -26,15 +28,19 @@ export class Veil {
     this.#more,
   );
 
-  constructor(connection, place) {
+  constructor(state, connection, place) {
+    this.#state = state;
     this.#connection = connection;
     place.append(this.#element);
     connection.addEventListener("status", () => this.#show());
+    for (const name of ["life", "snapshot"]) state.on(name, () => this.#show());
     this.#show();
   }
 
   #show() {
-    const { status } = this.#connection;
+    const isStarting = this.#state.life.state === "starting";
+    const status =
+      this.#connection.status === "open" && isStarting ? "restarting" : this.#connection.status;
     this.#element.hidden = status === "open";
     document.body.dataset.server = status;
     [this.#title.textContent, this.#more.textContent] = words[status] ?? ["", ""];

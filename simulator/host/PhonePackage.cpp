@@ -1,4 +1,4 @@
-#include "simulator/program/PhonePackage.h"
+#include "simulator/host/PhonePackage.h"
 
 namespace sim {
 

@@ -1,0 +1,84 @@
+#include "simulator/host/ScriptPlayer.h"
+
+#include <poll.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <iostream>
+
+#include "simulator/host/EndSignals.h"
+#include "simulator/machine/Journal.h"
+
+namespace sim {
+
+using nlohmann::json;
+
+namespace {
+
+constexpr double leastProcessorSeconds = 1;
+
+ScriptOutcome outcomeFrom(const json& last, int status) {
+  ScriptOutcome outcome;
+  last.at("done").get_to(outcome.status);
+  outcome.error = last.value("error", "");
+  outcome.line = last.value("line", std::size_t(0));
+  outcome.column = last.value("column", std::size_t(0));
+  // What is found wrong as a process exits, leaks for example, is wrong with the script, too.
+  if (outcome.status == 0) outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : 1;
+  return outcome;
+}
+
+}  // namespace
+
+Zygote& ScriptPlayer::zygoteFor(const std::string& script) {
+  const bool hasClasses = suitsRegisteredClasses(script);
+  auto& zygote = hasClasses ? withClasses_ : withoutClasses_;
+  if (!zygote)
+    zygote.emplace(hasClasses ? Zygote::Classes::registered : Zygote::Classes::none, main_);
+  return *zygote;
+}
+
+std::optional<Message> ScriptPlayer::lastMessage(HostProcess& host) const {
+  std::optional<Message> last;
+  std::array<pollfd, 2> watched{
+      {{host.channel().descriptor(), POLLIN, 0}, {endSignals_, POLLIN, 0}}};
+  for (;;) {
+    if (poll(watched.data(), watched.size(), -1) < 0 && errno != EINTR) return last;
+    if (watched[1].revents != 0) throw EndSignal(EndSignals::take(endSignals_));
+    if (watched[0].revents == 0) continue;
+    const bool isOpen = host.channel().fill();
+    while (auto message = host.channel().next()) last = std::move(message);
+    if (!isOpen) return last;
+  }
+}
+
+ScriptOutcome ScriptPlayer::play(ScriptJob job) {
+  Zygote& zygote = zygoteFor(job.text);
+  journal_.clear();
+  const bool isLimited = job.processorSeconds > 0;
+  for (json state;;) {
+    HostProcess host(zygote, asJson(job, state), journal_);
+    const auto last = lastMessage(host);
+    const HostResult result = host.end();
+    if (isLimited)
+      job.processorSeconds =
+          std::max(job.processorSeconds - result.processorSeconds, leastProcessorSeconds);
+    if (last && last->head.contains("done")) return outcomeFrom(last->head, result.status);
+    if (last) {
+      state = last->head.at("restart");
+      continue;
+    }
+    journal_.refresh();
+    ScriptOutcome outcome;
+    outcome.status = 1;
+    outcome.crash = reportOf(result.status, result.crash, journal_);
+    journal_.append({outcome.crash->uptime, journalLine(*outcome.crash)});
+    if (!job.options.quiet)
+      std::cout << formatted({outcome.crash->uptime, journalLine(*outcome.crash)}) << std::endl;
+    return outcome;
+  }
+}
+
+}  // namespace sim

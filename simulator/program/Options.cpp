@@ -13,8 +13,6 @@ const std::map<std::string, Action> actions = {
     {"commands", Action::commands}, {"--version", Action::version},
 };
 
-// Instead of --token, which everybody on the machine sees in the list of its processes.
-constexpr const char* tokenVariable = "DOZEWELL_TOKEN";
 constexpr std::size_t longestToken = 200;
 
 // Beside the program: where the build and the installation put it.
@@ -144,7 +142,8 @@ class Parser {
 
   void complete() {
     requireFiles();
-    if (const char* token = std::getenv(tokenVariable);
+    // Instead of --token, which everybody on the machine sees in the list of its processes.
+    if (const char* token = std::getenv("DOZEWELL_TOKEN");
         token != nullptr && options_.action == Action::serve && !options_.token)
       options_.token = tokenFrom(std::string(tokenVariable) + " in the environment", token);
     if (options_.root && options_.files.size() > 1)

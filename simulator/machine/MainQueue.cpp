@@ -10,19 +10,19 @@ MainQueue::Ticket MainQueue::add(Nanoseconds due, Task task) {
   const std::lock_guard lock(mutex_);
   const Ticket ticket = ++lastTicket_;
   // Clamped here, so that an entry due long ago does not overtake what already waits for now.
-  entries_.emplace(Key{std::max(due, clock_.uptime()), ticket}, std::move(task));
+  const Key key{std::max(due, clock_.uptime()), ticket};
+  places_.emplace(ticket, entries_.emplace(key, std::move(task)).first);
   return ticket;
 }
 
 void MainQueue::cancel(Ticket ticket) {
   Task forgotten;  // destroyed after the lock is given back: captures may cancel others
   const std::lock_guard lock(mutex_);
-  const auto found = std::find_if(entries_.begin(), entries_.end(), [ticket](const auto& entry) {
-    return entry.first.ticket == ticket;
-  });
-  if (found == entries_.end()) return;
-  forgotten = std::move(found->second);
-  entries_.erase(found);
+  const auto found = places_.find(ticket);
+  if (found == places_.end()) return;
+  forgotten = std::move(found->second->second);
+  entries_.erase(found->second);
+  places_.erase(found);
 }
 
 void MainQueue::clear() {
@@ -54,6 +54,7 @@ std::optional<MainQueue::Task> MainQueue::takeDue(Nanoseconds until) {
   const std::lock_guard lock(mutex_);
   if (entries_.empty() || entries_.begin()->first.due > until) return std::nullopt;
   auto entry = entries_.extract(entries_.begin());
+  places_.erase(entry.key().ticket);
   clock_.advanceTo(entry.key().due);
   return std::move(entry.mapped());
 }

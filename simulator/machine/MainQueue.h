@@ -8,6 +8,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 #include "simulator/machine/Clock.h"
@@ -45,11 +46,13 @@ class MainQueue {
     Ticket ticket;
     auto operator<=>(const Key&) const = default;
   };
+  using Entries = std::map<Key, Task>;
   std::optional<Task> takeDue(Nanoseconds until);
 
   Clock& clock_;
   mutable std::mutex mutex_;  // background threads may add
-  std::map<Key, Task> entries_;
+  Entries entries_;
+  std::unordered_map<Ticket, Entries::iterator> places_;  // of all entries
   Ticket lastTicket_ = 0;
 };
 

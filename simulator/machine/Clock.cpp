@@ -1,5 +1,6 @@
 #include "simulator/machine/Clock.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -17,6 +18,13 @@ Nanoseconds nanoseconds(double duration) {
 
 double seconds(Nanoseconds duration) {
   return double(duration) / double(nanosecondsPerSecond);
+}
+
+Nanoseconds deadline(Nanoseconds start, Nanoseconds distance) {
+  Nanoseconds sum = 0;
+  if (__builtin_add_overflow(start, distance, &sum))
+    return distance > 0 ? std::numeric_limits<Nanoseconds>::max() : 0;
+  return std::max<Nanoseconds>(sum, 0);
 }
 
 void Clock::advanceTo(Nanoseconds uptime) {

@@ -11,6 +11,13 @@ inline constexpr Nanoseconds nanosecondsPerSecond = 1'000'000'000;
 // Rounds to the nearest nanosecond.
 Nanoseconds nanoseconds(double seconds);
 double seconds(Nanoseconds duration);
+// `start` and a distance of either sign; between 0 and the last moment that the clock knows. What
+// began before the phone did has a negative start.
+Nanoseconds deadline(Nanoseconds start, Nanoseconds distance);
+
+// Time goes no further: 100 years after the phone's start, a third of what the clock knows.
+inline constexpr Nanoseconds latestUptime =
+    Nanoseconds(100) * 365 * 24 * 3600 * nanosecondsPerSecond;
 
 // Two readings of one time: uptime only ever moves forward with the main queue; the wall clock
 // follows it and can be set, as a user or the network may set it.

@@ -134,13 +134,14 @@ void Player::begin(std::size_t index, Nanoseconds when) {
 // Gapless: the next track starts where this one ended, even when the queue comes to it later,
 // as after the time in which the host was gone.
 void Player::trackDidEnd() {
-  begin(repeatsOne_ ? index_ : index_ + 1, startedAt_ + track()->length);
+  begin(repeatsOne_ ? index_ : index_ + 1, deadline(startedAt_, track()->length));
 }
 
 void Player::scheduleEnd() {
   phone_.queue.cancel(end_);
   end_ = 0;
-  if (playing_) end_ = phone_.queue.add(startedAt_ + track()->length, [this] { trackDidEnd(); });
+  if (playing_)
+    end_ = phone_.queue.add(deadline(startedAt_, track()->length), [this] { trackDidEnd(); });
 }
 
 void Player::changed() const {

@@ -70,7 +70,7 @@ double AnimationTiming::progress(Nanoseconds now) const {
 
 Nanoseconds AnimationTiming::end() const {
   if (repeats) return std::numeric_limits<Nanoseconds>::max();
-  return begin + nanoseconds(duration) * (autoreverses ? 2 : 1);
+  return deadline(begin, nanoseconds(duration * (autoreverses ? 2 : 1)));
 }
 
 void LayerAnimation::addTo(LayerValues& seen, Nanoseconds now) const {

@@ -130,6 +130,8 @@ json ServedPhone::changeTime(const TimeChange& change) {
   catchUp();
   // Where to is found out first: a wrong wish changes nothing.
   const Nanoseconds uptime = destination(change);
+  if (uptime > latestUptime)
+    throw RequestError(409, "time goes no further than 100 years after the phone's start");
   if (uptime > session_.phone.clock.uptime()) jumpTo(uptime);
   const Moment now = steady_clock::now();
   if (change.speed) pace_.setSpeed(*change.speed, now);
@@ -146,7 +148,7 @@ Nanoseconds ServedPhone::destination(const TimeChange& change) const {
   const bool jumps = change.step || change.advance || change.to || change.beforeEnd;
   if (!jumps) return now;
   if (session_.state == HostState::off) throw RequestError(409, "time passes only after boot");
-  if (change.advance) return now + nanoseconds(*change.advance);
+  if (change.advance) return deadline(now, nanoseconds(*change.advance));
   if (change.to) {
     if (nanoseconds(*change.to) < now)
       throw RequestError(409, "time only moves forward: it is " + secondsText(now) + " already");
@@ -161,7 +163,8 @@ Nanoseconds ServedPhone::destination(const TimeChange& change) const {
   try {
     if (valueAt("Dozewell2Manager.sharedInstance.timerModeIsRunning").boolean() == true) {
       const auto left = valueAt("Dozewell2Manager.sharedInstance.getTimerRemainingTime").number();
-      return now + nanoseconds(std::max(double(left.value_or(0)) - *change.beforeEnd, 0.0));
+      return deadline(now,
+                      nanoseconds(std::max(double(left.value_or(0)) - *change.beforeEnd, 0.0)));
     }
   } catch (const ScriptError&) {
     // A phone without the extension, or a dead one: there is no timer.

@@ -46,6 +46,16 @@ TEST(Nanoseconds, RoundToTheNearest) {
   EXPECT_EQ(nanoseconds(61), 61 * nanosecondsPerSecond);
 }
 
+TEST(Deadline, SaturatesAtBothEndsOfTime) {
+  constexpr auto most = std::numeric_limits<Nanoseconds>::max();
+  EXPECT_EQ(deadline(5, 3), 8);
+  EXPECT_EQ(deadline(most - 1, 5), most);
+  EXPECT_EQ(deadline(5, most), most);
+  EXPECT_EQ(deadline(5, -most), 0);
+  EXPECT_EQ(deadline(-5, 8), 3);
+  EXPECT_EQ(deadline(-5, -most), 0);
+}
+
 TEST(Nanoseconds, SaturateInsteadOfOverflowing) {
   constexpr auto most = std::numeric_limits<Nanoseconds>::max();
   EXPECT_EQ(nanoseconds(1e300), most);

@@ -35,10 +35,16 @@ void boot(Arguments& arguments) {
   launchHost(session);
 }
 
+// Before anything changes.
+void requireTime(Nanoseconds uptime) {
+  if (uptime > latestUptime)
+    throw ScriptError(0, "time goes no further than 100 years after the phone's start");
+}
+
 void advance(Arguments& arguments) {
   const Nanoseconds duration = arguments.duration("a duration");
   arguments.finish();
-  advanceTo(Session::current().phone.clock.uptime() + duration);
+  advanceTo(deadline(Session::current().phone.clock.uptime(), duration));
 }
 
 void advanceToUptime(Arguments& arguments) {
@@ -102,8 +108,10 @@ void endInOrder(Session& session) {
 void respring(Arguments& arguments) {
   Session& session = Session::current();
   Nanoseconds relaunchAt = session.phone.clock.uptime();
-  if (arguments.takeKeyword("after")) relaunchAt += arguments.duration("a duration");
+  if (arguments.takeKeyword("after"))
+    relaunchAt = deadline(relaunchAt, arguments.duration("a duration"));
   arguments.finish();
+  requireTime(relaunchAt);
   if (session.state == HostState::off) throw ScriptError(0, "respring belongs after boot");
   if (session.state == HostState::dead) return relaunchHost(relaunchAt);
   endInOrder(session);
@@ -113,6 +121,7 @@ void respring(Arguments& arguments) {
 }  // namespace
 
 void advanceTo(Nanoseconds uptime) {
+  requireTime(uptime);
   Session& session = Session::current();
   session.advanceUntil = uptime;
   try {

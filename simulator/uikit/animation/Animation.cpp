@@ -47,7 +47,7 @@ void setAnimationsEnabled(bool enabled) {
 AnimationTiming timingOf(const AnimationParameters& parameters) {
   AnimationTiming timing;
   timing.group = ++animations().groupsBegun;
-  timing.begin = Phone::current().clock.uptime() + nanoseconds(parameters.delay);
+  timing.begin = deadline(Phone::current().clock.uptime(), nanoseconds(parameters.delay));
   timing.duration = parameters.duration;
   timing.curve = curveOf(parameters);
   timing.repeats = (parameters.options & animation::repeat) != 0;

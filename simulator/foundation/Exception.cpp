@@ -31,6 +31,12 @@ void requireElement(const char* collection, objc::Object element, std::size_t in
                                                    std::to_string(index) + "]");
 }
 
+void raiseWrongClass(const char* selector, objc::Object argument, const char* wanted) {
+  raiseException("NSInvalidArgumentException",
+                 std::string(selector) + " expected an object of class " + wanted +
+                     ", found one of class " + object_getClassName(argument.get()));
+}
+
 std::string addressDescription(objc::Object object) {
   std::array<char, 24> address;
   std::snprintf(address.data(), address.size(), ": %p>", static_cast<void*>(object.get()));

@@ -19,6 +19,10 @@ std::string methodName(objc::Object receiver, const char* selector);
 void requireObject(objc::Object receiver, const char* selector, objc::Object argument);
 void requireElement(const char* collection, objc::Object element, std::size_t index);
 
+// Raises for an argument of a class that the method cannot use: the platform fails there, too, with
+// the first message that the argument does not know.
+[[noreturn]] void raiseWrongClass(const char* selector, objc::Object argument, const char* wanted);
+
 // "<NSArray: 0x55d0c8>"
 std::string addressDescription(objc::Object object);
 

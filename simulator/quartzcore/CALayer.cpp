@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "simulator/coregraphics/CGColor.h"
+#include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/Values.h"
@@ -142,6 +143,16 @@ struct LayerCount {
   unsigned long made = 0;
 };
 
+void requirePlaceBelow(Object above, const char* selector, Object layer) {
+  if (!isA<CALayer>(layer)) raiseWrongClass(selector, layer, "CALayer");
+  while (above && above != layer)
+    above =
+        CALayer::of(above).superlayer ? CALayer::of(above).superlayer : CALayer::of(above).masked;
+  if (above)
+    raiseException("CALayerInvalid", std::string("layer <") + object_getClassName(layer.get()) +
+                                         "> is a part of cycle in its layer tree");
+}
+
 // The whole of what was there goes first.
 void setSublayers(Object self, Object layers) {
   const auto before = CALayer::of(self).children;
@@ -196,10 +207,21 @@ void CALayer::removeAllAnimations() {
 
 CALayer::~CALayer() {
   for (const auto& child : children) of(child.get()).superlayer = nullptr;
+  if (mask) of(mask.get()).masked = nullptr;
+}
+
+void CALayer::setMask(Object layer) {
+  if (layer) requirePlaceBelow(Object(self()), "setMask:", layer);
+  if (mask) of(mask.get()).masked = nullptr;
+  const auto kept = objc::retain(layer);  // another layer's mask until now, maybe
+  if (layer && of(layer).masked) of(of(layer).masked).mask = nullptr;
+  mask = kept;
+  if (layer) of(layer).masked = Object(self());
 }
 
 void CALayer::insertSublayer(Object layer, unsigned index) {
-  if (!layer || layer.get() == self()) return;
+  if (!layer) return;
+  requirePlaceBelow(Object(self()), "addSublayer:", layer);
   const auto kept = objc::retain(layer);  // the superlayer it has may own it alone
   of(layer).removeFromSuperlayer();
   children.insert(children.begin() + std::min<long>(index, long(children.size())), kept);
@@ -250,7 +272,8 @@ void CALayer::registerClass() {
       .property<"masksToBounds", &CALayer::masksToBounds>()
       .property<"geometryFlipped", &CALayer::geometryFlipped>()
       .readonlyProperty<"isGeometryFlipped", &CALayer::geometryFlipped>()
-      .property<"mask", &CALayer::mask>()
+      .readonlyProperty<"mask", &CALayer::mask>()
+      .method<"setMask:", &CALayer::setMask>()
       .readonlyProperty<"backgroundColor", &CALayer::backgroundColor>()
       .method<"setBackgroundColor:", &setBackgroundColor>()
       .property<"contents", &CALayer::contents>()

@@ -20,6 +20,7 @@ struct CALayer : objc::Implementation<CALayer> {
   objc::Strong<objc::Object> contents;
   objc::Strong<objc::Object> name;  // NSString
   objc::Strong<objc::Object> mask;  // CALayer in this layer's coordinates; its alpha cuts this one
+  objc::Object masked;              // not owned: the layer that this one masks, which clears it
   objc::Strong<objc::Object> states;            // NSArray of CAState; nil: none
   objc::Strong<objc::Object> stateTransitions;  // NSArray of CAStateTransition; nil: none
   // What key-value coding has stored for keys without accessors: a layer keeps any.
@@ -53,6 +54,8 @@ struct CALayer : objc::Implementation<CALayer> {
   // Moves the layer from the superlayer that it has; an index past the end means on top.
   void insertSublayer(objc::Object layer, unsigned index);
   void removeFromSuperlayer();
+  // A layer masks one layer at most: the one that it was given to last.
+  void setMask(objc::Object layer);
   objc::Object stateWithName(objc::Object name) const;  // nil when there is none
 
   static void registerClass();

@@ -327,6 +327,24 @@ TEST_F(Loading, NamesAbsentClassesAndUsesTheirFallbacks) {
   EXPECT_TRUE(isKindOf(element(load(nib::write(archive)), 0), "UIView"));
 }
 
+TEST_F(Loading, RefusesWhatIsNoConstraint) {
+  nib::Graph graph;
+  nib::Node* view = graph.make("UIView");
+  view->setObject("UIViewAutolayoutConstraints", graph.array({graph.make("NSArray")}));
+  EXPECT_DEATH(load(layoutAround(graph, view)),
+               "expected an object of class NSLayoutConstraint, found one of class NSArray");
+}
+
+TEST_F(Loading, RefusesConstraintsOfWhatIsNoView) {
+  nib::Graph graph;
+  nib::Node* view = graph.make("UIView");
+  nib::Node* constraint = graph.make("NSLayoutConstraint");
+  constraint->setObject("NSFirstItem", graph.make("NSArray"));
+  view->setObject("UIViewAutolayoutConstraints", graph.array({constraint}));
+  EXPECT_DEATH(load(layoutAround(graph, view)),
+               "expected an object of class UIView, found one of class NSArray");
+}
+
 // What an initWithCoder: finds under keys of every type.
 struct CoderProbe : objc::Implementation<CoderProbe> {
   static inline std::string seen;

@@ -106,6 +106,12 @@ TEST_F(Alerts, LongTitlesGoBelowEachOtherAndCancelLast) {
                                                           objc::Block<void()>(nullptr));
 }
 
+TEST_F(Alerts, NeedActions) {
+  const Object alert = send<Object, "alertControllerWithTitle:message:preferredStyle:">(
+      cls("UIAlertController"), string("Title"), string("Text"), 1L);
+  EXPECT_DEATH((send<void, "addAction:">(alert, Object())), "addAction:\\]: object cannot be nil");
+}
+
 TEST_F(Alerts, TheirButtonsCanBeTouched) {
   const auto window = shownWindow();
   const AlertView& view = AlertView::of(send<Object, "view">(show(window)));

@@ -132,5 +132,41 @@ TEST_F(HierarchyDeathTest, AViewIsNotItsOwnSubview) {
   EXPECT_DEATH(add(child, view), "subview of its own subview");
 }
 
+TEST_F(HierarchyDeathTest, ALayerIsNotBelowItself) {
+  const auto layer = make("UIView"), child = make("UIView");
+  const Object above = send<Object, "layer">(layer.get()),
+               below = send<Object, "layer">(child.get());
+  send<void, "addSublayer:">(above, below);
+  const char* const problem =
+      "CALayerInvalid.*layer <CALayer> is a part of cycle in its layer tree";
+  EXPECT_DEATH((send<void, "addSublayer:">(below, below)), problem);
+  EXPECT_DEATH((send<void, "addSublayer:">(below, above)), problem);
+  EXPECT_DEATH((send<void, "setMask:">(below, above)), problem);
+  send<void, "removeFromSuperlayer">(below);
+  send<void, "setMask:">(above, below);
+  EXPECT_DEATH((send<void, "addSublayer:">(below, above)), problem);
+}
+
+TEST_F(Hierarchy, AMaskIsThatOfOneLayer) {
+  const auto one = make("UIView"), other = make("UIView"), cut = make("UIView");
+  const auto layerOf = [](const auto& view) { return send<Object, "layer">(view.get()); };
+  send<void, "setMask:">(layerOf(one), layerOf(cut));
+  send<void, "setMask:">(layerOf(other), layerOf(cut));
+  EXPECT_FALSE((send<Object, "mask">(layerOf(one))));
+  EXPECT_TRUE((send<Object, "mask">(layerOf(other))));
+  send<void, "setMask:">(layerOf(other), Object());
+  send<void, "addSublayer:">(layerOf(cut), layerOf(other));  // it masks nothing any more
+}
+
+TEST_F(HierarchyDeathTest, OnlyViewsAndConstraintsHaveAPlaceThere) {
+  const auto view = make("UIView"), stack = make("UIStackView");
+  const Object text = string("no view");
+  EXPECT_DEATH(add(view, text), "addSubview: expected an object of class UIView, found one of");
+  EXPECT_DEATH((send<void, "addArrangedSubview:">(stack.get(), text)), "of class UIView, found");
+  EXPECT_DEATH((send<void, "addSublayer:">(send<Object, "layer">(view.get()), text)),
+               "of class CALayer, found");
+  EXPECT_DEATH((send<void, "addConstraint:">(view.get(), text)), "NSLayoutConstraint, found");
+}
+
 }  // namespace
 }  // namespace sim

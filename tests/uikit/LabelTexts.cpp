@@ -64,6 +64,12 @@ TEST_F(LabelTexts, OnlyAsManyLinesAsFit) {
   EXPECT_TRUE(text.lines[1].text.ends_with("…")) << text.lines[1].text;
 }
 
+TEST_F(LabelTexts, TextOfNoHeightFitsAnywhere) {
+  send<void, "setFont:">(label.get(), send<Object, "systemFontOfSize:">(cls("UIFont"), 0.0));
+  send<void, "setNumberOfLines:">(label.get(), 2L);
+  EXPECT_EQ(set("one\ntwo\nthree").lines.size(), 2U);
+}
+
 TEST_F(LabelTexts, NaturallyBeginsWhereTheInterfaceDoes) {
   EXPECT_EQ(set("5").alignment, HorizontalAlignment::left);
   EXPECT_FALSE(set("5").isRightToLeft);

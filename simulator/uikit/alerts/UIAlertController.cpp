@@ -1,5 +1,6 @@
 #include "simulator/uikit/alerts/UIAlertController.h"
 
+#include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/standin/StandIn.h"
@@ -36,6 +37,7 @@ Object UIAlertController::make(id cls, Object title, Object message, long style)
 }
 
 void UIAlertController::addAction(Object action) {
+  requireObject(Object(self()), "addAction:", action);
   actions.push_back(objc::retain(action));
 }
 

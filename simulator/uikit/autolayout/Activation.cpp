@@ -4,6 +4,7 @@
 
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
@@ -21,11 +22,22 @@ struct Activations {
   unsigned long count = 0;
 };
 
+// A corrupt layout may bring anything.
+void requireViews(const NSLayoutConstraint& constraint) {
+  for (const auto* item : {&constraint.firstItem, &constraint.secondItem}) {
+    const auto loaded = item->load();
+    if (loaded && !isA<UIView>(loaded)) raiseWrongClass("addConstraint:", loaded, "UIView");
+  }
+}
+
 }  // namespace
 
 void addConstraint(Object view, Object constraint) {
   if (!constraint) return;
+  if (!isA<NSLayoutConstraint>(constraint))
+    raiseWrongClass("addConstraint:", constraint, "NSLayoutConstraint");
   NSLayoutConstraint& state = NSLayoutConstraint::of(constraint);
+  requireViews(state);
   const auto kept = objc::retain(constraint);
   const auto before = state.owner.load();
   if (before == view) return;
@@ -50,6 +62,7 @@ void setConstraintActive(Object constraint, bool active) {
   NSLayoutConstraint& state = NSLayoutConstraint::of(constraint);
   if (state.isActive() == active) return;
   if (!active) return removeConstraint(state.owner.load().get(), constraint);
+  requireViews(state);
   const auto first = state.firstItem.load(), second = state.secondItem.load();
   const Object owner = second ? commonAncestor(first, second) : first;
   if (!owner)

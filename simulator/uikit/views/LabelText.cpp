@@ -49,8 +49,8 @@ LabelText labelText(const UILabel& label) {
   set.lines = typeset(shown, set.style, bounds.size.width, label.numberOfLines);
   // As many as fit, but always one.
   const double height = set.style.lineHeight();
-  const auto fitting = std::size_t(std::max(1.0, (bounds.size.height + 1) / height));
-  if (set.lines.size() > fitting)
+  const double fitting = std::max(1.0, (bounds.size.height + 1) / height);
+  if (double(set.lines.size()) > fitting)
     set.lines = typeset(shown, set.style, bounds.size.width, long(fitting));
   set.alignment = alignmentOf(label);
   set.isRightToLeft = isRightToLeft(shown, viewIsRightToLeft(objc::Object(label.self())));

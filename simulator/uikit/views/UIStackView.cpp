@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "simulator/foundation/Exception.h"
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/autolayout/LayoutEngine.h"
@@ -36,6 +38,7 @@ Object UIStackView::arrangedSubviews() const {
 
 void UIStackView::insertArranged(Object view, unsigned long index) {
   if (!view) return;
+  if (!isA<UIView>(view)) raiseWrongClass("addArrangedSubview:", view, "UIView");
   const auto kept = objc::retain(view);
   std::erase_if(arranged, [view](const auto& each) { return each.get() == view; });
   arranged.insert(arranged.begin() + long(std::min<std::size_t>(index, arranged.size())), kept);

@@ -134,6 +134,7 @@ std::size_t indexOfSubview(Object parent, Object view) {
 
 void insertSubview(Object parent, Object view, std::size_t index) {
   if (!view) return;
+  if (!isA<UIView>(view)) raiseWrongClass("addSubview:", view, "UIView");
   if (view == parent) raiseException("NSInvalidArgumentException", "Can't add self as subview");
   if (isDescendant(parent, view))
     raiseException("NSInvalidArgumentException", "A view cannot be a subview of its own subview");

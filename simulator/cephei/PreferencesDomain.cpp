@@ -8,13 +8,14 @@
 #include "simulator/cephei/PreferencesFile.h"
 #include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/FileContent.h"
 
 namespace sim {
 namespace {
 
 // nil, with the file set aside, when its content is no dictionary.
 objc::Object readDictionary(const std::filesystem::path& file) {
-  if (!std::filesystem::exists(file)) return nullptr;
+  if (!isThere(file)) return nullptr;
   std::string error;
   const objc::Object content = readPropertyList(file, &error);
   if (isKindOf(content, "NSDictionary")) return content;

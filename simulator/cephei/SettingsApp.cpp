@@ -4,12 +4,13 @@
 
 #include "simulator/cephei/PreferencesFile.h"
 #include "simulator/foundation/PropertyListNode.h"
+#include "simulator/machine/FileContent.h"
 
 namespace sim {
 namespace {
 
 PropertyListNode readDictionary(const std::filesystem::path& file) {
-  if (std::filesystem::exists(file)) {
+  if (isThere(file)) {
     std::string error;
     PropertyListNode content = loadNode(file, &error);
     if (content && plist_get_node_type(content.get()) == PLIST_DICT) return content;

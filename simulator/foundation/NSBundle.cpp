@@ -22,6 +22,11 @@ std::string withoutSlashes(std::string path) {
   return path;
 }
 
+bool isFolder(const std::string& path) {
+  std::error_code problem;  // such as a link to itself
+  return std::filesystem::is_directory(Phone::current().file(path), problem);
+}
+
 Strong<Object> makeAt(const std::string& path) {
   Strong<Object> made = NSBundle::make();
   NSBundle::of(made.get()).path = path;
@@ -36,7 +41,7 @@ struct Bundles {
 
 Object bundleWithPath(Object path) {
   const std::string where = withoutSlashes(text(path));
-  if (where.empty() || !std::filesystem::is_directory(Phone::current().file(where))) return nullptr;
+  if (where.empty() || !isFolder(where)) return nullptr;
   objc::Weak<Object>& known = Phone::current().state<Bundles>().others[where];
   Strong<Object> bundle = known.load();
   if (!bundle) {
@@ -56,8 +61,7 @@ Object bundleForClass(Class) {
 
 Object initWithPath(Object self, Object path) {
   NSBundle::of(self).path = withoutSlashes(text(path));
-  const auto folder = Phone::current().file(NSBundle::of(self).path);
-  return path && std::filesystem::is_directory(folder) ? self : failInit(self.get());
+  return path && isFolder(NSBundle::of(self).path) ? self : failInit(self.get());
 }
 
 Object bundlePath(Object self) {

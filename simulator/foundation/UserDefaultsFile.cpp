@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <system_error>
 
+#include "simulator/machine/FileContent.h"
 #include "simulator/machine/Phone.h"
 
 namespace sim {
@@ -11,7 +12,7 @@ namespace {
 // Beside the file, under a name that is free: what is set aside stays.
 std::filesystem::path freeName(const std::filesystem::path& file) {
   std::filesystem::path name = file.string() + ".corrupt";
-  for (int count = 2; std::filesystem::exists(name); ++count)
+  for (int count = 2; isThere(name); ++count)
     name = file.string() + ".corrupt-" + std::to_string(count);
   return name;
 }
@@ -36,7 +37,7 @@ std::filesystem::path userDefaultsFile() {
 
 PropertyListNode loadUserDefaults() {
   const std::filesystem::path file = userDefaultsFile();
-  if (!std::filesystem::exists(file)) return PropertyListNode(plist_new_dict());
+  if (!isThere(file)) return PropertyListNode(plist_new_dict());
   std::string problem;
   PropertyListNode root = loadNode(file, &problem);
   if (root && plist_get_node_type(root.get()) == PLIST_DICT) return root;

@@ -174,6 +174,17 @@ TEST_F(NSUserDefaultsTest, setAsideAFileThatCannotBeRead) {
   EXPECT_EQ(readFile(std::string(file) + ".corrupt-2"), "garbage");
 }
 
+TEST_F(NSUserDefaultsTest, setAsideALinkToItself) {
+  const auto link = phone.file(file);
+  std::filesystem::create_directories(link.parent_path());
+  std::filesystem::create_symlink(link, link);
+  EXPECT_EQ(value("a"), "nil");
+  set(number(1L), "a");
+  synchronize();
+  EXPECT_EQ(stored("a"), "1");
+  EXPECT_TRUE(std::filesystem::is_symlink(link.string() + ".corrupt"));
+}
+
 TEST_F(NSUserDefaultsTest, reportAFileThatCannotBeWritten) {
   writeFile("/var/mobile/Library/Preferences", "a file where the folder should be");
   testing::internal::CaptureStderr();

@@ -136,6 +136,16 @@ TEST_F(Preferences, AnUnreadableFileIsSetAside) {
   EXPECT_EQ(notation(storedValue("flag")), "YES");
 }
 
+TEST_F(Preferences, ALinkToItselfIsSetAside) {
+  std::filesystem::create_directories(file().parent_path());
+  std::filesystem::create_symlink(file(), file());
+  boot();
+  const auto preferences = open();
+  EXPECT_TRUE(std::filesystem::is_symlink(file().string() + ".corrupt"));
+  objc::send<void, "setBool:forKey:">(preferences.get(), true, string("flag"));
+  EXPECT_EQ(notation(storedValue("flag")), "YES");
+}
+
 TEST_F(Preferences, TheLibraryMayBeMissing) {
   phone.setup.missingClasses.insert("HBPreferences");
   boot();

@@ -53,6 +53,15 @@ TEST_F(SettingsAppTest, AnUnreadableFileIsSetAside) {
   EXPECT_EQ(notation(storedValue("one")), "1");
 }
 
+TEST_F(SettingsAppTest, ALinkToItselfIsSetAside) {
+  std::filesystem::create_directories(file().parent_path());
+  std::filesystem::create_symlink(file(), file());
+  writeSetting(file(), "one", 1L);
+  EXPECT_TRUE(std::filesystem::is_symlink(file().string() + ".corrupt"));
+  boot();
+  EXPECT_EQ(notation(storedValue("one")), "1");
+}
+
 TEST_F(SettingsAppTest, AFileThatCannotBeWrittenIsAnError) {
   // A file is where its folder would be.
   const auto folder = file().parent_path();

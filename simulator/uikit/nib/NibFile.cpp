@@ -17,11 +17,12 @@ using objc::Object;
 
 // A layout may be a folder with a file for each range of versions.
 std::filesystem::path layoutFile(const std::filesystem::path& path) {
-  if (!std::filesystem::is_directory(path)) return path;
+  std::error_code problem;  // such as a link to itself
+  if (!std::filesystem::is_directory(path, problem)) return path;
   for (const char* name :
        {"objects-14.0+.nib", "objects-13.0+.nib", "objects-12.3+.nib", "objects-11.0+.nib",
         "objects-9.1+.nib", "objects-8.0+.nib", "objects.nib"})
-    if (std::filesystem::exists(path / name)) return path / name;
+    if (std::filesystem::exists(path / name, problem)) return path / name;
   return path / "runtime.nib";
 }
 

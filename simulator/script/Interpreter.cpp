@@ -10,6 +10,18 @@ namespace sim {
 namespace {
 
 constexpr std::string_view endOfSetup = "boot";
+constexpr int deepest = 100;  // keeps commands within commands from the end of the stack
+
+class Deeper {
+ public:
+  explicit Deeper(int& depth) : depth_(++depth) {}
+  ~Deeper() { --depth_; }
+  Deeper(const Deeper&) = delete;
+  Deeper& operator=(const Deeper&) = delete;
+
+ private:
+  int& depth_;
+};
 
 }  // namespace
 
@@ -65,6 +77,11 @@ void Interpreter::run(const ScriptLine& line) {
   if (known == nullptr)
     throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
   const Command& command = *known;
+  const Deeper deeper(depth_);
+  if (depth_ > deepest)
+    throw ScriptParseError(line.number,
+                           {name.column, "expected at most " + std::to_string(deepest) +
+                                             " commands within each other"});
   session_.lineNumber = line.number;
   nameChecks().system.beginLine(line.number);
   nameChecks().all.beginLine(line.number);

@@ -35,6 +35,7 @@ class Interpreter {
   Session& session_;
   const CommandTable& table_;
   std::vector<ScriptLine> lines_;
+  int depth_ = 0;  // of the command that runs within others
 };
 
 }  // namespace sim

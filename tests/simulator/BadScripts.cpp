@@ -39,12 +39,31 @@ TABLE(Lines, Mistake{"Unknown", "boot\n  bot", "SCRIPT:2:3: expected a command, 
               "SCRIPT:2:8: expected a duration such as 250ms, 10s, 5m or 8h"},
       Mistake{"TooEarly", "advance 1s", "SCRIPT:1:1: advance belongs after boot"},
       Mistake{"TooLate", "boot\nios 15", "SCRIPT:2:1: ios belongs before boot"},
+      Mistake{"NestedTooDeep",
+              [] {
+                std::string script = "boot\n";
+                for (int depth = 0; depth < 7200; ++depth) script += "repeat 1 ";
+                return script + "advance 1s";
+              }(),
+              "SCRIPT:2:901: expected at most 100 commands within each other"},
       Mistake{"BootTwice", "boot\nboot", "SCRIPT:2:1: boot belongs before boot"});
+
+constexpr const char* beyondTime = "time goes no further than 100 years after the phone's start";
+
+TABLE(EndOfTime, Mistake{"AtOnce", "boot\nadvance 1e9h", std::string("SCRIPT:2:1: ") + beyondTime},
+      Mistake{"InTwoSteps", "boot\nadvance 1s\nadvance 876000h",
+              std::string("SCRIPT:3:1: ") + beyondTime},
+      Mistake{"To", "boot\nadvance-to 1e300", std::string("SCRIPT:2:1: ") + beyondTime},
+      Mistake{"Respring", "boot\nrespring after 1e300h", std::string("SCRIPT:2:1: ") + beyondTime});
 
 TABLE(Setup, Mistake{"Version", "ios x", "SCRIPT:1:5: expected a version such as 15.4, found x"},
       Mistake{"VersionDots", "ios 15..4",
               "SCRIPT:1:5: expected a version such as 15.4, found 15..4"},
       Mistake{"Locale", "locale \"\"", "SCRIPT:1:8: expected a locale such as en_US, found "},
+      Mistake{"MissingFoundation", "missing NSArray",
+              "SCRIPT:1:9: the phone itself cannot do without NSArray"},
+      Mistake{"MissingTouch", "missing UITouch\nboot",
+              "SCRIPT:1:9: the phone itself cannot do without UITouch"},
       Mistake{"File", "file a b", "SCRIPT:1:6: expected an absolute path, found a"},
       Mistake{"Encoding", "declare f \"vz\"",
               "SCRIPT:1:11: the encoding \"vz\" has a type that no method passes by value: z"});
@@ -134,6 +153,14 @@ TABLE(Functions,
               "SCRIPT:2:17: expected a variable, sampleSum is none"},
       Mistake{"WiderVariable", "boot\nexpect-variable sampleFlag {Wide=dddddddddddddddd} 1",
               "SCRIPT:2:17: sampleFlag has fewer bytes than the type {Wide=dddddddddddddddd}"},
+      Mistake{"VariableThatIsNoObject", "boot\nexpect-variable sampleRatio @ nil",
+              "SCRIPT:2:29: sampleRatio holds no value of the type @"},
+      Mistake{"VariableThatIsNoText", "boot\nexpect-variable sampleRatio * nil",
+              "SCRIPT:2:29: sampleRatio holds no value of the type *"},
+      Mistake{"VariableThatIsNoSelector", "boot\nexpect-variable sampleRatio : nil",
+              "SCRIPT:2:29: sampleRatio holds no value of the type :"},
+      Mistake{"VariableWithoutAnObjectInIt", "boot\nexpect-variable sampleRatio {A=@} {1}",
+              "SCRIPT:2:29: sampleRatio holds no value of the type {A=@}"},
       Mistake{"OtherTypes", "declare timeFormatted \"v@\"",
               "SCRIPT:1:23: timeFormatted has the types \"@i\""},
       Mistake{"TypesOfBefore", "declare f \"v\"\ndeclare f \"v\"\ndeclare f \"vi\"",

@@ -76,6 +76,24 @@ TEST(Program, AScriptThatIsNotThere) {
             "/tmp: is a folder, not a script");
 }
 
+TEST(Program, AScriptWithoutAnEnd) {
+  EXPECT_EQ(firstLine(runSimulator("play --no-tweak /dev/zero").errors),
+            "/dev/zero: File too large");
+  EXPECT_EQ(firstLine(runSimulator("serve --no-tweak --script /dev/zero").errors),
+            "dozewell-simulator: /dev/zero: File too large");
+}
+
+TEST(Program, OutputThatCannotBeWrittenIsAFailure) {
+  const std::string script = writeFile("full.phone", "boot\nget NSThread.isMainThread\n");
+  for (const std::string& words :
+       {"play --no-tweak '" + script + "'", std::string("commands"), std::string("fidelity")}) {
+    // The redirection that comes last counts.
+    const Outcome outcome = runSimulator(words + " | cat > /dev/null; '" SIMULATOR "' " + words +
+                                         " > /dev/full; test $? = 1 && echo refused");
+    EXPECT_EQ(outcome.output, "refused\n") << words;
+  }
+}
+
 TEST(Program, AnExtensionThatDoesNotLoad) {
   const std::string script = writeFile("boot.phone", "boot\n");
   const Outcome outcome = runSimulator("play --tweak /nonexistent.so '" + script + "'");

@@ -5,6 +5,7 @@
 #include "simulator/script/commands/PhoneCommands.h"
 #include "simulator/script/values/Invocation.h"
 #include "simulator/script/values/Literal.h"
+#include "simulator/script/values/Pointers.h"
 
 namespace sim {
 namespace {
@@ -57,12 +58,15 @@ TypeEncoding readType(Arguments& arguments) {
 
 void expectVariable(Arguments& arguments) {
   const Word name = arguments.word("an exported variable");
+  const std::size_t typeColumn = arguments.atEnd() ? 0 : arguments.peek()->column;
   const TypeEncoding type = readType(arguments);
   const Literal expected = readLiteral(arguments, "a value");
   const double tolerance = readTolerance(arguments);
   arguments.finish();
   Value found(type);
   std::memcpy(found.bytes(), exportedVariable(name, type), type.size());
+  if (!hasPlausiblePointers(type, found.bytes()))
+    throw ScriptError(typeColumn, name.text + " holds no value of the type " + type.text);
   found.keepObject();
   requireMatch(found, expected, tolerance, name.text);
 }

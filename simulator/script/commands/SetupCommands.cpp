@@ -69,12 +69,22 @@ void requireStandIn(const Word& cls, const std::optional<Word>& member) {
                                           didYouMean(member->text, members));
 }
 
+// What the simulated phone itself is made of, and dies without.
+constexpr std::string_view indispensable[] = {
+    "CAGradientLayer", "NSArray",        "NSDate",
+    "NSDictionary",    "NSMutableArray", "NSMutableDictionary",
+    "NSNotification",  "NSNumber",       "NSObject",
+    "NSSet",           "NSString",       "NSValue",
+    "UITouch"};
+
 void missing(Arguments& arguments) {
   if (Session::current().host.isRegistered())
     throw ScriptError(0, "what is missing must be said by a line of its own");
   const Word cls = arguments.word("the name of a class");
   std::optional<Word> member;
   if (arguments.atEnd()) {
+    if (std::ranges::find(indispensable, cls.text) != std::end(indispensable))
+      throw ScriptError(cls.column, "the phone itself cannot do without " + cls.text);
     setup().missingClasses.insert(cls.text);
   } else {
     member = arguments.word("a selector");

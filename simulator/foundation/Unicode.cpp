@@ -105,6 +105,11 @@ std::u16string lowerCase(std::u16string_view units) {
   return mapped(units, u_strToLower);
 }
 
+std::string_view withoutByteOrderMark(std::string_view utf8) {
+  constexpr std::string_view mark = "\xEF\xBB\xBF";
+  return utf8.starts_with(mark) ? utf8.substr(mark.size()) : utf8;
+}
+
 bool isNewline(char16_t unit) {
   return (unit >= 0x0a && unit <= 0x0d) || unit == 0x85 || unit == 0x2028 || unit == 0x2029;
 }

@@ -23,6 +23,9 @@ std::string utf8Of(unsigned long scalar);
 // How many bytes from the start are well-formed UTF-8: no surrogates, no over-long forms.
 std::size_t validUtf8Prefix(std::string_view bytes);
 
+// Some editors put one before a text.
+std::string_view withoutByteOrderMark(std::string_view utf8);
+
 // The code points of well-formed UTF-8.
 std::size_t characterCount(std::string_view utf8);
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "simulator/foundation/Unicode.h"
 #include "simulator/machine/FileContent.h"
 #include "simulator/machine/Journal.h"
 #include "simulator/machine/NumberReader.h"
@@ -10,7 +11,6 @@ namespace sim {
 namespace {
 
 constexpr std::string_view informationMark = "#EXTINF:";
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr double longestTrack = 7 * 24 * 3600.0;  // seconds; more is a mistake in the file
 
 std::string_view trimmed(std::string_view text) {
@@ -106,7 +106,7 @@ class PlaylistReader {
 }  // namespace
 
 std::vector<Track> parsePlaylist(std::string_view content, const std::string& name) {
-  if (content.starts_with(byteOrderMark)) content.remove_prefix(byteOrderMark.size());
+  content = unicode::withoutByteOrderMark(content);
   PlaylistReader reader(name);
   while (!content.empty()) reader.read(takeLine(content));
   return reader.takeTracks();

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "simulator/foundation/Unicode.h"
+
 namespace sim {
 
 using nlohmann::json;
@@ -39,6 +41,7 @@ std::optional<OpenScript> scriptFrom(const json& saved) {
 }  // namespace
 
 std::vector<std::string> linesOf(std::string_view text) {
+  text = unicode::withoutByteOrderMark(text);
   std::vector<std::string> lines;
   while (!text.empty()) {
     std::string_view line = text.substr(0, text.find('\n'));

@@ -48,7 +48,7 @@ TEST(Guarding, LimitsBodies) {
       program.client().Post("/api/command", std::string(3'000'000, ' '), "application/json");
   ASSERT_TRUE(answer);
   EXPECT_EQ(answer->status, 413);
-  EXPECT_EQ(json::parse(answer->body).at("error"), "expected at most 524288 bytes");
+  EXPECT_EQ(json::parse(answer->body).at("error"), "expected at most 2621440 bytes");
   EXPECT_EQ(program.command("lock").status, 200);
 }
 

@@ -119,6 +119,16 @@ TEST(Music, IsThePlaylistOfThePhone) {
   EXPECT_TRUE(page.next("player").data.at("file").is_null());
 }
 
+// As the page asks for them when one of a large folder's songs is pressed.
+TEST(Music, OfThousandsOfSongsIsPlayed) {
+  const ServedProgram program({"--no-tweak"});
+  std::string line = "playlist";
+  for (int song = 0; song < 10'000; ++song)
+    line += " \"Song number " + std::to_string(song) + " of a large folder\" 180 by \"Somebody\"";
+  EXPECT_EQ(program.command(line).status, 200);
+  EXPECT_EQ(program.command("expect-track \"Song number 0 of a large folder\"").status, 200);
+}
+
 TEST(Music, ThatCannotBeReadIsNamedAndLeftOut) {
   const TestFolder folder;
   const TestFolder elsewhere;

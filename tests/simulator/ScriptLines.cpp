@@ -58,6 +58,23 @@ void PrintTo(const Broken& script, std::ostream* stream) {
   *stream << script.text.substr(0, 20);
 }
 
+TEST(Script, APlaylistOfTenThousandSongsIsALine) {
+  std::string line = "playlist";
+  for (int song = 0; song < 10'000; ++song) line += " \"A song with a täil of words\" 180";
+  const ScriptLine parsed = parseScriptLine(line, 1);
+  ASSERT_EQ(parsed.words.size(), 20'001u);
+  EXPECT_EQ(parsed.words.back().column, parsed.endColumn - 3);
+}
+
+TEST(Script, AByteOrderMarkIsNoPartOfIt) {
+  const auto lines = parseScript(
+      "\xEF\xBB\xBF"
+      "boot\n");
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_EQ(lines[0].words[0].text, "boot");
+  EXPECT_EQ(lines[0].words[0].column, 1u);
+}
+
 class BrokenScript : public testing::TestWithParam<Broken> {};
 
 TEST_P(BrokenScript, NamesPlaceAndReason) {
@@ -90,8 +107,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Broken{"a\nb \xff", 2, 3, "expected UTF-8 text"},
                     Broken{"a\nb \xc3", 2, 3, "expected UTF-8 text"},
                     Broken{std::string("é\0", 3), 1, 2, "expected text, found a NUL byte"},
-                    Broken{std::string(70000, 'x'), 1, 1,
-                           "expected a line of at most 65536 bytes, found 70000"}));
+                    Broken{std::string(3'000'000, 'x'), 1, 1,
+                           "expected a line of at most 2097152 bytes, found 3000000"}));
 
 }  // namespace
 }  // namespace sim

@@ -11,12 +11,9 @@
 namespace sim {
 namespace {
 
-// Longer lines are no scripts but something else, given by mistake.
-constexpr std::size_t longestLine = std::size_t(64) * 1024;
-
 void requireText(std::string_view text) {
-  if (text.size() > longestLine)
-    throw ScriptError(1, "expected a line of at most " + std::to_string(longestLine) +
+  if (text.size() > longestScriptLine)
+    throw ScriptError(1, "expected a line of at most " + std::to_string(longestScriptLine) +
                              " bytes, found " + std::to_string(text.size()));
   if (const auto at = text.find('\0'); at != std::string_view::npos)
     throw ScriptError(unicode::characterCount(text.substr(0, at)) + 1,
@@ -37,6 +34,7 @@ ScriptLine parseScriptLine(std::string_view text, std::size_t number) {
 }
 
 std::vector<ScriptLine> parseScript(std::string_view text) {
+  text = unicode::withoutByteOrderMark(text);
   std::vector<ScriptLine> lines;
   for (std::size_t number = 1; !text.empty(); ++number) {
     std::string_view line = text.substr(0, text.find('\n'));

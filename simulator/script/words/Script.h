@@ -12,6 +12,10 @@
 
 namespace sim {
 
+// Longer lines are no scripts but something else, given by mistake. A playlist of tens of thousands
+// of songs fits.
+inline constexpr std::size_t longestScriptLine = std::size_t(2) << 20;  // bytes
+
 struct ScriptLine {
   std::size_t number = 0;   // 1-based
   std::vector<Word> words;  // never empty: blank lines and comments are left out

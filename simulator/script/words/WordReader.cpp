@@ -13,7 +13,10 @@ bool isBlank(char letter) {
 }  // namespace
 
 std::size_t WordReader::column(std::size_t at) const {
-  return unicode::characterCount(line_.substr(0, at)) + 1;
+  if (at < countedTo_) countedTo_ = counted_ = 0;
+  counted_ += unicode::characterCount(line_.substr(countedTo_, at - countedTo_));
+  countedTo_ = at;
+  return counted_ + 1;
 }
 
 void WordReader::skipBlanks() {

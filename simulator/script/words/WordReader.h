@@ -29,6 +29,9 @@ class WordReader {
 
   std::string_view line_;
   std::size_t at_ = 0;
+  // The place whose column was asked for last: the next one is counted from there.
+  mutable std::size_t countedTo_ = 0;
+  mutable std::size_t counted_ = 0;
 };
 
 }  // namespace sim

@@ -14,7 +14,7 @@ class HttpServer;
 // outlive the server.
 void guard(HttpServer& server, int port, const Access& access);
 
-// More is no request.
-inline constexpr std::size_t largestBody = std::size_t(512) * 1024;
+// More is no request: there is room for the longest line of a script.
+inline constexpr std::size_t largestBody = std::size_t(5) << 19;
 
 }  // namespace sim

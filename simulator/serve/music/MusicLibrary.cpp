@@ -5,14 +5,13 @@
 
 #include "simulator/foundation/Unicode.h"
 #include "simulator/machine/Journal.h"
+#include "simulator/script/words/Script.h"
 
 namespace sim {
 
 namespace files = std::filesystem;
 
 namespace {
-
-constexpr std::size_t longestLine = 60 * std::size_t(1024);  // scripts have a limit
 
 void leaveOut(const files::path& path, const std::string& problem) {
   std::cerr << path.string() << ": left out: " << problem << '\n';
@@ -81,15 +80,16 @@ std::string MusicLibrary::idOf(const Track& track) const {
 }
 
 std::string MusicLibrary::playlistLine() const {
+  const std::string playlist = "playlist";
   std::string line;
   for (const MusicFile& file : files_) {
     const std::string next = words(file.track);
-    if (line.size() + next.size() > longestLine)
+    if (playlist.size() + line.size() + next.size() > longestScriptLine)
       leaveOut(file.path, "the playlist is full");
     else
       line += next;
   }
-  return line.empty() ? line : "playlist" + line;
+  return line.empty() ? line : playlist + line;
 }
 
 }  // namespace sim

@@ -79,7 +79,8 @@ void CCUICAPackageView::placeContent() {
 void CCUICAPackageView::registerClass() {
   StandIn<CCUICAPackageView>("ControlCenterUIKit", "CCUICAPackageView", "UIView")
       .method<"initWithFrame:", &CCUICAPackageView::initWithFrame>()
-      .method<"setPackage:", &CCUICAPackageView::setPackage>()
+      .partial<"setPackage:", &CCUICAPackageView::setPackage>(
+          "loads also the package that it has already, and keeps the state")
       .property<"package", &CCUICAPackageView::package>()
       .method<"setPackageDescription:", &CCUICAPackageView::setPackageDescription>()
       .property<"packageDescription", &CCUICAPackageView::packageDescription>()

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <list>
 
-#include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/NSObject.h"
 #include "simulator/foundation/NSThread.h"
 #include "simulator/machine/Phone.h"
@@ -89,7 +88,7 @@ void performOnMainThread(Object self, SEL selector, Object argument, bool wait) 
 
 void addDelayedPerforms() {
   addToRootClass<"performSelector:withObject:afterDelay:", &performAfterDelay>(
-      "always on the main run loop");
+      "always on the main run loop, in every mode: also while a wheel or a slider is touched");
   addToRootClass<"performSelector:withObject:afterDelay:inModes:", &performInModes>(
       "always on the main run loop, in every mode");
   addToRootClass<"performSelectorOnMainThread:withObject:waitUntilDone:", &performOnMainThread>();

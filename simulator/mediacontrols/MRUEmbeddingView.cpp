@@ -61,7 +61,8 @@ void MRUEmbeddingView::registerClass() {
       .readonlyProperty<"embeddedViewController", &MRUEmbeddingView::embeddedViewController>()
       .method<"setEmbeddedViewController:", &MRUEmbeddingView::setEmbeddedViewController>()
       .method<"removeViewController", &MRUEmbeddingView::removeViewController>()
-      .method<"showViewController", &MRUEmbeddingView::showViewController>()
+      .partial<"showViewController", &MRUEmbeddingView::showViewController>(
+          "shows at any time, where a phone needs a parent and waits until it is active")
       .method<"sizeThatFits:", &MRUEmbeddingView::sizeThatFits>()
       .method<"layoutSubviews", &MRUEmbeddingView::layoutSubviews>()
       .finish();

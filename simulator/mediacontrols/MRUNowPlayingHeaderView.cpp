@@ -80,7 +80,8 @@ void MRUNowPlayingHeaderView::registerClass() {
       .partial<"setLayout:", &MRUNowPlayingHeaderView::setLayout>(
           "layouts 0 to 3 only; another looks like the full player")
       .readonlyProperty<"showRoutingButton", &MRUNowPlayingHeaderView::showRoutingButton>()
-      .method<"setShowRoutingButton:", &MRUNowPlayingHeaderView::setShowRoutingButton>()
+      .partial<"setShowRoutingButton:", &MRUNowPlayingHeaderView::setShowRoutingButton>(
+          "hides the button, where a phone makes it transparent")
       .partial<"layoutSubviews", &MRUNowPlayingHeaderView::layoutSubviews>(
           "measures of the simulator's own")
       .finish();

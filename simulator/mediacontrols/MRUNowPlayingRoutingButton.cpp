@@ -64,7 +64,8 @@ void MRUNowPlayingRoutingButton::registerClass() {
       .method<"initWithFrame:", &MRUNowPlayingRoutingButton::initWithFrame>()
       .property<"packageView", &MRUNowPlayingRoutingButton::packageView>()
       .readonlyProperty<"active", &MRUNowPlayingRoutingButton::active>()
-      .method<"setActive:", &MRUNowPlayingRoutingButton::setActive>()
+      .partial<"setActive:", &MRUNowPlayingRoutingButton::setActive>(
+          "tints shapes, where a phone sets a state of its package")
       .partial<"updatePackage", &MRUNowPlayingRoutingButton::updatePackage>(
           "a glyph of the simulator's own, from no package")
       .method<"accessibilityTraits", &routingButtonTraits>()

@@ -212,7 +212,8 @@ void Controller::registerClass() {
       .method<"viewDidDisappear:", &Controller::viewDidDisappear>()
       .readonlyProperty<"layout", &Controller::layout>()
       .method<"setLayout:", &Controller::setLayout>()
-      .method<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>()
+      .partial<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>(
+          "closing goes back to the layout of before, where a phone stays expanded")
       .method<"_didSelectPreviousButton:", &previousTrack>()
       .method<"_didSelectPlayPauseButton:", &togglePlayPause>()
       .method<"_didSelectNextButton:", &nextTrack>()

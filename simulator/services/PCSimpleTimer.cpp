@@ -70,7 +70,8 @@ void PCSimpleTimer::registerClass() {
       .readonlyProperty<"isValid", &PCSimpleTimer::valid>()
       .readonlyProperty<"userInfo", &PCSimpleTimer::userInfo>()
       .readonlyProperty<"_fireTimer", &PCSimpleTimer::fireTimer>()
-      .method<"_fireTimerFired:", &PCSimpleTimer::fireTimerFired>()
+      .partial<"_fireTimerFired:", &PCSimpleTimer::fireTimerFired>(
+          "keeps the timer that has fired, whose date is past then")
       .finish();
 }
 

@@ -88,7 +88,8 @@ void SBMediaController::registerClass() {
   StandIn<SBMediaController>("SpringBoard", "SBMediaController", "NSObject")
       .classMethod<"sharedInstance", &SBMediaController::sharedInstance>()
       .method<"play", &SBMediaController::play>()
-      .method<"pause", &SBMediaController::pause>()
+      .partial<"pause", &SBMediaController::pause>(
+          "on every version; newer phones have pauseForEventSource: alone")
       .partial<"pauseForEventSource:", &SBMediaController::pauseForEventSource>(
           "the source changes nothing")
       .method<"togglePlayPause", &SBMediaController::togglePlayPause>()
@@ -98,8 +99,10 @@ void SBMediaController::registerClass() {
       .method<"isPaused", &SBMediaController::isPaused>()
       .partial<"nowPlayingApplication", &SBMediaController::nowPlayingApplication>(
           "a new object each time")
-      .method<"volume", &SBMediaController::volume>()
-      .method<"setVolume:", &SBMediaController::setVolume>()
+      .partial<"volume", &SBMediaController::volume>(
+          "on every version; newer phones have it in SBVolumeControl alone")
+      .partial<"setVolume:", &SBMediaController::setVolume>(
+          "on every version; newer phones have it in SBVolumeControl alone")
       .method<"suppressHUD", &SBMediaController::suppressHUD>()
       .method<"setSuppressHUD:", &SBMediaController::setSuppressHUD>()
       .method<"_volumeControl", &SBMediaController::volumeControl>()

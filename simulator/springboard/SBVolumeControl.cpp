@@ -25,7 +25,8 @@ void SBVolumeControl::registerClass() {
   StandIn<SBVolumeControl>("SpringBoard", "SBVolumeControl", "NSObject")
       .classMethod<"sharedInstance", &SBVolumeControl::sharedInstance>()
       .method<"_getMediaVolumeForIAP", &SBVolumeControl::mediaVolume>()
-      .method<"setVolume:forCategory:", &SBVolumeControl::setVolume_forCategory>()
+      .partial<"setVolume:forCategory:", &SBVolumeControl::setVolume_forCategory>(
+          "at once, where a phone sets it on a queue of its own")
       .finish();
 }
 

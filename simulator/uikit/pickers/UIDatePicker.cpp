@@ -52,9 +52,11 @@ void UIDatePicker::registerClass() {
   picker.readonlyProperty<"datePickerMode", &UIDatePicker::mode>()
       .partial<"setDatePickerMode:", &UIDatePicker::setMode>("only the count-down has wheels")
       .method<"countDownDuration", &UIDatePicker::countDownDuration>()
-      .method<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>()
+      .partial<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>(
+          "24 hours and more become the last step before, not 0:00")
       .readonlyProperty<"minuteInterval", &UIDatePicker::interval>()
-      .method<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>()
+      .partial<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>(
+          "a step that is not allowed becomes 1, where a phone keeps the one of before")
       .method<"layoutSubviews", &UIDatePicker::layoutSubviews>()
       .readonlyProperty<"_textColor", &UIDatePicker::textColor>()
       .method<"_setTextColor:", &UIDatePicker::setTextColor>()

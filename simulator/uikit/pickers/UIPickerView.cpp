@@ -110,8 +110,10 @@ void UIPickerView::registerClass() {
       .method<"setDelegate:", &UIPickerView::setDelegate>()
       .method<"numberOfComponents", &UIPickerView::numberOfComponents>()
       .method<"numberOfRowsInComponent:", &UIPickerView::numberOfRows>()
-      .method<"selectRow:inComponent:animated:", &UIPickerView::selectRow>()
-      .method<"selectedRowInComponent:", &UIPickerView::selectedRow>()
+      .partial<"selectRow:inComponent:animated:", &UIPickerView::selectRow>(
+          "a row beyond the ends is brought into range; a negative one ends a phone's host")
+      .partial<"selectedRowInComponent:", &UIPickerView::selectedRow>(
+          "the row of before until the wheel rests")
       .partial<"viewForRow:forComponent:", &UIPickerView::viewForRow>("made when asked for or seen")
       .partial<"layoutSubviews", &UIPickerView::layoutSubviews>("all wheels are equally wide")
       .method<"reloadComponent:", &UIPickerView::reloadComponent>()

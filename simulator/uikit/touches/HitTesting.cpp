@@ -35,7 +35,8 @@ Object hitTest(Object self, CGPoint point, Object event) {
 
 void addHitTesting(StandIn<UIView>& view) {
   view.method<"pointInside:withEvent:", &pointInside>()
-      .method<"hitTest:withEvent:", &hitTest>()
+      .partial<"hitTest:withEvent:", &hitTest>(
+          "views take touches also while they are animated, where they end")
       .property<"userInteractionEnabled", &UIView::userInteractionEnabled>()
       .readonlyProperty<"isUserInteractionEnabled", &UIView::userInteractionEnabled>();
 }

@@ -42,9 +42,8 @@ hb_font_t* fontAt(const Folder& folder, const std::string& name) {
 hb_font_t* required(const Folder& folder, const std::string& name) {
   hb_font_t* font = fontAt(folder, name);
   if (font == nullptr)
-    sim::runtime::fatal(
-        "%s%s is missing, and text is measured with it: install the package %s", folder.path,
-        name.c_str(), folder.package);
+    sim::runtime::fatal("%s%s is missing, and text is measured with it: install the package %s",
+                        folder.path, name.c_str(), folder.package);
   return font;
 }
 

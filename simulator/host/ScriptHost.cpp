@@ -8,6 +8,7 @@
 
 #include "objc/Ownership.h"
 #include "simulator/host/CrashHandler.h"
+#include "simulator/host/Output.h"
 #include "simulator/script/Interpreter.h"
 
 namespace sim {
@@ -100,7 +101,7 @@ void playScriptInHost(Session& session, const CommandTable& commands, HostEnds& 
     const objc::AutoreleasePool pool;
     end = play(session, commands, job);
   }
-  std::cout.flush();
+  if (!isAllPrinted() && end.is_null()) end = {{"error", outputLost}, {"line", 0}, {"column", 0}};
   stopWatching();
   json last = {{"done", end.is_null() ? 0 : 1}};
   if (!end.is_null()) last.update(end);

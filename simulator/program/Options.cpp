@@ -145,7 +145,7 @@ class Parser {
     // Instead of --token, which everybody on the machine sees in the list of its processes.
     if (const char* token = std::getenv("DOZEWELL_TOKEN");
         token != nullptr && options_.action == Action::serve && !options_.token)
-      options_.token = tokenFrom(std::string(tokenVariable) + " in the environment", token);
+      options_.token = tokenFrom("DOZEWELL_TOKEN in the environment", token);
     if (options_.root && options_.files.size() > 1)
       throw UsageError("--root is for one script: each needs a phone of its own");
     if (withoutExtension_ && !options_.extensions.empty())

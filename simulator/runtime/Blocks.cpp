@@ -35,7 +35,7 @@ bool retainHeapBlock(const void* block) {
   do {
     if ((flags & BlockFlag::deallocating) != 0) return false;
     if ((flags & BlockFlag::referenceMask) == BlockFlag::referenceMask) return true;
-  } while (!flagsOf(block).compare_exchange_weak(flags, flags + BlockFlag::oneReference));
+  } while (!flagsOf(block).compare_exchange_weak(flags, flags + BlockFlag::oneCount));
   return true;
 }
 
@@ -47,8 +47,8 @@ bool releaseHeapBlock(const void* block) {
     const std::int32_t count = flags & BlockFlag::referenceMask;
     if (count == BlockFlag::referenceMask || (flags & BlockFlag::deallocating) != 0) return false;
     if (count == 0) fatal("block %p was released too often", const_cast<void*>(block));
-    lowered = flags - BlockFlag::oneReference;
-    if (count == BlockFlag::oneReference) lowered |= BlockFlag::deallocating;
+    lowered = flags - BlockFlag::oneCount;
+    if (count == BlockFlag::oneCount) lowered |= BlockFlag::deallocating;
   } while (!flagsOf(block).compare_exchange_weak(flags, lowered));
   return (lowered & BlockFlag::deallocating) != 0;
 }
@@ -59,7 +59,7 @@ void* copyToHeap(const BlockLayout& source) {
   std::memcpy(memory, &source, source.descriptor->size);
   auto* copy = static_cast<BlockLayout*>(memory);
   copy->flags &= ~(BlockFlag::referenceMask | BlockFlag::deallocating);
-  copy->flags |= BlockFlag::needsFree | BlockFlag::oneReference;
+  copy->flags |= BlockFlag::needsFree | BlockFlag::oneCount;
   if (const BlockHelpers* helpers = helpersOf(*copy)) helpers->copy(copy, &source);
   copy->isa = _NSConcreteMallocBlock;
   copy->traces = countedBlock;
@@ -94,7 +94,7 @@ bool isBlockDeallocating(id block) {
 std::size_t blockRetainCount(id block) {
   const std::int32_t flags = flagsOf(block).load();
   return (flags & BlockFlag::needsFree) != 0
-             ? static_cast<std::size_t>(flags & BlockFlag::referenceMask) / BlockFlag::oneReference
+             ? static_cast<std::size_t>(flags & BlockFlag::referenceMask) / BlockFlag::oneCount
              : 1;
 }
 

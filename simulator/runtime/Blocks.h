@@ -31,7 +31,7 @@ struct BlockLayout {
 struct BlockFlag {
   enum Value : std::int32_t {
     deallocating = 1 << 0,
-    oneReference = 1 << 1,
+    oneCount = 1 << 1,
     referenceMask = 0xfffe,
     needsFree = 1 << 24,  // on the heap
     hasCopyDispose = 1 << 25,

@@ -44,13 +44,13 @@ constexpr unsigned patience = 2;  // seconds to say something in
 constexpr std::size_t mostFrames = 1'000'000;
 constexpr std::uintptr_t stackMargin = std::uintptr_t(128) * 1024;
 
-int report = -1;
+int reportPipe = -1;
 const Session* watched = nullptr;
 double processorLimit = 0;  // seconds
 void* reserve = nullptr;    // given back when memory has run out
 std::uintptr_t stackEnd = 0;
 std::atomic_flag dying = ATOMIC_FLAG_INIT;
-CrashRecord crash;
+CrashRecord lastRecord;
 using Frames = decltype(CrashRecord::frames);
 
 template <std::size_t size>
@@ -59,10 +59,10 @@ void copy(std::array<char, size>& place, const char* text) {
 }
 
 void writeRecord() {
-  const char* bytes = reinterpret_cast<const char*>(&crash);
-  std::size_t left = sizeof crash;
+  const char* bytes = reinterpret_cast<const char*>(&lastRecord);
+  std::size_t left = sizeof lastRecord;
   while (left > 0) {
-    const ssize_t count = write(report, bytes, left);
+    const ssize_t count = write(reportPipe, bytes, left);
     if (count <= 0 && errno != EINTR) return;
     if (count <= 0) continue;
     bytes += count;
@@ -111,7 +111,7 @@ struct Walk {
 };
 
 void recordFrame(void* address) {
-  CrashRecord::Frame& frame = crash.frames[crash.frameCount++];
+  CrashRecord::Frame& frame = lastRecord.frames[lastRecord.frameCount++];
   frame = {};
   frame.address = address;
   Dl_info image;
@@ -124,10 +124,10 @@ void recordFrame(void* address) {
 void recordFrames(const ucontext_t* context) {
   Walk walk{context == nullptr ? 0 : programCounter(*context), {}, {}, 0};
   _Unwind_Backtrace(Walk::take, &walk);
-  crash.frameCount = 0;
+  lastRecord.frameCount = 0;
   for (std::size_t at = 0; at < std::min(walk.count, Walk::inner); ++at)
     recordFrame(walk.first[at]);
-  const std::size_t rest = walk.count - crash.frameCount;
+  const std::size_t rest = walk.count - lastRecord.frameCount;
   for (std::size_t at = rest - std::min(rest, Walk::outer); at < rest; ++at)
     recordFrame(walk.last[at % Walk::outer]);
 }
@@ -150,8 +150,8 @@ void nameMethods(Class cls, char kind) {
   Method* methods = class_copyMethodList(cls, &count);
   for (unsigned index = 0; index < count; ++index) {
     const void* start = reinterpret_cast<const void*>(method_getImplementation(methods[index]));
-    for (std::size_t at = 0; at < crash.frameCount; ++at) {
-      CrashRecord::Frame& frame = crash.frames[at];
+    for (std::size_t at = 0; at < lastRecord.frameCount; ++at) {
+      CrashRecord::Frame& frame = lastRecord.frames[at];
       // What returns belongs to the call before.
       auto* inside = static_cast<char*>(const_cast<void*>(frame.address)) - (at > 0 ? 1 : 0);
       if (_Unwind_FindEnclosingFunction(inside) != start) continue;
@@ -177,13 +177,13 @@ void nameAllMethods() {
 }
 
 void tell(CrashRecord::Kind kind, int signal, const void* address, const ucontext_t* context) {
-  crash.kind = kind;
-  crash.signal = signal;
-  crash.address = address;
-  crash.uptime = watched->phone.clock.uptime();
-  crash.launchedAt = watched->host.launchedAt();
-  crash.wallAtZero = watched->phone.clock.wallAtZero();
-  crash.line = watched->lineNumber;
+  lastRecord.kind = kind;
+  lastRecord.signal = signal;
+  lastRecord.address = address;
+  lastRecord.uptime = watched->phone.clock.uptime();
+  lastRecord.launchedAt = watched->host.launchedAt();
+  lastRecord.wallAtZero = watched->phone.clock.wallAtZero();
+  lastRecord.line = watched->lineNumber;
   recordFrames(context);
   writeRecord();
   nameAllMethods();
@@ -191,16 +191,16 @@ void tell(CrashRecord::Kind kind, int signal, const void* address, const ucontex
 }
 
 void explain(int signal, const siginfo_t& info, const ucontext_t& context) {
-  if (crash.reason.front() != '\0') return;
+  if (lastRecord.reason.front() != '\0') return;
   const auto address = std::uintptr_t(info.si_addr), pointer = stackPointer(context);
   const bool isAtEnd = pointer < stackEnd + stackMargin || address < stackEnd + stackMargin;
   if (signal == SIGSEGV && isAtEnd && address + stackMargin > pointer &&
       address < pointer + stackMargin)
-    copy(crash.reason, "stack overflow");
+    copy(lastRecord.reason, "stack overflow");
   else if (signal == SIGABRT)
-    copy(crash.reason, sim::runtime::fatalMessage());
+    copy(lastRecord.reason, sim::runtime::fatalMessage());
   else if (signal == SIGXCPU)
-    std::snprintf(crash.reason.data(), crash.reason.size(),
+    std::snprintf(lastRecord.reason.data(), lastRecord.reason.size(),
                   "it has taken more than %g s of processor time", processorLimit);
 }
 
@@ -217,13 +217,13 @@ void die(int signal, siginfo_t* info, void* context) {
 
 void showWhatItDoes(int, siginfo_t*, void* context) {
   const int problem = errno;
-  crash.reason = {};
+  lastRecord.reason = {};
   tell(CrashRecord::Kind::sample, 0, nullptr, static_cast<const ucontext_t*>(context));
   errno = problem;
 }
 
 [[noreturn]] void dieFor(const char* reason) {
-  copy(crash.reason, reason);
+  copy(lastRecord.reason, reason);
   std::abort();
 }
 
@@ -249,8 +249,8 @@ void uncaughtException() {
 }
 
 void exited(int status, void*) {
-  if (report < 0 || dying.test_and_set()) return;
-  std::snprintf(crash.reason.data(), crash.reason.size(), "exit(%d) was called", status);
+  if (reportPipe < 0 || dying.test_and_set()) return;
+  std::snprintf(lastRecord.reason.data(), lastRecord.reason.size(), "exit(%d) was called", status);
   tell(CrashRecord::Kind::crash, 0, nullptr, nullptr);
   _exit(1);
 }
@@ -283,7 +283,7 @@ void handle(int signal, void (*handler)(int, siginfo_t*, void*)) {
 }  // namespace
 
 void watchForCrashes(int descriptor, const Session& played) {
-  report = descriptor;
+  reportPipe = descriptor;
   watched = &played;
   prepareMemory();
   recordFrames(nullptr);  // it may allocate the first time
@@ -296,7 +296,7 @@ void watchForCrashes(int descriptor, const Session& played) {
 }
 
 void stopWatching() {
-  report = -1;
+  reportPipe = -1;
 }
 
 void crash(const std::string& reason) {

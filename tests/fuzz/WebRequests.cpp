@@ -66,8 +66,7 @@ class PhonelessServer {
   PhonelessServer() {
     inbox_.stop();
     sim::guard(server_, port, access_);
-    sim::addApi(router_,
-                {inbox_, server_, access_, library_, web_, web_, web_, [](const auto&) {}});
+    sim::addApi(router_, {inbox_, access_, library_, web_, web_});
     router_.serve(server_);
   }
 

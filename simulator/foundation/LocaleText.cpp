@@ -94,6 +94,18 @@ std::string momentText(const UDateFormat* format, double secondsSinceReferenceDa
       }));
 }
 
+// Each thread's own, because formatting changes them.
+struct NumberFormats {
+  std::map<std::string, UNumberFormat*> known;
+
+  NumberFormats() = default;
+  NumberFormats(const NumberFormats&) = delete;
+  NumberFormats& operator=(const NumberFormats&) = delete;
+  ~NumberFormats() {
+    for (const auto& [locale, format] : known) unum_close(format);
+  }
+};
+
 UNumberFormat* openNumber(const std::string& locale, UErrorCode* problem) {
   UNumberFormat* format = unum_open(UNUM_DECIMAL, nullptr, 0, locale.c_str(), nullptr, problem);
   unum_setAttribute(format, UNUM_GROUPING_USED, 0);
@@ -146,10 +158,10 @@ std::string clockText(double secondsSinceReferenceDate, std::string_view locale)
 }
 
 std::string numberText(std::string_view decimal, std::string_view locale) {
-  thread_local std::map<std::string, UNumberFormat*> known;
+  thread_local NumberFormats formats;
   const std::string used = icuLocale(locale);
   const UNumberFormat* format =
-      opened(known, used, [&](UErrorCode* fault) { return openNumber(used, fault); });
+      opened(formats.known, used, [&](UErrorCode* fault) { return openNumber(used, fault); });
   return unicode::toUtf8(
       filled("no number", [&](char16_t* text, std::int32_t room, UErrorCode* fault) {
         return unum_formatDecimal(format, decimal.data(), std::int32_t(decimal.size()), text, room,

@@ -11,7 +11,7 @@ namespace {
 
 struct Search {
   const link_map* library;
-  std::vector<std::string_view>& names;
+  std::vector<std::string>& names;
 };
 
 bool canBeInName(char letter) {
@@ -20,15 +20,17 @@ bool canBeInName(char letter) {
 }
 
 // Sanitizers put unreadable bytes around constants; they do not check this function.
-__attribute__((no_sanitize("address"))) void addNames(std::vector<std::string_view>& names,
+__attribute__((no_sanitize("address"))) void addNames(std::vector<std::string>& names,
                                                       const char* bytes, std::size_t count) {
   constexpr std::size_t shortest = 2;
-  const char* name = bytes;
-  for (const char* at = bytes; at != bytes + count; ++at) {
-    if (canBeInName(*at)) continue;
-    const auto length = std::size_t(at - name);
-    if (*at == '\0' && length >= shortest) names.emplace_back(name, length);
-    name = at + 1;
+  std::string name;  // letter by letter: whoever copies several is checked
+  for (std::size_t at = 0; at < count; ++at) {
+    if (canBeInName(bytes[at])) {
+      name += bytes[at];
+      continue;
+    }
+    if (bytes[at] == '\0' && name.size() >= shortest) names.push_back(name);
+    name.clear();
   }
 }
 
@@ -47,7 +49,7 @@ int readSegments(dl_phdr_info* library, std::size_t, void* context) {
 
 }  // namespace
 
-void addNamesWithin(void* handle, std::vector<std::string_view>& names) {
+void addNamesWithin(void* handle, std::vector<std::string>& names) {
   Search search{nullptr, names};
   if (dlinfo(handle, RTLD_DI_LINKMAP, &search.library) == 0) dl_iterate_phdr(readSegments, &search);
   std::sort(names.begin(), names.end());

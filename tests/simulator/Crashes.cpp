@@ -49,10 +49,13 @@ TEST_P(Deaths, AreReported) {
                                 std::string(what)),
             std::string::npos)
       << outcome.errors;
-  // Compiled for the sanitizer, a method that ends in a call may leave no frame.
-  if (!isSanitized())
+  // The stack of these two lacks the method with the sanitizer; why is not known yet.
+  const bool lacksMethod =
+      isSanitized() && (std::string(method) == "throws" || std::string(method) == "recurses");
+  if (!lacksMethod) {
     EXPECT_NE(outcome.errors.find(std::string("+[Failing ") + method + "]"), std::string::npos)
         << outcome.errors;
+  }
   EXPECT_NE(outcome.errors.find("  at 2 s, after it had run for 2 s\n"), std::string::npos);
   EXPECT_NE(outcome.errors.find("     0.000  -[SpringBoard applicationDidFinishLaunching:]"),
             std::string::npos);

@@ -2,6 +2,8 @@
 """Runs the benchmarks and prints one table: each figure, what it is to be compared with, the aim.
 
 usage: bench/table.py PROGRAM [OPTION...]     options go to the program (--benchmark_filter=...)
+
+Each is run in a process of its own: what one leaves loaded or cached does not serve the next.
 """
 
 import json
@@ -21,9 +23,10 @@ AIMS = {
     "weakReferenceAlone": ("virtualCall", None),
     "weakReferenceAmongMany": ("weakReferenceAlone", 4.0),
     "makeAndReleaseBlock": ("virtualCall", None),
-    "loadExtension": (None, 1e6),
+    "loadExtension": ("loadExtensionUnchecked", None),
+    "loadExtensionUnchecked": (None, 100e3),
     "layOutThePanel": (None, 1e6),
-    "eightHoursRefreshedEverySecond": (None, 100e6),
+    "eightHoursRefreshedEverySecond": (None, 20e6),
     "buildScene": (None, 2e6),
     "buildAndCompareScene": (None, 2e6),
     "writeSvg": (None, None),
@@ -48,19 +51,26 @@ def row(name, figures):
     return f"{name:32} {readable(value):>12}  {'':26} {goal}"
 
 
+def figure(program, name, options):
+    """Nanoseconds."""
+    run = subprocess.run([program, *options, f"--benchmark_filter=^{name}$",
+                          "--benchmark_format=json"], stdout=subprocess.PIPE, check=True)
+    (entry,) = json.loads(run.stdout)["benchmarks"]
+    # Loading is timed by hand, so its "CPU time" means nothing.
+    time = "real_time" if "manual_time" in name else "cpu_time"
+    return entry[time] * NANOSECONDS[entry["time_unit"]]
+
+
 def main():
     if len(sys.argv) < 2 or sys.argv[1] in ("-h", "--help"):
         print(__doc__, file=sys.stderr)
         return 2
     program, *options = sys.argv[1:]
     # What grows has a table of its own, by growth.py.
-    run = subprocess.run([program, "--benchmark_filter=-^growthOf", *options,
-                          "--benchmark_format=json"], stdout=subprocess.PIPE, check=True)
-    figures = {}
-    for entry in json.loads(run.stdout)["benchmarks"]:
-        # Loading is timed by hand, so its "CPU time" means nothing.
-        time = "real_time" if "manual_time" in entry["name"] else "cpu_time"
-        figures[entry["name"].split("/")[0]] = entry[time] * NANOSECONDS[entry["time_unit"]]
+    listed = subprocess.run([program, "--benchmark_filter=-^growthOf", *options,
+                             "--benchmark_list_tests"], stdout=subprocess.PIPE, text=True,
+                            check=True).stdout.split()
+    figures = {name.split("/")[0]: figure(program, name, options) for name in listed}
     for name in figures:
         print(row(name, figures).rstrip())
     return 0

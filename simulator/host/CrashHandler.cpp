@@ -52,6 +52,7 @@ std::uintptr_t stackEnd = 0;
 std::atomic_flag dying = ATOMIC_FLAG_INIT;
 CrashRecord lastRecord;
 using Frames = decltype(CrashRecord::frames);
+using Beginnings = std::array<const void*, std::tuple_size_v<Frames>>;
 
 template <std::size_t size>
 void copy(std::array<char, size>& place, const char* text) {
@@ -89,7 +90,7 @@ std::uintptr_t stackPointer(const ucontext_t& context) {
 // Of the frames of this thread those below the signal's handler; of very many the innermost, and
 // where it all began.
 struct Walk {
-  static constexpr std::size_t inner = 28, outer = std::tuple_size_v<Frames> - inner;
+  static constexpr std::size_t inner = 16, outer = std::tuple_size_v<Frames> - inner;
   std::uintptr_t stopped;  // where the signal came; 0: anywhere
   std::array<void*, inner> first;
   std::array<void*, outer> last;  // in turn
@@ -145,16 +146,25 @@ bool isHosts(const Method* methods, unsigned count) {
   });
 }
 
-void nameMethods(Class cls, char kind) {
+// Where the function of each frame begins. Asked once: the answer takes as long as a small search.
+Beginnings beginnings() {
+  Beginnings all{};
+  for (std::size_t at = 0; at < lastRecord.frameCount; ++at) {
+    // What returns belongs to the call before.
+    auto* place = static_cast<char*>(const_cast<void*>(lastRecord.frames[at].address));
+    all[at] = _Unwind_FindEnclosingFunction(place - (at > 0 ? 1 : 0));
+  }
+  return all;
+}
+
+void nameMethods(Class cls, char kind, const Beginnings& starts) {
   unsigned count = 0;
   Method* methods = class_copyMethodList(cls, &count);
   for (unsigned index = 0; index < count; ++index) {
     const void* start = reinterpret_cast<const void*>(method_getImplementation(methods[index]));
     for (std::size_t at = 0; at < lastRecord.frameCount; ++at) {
+      if (starts[at] != start) continue;
       CrashRecord::Frame& frame = lastRecord.frames[at];
-      // What returns belongs to the call before.
-      auto* inside = static_cast<char*>(const_cast<void*>(frame.address)) - (at > 0 ? 1 : 0);
-      if (_Unwind_FindEnclosingFunction(inside) != start) continue;
       std::snprintf(frame.method.data(), frame.method.size(), "%c[%s %s]", kind, class_getName(cls),
                     sel_getName(method_getName(methods[index])));
       frame.isHook = imageOf(start) != imageOf(reinterpret_cast<const void*>(&nameMethods)) &&
@@ -169,9 +179,10 @@ void nameAllMethods() {
   auto* classes = static_cast<Class*>(std::calloc(std::size_t(count), sizeof(Class)));
   if (classes == nullptr) return;
   const int given = std::min(count, objc_getClassList(classes, count));
+  const Beginnings starts = beginnings();
   for (int index = 0; index < given; ++index) {
-    nameMethods(classes[index], '-');
-    nameMethods(object_getClass(reinterpret_cast<id>(classes[index])), '+');
+    nameMethods(classes[index], '-', starts);
+    nameMethods(object_getClass(reinterpret_cast<id>(classes[index])), '+', starts);
   }
   std::free(classes);
 }
@@ -286,7 +297,8 @@ void watchForCrashes(int descriptor, const Session& played) {
   reportPipe = descriptor;
   watched = &played;
   prepareMemory();
-  recordFrames(nullptr);  // it may allocate the first time
+  Walk unused{};
+  _Unwind_Backtrace(Walk::take, &unused);  // it may allocate the first time
   for (const int each : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT, SIGTRAP, SIGSYS, SIGXCPU})
     handle(each, die);
   handle(SIGUSR2, showWhatItDoes);

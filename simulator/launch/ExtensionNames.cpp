@@ -4,7 +4,6 @@
 #include <link.h>
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
 namespace sim {
@@ -16,27 +15,33 @@ struct Search {
 };
 
 // By table: an extension has half a million bytes, and is read in each night that tests play.
-constexpr std::array<bool, 256> canBeInName = [] {
-  std::array<bool, 256> can{};
-  for (const char letter : std::string_view("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
-                                            "0123456789_:.$"))
-    can[static_cast<unsigned char>(letter)] = true;
-  return can;
-}();
+struct Letters {
+  bool has[256] = {};
+  constexpr Letters() {
+    for (const char letter : std::string_view("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"
+                                              "0123456789_:.$"))
+      has[static_cast<unsigned char>(letter)] = true;
+  }
+};
+constexpr Letters ofNames;
 
-// Sanitizers put unreadable bytes around constants; they do not check this function.
+// Sanitizers put unreadable bytes around constants; they do not check this function, but what it
+// calls: each name is copied here before it becomes a string.
 __attribute__((no_sanitize("address"))) void addNames(std::vector<std::string>& names,
                                                       const char* bytes, std::size_t count) {
   constexpr std::size_t shortest = 2;
-  std::size_t start = 0;
+  char name[1024];  // no name is longer
+  std::size_t length = 0;
   for (std::size_t at = 0; at < count; ++at) {
-    if (canBeInName[static_cast<unsigned char>(bytes[at])]) continue;
-    if (bytes[at] == '\0' && at - start >= shortest) {
-      std::string& name = names.emplace_back();
-      // Letter by letter: whoever copies several is checked.
-      for (; start < at; ++start) name += bytes[start];
+    const char letter = bytes[at];
+    if (ofNames.has[static_cast<unsigned char>(letter)]) {
+      if (length < sizeof name) name[length] = letter;
+      ++length;
+      continue;
     }
-    start = at + 1;
+    if (letter == '\0' && length >= shortest && length <= sizeof name)
+      names.emplace_back(name, length);
+    length = 0;
   }
 }
 

@@ -29,7 +29,9 @@ let browser = null;
 async function launched() {
   // As root, as in containers, Chromium asks for this.
   const sandbox = process.getuid() === 0 ? ["--no-sandbox"] : [];
-  browser ??= await chromium.launch({ executablePath: chromiumPath, args: sandbox });
+  // Without a graphics card one would be imitated, by the processors that the tests need.
+  const args = [...sandbox, "--disable-gpu", "--disable-software-rasterizer"];
+  browser ??= await chromium.launch({ executablePath: chromiumPath, args });
   return browser;
 }
 

@@ -16,13 +16,14 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.append(str(ROOT / "cmake"))
+import units as apart
 FOLDERS = ["objc", "platform", "simulator", "tools", "tweak"]
 TOOL = "clang-tidy-14"
 COMPILER = "clang++-14"
 PLUGIN = ROOT / "scripts/lint/tidy/OwnDeclarations.cpp"
 CHECKS = ROOT / ".clang-tidy"
 PRECOMPILED = "-Winvalid-pch"  # then come -include and a header
-LARGEST_UNIT = 16
 
 
 def joined(file):
@@ -53,8 +54,7 @@ def units(found):
     for source, (flags, _) in sorted(found.items()):
         groups.setdefault((source.relative_to(ROOT).parts[:2], flags), []).append(source)
     for group in groups.values():
-        for at in range(0, len(group), LARGEST_UNIT):
-            yield group[at:at + LARGEST_UNIT]
+        yield from apart.units(group)
 
 
 def includes(build):

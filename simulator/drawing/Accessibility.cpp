@@ -82,10 +82,7 @@ std::string labelOf(Object view) {
 
 // A touch in its middle would be for it.
 bool isReachable(Object view) {
-  const CGRect bounds = UIView::of(view).geometry().bounds;
-  const CGPoint middle = {bounds.origin.x + bounds.size.width / 2,
-                          bounds.origin.y + bounds.size.height / 2};
-  const Object hit = viewTouchedAt(view, middle);
+  const Object hit = viewTouchedAt(view, middleOf(view));
   if (!hit) return false;
   return isA<UIPickerColumnView>(view) ? isDescendant(hit, UIView::of(view).parent)
                                        : touchIsFor(view, hit);

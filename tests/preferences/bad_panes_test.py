@@ -52,6 +52,11 @@ class BadPanes(unittest.TestCase):
         self.assertIn('several rows "Run a shortcut": under "When the timer starts", '
                       'under "What happens then"', error)
 
+    def test_have_rows_that_can_be_covered(self):
+        error = self.error_of('boot\nsettings open\ncontrol-center open\nadvance 1s\n'
+                              'settings tap "Dozewell2"\n')
+        self.assertIn("the touch does not reach _SettingsRow but", error)
+
     def test_need_the_application(self):
         self.assertIn("the Settings application is not open",
                       self.error_of('boot\nsettings tap "Dozewell2"\n'))

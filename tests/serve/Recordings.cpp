@@ -57,6 +57,32 @@ TEST(Recordings, PlayHeadlessWithTheSameJournal) {
   EXPECT_EQ(withoutAddresses(again), withoutAddresses(journal));
 }
 
+// The haptic of the extension's icon buttons is an action's.
+TEST(Recordings, HoldTapsOfAPageAndOfAScriptAlike) {
+  const ServedProgram program;
+  program.command({"let b ButtonWithIncreasedTouchArea alloc",
+                   "send $b initWithFrame: {{100, 200}, {40, 40}}",
+                   "send UIApplication.sharedApplication.keyWindow addSubview: $b",
+                   "send $b addTarget:action:forControlEvents: $b selector setNeedsLayout 64"});
+  program.command({"touch began 110.5 210.5", "touch ended 110.5 210.5"});
+  program.command("tap $b at {10.5, 10.5}");
+  program.command("send $b setEnabled: NO");
+  EXPECT_EQ(program.command("tap $b").status, 400);
+  EXPECT_EQ(program.command({"touch began 110 210", "touch ended 110 210"}).status, 200);
+  const std::string journal = program.journal();
+  EXPECT_NE(journal.find("user touch ButtonWithIncreasedTouchArea\n     0.000  haptic impact style "
+                         "0\n     0.000  user tap ButtonWithIncreasedTouchArea\n     0.000  haptic "
+                         "impact style 0\n     0.000  user touch ButtonWithIncreasedTouchArea\n"),
+            std::string::npos)
+      << journal;
+  const std::string recording = program.get("/api/recording.phone").body;
+  EXPECT_NE(recording.find("touch ended 110.5 210.5\ntap $b at {10.5, 10.5}\nsend $b setEnabled: "
+                           "NO\ntouch began 110 210\ntouch ended 110 210\n"),
+            std::string::npos)
+      << recording;
+  EXPECT_EQ(withoutAddresses(playHeadless(recording)), withoutAddresses(journal));
+}
+
 TEST(Recordings, BeginWithTheMusic) {
   const ServedProgram program({"--no-tweak"});
   EXPECT_EQ(program.get("/api/recording.phone")

@@ -195,8 +195,41 @@ TABLE(ControlCenter,
       Mistake{"NoPlayer", "boot\nlock\nget $lockScreenHeader",
               "SCRIPT:3:5: there is no $lockScreenHeader just now"});
 
-TABLE(Slide, Mistake{"NoSlider", "boot\nslide UIView.new 1",
-                     "SCRIPT:2:7: UIView.new: expected a UISlider, found UIView"});
+// A view of that class in the middle of the screen, then another line.
+Mistake touching(const std::string& name, const std::string& view, const std::string& lines,
+                 const std::string& message) {
+  const std::string window = "UIApplication.sharedApplication.keyWindow";
+  return {name,
+          "boot\nlet v " + view + ".new\nsend $v setFrame: {{50, 300}, {300, 200}}\nsend " +
+              window + " addSubview: $v\n" + lines,
+          "SCRIPT:" + message};
+}
+
+TABLE(Touches,
+      touching("Hidden", "UIButton", "send $v setHidden: YES\ntap $v",
+               "6:1: the touch does not reach UIButton but SBHomeScreenView: UIButton is hidden"),
+      touching("Disabled", "UIButton", "send $v setEnabled: NO\ntap $v",
+               "6:1: UIButton is not enabled"),
+      touching("NoControl", "UILabel", "send $v setUserInteractionEnabled: YES\ntap $v",
+               "6:1: UILabel is no control, lies in none and takes no touches"),
+      touching("OffTheScreen", "UIButton", "send $v removeFromSuperview\ntap $v",
+               "6:1: UIButton is in no window"),
+      touching("TwoFingers", "UIButton", "touch began 100 400\ntap $v",
+               "6:1: a finger is on the screen already"),
+      touching("NoSlider", "UIView", "slide $v 1", "5:7: $v: expected a UISlider, found UIView"),
+      touching("Slider", "UISlider", "send $v setEnabled: NO\nslide $v 1",
+               "6:1: UISlider is not enabled"),
+      touching("NoValue", "UISlider", "slide $v nan",
+               "5:10: expected a value of the slider, found nan"),
+      touching("Wheel", "UIDatePicker",
+               "send $v setDatePickerMode: 3\nsend $v setEnabled: NO\npick $v 5m",
+               "7:1: UIDatePicker is not enabled"),
+      touching("CoveredWheel", "UIDatePicker",
+               "send $v setDatePickerMode: 3\nlet b UIButton.new\nsend $b setFrame: {{0, 0}, {300, "
+               "200}}\nsend $v addSubview: $b\npick $v 5m",
+               "9:1: the touch is not for UIDatePicker but for UIButton"),
+      touching("NoRow", "UIPickerView", "select $v 0",
+               "5:1: the picker view has no row 0 in component 0"));
 
 }  // namespace
 }  // namespace sim

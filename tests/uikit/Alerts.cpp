@@ -1,6 +1,5 @@
 #include "simulator/uikit/alerts/AlertView.h"
 #include "simulator/uikit/alerts/UIAlertController.h"
-#include "simulator/uikit/touches/Touch.h"
 #include "tests/uikit/UIKitTest.h"
 
 namespace sim {
@@ -116,7 +115,7 @@ TEST_F(Alerts, TheirButtonsCanBeTouched) {
   const auto window = shownWindow();
   const AlertView& view = AlertView::of(send<Object, "view">(show(window)));
   advance(0);
-  tapControl(view.buttons[1].get());
+  EXPECT_EQ(tap(view.buttons[1]), "");
   advance(0);
   EXPECT_EQ(pressed, "Later");
 }

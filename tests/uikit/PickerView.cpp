@@ -69,9 +69,11 @@ TEST_F(PickerView, SelectingByMessageTellsNobody) {
   EXPECT_TRUE(chosen.empty());
 }
 
-TEST_F(PickerView, SelectingByTouchTellsTheDelegate) {
-  EXPECT_TRUE(UIPickerView::of(picker.get()).selectRowByTouch(4, 0));
-  EXPECT_FALSE(UIPickerView::of(picker.get()).selectRowByTouch(99, 0));
+TEST_F(PickerView, TurningItByHandTellsTheDelegate) {
+  EXPECT_TRUE(UIPickerView::of(picker.get()).hasRow(98, 0));
+  EXPECT_FALSE(UIPickerView::of(picker.get()).hasRow(99, 0));
+  EXPECT_FALSE(UIPickerView::of(picker.get()).hasRow(0, 1));
+  UIPickerView::of(picker.get()).turnTo(4, 0);
   EXPECT_EQ(selected(), 4);
   EXPECT_EQ(chosen, std::vector<long>{4});
 }

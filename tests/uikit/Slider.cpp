@@ -33,7 +33,7 @@ TEST_F(Slider, FillsItsLineByItsValue) {
   EXPECT_EQ(frameOf(send<Object, "objectAtIndex:">(lines, 1UL)), rect(0, 12, 100, 6));
 }
 
-TEST_F(Slider, TellsOnlyOfWhatAFingerDoes) {
+TEST_F(Slider, TellsOnlyOfWhatAHandDoes) {
   const auto slider = make("UISlider"), shown = make("UIView");
   constexpr unsigned long valueChanged = 1 << 12;
   send<void, "addTarget:action:forControlEvents:">(
@@ -41,7 +41,7 @@ TEST_F(Slider, TellsOnlyOfWhatAFingerDoes) {
   send<void, "layoutIfNeeded">(shown.get());
   send<void, "setValue:">(slider.get(), 0.5F);
   EXPECT_FALSE(UIView::of(shown.get()).needsLayout);
-  UISlider::of(slider.get()).slideByTouch(0.25F);
+  UISlider::of(slider.get()).turnBy(5);
   EXPECT_EQ(valueOf(slider), 0.25F);
   EXPECT_TRUE(UIView::of(shown.get()).needsLayout);
 }

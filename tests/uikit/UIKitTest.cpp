@@ -3,6 +3,9 @@
 #include "simulator/host/TemporaryFolder.h"
 #include "simulator/runtime/LiveObjects.h"
 #include "simulator/standin/Registration.h"
+#include "simulator/uikit/touches/Finger.h"
+#include "simulator/uikit/touches/Touch.h"
+#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {
@@ -64,6 +67,17 @@ std::vector<std::string> UIKitTest::journal() const {
   const auto& entries = phone.journal.entries();
   for (std::size_t i = journalStart_; i < entries.size(); ++i) lines.push_back(entries[i].text);
   return lines;
+}
+
+std::string tap(Object view) {
+  const objc::AutoreleasePool pool;
+  try {
+    Finger& finger = Finger::current();
+    finger.touch(finger.reach(view, middleOf(view)), toRoot(view, middleOf(view)));
+    return {};
+  } catch (const OutOfReach& error) {
+    return error.what();
+  }
 }
 
 }  // namespace sim

@@ -69,4 +69,8 @@ inline Strong<Object> shownWindow(CGRect frame = rect(0, 0, 390, 844)) {
   return window;
 }
 
+// A finger down in the middle of the view and up again; what a script's author is told when that
+// cannot be, empty when it can.
+std::string tap(Object view);
+
 }  // namespace sim

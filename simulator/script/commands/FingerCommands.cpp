@@ -37,9 +37,9 @@ void begin(CGPoint place) {
   if (Finger::current().isDown()) throw ScriptError(0, "a finger is on the screen already");
   const Object view = viewOnScreenAt(place);
   if (!view) throw ScriptError(0, "nothing on the screen takes a touch there");
-  const Object control = controlTracking(view);
+  const Object responder = responderToTouch(view);
   Phone::current().journal.record(
-      "user touch " + std::string(object_getClassName((control ? control : view).get())));
+      "user touch " + std::string(object_getClassName((responder ? responder : view).get())));
   Finger::current().began(place);
 }
 

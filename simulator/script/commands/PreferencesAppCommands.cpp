@@ -10,8 +10,9 @@
 #include "simulator/preferences/PreferencesApp.h"
 #include "simulator/script/Command.h"
 #include "simulator/script/values/PhoneVariables.h"
+#include "simulator/uikit/touches/Finger.h"
 #include "simulator/uikit/touches/Touch.h"
-#include "simulator/uikit/views/ViewBuilding.h"
+#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {
@@ -67,14 +68,10 @@ Object rowOf(const Word& label, const std::optional<Word>& header) {
 
 // Scrolled into sight first, as a person would.
 void reach(Object row) {
-  Object page = PreferencesApp::current().page();
+  const Object page = PreferencesApp::current().page();
   PageView::of(page).scrollTo(row);
   objc::send<void, "layoutIfNeeded">(page);
-  const CGSize size = sizeOf(row);
-  const Object hit = viewTouchedAt(row, {size.width / 2, size.height / 2});
-  if (hit && touchIsFor(row, hit)) return;
-  throw ScriptError(0, std::string("the touch does not reach the row but ") +
-                           (hit ? object_getClassName(hit.get()) : "nothing"));
+  Finger::current().reach(row, middleOf(row));
 }
 
 void record(const std::string& what) {
@@ -89,7 +86,7 @@ void tapRow(Arguments& words) {
   if (!RowView::of(row).row.tapped) throw ScriptError(label.column, "the row takes no taps");
   reach(row);
   record("tap " + sim::quoted(label.text));
-  tapControl(row);
+  Finger::current().touch(row, toRoot(row, middleOf(row)));
 }
 
 void typeInRow(Arguments& words) {
@@ -161,7 +158,9 @@ void addPreferencesAppCommands(CommandTable& table) {
        "[under HEADER]",
        "settings open",
        "The user opens the Settings application, goes a page back or home, taps the row of "
-       "that label, or types a text in it. While it is open $settings is its page.",
+       "that label, or types a text in it. The page is scrolled until the row is seen, and the row "
+       "touched as by `tap`; the text is there at once, without keyboard. While it is open "
+       "$settings is its page.",
        settings});
   table.add({"expect-settings", Stage::running,
              "expect-settings LABEL VALUE|YES|NO|none [under HEADER], expect-settings closed",

@@ -9,27 +9,20 @@
 #include "simulator/script/commands/UIKitCommands.h"
 #include "simulator/script/values/Literal.h"
 #include "simulator/script/values/Target.h"
-#include "simulator/uikit/controls/UIButton.h"
 #include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/controls/UISlider.h"
+#include "simulator/uikit/pickers/PickerTouches.h"
 #include "simulator/uikit/pickers/UIDatePicker.h"
 #include "simulator/uikit/pickers/UIPickerView.h"
+#include "simulator/uikit/touches/Finger.h"
 #include "simulator/uikit/touches/Touch.h"
 #include "simulator/uikit/touches/UIMotionEvent.h"
-#include "simulator/uikit/views/UIView.h"
+#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {
 
 using objc::Object;
-
-// UIButton "Back"
-std::string named(Object view) {
-  std::string name = object_getClassName(view.get());
-  if (!isA<UIButton>(view)) return name;
-  const std::string title = text(objc::send<Object, "currentTitle">(view));
-  return title.empty() ? name : name + ' ' + sim::quoted(title);
-}
 
 void record(const std::string& what) {
   Phone::current().journal.record("user " + what);
@@ -45,31 +38,23 @@ Object readView(Arguments& words, const char* kind) {
   return view;
 }
 
-CGPoint centreOf(Object view) {
-  const CGRect bounds = UIView::of(view).geometry().bounds;
-  return {bounds.origin.x + bounds.size.width / 2, bounds.origin.y + bounds.size.height / 2};
-}
-
-// What takes the touch; ScriptError when it is another view or none.
-Object reach(Object view, CGPoint point) {
-  const Object hit = viewTouchedAt(view, point);
-  if (hit && touchIsFor(view, hit)) return hit;
-  throw ScriptError(0, "the touch does not reach " + named(view) + " but " +
-                           (hit ? named(hit) : std::string("nothing")));
+// Nothing lies on it that would take the touch.
+void expectItself(Object view, Object responder) {
+  if (responder != view)
+    throw OutOfReach("the touch is not for " + nameForPeople(view) + " but for " +
+                     nameForPeople(responder));
 }
 
 void tap(Arguments& words) {
   const Object view = readView<UIView>(words, "view");
-  CGPoint point = centreOf(view);
+  CGPoint point = middleOf(view);
   if (words.takeKeyword("at"))
     point = converted(readLiteral(words, "a point such as {10, 20}"), parseType("{CGPoint=dd}"))
                 .as<CGPoint>();
   words.finish();
-  const Object control = controlTracking(reach(view, point));
-  if (!control) throw ScriptError(0, named(view) + " is no control and lies in none");
-  if (!UIControl::of(control).enabled) throw ScriptError(0, named(control) + " is not enabled");
-  record("tap " + named(control));
-  tapControl(control);
+  const Object responder = Finger::current().reach(view, point);
+  record("tap " + nameForPeople(responder));
+  Finger::current().touch(responder, toRoot(view, point));
 }
 
 void select(Arguments& words) {
@@ -77,22 +62,25 @@ void select(Arguments& words) {
   const long row = words.integer("a row");
   const long component = words.atEnd() ? 0 : words.integer("a component");
   words.finish();
-  reach(view, centreOf(view));
-  record("select row " + std::to_string(row));
-  if (!UIPickerView::of(view).selectRowByTouch(row, component))
+  UIPickerView& picker = UIPickerView::of(view);
+  if (!picker.hasRow(row, component))
     throw ScriptError(0, "the picker view has no row " + std::to_string(row) + " in component " +
                              std::to_string(component));
+  expectItself(view, responderTouchedAt(view, middleOfWheel(view, component)));
+  record("select row " + std::to_string(row));
+  picker.turnTo(row, component);
 }
 
 void pick(Arguments& words) {
   const Object view = readView<UIDatePicker>(words, "UIDatePicker");
   const double duration = seconds(words.duration("a duration on the wheels"));
   words.finish();
-  reach(view, centreOf(view));
   UIDatePicker& picker = UIDatePicker::of(view);
   if (!picker.canShow(duration))
     throw ScriptError(0, "the wheels go in steps of " + std::to_string(picker.interval) +
                              " minutes up to 23 hours and 59 minutes");
+  for (const long wheel : {0L, 1L})
+    expectItself(view, responderTouchedAt(view, middleOfWheel(view, wheel)));
   record("pick " + notation(duration));
   objc::send<void, "setCountDownDuration:">(view, duration);
   UIControl::of(view).sendActionsForEvents(UIControl::valueChanged, nullptr);
@@ -102,13 +90,15 @@ void slide(Arguments& words) {
   const Object view = readView<UISlider>(words, "UISlider");
   const double value = words.number("a value of the slider");
   words.finish();
-  reach(view, centreOf(view));
-  UISlider& slider = UISlider::of(view);
-  if (value < double(slider.minimumValue) || value > double(slider.maximumValue))
+  const UISlider& slider = UISlider::of(view);
+  if (!(value >= double(slider.minimumValue) && value <= double(slider.maximumValue)))
     throw ScriptError(0, "the slider goes from " + notation(slider.minimumValue) + " to " +
                              notation(slider.maximumValue));
+  const CGPoint knob = slider.knob();
+  const CGPoint to = {knob.x + slider.wayTo(float(value)), knob.y};
+  expectItself(view, Finger::current().reach(view, knob));
   record("slide " + notation(value));
-  slider.slideByTouch(float(value));
+  Finger::current().touch(view, toRoot(view, knob), toRoot(view, to));
 }
 
 // Each shake ends with its state back at 0.
@@ -125,20 +115,32 @@ void shake(Arguments& words) {
 
 void addTouchCommands(CommandTable& table) {
   table.add({"tap", Stage::running, "tap TARGET [at {X, Y}]", "tap $panel.backButton",
-             "The user taps a view, in its middle or at a point of its own coordinates; it fails, "
-             "naming what is touched instead, when the touch does not reach the view.",
+             "The user taps a view, in its middle or at a point of its own coordinates: a finger "
+             "comes down and leaves it, as with `touch`. It fails where the touch reaches another "
+             "view, naming that, where nothing takes touches, and where a control is not enabled "
+             "or does not follow the finger.",
              tap});
   table.add({"select", Stage::running, "select TARGET ROW [COMPONENT]", "select $picker 4",
              "The user turns the wheel of a picker view to a row; rows and components count from "
-             "0.",
+             "0. It fails where a finger would not reach the middle of the wheel, but no touch is "
+             "sent: the row counts and is told at once, and the wheel rolls there afterwards. "
+             "`touch` and `scroll` turn wheels as a finger does, with its swing, the rows on the "
+             "way and the time until they rest. A picker in no window is taken as alone on the "
+             "screen.",
              select});
   table.add({"shake", Stage::running, "shake", "shake",
              "The user shakes the phone: the shake state of a motion event becomes 1, then 0.",
              shake});
   table.add({"slide", Stage::running, "slide TARGET VALUE", "slide $slider 0.25",
-             "The user drags the knob of a slider to a value.", slide});
-  table.add({"pick", Stage::running, "pick TARGET DURATION", "pick $datePicker 45m",
-             "The user turns the wheels of a count-down date picker to a duration.", pick});
+             "The user drags the knob of a slider to a value: a finger comes down on the knob, "
+             "moves once and leaves it. It fails where `tap` would.",
+             slide});
+  table.add(
+      {"pick", Stage::running, "pick TARGET DURATION", "pick $datePicker 45m",
+       "The user turns the wheels of a count-down date picker to a duration. It fails where a "
+       "finger would not reach both wheels, but as with `select` no touch is sent: the "
+       "duration counts and is told at once.",
+       pick});
 }
 
 }  // namespace sim

@@ -89,7 +89,9 @@ void cancelFollowing(Object, Object) {}
 }  // namespace
 
 void addControlTracking(StandIn<UIControl>& control) {
-  control.method<"touchesBegan:withEvent:", &began>()
+  control
+      .partial<"touchesBegan:withEvent:", &began>(
+          "follows touches of views in it, too, that a phone's control leaves to them")
       .method<"touchesMoved:withEvent:", &moved>()
       .method<"touchesEnded:withEvent:", &ended>()
       .method<"touchesCancelled:withEvent:", &cancelled>()

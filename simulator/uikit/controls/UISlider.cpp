@@ -27,9 +27,8 @@ objc::Strong<Object> addLine(Object slider, double alpha) {
 // "45%"
 Object spokenPart(Object self) {
   const UISlider& slider = UISlider::of(self);
-  const double range = double(slider.maximumValue) - double(slider.minimumValue);
-  const double part = range > 0 ? (double(slider.value) - double(slider.minimumValue)) / range : 0;
-  return accessibilityValueOr(self.get(), string(std::to_string(std::lround(part * 100)) + '%'));
+  const long percent = std::lround(slider.partAt(slider.value) * 100);
+  return accessibilityValueOr(self.get(), string(std::to_string(percent) + '%'));
 }
 unsigned long sliderTraits(Object self) {
   return accessibilityTraitsOr(self.get(),
@@ -61,14 +60,27 @@ void UISlider::setValueAnimated(float to, bool) {
 void UISlider::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize size = UIView::of(self()).geometry().bounds.size;
-  const double range = double(maximumValue) - double(minimumValue);
-  const double part = range > 0 ? (double(value) - double(minimumValue)) / range : 0;
   const double y = (size.height - lineHeight) / 2;
   setFrame(track, {{0, y}, {size.width, lineHeight}});
-  setFrame(filled, {{0, y}, {size.width * part, lineHeight}});
+  setFrame(filled, {{0, y}, {size.width * partAt(value), lineHeight}});
 }
 
-void UISlider::slideByTouch(float to) {
+double UISlider::partAt(float at) const {
+  const double range = double(maximumValue) - double(minimumValue);
+  return range > 0 ? (double(at) - double(minimumValue)) / range : 0;
+}
+
+CGPoint UISlider::knob() const {
+  const CGRect bounds = UIView::of(self()).geometry().bounds;
+  const double way = std::min(bounds.size.width * partAt(value), bounds.size.width - 1);
+  return {bounds.origin.x + way, bounds.origin.y + bounds.size.height / 2};
+}
+
+double UISlider::wayTo(float to) const {
+  return UIView::of(self()).geometry().bounds.size.width * (partAt(to) - partAt(value));
+}
+
+void UISlider::slideTo(float to) {
   const auto kept = objc::retain(Object(self()));
   objc::send<void, "setValue:">(self(), to);
   UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
@@ -86,14 +98,14 @@ bool UISlider::continueTracking(Object touch, Object) {
   const double way = UITouch::of(touch).locationInView(Object(self())).x - fingerFrom_;
   if (width <= 0) return true;
   const auto to = float(double(heldFrom_) + way / width * range);
-  if (std::clamp(to, minimumValue, maximumValue) != value) slideByTouch(to);
+  if (std::clamp(to, minimumValue, maximumValue) != value) slideTo(to);
   return true;
 }
 
 void UISlider::turnBy(long steps) {
   constexpr double step = 0.05;
   const double range = double(maximumValue) - double(minimumValue);
-  slideByTouch(float(double(value) - double(steps) * step * range));
+  slideTo(float(double(value) - double(steps) * step * range));
 }
 
 void UISlider::registerClass() {

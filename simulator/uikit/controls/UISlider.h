@@ -21,12 +21,18 @@ struct UISlider : objc::Implementation<UISlider> {
   bool continueTracking(objc::Object touch, objc::Object event);
   // By a mouse's wheel or a key: so many twentieths of the way down.
   void turnBy(long steps);
-  // A finger drags the knob there: its actions are sent.
-  void slideByTouch(float to);
+  // How much of its length the knob has behind it, for that value.
+  double partAt(float at) const;
+  // Where a finger finds the knob, in the slider's own coordinates, and how far it then goes to the
+  // right for a value.
+  CGPoint knob() const;
+  double wayTo(float to) const;
 
   static void registerClass();
 
  private:
+  void slideTo(float to);  // by hand: its actions are sent
+
   float heldFrom_ = 0;     // the value when a finger came down
   double fingerFrom_ = 0;  // and where that was, x
 };

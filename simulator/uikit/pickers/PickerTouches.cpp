@@ -1,12 +1,15 @@
 #include "simulator/uikit/pickers/PickerTouches.h"
 
 #include <cmath>
+#include <vector>
 
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/pickers/UIDatePicker.h"
 #include "simulator/uikit/pickers/UIPickerColumnView.h"
 #include "simulator/uikit/pickers/UIPickerView.h"
+#include "simulator/uikit/touches/Touch.h"
 #include "simulator/uikit/touches/UITouch.h"
 #include "simulator/uikit/views/UIView.h"
 #include "simulator/uikit/views/ViewTree.h"
@@ -22,10 +25,16 @@ Object pickerOf(Object view) {
   return view;
 }
 
-UIPickerColumnView* heldWheel(Object picker) {
+std::vector<UIPickerColumnView*> wheelsOf(Object picker) {
+  std::vector<UIPickerColumnView*> wheels;
   for (const auto& child : UIView::of(picker).children)
-    if (auto* wheel = stateOf<UIPickerColumnView>(child.get()); wheel && wheel->isHeld())
-      return wheel;
+    if (auto* wheel = stateOf<UIPickerColumnView>(child.get())) wheels.push_back(wheel);
+  return wheels;
+}
+
+UIPickerColumnView* heldWheel(Object picker) {
+  for (UIPickerColumnView* wheel : wheelsOf(picker))
+    if (wheel->isHeld()) return wheel;
   return nullptr;
 }
 
@@ -38,19 +47,25 @@ CGPoint placeOn(const UIPickerColumnView& wheel, Object touches) {
 
 UIPickerColumnView* wheelTouchedAt(Object view, CGPoint point) {
   const Object picker = pickerOf(view);
-  if (!picker) return nullptr;
+  const UIControl* control = stateOf<UIControl>(picker);
+  if (!picker || (control != nullptr && !control->enabled)) return nullptr;
   UIPickerColumnView* nearest = nullptr;
   double least = 0;
-  for (const auto& child : UIView::of(picker).children) {
-    auto* wheel = stateOf<UIPickerColumnView>(child.get());
-    if (wheel == nullptr) continue;
-    const double middle = UIView::of(child.get()).geometry().bounds.size.width / 2;
-    const double away = std::abs(fromRoot(child.get(), point).x - middle);
+  for (UIPickerColumnView* wheel : wheelsOf(picker)) {
+    const Object its(wheel->self());
+    const double away = std::abs(fromRoot(its, point).x - middleOf(its).x);
     if (nearest != nullptr && away >= least) continue;
     nearest = wheel;
     least = away;
   }
   return nearest;
+}
+
+CGPoint middleOfWheel(Object picker, long component) {
+  const auto wheels = wheelsOf(picker);
+  if (std::size_t(component) >= wheels.size()) return middleOf(picker);
+  const Object wheel(wheels[std::size_t(component)]->self());
+  return UIView::of(wheel).geometry().toSuperlayer(middleOf(wheel));
 }
 
 void pickerTouchBegan(Object picker, Object touches, Object) {

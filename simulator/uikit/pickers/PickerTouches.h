@@ -9,8 +9,11 @@ namespace sim {
 struct UIPickerColumnView;
 
 // The nearest of the picker's wheels to a point of the screen; nullptr for a picker without wheels,
-// and for views that are none and lie in none.
+// for one that is not enabled, and for views that are none and lie in none.
 UIPickerColumnView* wheelTouchedAt(objc::Object view, CGPoint point);
+
+// In the picker's coordinates; its own middle while it has no such wheel.
+CGPoint middleOfWheel(objc::Object picker, long component);
 
 void pickerTouchBegan(objc::Object picker, objc::Object touches, objc::Object event);
 void pickerTouchMoved(objc::Object picker, objc::Object touches, objc::Object event);

@@ -85,12 +85,14 @@ void UIPickerView::reloadAllComponents() {
     reloadComponent(component);
 }
 
-bool UIPickerView::selectRowByTouch(long row, long component) {
-  if (component < 0 || component >= numberOfComponents()) return false;
-  if (row < 0 || row >= numberOfRows(component)) return false;
+bool UIPickerView::hasRow(long row, long component) const {
+  return component >= 0 && component < numberOfComponents() && row >= 0 &&
+         row < numberOfRows(component);
+}
+
+void UIPickerView::turnTo(long row, long component) {
   selectRow(row, component, true);
   wheelDidTurn(row, component);
-  return true;
 }
 
 void UIPickerView::wheelDidTurn(long row, long component) {

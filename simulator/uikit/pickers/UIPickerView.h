@@ -28,8 +28,9 @@ struct UIPickerView : objc::Implementation<UIPickerView> {
   void reloadAllComponents();
   void reloadComponent(long component);
 
-  // By touch: the delegate hears of it. False when there is no such row.
-  bool selectRowByTouch(long row, long component);
+  bool hasRow(long row, long component) const;
+  // By hand: the delegate hears of it. The row must be there.
+  void turnTo(long row, long component);
 
   ~UIPickerView();
   void layoutSubviews();

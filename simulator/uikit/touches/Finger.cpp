@@ -4,9 +4,11 @@
 #include "simulator/foundation/NSSet.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/uikit/controls/Actions.h"
+#include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/touches/Touch.h"
 #include "simulator/uikit/touches/UIEvent.h"
 #include "simulator/uikit/touches/UITouch.h"
+#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 
@@ -40,6 +42,26 @@ void Finger::cancelled() {
   const CGPoint point = UITouch::of(touch_.get()).place;
   send(objc::selector<"touchesCancelled:withEvent:">(), UITouch::cancelled, point);
   touch_ = {};
+}
+
+Object Finger::reach(Object view, CGPoint point) const {
+  if (isDown()) throw OutOfReach("a finger is on the screen already");
+  if (!windowOf(view)) throw OutOfReach(nameForPeople(view) + " is in no window");
+  return responderTouchedAt(view, point);
+}
+
+void Finger::touch(Object responder, CGPoint from, std::optional<CGPoint> to) {
+  const auto kept = objc::retain(responder);
+  MainQueue& queue = Phone::current().queue;
+  if (!began(from)) throw OutOfReach("nothing on the screen takes a touch there");
+  const bool isFollowed = !isTrackedByUIControl(responder) || UIControl::of(responder).tracking;
+  queue.runDue();
+  if (to) {
+    moved(*to);
+    queue.runDue();
+  }
+  ended(to.value_or(from));
+  if (!isFollowed) throw OutOfReach(nameForPeople(responder) + " does not follow the touch");
 }
 
 void Finger::send(SEL selector, long phase, CGPoint point) {

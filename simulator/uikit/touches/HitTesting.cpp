@@ -1,5 +1,6 @@
 // UIView: which view a touch is for.
 #include "objc/Message.h"
+#include "simulator/uikit/touches/Touch.h"
 #include "simulator/uikit/views/ViewMethods.h"
 
 namespace sim {
@@ -7,20 +8,13 @@ namespace {
 
 using objc::Object;
 
-constexpr double almostTransparent = 0.01;
-
 bool pointInside(Object self, CGPoint point, Object) {
   return UIView::of(self).geometry().bounds.contains(point);
 }
 
-bool takesTouches(Object self) {
-  const UIView& view = UIView::of(self);
-  return view.userInteractionEnabled && !view.isHidden() && view.alpha() >= almostTransparent;
-}
-
 // The frontmost view first, and within it its own subviews.
 Object hitTest(Object self, CGPoint point, Object event) {
-  if (!takesTouches(self)) return nullptr;
+  if (whyUntouchable(UIView::of(self)) != nullptr) return nullptr;
   if (!objc::send<bool, "pointInside:withEvent:">(self, point, event)) return nullptr;
   const auto children = UIView::of(self).children;
   for (auto child = children.rbegin(); child != children.rend(); ++child) {

@@ -1,10 +1,24 @@
-// A finger on the screen.
+// What a finger at a point touches.
 #pragma once
+
+#include <stdexcept>
+#include <string>
 
 #include "objc/Object.h"
 #include "simulator/coregraphics/Geometry.h"
+#include "simulator/uikit/views/UIView.h"
 
 namespace sim {
+
+// A person cannot touch what a script names: why, and what is touched instead.
+class OutOfReach : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// "is hidden" and the like of a view that takes no touches, nor do those that lie in it; nullptr
+// for one that does.
+const char* whyUntouchable(const UIView& view);
 
 // The view that a touch at that point of the screen is for: the uppermost window's that takes it;
 // nil for none.
@@ -18,10 +32,22 @@ objc::Object viewTouchedAt(objc::Object view, CGPoint point);
 // it is a part of.
 bool touchIsFor(objc::Object view, objc::Object hit);
 
-// The control that tracks a touch of that view, nil for none.
-objc::Object controlTracking(objc::Object hit);
+// The first from that view up the responder chain that does something with touches: a control, or
+// who handles them itself. nil for none.
+objc::Object responderToTouch(objc::Object hit);
 
-// Finger down and up again inside the control, which must be enabled.
-void tapControl(objc::Object control);
+// Whether it is for the methods that controls inherit to handle its touches.
+bool isTrackedByUIControl(objc::Object responder);
+
+// In the view's own coordinates.
+CGPoint middleOf(objc::Object view);
+
+// UIButton "Back"
+std::string nameForPeople(objc::Object responder);
+
+// Who takes a touch at that point of the view's coordinates: the view or one in it, or the control
+// that it is a part of. Throws OutOfReach where that would be another, nobody who does anything
+// with touches, or a control that is not enabled.
+objc::Object responderTouchedAt(objc::Object view, CGPoint point);
 
 }  // namespace sim

@@ -155,8 +155,17 @@ TEST_F(Touches, ReachNothingOutsideOfWhatItLiesIn) {
   EXPECT_EQ(tap(control),
             "the touch does not reach ToldControl but nothing: the point lies "
             "outside UIWindow around it");
+  EXPECT_EQ(told, Told());
+}
+
+TEST_F(Touches, ReachAViewInNoWindowAsIfItWereAlone) {
   send<void, "removeFromSuperview">(parent);
-  EXPECT_EQ(tap(control), "ToldControl is in no window");
+  EXPECT_EQ(tap(control), "");
+  EXPECT_NE(told, Told());
+  told = {};
+  send<void, "setHidden:">(parent, true);
+  EXPECT_EQ(tap(control),
+            "the touch does not reach ToldControl but nothing: UIView around it is hidden");
   EXPECT_EQ(told, Told());
 }
 
@@ -205,7 +214,7 @@ TEST_F(Touches, DragAKnobToItsValue) {
   for (const float value : {0.3F, 1.0F, 0.0F, 0.7F}) {
     told.clear();
     const CGPoint knob = state.knob(), to = {knob.x + state.wayTo(value), knob.y};
-    Finger::current().touch(slider, toRoot(slider, knob), toRoot(slider, to));
+    Finger::current().touch(slider, slider, knob, to);
     EXPECT_EQ((send<float, "value">(slider)), value);
     EXPECT_EQ(told, (Told{"changed", "up"}));
   }

@@ -5,7 +5,6 @@
 #include "simulator/standin/Registration.h"
 #include "simulator/uikit/touches/Finger.h"
 #include "simulator/uikit/touches/Touch.h"
-#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {
@@ -73,7 +72,7 @@ std::string tap(Object view) {
   const objc::AutoreleasePool pool;
   try {
     Finger& finger = Finger::current();
-    finger.touch(finger.reach(view, middleOf(view)), toRoot(view, middleOf(view)));
+    finger.touch(view, finger.reach(view, middleOf(view)), middleOf(view));
     return {};
   } catch (const OutOfReach& error) {
     return error.what();

@@ -12,7 +12,6 @@
 #include "simulator/script/values/PhoneVariables.h"
 #include "simulator/uikit/touches/Finger.h"
 #include "simulator/uikit/touches/Touch.h"
-#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {
@@ -86,7 +85,7 @@ void tapRow(Arguments& words) {
   if (!RowView::of(row).row.tapped) throw ScriptError(label.column, "the row takes no taps");
   reach(row);
   record("tap " + sim::quoted(label.text));
-  Finger::current().touch(row, toRoot(row, middleOf(row)));
+  Finger::current().touch(row, row, middleOf(row));
 }
 
 void typeInRow(Arguments& words) {

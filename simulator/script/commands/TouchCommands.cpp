@@ -17,7 +17,6 @@
 #include "simulator/uikit/touches/Finger.h"
 #include "simulator/uikit/touches/Touch.h"
 #include "simulator/uikit/touches/UIMotionEvent.h"
-#include "simulator/uikit/views/ViewTree.h"
 
 namespace sim {
 namespace {
@@ -54,7 +53,7 @@ void tap(Arguments& words) {
   words.finish();
   const Object responder = Finger::current().reach(view, point);
   record("tap " + nameForPeople(responder));
-  Finger::current().touch(responder, toRoot(view, point));
+  Finger::current().touch(view, responder, point);
 }
 
 void select(Arguments& words) {
@@ -98,7 +97,7 @@ void slide(Arguments& words) {
   const CGPoint to = {knob.x + slider.wayTo(float(value)), knob.y};
   expectItself(view, Finger::current().reach(view, knob));
   record("slide " + notation(value));
-  Finger::current().touch(view, toRoot(view, knob), toRoot(view, to));
+  Finger::current().touch(view, view, knob, to);
 }
 
 // Each shake ends with its state back at 0.
@@ -118,7 +117,7 @@ void addTouchCommands(CommandTable& table) {
              "The user taps a view, in its middle or at a point of its own coordinates: a finger "
              "comes down and leaves it, as with `touch`. It fails where the touch reaches another "
              "view, naming that, where nothing takes touches, and where a control is not enabled "
-             "or does not follow the finger.",
+             "or does not follow the finger. A view in no window is taken as alone on the screen.",
              tap});
   table.add({"select", Stage::running, "select TARGET ROW [COMPONENT]", "select $picker 4",
              "The user turns the wheel of a picker view to a row; rows and components count from "

@@ -20,13 +20,16 @@ Finger& Finger::current() {
 
 Object Finger::began(CGPoint point) {
   const Object view = viewOnScreenAt(point);
-  if (!view) return nullptr;
+  if (view) begin(view, point);
+  return view;
+}
+
+void Finger::begin(Object view, CGPoint point) {
   touch_ = UITouch::make();
   UITouch& touch = UITouch::of(touch_.get());
   touch.view = objc::retain(view);
   touch.place = point;
   send(objc::selector<"touchesBegan:withEvent:">(), UITouch::began, point);
-  return view;
 }
 
 void Finger::moved(CGPoint point) {
@@ -46,21 +49,21 @@ void Finger::cancelled() {
 
 Object Finger::reach(Object view, CGPoint point) const {
   if (isDown()) throw OutOfReach("a finger is on the screen already");
-  if (!windowOf(view)) throw OutOfReach(nameForPeople(view) + " is in no window");
   return responderTouchedAt(view, point);
 }
 
-void Finger::touch(Object responder, CGPoint from, std::optional<CGPoint> to) {
+void Finger::touch(Object view, Object responder, CGPoint from, std::optional<CGPoint> to) {
   const auto kept = objc::retain(responder);
   MainQueue& queue = Phone::current().queue;
-  if (!began(from)) throw OutOfReach("nothing on the screen takes a touch there");
+  const CGPoint start = toRoot(view, from), end = toRoot(view, to.value_or(from));
+  begin(viewTouchedAt(view, from), start);
   const bool isFollowed = !isTrackedByUIControl(responder) || UIControl::of(responder).tracking;
   queue.runDue();
   if (to) {
-    moved(*to);
+    moved(end);
     queue.runDue();
   }
-  ended(to.value_or(from));
+  ended(end);
   if (!isFollowed) throw OutOfReach(nameForPeople(responder) + " does not follow the touch");
 }
 

@@ -23,14 +23,16 @@ class Finger {
   void cancelled();
 
   // Who would be touched at that point of the view's coordinates, as responderTouchedAt() says.
-  // Throws OutOfReach also for a view in no window, and while the finger is down.
+  // Throws OutOfReach also while the finger is down.
   objc::Object reach(objc::Object view, CGPoint point) const;
-  // Comes down and leaves again, there or at another place, of which it is told in one move. No
-  // time passes, but the main queue goes on after each step. Throws OutOfReach when all is over and
-  // the responder, as reach() gives it, has not followed.
-  void touch(objc::Object responder, CGPoint from, std::optional<CGPoint> to = std::nullopt);
+  // Comes down at a point of the view and leaves again, there or at another, of which it is told in
+  // one move. No time passes, but the main queue goes on after each step. Throws OutOfReach when
+  // all is over and the responder, as reach() gives it, has not followed.
+  void touch(objc::Object view, objc::Object responder, CGPoint from,
+             std::optional<CGPoint> to = std::nullopt);
 
  private:
+  void begin(objc::Object view, CGPoint point);
   void send(SEL selector, long phase, CGPoint point);
 
   objc::Strong<objc::Object> touch_;  // UITouch, while the finger is down

@@ -62,12 +62,13 @@ def behaviour(script):
 
 def rows_by_subject():
     rows = {subject: [] for subject in SUBJECTS}
-    for script in sorted(SCRIPTS.glob("*.phone")):
-        subject = script.stem.split("-")[0]
+    for script in sorted([*SCRIPTS.glob("*.phone"), *SCRIPTS.glob("*.phone.in")]):
+        name = script.name.split(".")[0]
+        subject = name.split("-")[0]
         if subject not in rows:
             raise CoverageError(f"{script.name}: expected a name that begins with one of {', '.join(SUBJECTS)}")
         text = behaviour(script).replace("|", "\\|")
-        rows[subject].append(f"| {text} | {script.stem} |")
+        rows[subject].append(f"| {text} | {name} |")
     return rows
 
 

@@ -26,7 +26,8 @@ def options():
     parser.add_argument("--build", type=pathlib.Path, default=ROOT / "build/dev")
     parser.add_argument("--library", type=pathlib.Path, help="default: the extension")
     parser.add_argument("--subject", default="tweak", help="the folder that is changed")
-    parser.add_argument("--scripts", type=pathlib.Path, default=ROOT / "tests/phone")
+    parser.add_argument("--scripts", type=pathlib.Path,
+                        help="default: tests/phone, and those that the build makes of templates")
     parser.add_argument("--survivors", type=pathlib.Path, default=HERE / "survivors.txt")
     parser.add_argument("--no-model", action="store_true", help="scripts only")
     choice = parser.add_argument_group("which mutants; all of them without")
@@ -121,8 +122,9 @@ def main():
         return 0
 
     model = None if wanted.no_model else build / "tests/model/model_nights"
+    folders = [wanted.scripts] if wanted.scripts else [ROOT / "tests/phone", build / "tests/phone/made"]
     player = Player(project, build / "simulator/dozewell-simulator", build / "package", model,
-                    sorted(wanted.scripts.glob("*.phone")))
+                    sorted(script for folder in folders for script in folder.glob("*.phone")))
     objects = project.build_all("objects")
     world = fingerprint([*objects.values(), project.header_object, player.simulator, model])
     coverage = Coverage(project, player)

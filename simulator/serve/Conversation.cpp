@@ -4,7 +4,7 @@
 #include "simulator/script/Interrupted.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/ServedPhone.h"
-#include "simulator/serve/Watchers.h"
+#include "simulator/serve/Subscribers.h"
 
 namespace sim {
 
@@ -30,8 +30,8 @@ void ServedPhone::receive() {
 
 // Some things are not for later.
 void ServedPhone::take(const Json& request) {
-  if (const auto watched = request.find("watched"); watched != request.end())
-    isWatched_ = watched->get<bool>();
+  if (const auto subscribed = request.find("hasSubscribers"); subscribed != request.end())
+    hasSubscribers_ = subscribed->get<bool>();
   else if (request.contains("ping"))
     send({{"progress", session_.phone.clock.uptime()}});
   else if (request.contains("interrupt"))
@@ -71,7 +71,7 @@ void ServedPhone::progress() {
   progressed_ = now;
   send({{"progress", session_.phone.clock.uptime()}});
   receive();
-  tellWatchers(now);
+  tellSubscribers(now);
   if (printed_ != nullptr && printed_->tellp() > mostOutput)
     throw ScriptError(0, "expected to print at most " + std::to_string(mostOutput) + " bytes");
   if (!std::exchange(isInterrupted_, false)) return;

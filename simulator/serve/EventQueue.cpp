@@ -43,7 +43,7 @@ void EventQueue::put(std::string_view event) {
   wake();
 }
 
-void EventQueue::startOver(std::string snapshot) {
+void EventQueue::reset(std::string snapshot) {
   const std::lock_guard lock(mutex_);
   waiting_ = std::move(snapshot);
   behind_ = false;

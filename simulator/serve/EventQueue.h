@@ -10,7 +10,7 @@
 namespace sim {
 
 // The phone's thread puts events in and never waits; the connection's thread takes them out. A
-// reader who is too slow loses all that waits and is behind from then on, until it starts over.
+// reader who is too slow loses all that waits and is behind from then on, until it is reset.
 class EventQueue {
  public:
   explicit EventQueue(std::string page);
@@ -23,7 +23,7 @@ class EventQueue {
   // Does nothing once the reader is behind.
   void put(std::string_view event);
   // The first event of those that follow, in place of all before.
-  void startOver(std::string snapshot);
+  void reset(std::string snapshot);
   // No further events will come.
   void close();
 

@@ -27,21 +27,21 @@ std::string newPage() {
   return "page-" + std::to_string(++count);
 }
 
-void watch(const Watchers::Watcher& watcher, Inbox& inbox) {
-  inbox.ask([&watcher](Supervisor& supervisor, const Inbox::Promise& promise) {
-    supervisor.watch(watcher, promise);
+void subscribe(const Subscriber& subscriber, Inbox& inbox) {
+  inbox.ask([&subscriber](Supervisor& supervisor, const Inbox::Promise& promise) {
+    supervisor.subscribe(subscriber, promise);
   });
 }
 
 // One piece of the stream; false when it is over.
-bool sendNews(const Watchers::Watcher& watcher, Inbox& inbox, int socket, httplib::DataSink& sink) {
-  switch (watcher->wait(socket)) {
+bool sendNews(const Subscriber& subscriber, Inbox& inbox, int socket, httplib::DataSink& sink) {
+  switch (subscriber->wait(socket)) {
     case EventQueue::News::events: {
-      const std::string events = watcher->take();
+      const std::string events = subscriber->take();
       return sink.write(events.data(), events.size());
     }
     case EventQueue::News::behind:
-      watch(watcher, inbox);
+      subscribe(subscriber, inbox);
       return true;
     case EventQueue::News::closed:
     case EventQueue::News::readerGone:
@@ -56,19 +56,20 @@ void stream(const Router::Visit& visit, Inbox& inbox) {
     requirePage(page);
   else
     page = newPage();
-  const auto watcher = std::make_shared<EventQueue>(page);
-  watch(watcher, inbox);
+  const auto subscriber = std::make_shared<EventQueue>(page);
+  subscribe(subscriber, inbox);
   visit.response.set_chunked_content_provider(
       "text/event-stream",
-      [watcher, &inbox, socket = HttpServer::connection()](std::size_t, httplib::DataSink& sink) {
+      [subscriber, &inbox, socket = HttpServer::connection()](std::size_t,
+                                                              httplib::DataSink& sink) {
         try {
-          return sendNews(watcher, inbox, socket, sink);
+          return sendNews(subscriber, inbox, socket, sink);
         } catch (const RequestError&) {
           return false;  // the program ends
         }
       },
-      [watcher, &inbox](bool) {
-        inbox.tell([watcher](Supervisor& supervisor) { supervisor.unwatch(watcher); });
+      [subscriber, &inbox](bool) {
+        inbox.tell([subscriber](Supervisor& supervisor) { supervisor.unsubscribe(subscriber); });
       });
 }
 

@@ -7,7 +7,7 @@
 #include "simulator/script/values/Target.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/ServedPhone.h"
-#include "simulator/serve/Watchers.h"
+#include "simulator/serve/Subscribers.h"
 
 namespace sim {
 

@@ -10,7 +10,7 @@
 #include "simulator/script/Interrupted.h"
 #include "simulator/script/Restart.h"
 #include "simulator/script/ScriptFiles.h"
-#include "simulator/serve/Watchers.h"
+#include "simulator/serve/Subscribers.h"
 
 namespace sim {
 
@@ -137,7 +137,7 @@ void ServedPhone::run() {
     answerNext();
     if (isScriptRunning()) playScriptLine();
     const Moment now = steady_clock::now();
-    tellWatchers(now);
+    tellSubscribers(now);
     saveState(now);
     if (!isBehind && !isScriptRunning() && requests_.empty()) supervisor_.waitUntil(nextMoment());
   }
@@ -163,12 +163,12 @@ std::optional<ServedPhone::Moment> ServedPhone::nextMoment() const {
   const auto due = session_.phone.queue.nextDue();
   if (due && session_.state != HostState::off) next = pace_.momentOf(*due);
   const bool isAnimating = report_.isAnimating() && !pace_.isPaused();
-  if (!isWatched_ || (!changed_ && !isAnimating)) return next;
+  if (!hasSubscribers_ || (!changed_ && !isAnimating)) return next;
   return next ? std::min(*next, told_ + frame) : told_ + frame;
 }
 
-void ServedPhone::tellWatchers(Moment now) {
-  if (!isWatched_ || now < told_ + frame) return;
+void ServedPhone::tellSubscribers(Moment now) {
+  if (!hasSubscribers_ || now < told_ + frame) return;
   if (!changed_ && !report_.isAnimating()) return;
   const objc::AutoreleasePool pool;
   report_.tell([this](const std::string& event, const json& data) {

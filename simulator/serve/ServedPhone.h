@@ -82,7 +82,7 @@ class ServedPhone {
   bool catchUp();
   void rebase();
   std::optional<Moment> nextMoment() const;
-  void tellWatchers(Moment now);
+  void tellSubscribers(Moment now);
   void saveState(Moment now);
 
   void send(Json head, std::string body = {});
@@ -107,12 +107,12 @@ class ServedPhone {
 
   std::deque<Json> requests_;
   Json request_;  // being answered; null: none
-  bool isWatched_ = false;
+  bool hasSubscribers_ = false;
   bool isInterrupted_ = false;
   long linesPlayed_ = 0;
   std::size_t ran_ = 0;              // lines of the request being answered
   std::ostream* printed_ = nullptr;  // what they have printed
-  bool changed_ = true;              // since the watchers were told
+  bool changed_ = true;              // since the subscribers were told
   Moment told_{}, progressed_{}, saved_{};
   std::size_t savedAt_ = 0;  // lines of the journal
   bool mustSave_ = true;

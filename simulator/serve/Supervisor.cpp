@@ -38,7 +38,7 @@ Supervisor::Supervisor(ServedFolders folders, std::vector<files::path> extension
 Supervisor::~Supervisor() {
   inbox_.stop();
   while (!requests_.empty()) refuseFirst("the phone ends");
-  watchers_.close();
+  subscribers_.close();
 }
 
 std::unique_ptr<Supervisor::Life> Supervisor::newLife(Json serve) {
@@ -90,7 +90,7 @@ void Supervisor::run() {
 
 int Supervisor::patience() const {
   if (!requests_.empty() || !samples_.empty() || candidate_ || !life_->isReady) return 100;
-  return watchers_.isEmpty() ? -1 : 500;
+  return subscribers_.isEmpty() ? -1 : 500;
 }
 
 bool Supervisor::turn() {
@@ -123,7 +123,7 @@ void Supervisor::take(Life& life, const Message& message) {
   const json& head = message.head;
   if (&life == life_.get()) heard_ = steady_clock::now();
   if (head.contains("event")) {
-    if (&life == life_.get()) watchers_.sendText(message.body);
+    if (&life == life_.get()) subscribers_.sendText(message.body);
   } else if (head.contains("answer")) {
     takeAnswer(message);
   } else if (head.contains("checkpoint")) {
@@ -169,17 +169,17 @@ void Supervisor::hostReady(Life& life) {
     report_.reset();
     answer(candidatePromise_, R"({"ok":true,"restarts":true,"uptime":0})");
   }
-  tellWhetherWatched();
+  tellWhetherSubscribed();
   // Whatever the host before has left unanswered, this one is asked.
   for (auto& [number, request] : requests_) {
     post(request.question);
     request.asked = steady_clock::now();
   }
-  if (watchers_.isEmpty()) return;
+  if (subscribers_.isEmpty()) return;
   ask({{"ask", "snapshot"}}, [this](int status, const std::string& body) {
     if (status != 200) return;
     snapshot_ = body;
-    watchers_.startOver([&](const Watchers::Watcher& each) { return snapshotFor(each, body); });
+    subscribers_.reset([&](const Subscriber& each) { return snapshotFor(each, body); });
   });
 }
 

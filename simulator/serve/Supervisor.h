@@ -18,7 +18,7 @@
 #include "simulator/serve/PhoneJob.h"
 #include "simulator/serve/Recording.h"
 #include "simulator/serve/RequestError.h"
-#include "simulator/serve/Watchers.h"
+#include "simulator/serve/Subscribers.h"
 
 namespace sim {
 
@@ -60,8 +60,8 @@ class Supervisor {
   enum class Sound { ask, take, release };
   std::string chooseSound(const std::string& page, Sound how);
 
-  void watch(const Watchers::Watcher& watcher, const Promise& promise);
-  void unwatch(const Watchers::Watcher& watcher);
+  void subscribe(const Subscriber& subscriber, const Promise& promise);
+  void unsubscribe(const Subscriber& subscriber);
 
   void giveRecording(const Promise& promise);
   // Of the journal; to be closed by who gets it.
@@ -123,15 +123,15 @@ class Supervisor {
   bool isHanging() const;
   Json lifePart() const;
   Json audioPart() const;
-  std::string snapshotFor(const Watchers::Watcher& watcher, const std::string& body) const;
-  void tellWhetherWatched();
+  std::string snapshotFor(const Subscriber& subscriber, const std::string& body) const;
+  void tellWhetherSubscribed();
 
   ServedFolders folders_;
   std::vector<std::filesystem::path> extensions_;
   Zygote& zygote_;
   Inbox& inbox_;
   int endSignals_;
-  Watchers watchers_;
+  Subscribers subscribers_;
   std::string epoch_, audioPage_, snapshot_;
   long lives_ = 0, hosts_ = 0;
 

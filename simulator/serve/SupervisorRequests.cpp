@@ -200,14 +200,14 @@ void Supervisor::lookAfterHost() {
   if (candidate_ && now > candidate_->launched + bootPatience)
     dropCandidate({400, "this phone does not boot: its host does not answer"});
   const bool isSilent = life_->isReady && requests_.empty() && now > heard_ + pingEvery;
-  if (isSilent && !watchers_.isEmpty() && pinged_ <= heard_) {
+  if (isSilent && !subscribers_.isEmpty() && pinged_ <= heard_) {
     post({{"ping", true}});
     pinged_ = now;
   }
   answerSamples();
   Json present = lifePart();
   if (present == toldLife_) return;
-  watchers_.send("life", present);
+  subscribers_.send("life", present);
   toldLife_ = std::move(present);
 }
 
@@ -240,18 +240,17 @@ std::string Supervisor::chooseSound(const std::string& page, Sound how) {
   const std::string before = audioPage_;
   if (how == Sound::release) {
     if (audioPage_ == page) audioPage_.clear();
-  } else if (how == Sound::take || audioPage_.empty() || !watchers_.has(audioPage_)) {
+  } else if (how == Sound::take || audioPage_.empty() || !subscribers_.has(audioPage_)) {
     audioPage_ = page;
   }
-  if (audioPage_ != before) watchers_.send("audio", audioPart());
+  if (audioPage_ != before) subscribers_.send("audio", audioPart());
   return audioPart().dump();
 }
 
 // The host's part of it is long: it is passed on as it is.
-std::string Supervisor::snapshotFor(const Watchers::Watcher& watcher,
-                                    const std::string& body) const {
+std::string Supervisor::snapshotFor(const Subscriber& subscriber, const std::string& body) const {
   const json own = {{"epoch", epoch_ + '-' + std::to_string(hosts_)},
-                    {"page", watcher->page()},
+                    {"page", subscriber->page()},
                     {"audio", audioPart()},
                     {"life", lifePart()}};
   std::string text = jsonText(own);
@@ -259,12 +258,12 @@ std::string Supervisor::snapshotFor(const Watchers::Watcher& watcher,
   return "event: snapshot\ndata: " + text + body.substr(1) + "\n\n";
 }
 
-void Supervisor::watch(const Watchers::Watcher& watcher, const Promise& promise) {
-  const auto begin = [this, watcher, promise](const std::string& body) {
+void Supervisor::subscribe(const Subscriber& subscriber, const Promise& promise) {
+  const auto begin = [this, subscriber, promise](const std::string& body) {
     try {
-      watchers_.add(watcher);
-      watcher->startOver(snapshotFor(watcher, body));
-      tellWhetherWatched();
+      subscribers_.add(subscriber);
+      subscriber->reset(snapshotFor(subscriber, body));
+      tellWhetherSubscribed();
       answer(promise, "null");
     } catch (const RequestError&) {
       refuse(promise, std::current_exception());
@@ -278,14 +277,14 @@ void Supervisor::watch(const Watchers::Watcher& watcher, const Promise& promise)
   });
 }
 
-void Supervisor::unwatch(const Watchers::Watcher& watcher) {
-  watchers_.remove(watcher);
-  if (!watchers_.has(watcher->page())) chooseSound(watcher->page(), Sound::release);
-  tellWhetherWatched();
+void Supervisor::unsubscribe(const Subscriber& subscriber) {
+  subscribers_.remove(subscriber);
+  if (!subscribers_.has(subscriber->page())) chooseSound(subscriber->page(), Sound::release);
+  tellWhetherSubscribed();
 }
 
-void Supervisor::tellWhetherWatched() {
-  if (life_->isReady) post({{"watched", !watchers_.isEmpty()}});
+void Supervisor::tellWhetherSubscribed() {
+  if (life_->isReady) post({{"hasSubscribers", !subscribers_.isEmpty()}});
 }
 
 void Supervisor::giveRecording(const Promise& promise) {

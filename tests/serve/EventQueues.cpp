@@ -36,7 +36,7 @@ TEST(EventQueues, LetASlowReaderStartOver) {
   for (int count = 0; count < 3; ++count) queue.put(half);
   EXPECT_EQ(queue.wait(noSocket), News::behind);
   queue.put("missed");
-  queue.startOver("whole");
+  queue.reset("whole");
   queue.put("next");
   EXPECT_EQ(queue.wait(noSocket), News::events);
   EXPECT_EQ(queue.take(), "wholenext");
@@ -44,7 +44,7 @@ TEST(EventQueues, LetASlowReaderStartOver) {
 
 TEST(EventQueues, TakeASnapshotOfAnySize) {
   EventQueue queue("me");
-  queue.startOver(std::string(3 * EventQueue::mostBytes, 'x'));
+  queue.reset(std::string(3 * EventQueue::mostBytes, 'x'));
   EXPECT_EQ(queue.wait(noSocket), News::events);
 }
 

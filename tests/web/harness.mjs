@@ -161,7 +161,7 @@ export async function openPage(served, { path = "", silent = true, ...context } 
     if (message.type() === "error" && !message.text().startsWith("Failed to load resource"))
       page.problems.push(message.text());
   });
-  // 503 says that the phone begins anew; the page asks again. 401: it has not shown the secret.
+  // 503 says that the phone restarts; the page asks again. 401: it has not shown the secret.
   page.on("response", (response) => {
     const status = response.status();
     const isProblem = status === 401 || status === 404 || (status >= 500 && status !== 503);
@@ -217,7 +217,7 @@ export async function andCommand(page, text, act) {
   await answered;
 }
 
-// Does something that has the host's process begin anew, and waits until the page knows the new
+// Does something that has the host's process restarted, and waits until the page knows the new
 // one.
 export async function andRestart(page, act) {
   const watched = await page.evaluateHandle(async () => {

@@ -1,4 +1,4 @@
-// The host's process begins anew in the middle of a timer: the page comes back by itself.
+// The host's process is restarted in the middle of a timer: the page comes back by itself.
 import assert from "node:assert/strict";
 import {
   andCommand,

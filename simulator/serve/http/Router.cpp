@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "simulator/serve/Watchers.h"
+#include "simulator/serve/Subscribers.h"
 
 namespace sim {
 

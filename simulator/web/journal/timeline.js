@@ -90,7 +90,7 @@ export class Timeline {
 
   #moveNow() {
     const span = this.#span;
-    // The scale is drawn anew only when time has left it behind.
+    // The scale is drawn again only when time has left it behind.
     if (span.last > this.#drawn + (span.last - span.first) * 0.02) return this.#queue();
     const x = this.#x(Math.min(this.#state.uptime(), this.#drawn), {
       ...span,

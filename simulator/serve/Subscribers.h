@@ -11,29 +11,29 @@
 
 namespace sim {
 
-// The main thread only.
-class Watchers {
- public:
-  using Watcher = std::shared_ptr<EventQueue>;
+using Subscriber = std::shared_ptr<EventQueue>;
 
+// The main thread only.
+class Subscribers {
+ public:
   // More pages than this are too many for one phone.
   static constexpr std::size_t most = 128;
 
-  bool isEmpty() const { return watchers_.empty(); }
+  bool isEmpty() const { return subscribers_.empty(); }
   bool has(const std::string& page) const;
 
   // One that watches already stays as it is. RequestError 503 when there are too many.
-  void add(const Watcher& watcher);
-  void remove(const Watcher& watcher);
+  void add(const Subscriber& subscriber);
+  void remove(const Subscriber& subscriber);
   // To all of them.
   void send(const std::string& event, const nlohmann::json& data) const;
   void sendText(const std::string& event) const;  // see eventText
-  // Each begins anew with its own snapshot.
-  void startOver(const std::function<std::string(const Watcher&)>& snapshot) const;
+  // Each begins with a snapshot of its own again.
+  void reset(const std::function<std::string(const Subscriber&)>& snapshot) const;
   void close() const;
 
  private:
-  std::vector<Watcher> watchers_;
+  std::vector<Subscriber> subscribers_;
 };
 
 // The text of a server-sent event.

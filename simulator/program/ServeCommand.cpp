@@ -13,7 +13,6 @@
 #include "simulator/serve/ServedPhone.h"
 #include "simulator/serve/Supervisor.h"
 #include "simulator/serve/http/Guard.h"
-#include "simulator/serve/http/Listener.h"
 
 namespace sim {
 
@@ -68,7 +67,6 @@ int servePhone(const Options& options) {
   const EndSignals endSignals;
   std::signal(SIGPIPE, SIG_IGN);
   const TemporaryFolder temporary;
-  const Listener listener = Listener::open(options.port);
   const MusicLibrary library = libraryFor(options);
   const files::path folder = folderOf(options, temporary.path());
   const files::path web = files::canonical(options.web.value_or(beside("web")));
@@ -83,15 +81,15 @@ int servePhone(const Options& options) {
   Inbox inbox;
   Router router;
   HttpServer server;
-  guard(server, listener.port(), access);
+  const int port = server.bind(options.port);
+  guard(server, port, access);
   addApi(router, {inbox, access, library, web, folder});
   router.serve(server);
   Supervisor supervisor({temporary.path(), folder, options.package}, options.extensions, zygote,
                         inbox, endSignals.descriptor());
   if (!supervisor.begin(state)) return 0;
-  std::cout << "The phone is at http://127.0.0.1:" << listener.port() << access.entrance()
-            << std::endl;
-  server.start(listener);
+  std::cout << "The phone is at http://127.0.0.1:" << port << access.entrance() << std::endl;
+  server.start();
   supervisor.run();
   return 0;
 }

@@ -32,7 +32,7 @@ void require(bool holds, const std::string& answer) {
 }
 
 // One connection, of which everything has been received already.
-class TextStream final : public httplib::Stream {
+class TextStream final : public sim::RequestStream {
  public:
   explicit TextStream(std::string_view request) : request_(request) {}
 
@@ -40,21 +40,20 @@ class TextStream final : public httplib::Stream {
 
   bool is_readable() const override { return true; }
   bool is_writable() const override { return true; }
-  ssize_t read(char* place, size_t size) override {
+  ssize_t write(const char* bytes, size_t size) override {
+    answer_.append(bytes, size);
+    return ssize_t(size);
+  }
+  socket_t socket() const override { return -1; }
+
+ private:
+  ssize_t receive(char* place, size_t size) override {
     const std::size_t count = std::min(size, request_.size());
     std::copy_n(request_.data(), count, place);
     request_.remove_prefix(count);
     return ssize_t(count);
   }
-  ssize_t write(const char* bytes, size_t size) override {
-    answer_.append(bytes, size);
-    return ssize_t(size);
-  }
-  void get_remote_ip_and_port(std::string&, int&) const override {}
-  void get_local_ip_and_port(std::string&, int&) const override {}
-  socket_t socket() const override { return -1; }
 
- private:
   std::string_view request_;
   std::string answer_;
 };

@@ -9,10 +9,11 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "simulator/serve/RequestError.h"
-#include "simulator/serve/http/ByteRange.h"
+#include "simulator/serve/http/HttpServer.h"
 
 namespace sim {
 
@@ -69,6 +70,34 @@ class OpenFile {
   struct stat status_ {};
 };
 
+struct ByteRange {
+  std::size_t first, length;  // length: at least 1
+
+  // "bytes 5-9/20", of a file of that size.
+  std::string text(std::size_t size) const {
+    return "bytes " + std::to_string(first) + '-' + std::to_string(first + length - 1) + '/' +
+           std::to_string(size);
+  }
+};
+
+// Nothing means the whole file: also for several ranges at once, which a server may ignore, and
+// when what the asker has is of another file than the rest would be.
+std::optional<ByteRange> requestedRange(const httplib::Request& request, const OpenFile& file) {
+  const httplib::Ranges& ranges = HttpServer::ranges();
+  const bool isOfAnother =
+      request.has_header("If-Range") && request.get_header_value("If-Range") != file.tag();
+  if (ranges.size() != 1 || isOfAnother) return std::nullopt;
+  const auto [from, to] = ranges.front();  // -1: not said
+  if (from < 0 && to < 0) return std::nullopt;
+  const std::size_t size = file.size();
+  // Without a first one it is the last so many.
+  const std::size_t first = from >= 0 ? std::size_t(from) : size - std::min(size, std::size_t(to));
+  const std::size_t last = from >= 0 && to >= 0 ? std::size_t(to) : size;
+  if (first >= size || last < first)
+    throw RequestError(416, "expected a range of the file's " + std::to_string(size) + " bytes");
+  return ByteRange{first, std::min(last, size - 1) - first + 1};
+}
+
 bool liesIn(const files::path& folder, const files::path& path) {
   return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first ==
          folder.end();
@@ -85,7 +114,7 @@ void answerFile(const httplib::Request& request, httplib::Response& response,
     return;
   }
   response.set_header("Accept-Ranges", "bytes");
-  const auto range = requestedRange(request, open->tag(), open->size());
+  const auto range = requestedRange(request, *open);
   if (range) {
     response.status = 206;
     response.set_header("Content-Range", range->text(open->size()));

@@ -15,7 +15,6 @@
 #include <iostream>
 #include <system_error>
 
-#include "simulator/serve/http/HeadRecorder.h"
 #include "simulator/serve/http/PeerUser.h"
 #include "simulator/serve/http/SocketStream.h"
 
@@ -35,10 +34,15 @@ constexpr milliseconds idlePatience{60'000};                        // likewise,
 constexpr milliseconds drainPatience{1'000};
 constexpr milliseconds roomPatience{100};
 constexpr int threadTries = 20;
+constexpr const char* loopback = "127.0.0.1";
+constexpr int usualPort = 8420;
+constexpr int portsTried = 100;
+constexpr int backlog = 512;
 
 thread_local int theConnection = -1;
 thread_local bool lastAnswerWasError = false;
-thread_local const HeadRecorder* theHead = nullptr;
+thread_local const RequestStream* theStream = nullptr;
+thread_local httplib::Ranges theRanges;
 
 // Twice as many as stay may be there, and one that watches has two descriptors.
 std::size_t connectionsFor(std::size_t descriptors) {
@@ -75,6 +79,12 @@ void drain(int descriptor) {
 HttpServer::HttpServer()
     : connections_(connectionsFor(raisedLimit())), wakeUp_(eventfd(0, EFD_CLOEXEC)) {
   if (wakeUp_ < 0) throw std::system_error(errno, std::generic_category(), "eventfd");
+  set_address_family(AF_INET);
+  // A port whose last connections are still winding down is free; one where others listen is not.
+  set_socket_options([](socket_t socket) {
+    const int on = 1;
+    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+  });
   set_logger([](const httplib::Request&, const httplib::Response& response) {
     lastAnswerWasError = response.status >= 400;
   });
@@ -83,11 +93,31 @@ HttpServer::HttpServer()
 HttpServer::~HttpServer() {
   stopServing();
   close(wakeUp_);
+  if (svr_sock_ >= 0) close(svr_sock_);
 }
 
-void HttpServer::start(const Listener& listener) {
-  // The library streams only as long as it believes that it listens.
-  svr_sock_ = listener_ = listener.descriptor();
+// -1 when it is in use.
+int HttpServer::tryToBind(int port) {
+  if (port == 0) return bind_to_any_port(loopback);
+  if (bind_to_port(loopback, port)) return port;
+  if (errno == EADDRINUSE || errno == EACCES) return -1;
+  throw std::system_error(errno, std::generic_category(), "port " + std::to_string(port));
+}
+
+int HttpServer::bind(std::optional<int> port) {
+  const int first = port.value_or(usualPort);
+  const int last = port ? first : first + portsTried - 1;
+  for (int each = first; each <= last; ++each) {
+    const int bound = tryToBind(each);
+    if (bound < 0) continue;
+    ::listen(svr_sock_, backlog);  // the library's own is short
+    return bound;
+  }
+  const std::string range = first == last ? "" : " to " + std::to_string(last);
+  throw std::system_error(errno, std::generic_category(), "port " + std::to_string(first) + range);
+}
+
+void HttpServer::start() {
   acceptor_ = std::thread([this] { acceptConnections(); });
 }
 
@@ -105,38 +135,44 @@ int HttpServer::connection() {
 }
 
 const std::string& HttpServer::head() {
-  return theHead->head();
+  return theStream->head();
+}
+
+const httplib::Ranges& HttpServer::ranges() {
+  return theRanges;
 }
 
 void HttpServer::trust() {
   connections_.trust(theConnection);
 }
 
-bool HttpServer::processRequest(httplib::Stream& stream, bool isLast) {
+bool HttpServer::processRequest(RequestStream& stream, bool isLast) {
   lastAnswerWasError = false;
   bool closed = false;
-  // The library's own ranges may reach beyond a file's end: see ByteRange.
+  theRanges.clear();
+  // The library would send ranges that reach beyond a file's end, and of what is no file: see
+  // Files.
   const auto prepare = [this](httplib::Request& request) {
-    request.ranges.clear();
+    theRanges = std::exchange(request.ranges, {});
     if (prepare_) prepare_(request);
   };
-  HeadRecorder recorder(stream);
-  theHead = &recorder;
-  const bool processed = process_request(recorder, isLast, closed, prepare);
-  theHead = nullptr;
+  stream.beginRequest();
+  theStream = &stream;
+  const bool processed = process_request(stream, isLast, closed, prepare);
+  theStream = nullptr;
   // After an error the rest of the request may be unread: it must not be taken for the next one.
   return processed && !closed && !lastAnswerWasError;
 }
 
 bool HttpServer::waitForConnection() const {
-  std::array<pollfd, 2> watched{{{listener_, POLLIN, 0}, {wakeUp_, POLLIN, 0}}};
+  std::array<pollfd, 2> watched{{{svr_sock_, POLLIN, 0}, {wakeUp_, POLLIN, 0}}};
   while (poll(watched.data(), watched.size(), -1) < 0 && errno == EINTR) continue;
   return watched[1].revents == 0;
 }
 
 void HttpServer::acceptConnections() {
   while (waitForConnection()) {
-    const int descriptor = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
+    const int descriptor = accept4(svr_sock_, nullptr, nullptr, SOCK_CLOEXEC);
     const int problem = errno;
     if (descriptor >= 0)
       take(descriptor);

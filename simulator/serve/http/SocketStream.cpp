@@ -48,7 +48,7 @@ bool SocketStream::fill() {
   return count > 0;
 }
 
-ssize_t SocketStream::read(char* place, size_t size) {
+ssize_t SocketStream::receive(char* place, size_t size) {
   if (allowed_ == 0 || !is_readable()) return -1;
   if (at_ == end_ && !fill()) return 0;
   const std::size_t count = std::min({size, end_ - at_, allowed_});
@@ -65,9 +65,5 @@ ssize_t SocketStream::write(const char* bytes, size_t size) {
   while (count < 0 && errno == EINTR);
   return count;
 }
-
-// Nobody needs addresses here: both ends are this machine.
-void SocketStream::get_remote_ip_and_port(std::string&, int&) const {}
-void SocketStream::get_local_ip_and_port(std::string&, int&) const {}
 
 }  // namespace sim

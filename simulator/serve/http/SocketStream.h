@@ -1,17 +1,16 @@
 // One connection, as the HTTP library reads and writes it.
 #pragma once
 
-#include <httplib.h>
-
 #include <array>
 #include <chrono>
 #include <cstddef>
-#include <string>
+
+#include "simulator/serve/http/RequestStream.h"
 
 namespace sim {
 
 // Waits without waking up in between: an idle connection costs nothing. Does not own the socket.
-class SocketStream final : public httplib::Stream {
+class SocketStream final : public RequestStream {
  public:
   explicit SocketStream(int descriptor) : descriptor_(descriptor) {}
 
@@ -27,13 +26,11 @@ class SocketStream final : public httplib::Stream {
 
   bool is_readable() const override;
   bool is_writable() const override;
-  ssize_t read(char* place, size_t size) override;
   ssize_t write(const char* bytes, size_t size) override;
-  void get_remote_ip_and_port(std::string& ip, int& port) const override;
-  void get_local_ip_and_port(std::string& ip, int& port) const override;
   socket_t socket() const override { return descriptor_; }
 
  private:
+  ssize_t receive(char* place, size_t size) override;
   bool fill();
 
   int descriptor_;

@@ -1,4 +1,4 @@
-#include "simulator/serve/http/HeadRecorder.h"
+#include "simulator/serve/http/RequestStream.h"
 
 namespace sim {
 namespace {
@@ -9,13 +9,18 @@ constexpr std::string_view endOfHead = "\r\n\r\n";
 
 }  // namespace
 
-bool HeadRecorder::isOver() const {
+void RequestStream::beginRequest() {
+  head_.clear();
+  lines_ = 0;
+}
+
+bool RequestStream::isOver() const {
   return head_.ends_with(endOfHead);
 }
 
-ssize_t HeadRecorder::read(char* place, size_t size) {
+ssize_t RequestStream::read(char* place, size_t size) {
   if (!isOver() && (head_.size() >= longestHead || lines_ >= mostLines)) return -1;
-  const ssize_t count = stream_.read(place, size);
+  const ssize_t count = receive(place, size);
   if (count <= 0 || isOver()) return count;
   // The library reads heads byte by byte: nothing of a body comes along with the last of them.
   head_.append(place, std::size_t(count));

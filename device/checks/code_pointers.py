@@ -3,6 +3,7 @@
 Such a pointer is unsigned on arm64e. Only the calls through __got expect that.
 """
 
+import imports
 from macho.fixups import ChainedFixups
 from macho.image import Image
 
@@ -11,7 +12,7 @@ GOT = "__DATA_CONST,__got"
 
 def check(path, allowed_imports):
     image = Image.read(path)
-    data_symbols = _data_symbols(allowed_imports)
+    data_symbols = imports.variables(allowed_imports)
     for fixup in ChainedFixups(image):
         section = image.section_at(fixup.address)
         place = section.full_name if section else "no section"
@@ -26,9 +27,3 @@ def check(path, allowed_imports):
             yield f"{fixup.address:#x} in {place} points at {fixup.target:#x}, in no section"
         elif target.holds_code:
             yield f"{fixup.address:#x} in {place} points at code, {fixup.target:#x}"
-
-
-def _data_symbols(path):
-    with open(path, encoding="utf-8") as file:
-        words = [line.split("#")[0].split() for line in file]
-    return {entry[1] for entry in words if len(entry) == 2 and entry[0] == "data"}

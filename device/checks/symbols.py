@@ -1,24 +1,25 @@
 """What the slice asks of the phone, and what it shows to it."""
 
+import imports
 from macho.exports import exported_names
 from macho.fixups import ChainedFixups
 from macho.image import Image
 
 
 def read_names(path):
-    """The last word of every line; `#` starts a comment."""
+    """One a line; `#` starts a comment."""
     with open(path, encoding="utf-8") as file:
-        words = [line.split("#")[0].split() for line in file]
-    return {entry[-1] for entry in words if entry}
+        lines = [line.split("#")[0].strip() for line in file]
+    return {line for line in lines if line}
 
 
 def check_imports(path, allowed_path):
     """One missing import and the phone does not load the extension, without a word."""
-    allowed = read_names(allowed_path)
-    imports = ChainedFixups(Image.read(path)).imports
-    if not imports:
+    allowed = imports.symbols(allowed_path)
+    found = ChainedFixups(Image.read(path)).imports
+    if not found:
         yield "the slice imports nothing, so it cannot be the extension"
-    for symbol in imports:
+    for symbol in found:
         if symbol.name not in allowed:
             yield f"imports {symbol.name}, which {allowed_path} does not allow"
         if symbol.library in (0, 0xFD, 0xFE, 0xFF):

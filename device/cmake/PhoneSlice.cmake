@@ -34,6 +34,14 @@ set(PHONE_COMPILE_FLAGS_arm64e --target=arm64e-apple-ios15.0 -fptrauth-calls -fp
 # This machine's own target: for the simulator, which plays what ships.
 set(PHONE_COMPILE_FLAGS_linux)
 
+set(stubs ${PROJECT_BINARY_DIR}/stubs)
+file(MAKE_DIRECTORY ${stubs})
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PHONE_DIR}imports.txt
+                                                               ${PHONE_DIR}stubs.py)
+execute_process(COMMAND ${PHONE_PYTHON} ${PHONE_DIR}stubs.py ${PHONE_DIR}imports.txt ${stubs}
+                COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB PHONE_STUBS ${stubs}/*.tbd)
+
 set(PHONE_LINK_FLAGS
     # arm64 for both: the linker has no arm64e, and refuses chained fixups for what it does not know.
     -arch arm64 -platform_version ios 15.0 15.0 -dylib -adhoc_codesign
@@ -42,7 +50,7 @@ set(PHONE_LINK_FLAGS
     -no_encryption  # the command for it would keep the first page to itself
     -install_name @rpath/Dozewell2.dylib
     # Nothing is imported from it, so the linker would leave it out; and a phone may lack it.
-    -needed_library ${PHONE_DIR}stubs/Cephei.tbd -weak_library ${PHONE_DIR}stubs/Cephei.tbd
+    -needed_library ${stubs}/Cephei.tbd -weak_library ${stubs}/Cephei.tbd
     # Where root-less injection platforms keep their libraries, then the same for phones that
     # move the root elsewhere.
     -rpath /var/jb/Library/Frameworks -rpath /var/jb/usr/lib
@@ -50,7 +58,6 @@ set(PHONE_LINK_FLAGS
 # Pointers and initialisers in the only forms that an arm64e loader takes without signatures.
 set(PHONE_FIXUP_FLAGS -fixup_chains -init_offsets)
 
-file(GLOB PHONE_STUBS CONFIGURE_DEPENDS ${PHONE_DIR}stubs/*.tbd)
 file(GLOB PHONE_TOOLS CONFIGURE_DEPENDS ${PHONE_DIR}*.py ${PHONE_DIR}macho/*.py)
 
 # phone_objects(NAME ARCH SOURCES...): the object library NAME.

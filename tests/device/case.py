@@ -10,7 +10,7 @@ import check
 SOURCE = os.path.dirname(os.path.abspath(__file__))
 EXPORTS = os.path.join(SOURCE, "samples", "exports.txt")
 LIBRARIES = os.path.join(os.path.dirname(check.__file__), "libraries.txt")
-ALLOWED_IMPORTS = os.path.join(os.path.dirname(check.__file__), "allowed-imports.txt")
+ALLOWED_IMPORTS = os.path.join(os.path.dirname(check.__file__), "imports.txt")
 
 
 def sample(*parts):

@@ -8,13 +8,15 @@
 namespace sim {
 namespace {
 
-Session* theCurrent = nullptr;
+struct CurrentSession {
+  Session* session = nullptr;
+};
 
 }  // namespace
 
 Session::Session(const SessionOptions& givenOptions)
     : phone(givenOptions.root), host(givenOptions.extensions) {
-  theCurrent = this;
+  phone.state<CurrentSession>().session = this;
   choose(givenOptions);
 }
 
@@ -31,7 +33,7 @@ Session::~Session() {
   // The objects they keep may ask for the session on their way out.
   variables = {};
   last.reset();
-  theCurrent = nullptr;
+  phone.state<CurrentSession>().session = nullptr;
 }
 
 std::string Session::place() const {
@@ -46,11 +48,12 @@ void Session::checkInterruption() const {
 }
 
 Session& Session::current() {
-  if (theCurrent == nullptr) {
+  Session* session = Phone::current().state<CurrentSession>().session;
+  if (session == nullptr) {
     std::fputs("sim::Session::current() is used outside a script\n", stderr);
     std::abort();
   }
-  return *theCurrent;
+  return *session;
 }
 
 }  // namespace sim

@@ -45,7 +45,7 @@ class Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  // The session of this process.
+  // The session of Phone::current().
   static Session& current();
 
   // Which phone it is, as long as nothing has happened to it.

@@ -2,11 +2,14 @@
 
 #include "objc/Message.h"
 #include "objc/Ownership.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 namespace {
 
-objc::Object homeScreen;  // owned, and never given up
+struct HomeScreen {
+  objc::Strong<objc::Object> window;
+};
 
 }  // namespace
 
@@ -14,7 +17,7 @@ void showHomeScreen() {
   const Class windowClass = objc_getClass("UIWindow");
   const Class controllerClass = objc_getClass("UIViewController");
   if (windowClass == nullptr || controllerClass == nullptr) return;
-  auto window = objc::adopt(objc::Object(objc_alloc_init(windowClass)));
+  const auto window = objc::adopt(objc::Object(objc_alloc_init(windowClass)));
   const auto root = objc::adopt(objc::Object(objc_alloc_init(controllerClass)));
   if (const Class viewClass = objc_getClass("SBHomeScreenView")) {
     const auto view = objc::adopt(objc::Object(objc_alloc_init(viewClass)));
@@ -22,7 +25,7 @@ void showHomeScreen() {
   }
   objc::send<void, "setRootViewController:">(window.get(), root.get());
   objc::send<void, "makeKeyAndVisible">(window.get());
-  homeScreen = window.detach();
+  Phone::current().state<HomeScreen>().window = window;
 }
 
 }  // namespace sim

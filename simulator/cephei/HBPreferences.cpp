@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "simulator/foundation/NSNotificationCenter.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 
@@ -81,10 +82,8 @@ void HBPreferences::registerDefaults(objc::Object values) {
 // whose value is another, the blocks of the whole domain.
 void HBPreferences::didChange() {
   bindings.update(*domain);
-  const auto center =
-      objc::send<objc::Object, "defaultCenter">(objc_getClass("NSNotificationCenter"));
-  objc::send<void, "postNotificationName:object:">(center, HBPreferencesDidChangeNotification,
-                                                   self());
+  objc::send<void, "postNotificationName:object:">(notificationCenter(),
+                                                   HBPreferencesDidChangeNotification, self());
   notifyKeyObservers();
   const auto all = observers;  // a block may register another
   for (const auto& each : all) each.get()();

@@ -6,6 +6,7 @@
 
 #include "simulator/coversheet/CSMediaControlsViewController.h"
 #include "simulator/foundation/LocaleText.h"
+#include "simulator/foundation/NSNotificationCenter.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
@@ -18,10 +19,6 @@ namespace {
 
 using objc::Object;
 using Controller = CSCoverSheetViewController;
-
-Object notificationCenter() {
-  return objc::send<Object, "defaultCenter">(objc_getClass("NSNotificationCenter"));
-}
 
 Object viewOf(Object controller) {
   return objc::send<Object, "view">(controller);
@@ -75,9 +72,7 @@ void Controller::setDateView(Object view) {
 
 void Controller::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
-  objc::send<void, "addObserver:selector:name:object:">(
-      notificationCenter(), Object(self()), objc::selector<"_nowPlayingInfoDidChange:">(),
-      Object(kMRMediaRemoteNowPlayingInfoDidChangeNotification), nullptr);
+  observeNowPlayingInfo(Object(self()));
   updateMediaControls();
   showTime();
 }

@@ -23,6 +23,11 @@ inline objc::Strong<objc::Object> makeOf(id cls) {
   return objc::adopt(objc::Object(objc_alloc_init(reinterpret_cast<Class>(cls))));
 }
 
+// copyWithZone: of what never changes.
+inline objc::Object shareAsCopy(objc::Object self, void*) {
+  return objc::Object(objc_retain(self.get()));
+}
+
 // An initialiser that fails gives up the object it was sent to.
 inline objc::Object failInit(id self) {
   objc_release(self);

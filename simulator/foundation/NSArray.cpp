@@ -124,9 +124,6 @@ bool isEqual(Object self, Object other) {
   }
   return true;
 }
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
-}
 Object mutableCopyWithZone(Object self, void*) {
   Strong<Object> copy = NSMutableArray::make();
   NSArray::of(copy.get()).elements = elements(self);
@@ -210,7 +207,7 @@ void NSArray::registerClass() {
   standIn.method<"isEqual:", &isEqual>()
       .method<"isEqualToArray:", &isEqual>()
       .method<"hash", &count>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .method<"mutableCopyWithZone:", &mutableCopyWithZone>()
       .partial<"writeToFile:atomically:", &writeToFile>("always atomic and binary")
       .method<"description", &describe>()

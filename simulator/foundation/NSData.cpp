@@ -56,9 +56,6 @@ bool isEqual(Object self, Object other) {
 unsigned long hash(Object self) {
   return std::hash<std::string>()(content(self));
 }
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
-}
 
 // "{length = 3, bytes = 0x616263}"; long data shows its first 16 and last 8 bytes.
 Object describe(Object self) {
@@ -98,7 +95,7 @@ void NSData::registerClass() {
       .method<"isEqualToData:", &isEqual>()
       .method<"hash", &hash>()
       .method<"description", &describe>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .finish();
 }
 

@@ -103,9 +103,6 @@ unsigned long hash(Object self) {
 Object describe(Object self) {
   return string(dateText(secondsOf(self)));
 }
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
-}
 
 }  // namespace
 
@@ -183,7 +180,7 @@ void NSDate::registerClass() {
       .method<"isEqualToDate:", &isEqual>()
       .method<"hash", &hash>()
       .method<"description", &describe>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .finish();
 }
 

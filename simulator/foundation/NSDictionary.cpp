@@ -154,9 +154,6 @@ bool isEqual(Object self, Object other) {
   }
   return true;
 }
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
-}
 Object mutableCopyWithZone(Object self, void*) {
   Strong<Object> copy = NSMutableDictionary::make();
   NSDictionary::of(copy.get()).table = table(self);
@@ -200,7 +197,7 @@ void NSDictionary::registerClass() {
       .method<"isEqual:", &isEqual>()
       .method<"isEqualToDictionary:", &isEqual>()
       .method<"hash", &count>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .method<"mutableCopyWithZone:", &mutableCopyWithZone>()
       .method<"description", &describe>()
       .finish();

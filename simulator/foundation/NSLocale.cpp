@@ -61,9 +61,6 @@ bool isEqual(Object self, Object other) {
 unsigned long hash(Object self) {
   return std::hash<std::string>()(identifier(self));
 }
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
-}
 
 }  // namespace
 
@@ -96,7 +93,7 @@ void NSLocale::registerClass() {
       .method<"scriptCode", &scriptCode>()
       .method<"isEqual:", &isEqual>()
       .method<"hash", &hash>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .finish();
 }
 

@@ -1,5 +1,6 @@
 #include "simulator/foundation/NSNotification.h"
 
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/standin/StandIn.h"
 
@@ -10,10 +11,6 @@ using objc::Object;
 
 Object makeWithName(Object name, Object object) {
   return notification(name, object, nullptr);
-}
-
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
 }
 
 Object describe(Object self) {
@@ -42,7 +39,7 @@ void NSNotification::registerClass() {
       .readonlyProperty<"name", &NSNotification::name>()
       .readonlyProperty<"object", &NSNotification::object>()
       .readonlyProperty<"userInfo", &NSNotification::userInfo>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .partial<"description", &describe>("without the notification's address")
       .finish();
 }

@@ -35,6 +35,10 @@ void deliver(const Observation& observation, Object notification) {
 
 }  // namespace
 
+Object notificationCenter() {
+  return objc::send<Object, "defaultCenter">(NSNotificationCenter::cls());
+}
+
 bool Observation::wants(Object postedName, Object postedObject) const {
   if (removed || (object != nullptr && object != postedObject.get())) return false;
   return !name || objc::send<bool, "isEqual:">(name.get(), postedName);

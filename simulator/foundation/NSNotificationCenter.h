@@ -39,4 +39,7 @@ struct NSNotificationCenter : objc::Implementation<NSNotificationCenter> {
   static void registerClass();
 };
 
+// The default one, as anybody in the host asks for it.
+objc::Object notificationCenter();
+
 }  // namespace sim

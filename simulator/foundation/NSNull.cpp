@@ -1,5 +1,6 @@
 #include "simulator/foundation/NSNull.h"
 
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/standin/StandIn.h"
 
@@ -8,9 +9,6 @@ namespace {
 
 objc::Object describe(objc::Object) {
   return string("<null>");
-}
-objc::Object copyWithZone(objc::Object self, void*) {
-  return objc::Object(objc_retain(self.get()));
 }
 
 }  // namespace
@@ -24,7 +22,7 @@ void NSNull::registerClass() {
   StandIn<NSNull>("Foundation", "NSNull", "NSObject")
       .classMethod<"null", &NSNull::null>()
       .method<"description", &describe>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .finish();
 }
 

@@ -94,10 +94,6 @@ Object stringValue(Object self) {
   return string(NSNumber::of(self).text());
 }
 
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
-}
-
 void getValue(Object self, void* target) {
   const NSNumber& number = NSNumber::of(self);
   const auto store = [target](auto value) { std::memcpy(target, &value, sizeof value); };
@@ -195,7 +191,7 @@ void NSNumber::registerClass() {
       .method<"hash", &hash>()
       .method<"stringValue", &stringValue>()
       .method<"description", &stringValue>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .finish();
 }
 

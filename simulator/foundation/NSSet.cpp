@@ -91,9 +91,6 @@ bool isEqual(Object self, Object other) {
     if (its->table.find(entry.key) == nullptr) return false;
   return true;
 }
-Object copyWithZone(Object self, void*) {
-  return Object(objc_retain(self.get()));
-}
 Object mutableCopyWithZone(Object self, void*) {
   Strong<Object> copy = NSMutableSet::make();
   table(copy) = table(self);
@@ -122,7 +119,7 @@ void NSSet::registerClass() {
       .method<"isEqual:", &isEqual>()
       .method<"isEqualToSet:", &isEqual>()
       .method<"hash", &count>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .method<"mutableCopyWithZone:", &mutableCopyWithZone>()
       .method<"description", &describe>()
       .finish();

@@ -129,10 +129,6 @@ unsigned long NSValue::hash() const {
   return std::hash<std::string>()(bytes);
 }
 
-Object NSValue::copyWithZone(void*) const {
-  return Object(objc_retain(self()));
-}
-
 Object NSValue::description() const {
   if (type.starts_with('{')) return string(structureNotation(type, bytes.data()));
   std::string hex = "<";
@@ -159,7 +155,7 @@ void NSValue::registerClass() {
       .method<"isEqual:", &NSValue::isEqual>()
       .method<"isEqualToValue:", &NSValue::isEqual>()
       .method<"hash", &NSValue::hash>()
-      .method<"copyWithZone:", &NSValue::copyWithZone>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .partial<"description", &NSValue::description>(
           "a structure is printed as {{x, y}, {w, h}}, without its name in front")
       .finish();

@@ -20,7 +20,6 @@ struct NSValue : objc::Implementation<NSValue> {
   objc::Object nonretainedObjectValue() const;
   bool isEqual(objc::Object other) const;
   unsigned long hash() const;
-  objc::Object copyWithZone(void* zone) const;  // +1
   objc::Object description() const;
 
   static void registerClass();

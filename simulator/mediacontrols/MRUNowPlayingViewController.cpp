@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSNotificationCenter.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/mediacontrols/MRUEmbeddingView.h"
 #include "simulator/mediacontrols/MRUNowPlayingTimeControl.h"
@@ -21,10 +22,6 @@ namespace {
 
 using objc::Object;
 using Controller = MRUNowPlayingViewController;
-
-Object notificationCenter() {
-  return objc::send<Object, "defaultCenter">(objc_getClass("NSNotificationCenter"));
-}
 
 void showTrack(Object labels) {
   const Track* track = Player::current().track();
@@ -109,9 +106,7 @@ void Controller::connectControls() {
 // Off the screen nobody needs to know what plays.
 void Controller::viewWillAppear(bool animated) {
   super<void, "viewWillAppear:">(animated);
-  objc::send<void, "addObserver:selector:name:object:">(
-      notificationCenter(), Object(self()), objc::selector<"_nowPlayingInfoDidChange:">(),
-      Object(kMRMediaRemoteNowPlayingInfoDidChangeNotification), nullptr);
+  observeNowPlayingInfo(Object(self()));
   if (volumeObserver == 0)
     volumeObserver = AudioSystem::current().observe([this] { showVolume(); });
   update();

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "objc/Block.h"
+#include "simulator/foundation/NSNotificationCenter.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/Player.h"
@@ -51,9 +52,7 @@ objc::Object nowPlayingInfo() {
 }
 
 void post(id name) {
-  const auto center =
-      objc::send<objc::Object, "defaultCenter">(objc_getClass("NSNotificationCenter"));
-  objc::send<void, "postNotificationName:object:">(center, name, nullptr);
+  objc::send<void, "postNotificationName:object:">(notificationCenter(), name, nullptr);
 }
 
 // Between two hosts, while one restarts, there is nobody to tell.
@@ -132,6 +131,12 @@ void registerMediaRemote() {
                  {Grade::partial, "commands 0 to 5; the options are ignored"});
   Player::current().observe(announceChange);
   Player::current().hostDidBoot();
+}
+
+void observeNowPlayingInfo(objc::Object observer) {
+  objc::send<void, "addObserver:selector:name:object:">(
+      notificationCenter(), observer, objc::selector<"_nowPlayingInfoDidChange:">(),
+      objc::Object(kMRMediaRemoteNowPlayingInfoDidChangeNotification), nullptr);
 }
 
 }  // namespace sim

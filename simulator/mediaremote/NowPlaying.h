@@ -2,7 +2,7 @@
 // registerMediaRemote().
 #pragma once
 
-#include "objc/runtime.h"
+#include "objc/Object.h"
 #include "simulator/dispatch/Dispatch.h"
 
 extern "C" {
@@ -25,3 +25,10 @@ void MRMediaRemoteGetNowPlayingInfo(dispatch_queue_t queue, id block);
 bool MRMediaRemoteSendCommand(int command, id options);
 
 }  // extern "C"
+
+namespace sim {
+
+// Until it is removed from the notification center it is sent _nowPlayingInfoDidChange:.
+void observeNowPlayingInfo(objc::Object observer);
+
+}  // namespace sim

@@ -1,6 +1,5 @@
 #include "simulator/uikit/autolayout/NSLayoutConstraint.h"
 #include "simulator/uikit/nib/Decoding.h"
-#include "simulator/uikit/nib/NibCoder.h"
 
 namespace sim {
 namespace {

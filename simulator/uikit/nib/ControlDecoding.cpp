@@ -2,7 +2,6 @@
 #include "simulator/uikit/controls/UIButton.h"
 #include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/nib/Decoding.h"
-#include "simulator/uikit/nib/NibCoder.h"
 
 namespace sim {
 namespace {
@@ -26,15 +25,10 @@ struct UIButtonContent : objc::Implementation<UIButtonContent> {
 };
 
 // Messages go out for what is set alone: subclasses answer them with animations and sounds.
-Object initControl(Object self, Object source) {
-  const Object made =
-      objc::sendSuper<Object, "initWithCoder:">(self.get(), UIControl::cls(), source);
-  if (!made) return nullptr;
-  const NibCoder coder(source);
-  if (coder.flag("UIDisabled")) objc::send<void, "setEnabled:">(made, false);
-  if (coder.flag("UISelected")) objc::send<void, "setSelected:">(made, true);
-  if (coder.flag("UIHighlighted")) objc::send<void, "setHighlighted:">(made, true);
-  return made;
+void decodeControl(Object control, const NibCoder& coder) {
+  if (coder.flag("UIDisabled")) objc::send<void, "setEnabled:">(control, false);
+  if (coder.flag("UISelected")) objc::send<void, "setSelected:">(control, true);
+  if (coder.flag("UIHighlighted")) objc::send<void, "setHighlighted:">(control, true);
 }
 
 void decodeState(Object button, unsigned long state, const UIButtonContent& content) {
@@ -44,21 +38,16 @@ void decodeState(Object button, unsigned long state, const UIButtonContent& cont
     objc::send<void, "setTitleColor:forState:">(button, content.titleColor.get(), state);
 }
 
-Object initButton(Object self, Object source) {
-  const Object made =
-      objc::sendSuper<Object, "initWithCoder:">(self.get(), UIButton::cls(), source);
-  if (!made) return nullptr;
-  const NibCoder coder(source);
-  UIButton::of(made).buttonType = coder.integer("UIButtonType");
+void decodeButton(Object button, const NibCoder& coder) {
+  UIButton::of(button).buttonType = coder.integer("UIButtonType");
   const Object contents = coder.object("UIButtonStatefulContent");
   for (const unsigned long state : {UIControl::normal, UIControl::highlightedState,
                                     UIControl::disabledState, UIControl::selectedState}) {
     const Object content = objc::send<Object, "objectForKey:">(contents, number(long(state)));
-    if (content) decodeState(made, state, UIButtonContent::of(content));
+    if (content) decodeState(button, state, UIButtonContent::of(content));
   }
   if (const Object font = coder.object("UIFont"))
-    objc::send<void, "setFont:">(objc::send<Object, "titleLabel">(made), font);
-  return made;
+    objc::send<void, "setFont:">(objc::send<Object, "titleLabel">(button), font);
 }
 
 }  // namespace
@@ -69,8 +58,8 @@ void addControlDecoding() {
           "title, image and title colour alone")
       .readonlyProperty<"title", &UIButtonContent::title>()
       .finish();
-  addInitWithCoder<&initControl>("UIControl", "no alignment of the content");
-  addInitWithCoder<&initButton>("UIButton", "no insets, no configurations");
+  addDecoding<UIControl, &decodeControl>("UIControl", "no alignment of the content");
+  addDecoding<UIButton, &decodeButton>("UIButton", "no insets, no configurations");
 }
 
 }  // namespace sim

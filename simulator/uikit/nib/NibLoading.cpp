@@ -10,10 +10,8 @@ void registerNibLoading() {
   UINibDecoder::registerClass();
   UINib::registerClass();
   addViewDecoding();
-  addLabelDecoding();
+  addPlainViewDecoding();
   addControlDecoding();
-  addImageViewDecoding();
-  addStackViewDecoding();
   addConstraintDecoding();
 }
 

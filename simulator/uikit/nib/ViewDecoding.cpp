@@ -3,7 +3,6 @@
 
 #include "simulator/machine/NumberReader.h"
 #include "simulator/uikit/nib/Decoding.h"
-#include "simulator/uikit/nib/NibCoder.h"
 #include "simulator/uikit/views/UIView.h"
 
 namespace sim {

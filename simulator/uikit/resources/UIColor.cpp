@@ -43,10 +43,6 @@ Object initGray(Object self, double white, double alpha) {
   UIColor::of(self).components = {{white, white, white, alpha}, true};
   return self;
 }
-Object copy(Object self, void*) {
-  return objc::retain(self).detach();
-}
-
 }  // namespace
 
 Object UIColor::systemBlue() {
@@ -88,7 +84,7 @@ void UIColor::registerClass() {
       .classMethod<"colorWithWhite:alpha:", &gray>()
       .method<"initWithRed:green:blue:alpha:", &initRgb>()
       .method<"initWithWhite:alpha:", &initGray>()
-      .method<"copyWithZone:", &copy>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .method<"colorWithAlphaComponent:", &UIColor::colorWithAlphaComponent>()
       .method<"CGColor", &UIColor::coreGraphicsColor>()
       .method<"isEqual:", &UIColor::isEqual>()

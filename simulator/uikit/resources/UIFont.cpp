@@ -32,10 +32,6 @@ Object boldSystem(double points) {
   return weighted(points, bold);
 }
 
-Object copy(Object self, void*) {
-  return objc::retain(self).detach();
-}
-
 struct NamedWeight {
   double from;
   const char* name;
@@ -81,7 +77,7 @@ void UIFont::registerClass() {
       .method<"lineHeight", &UIFont::lineHeight>()
       .method<"fontName", &UIFont::fontName>()
       .method<"fontWithSize:", &UIFont::withSize>()
-      .method<"copyWithZone:", &copy>()
+      .method<"copyWithZone:", &shareAsCopy>()
       .method<"isEqual:", &UIFont::isEqual>()
       .method<"hash", &UIFont::hash>()
       .finish();

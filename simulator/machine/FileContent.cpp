@@ -1,5 +1,6 @@
 #include "simulator/machine/FileContent.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fstream>
@@ -30,6 +31,11 @@ std::optional<std::string> fileContent(const std::filesystem::path& file) {
 bool isThere(const std::filesystem::path& file) {
   std::error_code problem;
   return std::filesystem::exists(file, problem) || problem;
+}
+
+bool liesIn(const std::filesystem::path& folder, const std::filesystem::path& path) {
+  return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first ==
+         folder.end();
 }
 
 }  // namespace sim

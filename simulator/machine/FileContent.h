@@ -13,4 +13,7 @@ std::optional<std::string> fileContent(const std::filesystem::path& file);
 // Whether there is something of that name, even if nobody can read it, such as a link to itself.
 bool isThere(const std::filesystem::path& file);
 
+// Of absolute paths without links: whether it is the folder or below it.
+bool liesIn(const std::filesystem::path& folder, const std::filesystem::path& path);
+
 }  // namespace sim

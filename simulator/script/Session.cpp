@@ -42,7 +42,7 @@ std::string Session::place() const {
 }
 
 void Session::checkInterruption() const {
-  if (beforeGoingOn) beforeGoingOn();
+  if (interruptionHook) interruptionHook();
   if (const std::string problem = phone.journal.problem(); !problem.empty())
     throw ScriptError(0, problem);
 }

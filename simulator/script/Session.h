@@ -72,7 +72,7 @@ class Session {
   // Between two of the many things that one command does. Throws what ends the command there:
   // somebody's wish, or a journal that can hold no more.
   void checkInterruption() const;
-  std::function<void()> beforeGoingOn;  // may throw it, see Interrupted
+  std::function<void()> interruptionHook;  // may throw it, see Interrupted
   // Ends this process, and has the next one go on from the recorded state; does not return.
   std::function<void(const RestartState&)> handOver;
 };

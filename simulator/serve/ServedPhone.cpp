@@ -56,7 +56,7 @@ ServedPhone::ServedPhone(Session& session, const CommandTable& commands, HostEnd
   scriptFiles().whenWritten = [this](const std::string& name) { notePicture(name); };
   session_.phone.survives("serve", {[this] { return asJson(state_); },
                                     [this](const json& saved) { state_ = serveStateFrom(saved); }});
-  session_.beforeGoingOn = [this] { progress(); };
+  session_.interruptionHook = [this] { progress(); };
   session_.handOver = [this](const RestartState& state) {
     stopWatching();
     send({{"restart", restartStateAsJson(state)},

@@ -12,6 +12,7 @@
 #include <optional>
 #include <utility>
 
+#include "simulator/machine/FileContent.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/http/HttpServer.h"
 
@@ -96,11 +97,6 @@ std::optional<ByteRange> requestedRange(const httplib::Request& request, const O
   if (first >= size || last < first)
     throw RequestError(416, "expected a range of the file's " + std::to_string(size) + " bytes");
   return ByteRange{first, std::min(last, size - 1) - first + 1};
-}
-
-bool liesIn(const files::path& folder, const files::path& path) {
-  return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first ==
-         folder.end();
 }
 
 }  // namespace

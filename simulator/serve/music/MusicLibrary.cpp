@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "simulator/foundation/Unicode.h"
+#include "simulator/machine/FileContent.h"
 #include "simulator/machine/Journal.h"
 #include "simulator/script/words/Script.h"
 
@@ -15,11 +16,6 @@ namespace {
 
 void leaveOut(const files::path& path, const std::string& problem) {
   std::cerr << path.string() << ": left out: " << problem << '\n';
-}
-
-bool liesIn(const files::path& folder, const files::path& path) {
-  return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first ==
-         folder.end();
 }
 
 // Folders that are links are not entered, so there is no way round in circles.

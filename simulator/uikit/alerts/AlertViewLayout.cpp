@@ -6,6 +6,7 @@
 #include "simulator/uikit/alerts/AlertView.h"
 #include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/views/UIView.h"
+#include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 namespace {
@@ -15,10 +16,6 @@ using objc::Object;
 // Points.
 constexpr double cardWidth = 270, margin = 16, aboveWords = 19, betweenWords = 4, belowWords = 20;
 constexpr double buttonHeight = 44, titleMargin = 8, hairline = 1 / UIScreen::mainScale;
-
-void setFrame(Object view, CGRect frame) {
-  objc::send<void, "setFrame:">(view, frame);
-}
 
 double titleWidth(Object button) {
   return objc::send<CGSize, "intrinsicContentSize">(objc::send<Object, "titleLabel">(button)).width;

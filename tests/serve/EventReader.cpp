@@ -67,7 +67,7 @@ Event EventReader::next(const std::string& name,
     if (events_.empty()) throw std::runtime_error("the stream is over before an event " + name);
     Event event = std::move(events_.front());
     events_.pop_front();
-    if (event.name == name && isWanted(event.data)) return event;
+    if ((name.empty() || event.name == name) && isWanted(event.data)) return event;
   }
 }
 

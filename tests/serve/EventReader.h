@@ -32,7 +32,7 @@ class EventReader {
   // The next event of that name; those before it are forgotten. Throws std::runtime_error when
   // none comes within a minute.
   Event next(const std::string& name);
-  // Likewise, the next one of that name that is as wanted.
+  // Likewise, the next one of that name, or of any when it is empty, that is as wanted.
   Event next(const std::string& name, const std::function<bool(const nlohmann::json&)>& isWanted);
   // Whether the server has ended the stream; waits up to a minute for it.
   bool isOver();

@@ -49,10 +49,11 @@ TEST(OpenScripts, RunOnToTheirEnd) {
   open(program, night);
   program.post("/api/script/step", {{"run", true}});
   EventReader page(program);
-  json state = page.next("snapshot").data.at("script").at("state");
-  const auto hasEnded = [](const json& each) { return each.at("state") == "finished"; };
-  if (state != "finished") state = page.next("script", hasEnded).data.at("state");
-  EXPECT_EQ(state, "finished");
+  // A host that has restarted begins with a snapshot, which may tell of the end already.
+  page.next("", [](const json& data) {
+    const json& part = data.is_object() && data.contains("script") ? data.at("script") : data;
+    return part.is_object() && part.contains("state") && part.at("state") == "finished";
+  });
   EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 10.0);
 }
 

@@ -98,8 +98,8 @@ std::string describe(Object object, int level) {
 
 }  // namespace
 
-std::string collectionDescription(Object collection) {
-  return describe(collection, 0);
+Object collectionDescription(Object collection) {
+  return string(describe(collection, 0));
 }
 
 }  // namespace sim

@@ -1,12 +1,11 @@
 // How arrays, dictionaries and sets print themselves: the old property list notation.
 #pragma once
 
-#include <string>
-
 #include "objc/Object.h"
 
 namespace sim {
 
-std::string collectionDescription(objc::Object collection);
+// NSString, autoreleased.
+objc::Object collectionDescription(objc::Object collection);
 
 }  // namespace sim

@@ -28,6 +28,14 @@ inline objc::Object shareAsCopy(objc::Object self, void*) {
   return objc::Object(objc_retain(self.get()));
 }
 
+// copyWithZone: and mutableCopyWithZone: of collections: a `Made` with the same contents, +1.
+template <class Made, class State, auto contents>
+objc::Object copyAs(objc::Object self, void*) {
+  auto copy = Made::make();
+  State::of(copy.get()).*contents = State::of(self).*contents;
+  return copy.detach();
+}
+
 // An initialiser that fails gives up the object it was sent to.
 inline objc::Object failInit(id self) {
   objc_release(self);

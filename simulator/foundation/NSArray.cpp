@@ -124,18 +124,6 @@ bool isEqual(Object self, Object other) {
   }
   return true;
 }
-Object mutableCopyWithZone(Object self, void*) {
-  Strong<Object> copy = NSMutableArray::make();
-  NSArray::of(copy.get()).elements = elements(self);
-  return copy.detach();
-}
-bool writeToFile(Object self, Object path, bool) {
-  std::string problem;
-  return writePropertyList(self, Phone::current().file(text(path)), &problem);
-}
-Object describe(Object self) {
-  return string(collectionDescription(self));
-}
 
 void addFactories(StandIn<NSArray>& standIn) {
   standIn.factory<"array", &makeEmpty>()
@@ -208,9 +196,9 @@ void NSArray::registerClass() {
       .method<"isEqualToArray:", &isEqual>()
       .method<"hash", &count>()
       .method<"copyWithZone:", &shareAsCopy>()
-      .method<"mutableCopyWithZone:", &mutableCopyWithZone>()
-      .partial<"writeToFile:atomically:", &writeToFile>("always atomic and binary")
-      .method<"description", &describe>()
+      .method<"mutableCopyWithZone:", &copyAs<NSMutableArray, NSArray, &NSArray::elements>>()
+      .partial<"writeToFile:atomically:", &writeToPhone>("always atomic and binary")
+      .method<"description", &collectionDescription>()
       .finish();
 }
 

@@ -114,10 +114,6 @@ Object initWithContentsOfFile(Object self, Object path) {
   const Object dictionary = read(path);
   return dictionary ? initWithDictionary(self, dictionary) : failInit(self.get());
 }
-bool writeToFile(Object self, Object path, bool) {
-  std::string problem;
-  return writePropertyList(self, Phone::current().file(text(path)), &problem);
-}
 
 unsigned long count(Object self) {
   return table(self).size();
@@ -154,14 +150,6 @@ bool isEqual(Object self, Object other) {
   }
   return true;
 }
-Object mutableCopyWithZone(Object self, void*) {
-  Strong<Object> copy = NSMutableDictionary::make();
-  NSDictionary::of(copy.get()).table = table(self);
-  return copy.detach();
-}
-Object describe(Object self) {
-  return string(collectionDescription(self));
-}
 
 void addFactories(StandIn<NSDictionary>& standIn) {
   standIn.factory<"dictionary", &makeEmpty>()
@@ -186,7 +174,7 @@ void NSDictionary::put(Object key, Object value) {
 void NSDictionary::registerClass() {
   StandIn<NSDictionary> standIn("Foundation", "NSDictionary", "NSObject");
   addFactories(standIn);
-  standIn.partial<"writeToFile:atomically:", &writeToFile>("always atomic and binary")
+  standIn.partial<"writeToFile:atomically:", &writeToPhone>("always atomic and binary")
       .method<"count", &count>()
       .method<"objectForKey:", &objectForKey>()
       .method<"objectForKeyedSubscript:", &objectForKey>()
@@ -198,8 +186,9 @@ void NSDictionary::registerClass() {
       .method<"isEqualToDictionary:", &isEqual>()
       .method<"hash", &count>()
       .method<"copyWithZone:", &shareAsCopy>()
-      .method<"mutableCopyWithZone:", &mutableCopyWithZone>()
-      .method<"description", &describe>()
+      .method<"mutableCopyWithZone:",
+              &copyAs<NSMutableDictionary, NSDictionary, &NSDictionary::table>>()
+      .method<"description", &collectionDescription>()
       .finish();
 }
 

@@ -92,12 +92,6 @@ void sortUsingComparator(Object self, Comparator comparator) {
   elements(self) = sorted(elements(self), comparator);
 }
 
-Object copyWithZone(Object self, void*) {
-  Strong<Object> copy = NSArray::make();
-  NSArray::of(copy.get()).elements = elements(self);
-  return copy.detach();
-}
-
 }  // namespace
 
 void NSMutableArray::registerClass() {
@@ -117,7 +111,7 @@ void NSMutableArray::registerClass() {
       .method<"setArray:", &setArray>()
       .method<"sortUsingSelector:", &sortUsingSelector>()
       .method<"sortUsingComparator:", &sortUsingComparator>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &copyAs<NSArray, NSArray, &NSArray::elements>>()
       .finish();
 }
 

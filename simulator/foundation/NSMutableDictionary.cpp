@@ -79,12 +79,6 @@ void setDictionary(Object self, Object other) {
   dictionary(self).table = its != nullptr ? its->table : KeyTable();
 }
 
-Object copyWithZone(Object self, void*) {
-  Strong<Object> copy = NSDictionary::make();
-  NSDictionary::of(copy.get()).table = dictionary(self).table;
-  return copy.detach();
-}
-
 }  // namespace
 
 void NSMutableDictionary::registerClass() {
@@ -98,7 +92,7 @@ void NSMutableDictionary::registerClass() {
       .method<"removeAllObjects", &removeAllObjects>()
       .method<"addEntriesFromDictionary:", &addEntriesFromDictionary>()
       .method<"setDictionary:", &setDictionary>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &copyAs<NSDictionary, NSDictionary, &NSDictionary::table>>()
       .finish();
 }
 

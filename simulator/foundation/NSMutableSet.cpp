@@ -45,12 +45,6 @@ void minusSet(Object self, Object other) {
   for (const KeyEntry& entry : members(other)) table(self).remove(entry.key);
 }
 
-Object copyWithZone(Object self, void*) {
-  Strong<Object> copy = NSSet::make();
-  table(copy) = table(self);
-  return copy.detach();
-}
-
 }  // namespace
 
 void NSMutableSet::registerClass() {
@@ -61,7 +55,7 @@ void NSMutableSet::registerClass() {
       .method<"removeAllObjects", &removeAllObjects>()
       .method<"unionSet:", &unionSet>()
       .method<"minusSet:", &minusSet>()
-      .method<"copyWithZone:", &copyWithZone>()
+      .method<"copyWithZone:", &copyAs<NSSet, NSSet, &NSSet::table>>()
       .finish();
 }
 

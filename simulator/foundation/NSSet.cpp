@@ -91,14 +91,6 @@ bool isEqual(Object self, Object other) {
     if (its->table.find(entry.key) == nullptr) return false;
   return true;
 }
-Object mutableCopyWithZone(Object self, void*) {
-  Strong<Object> copy = NSMutableSet::make();
-  table(copy) = table(self);
-  return copy.detach();
-}
-Object describe(Object self) {
-  return string(collectionDescription(self));
-}
 
 }  // namespace
 
@@ -120,8 +112,8 @@ void NSSet::registerClass() {
       .method<"isEqualToSet:", &isEqual>()
       .method<"hash", &count>()
       .method<"copyWithZone:", &shareAsCopy>()
-      .method<"mutableCopyWithZone:", &mutableCopyWithZone>()
-      .method<"description", &describe>()
+      .method<"mutableCopyWithZone:", &copyAs<NSMutableSet, NSSet, &NSSet::table>>()
+      .method<"description", &collectionDescription>()
       .finish();
   addVariadic({NSSet::cls(), '+', "setWithObjects:", "@@:@"}, &makeWithList);
 }

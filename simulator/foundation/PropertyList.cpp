@@ -12,6 +12,7 @@
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/PropertyListNode.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 
 namespace sim {
 namespace {
@@ -164,6 +165,11 @@ Object readPropertyList(const std::filesystem::path& path, std::string* error) {
 bool writePropertyList(Object object, const std::filesystem::path& path, std::string* error) {
   const PropertyListNode root = nodeOf(object, 0, error);
   return root && saveNode(root.get(), path, error);
+}
+
+bool writeToPhone(Object self, Object path, bool) {
+  std::string problem;
+  return writePropertyList(self, Phone::current().file(text(path)), &problem);
 }
 
 Object propertyListObject(plist_t node) {

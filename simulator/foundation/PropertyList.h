@@ -17,6 +17,9 @@ objc::Object readPropertyList(const std::filesystem::path& path, std::string* er
 // object is no property list (then the reason names what is not) or the file cannot be written.
 bool writePropertyList(objc::Object object, const std::filesystem::path& path, std::string* error);
 
+// writeToFile:atomically: of collections; the path is the phone's.
+bool writeToPhone(objc::Object self, objc::Object path, bool atomically);
+
 // The same value with every container immutable, autoreleased; nil and a reason in *error when the
 // object is no property list.
 objc::Object propertyListCopy(objc::Object object, std::string* error);

@@ -10,6 +10,7 @@
 #include "objc/Message.h"
 #include "simulator/coregraphics/Geometry.h"
 #include "simulator/foundation/NSData.h"
+#include "simulator/foundation/Values.h"
 
 namespace {
 
@@ -67,5 +68,20 @@ void layOutTheUnchangedPanel(benchmark::State& state) {
   }
 }
 BENCHMARK(layOutTheUnchangedPanel)->Unit(benchmark::kMicrosecond);
+
+// What an open panel does every second: another time of the same width.
+void showTheNextSecond(benchmark::State& state) {
+  bench::BootedPhone::get();
+  const Panel panel;
+  const Object label = objc::send<Object, "timerLabel">(panel.timer);
+  bool even = false;
+  for (auto _ : state) {
+    const objc::AutoreleasePool pool;
+    even = !even;
+    objc::send<void, "setText:">(label, sim::string(even ? "07:58" : "07:59"));
+    objc::send<void, "layoutIfNeeded">(panel.view.get());
+  }
+}
+BENCHMARK(showTheNextSecond)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

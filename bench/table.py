@@ -26,6 +26,7 @@ AIMS = {
     "loadExtension": ("loadExtensionUnchecked", None),
     "loadExtensionUnchecked": (None, 100e3),
     "layOutThePanel": (None, 1e6),
+    "showTheNextSecond": ("layOutThePanel", 0.2),
     "eightHoursRefreshedEverySecond": (None, 20e6),
     "buildScene": (None, 2e6),
     "buildAndCompareScene": (None, 2e6),

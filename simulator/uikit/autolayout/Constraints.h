@@ -14,6 +14,10 @@ void addStackConstraints(LayoutProblem& problem, objc::Object stack);
 // The view hugs its content, and resists being compressed below it.
 void addContentConstraints(LayoutProblem& problem, objc::Object view);
 
+// Whether the view is known to have a content of the size that the last solution was made for: a
+// label that counts down every second changes its digits, seldom its width.
+bool isAsLargeAsBefore(objc::Object view);
+
 // Measures the text again of several lines whose width the solution says. False when all heights
 // were right.
 bool wrapTexts(const LayoutProblem& problem, const Solution& solution);

@@ -36,7 +36,20 @@ CGSize contentSize(Object view) {
   return size;
 }
 
+// A view of another class may answer anything, and is asked only when its tree is laid out.
+bool isPlainLabel(Object view) {
+  const SEL size = objc::selector<"intrinsicContentSize">();
+  return isA<UILabel>(view) && class_getMethodImplementation(object_getClass(view.get()), size) ==
+                                   class_getMethodImplementation(UILabel::cls(), size);
+}
+
 }  // namespace
+
+bool isAsLargeAsBefore(Object view) {
+  const ViewConstraints& its = constraintsOf(view);
+  return its.contentSize && isPlainLabel(view) && !wraps(view) &&
+         objc::send<CGSize, "intrinsicContentSize">(view) == *its.contentSize;
+}
 
 void addContentConstraints(LayoutProblem& problem, Object view) {
   const CGSize size = contentSize(view);

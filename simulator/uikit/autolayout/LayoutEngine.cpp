@@ -92,7 +92,7 @@ void geometryChanged(Object view) {
 
 void contentSizeChanged(Object view) {
   ViewConstraints* its = existingConstraintsOf(view);
-  if (its == nullptr || its->translatesMask) return;
+  if (its == nullptr || its->translatesMask || isAsLargeAsBefore(view)) return;
   its->contentSize.reset();
   constraintsChanged(view);
 }

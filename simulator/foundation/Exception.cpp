@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "simulator/runtime/Fatal.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim {
 
@@ -39,7 +40,7 @@ void raiseWrongClass(const char* selector, objc::Object argument, const char* wa
 
 std::string addressDescription(objc::Object object) {
   std::array<char, 24> address;
-  std::snprintf(address.data(), address.size(), ": %p>", static_cast<void*>(object.get()));
+  std::snprintf(address.data(), address.size(), ": 0x%zx>", runtime::shownAddress(object.get()));
   return std::string("<") + object_getClassName(object.get()) + address.data();
 }
 

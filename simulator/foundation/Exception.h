@@ -23,7 +23,7 @@ void requireElement(const char* collection, objc::Object element, std::size_t in
 // the first message that the argument does not know.
 [[noreturn]] void raiseWrongClass(const char* selector, objc::Object argument, const char* wanted);
 
-// "<NSArray: 0x55d0c8>"
+// "<NSArray: 0x280000040>"
 std::string addressDescription(objc::Object object);
 
 }  // namespace sim

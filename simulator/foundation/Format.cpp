@@ -7,6 +7,7 @@
 #include "simulator/foundation/FormatParser.h"
 #include "simulator/foundation/Unicode.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim {
 namespace {
@@ -161,7 +162,7 @@ std::u16string cText(const Resolved& resolved, const char* bytes) {
 
 std::u16string pointerText(const void* pointer) {
   char digits[24];
-  std::snprintf(digits, sizeof digits, "0x%jx", std::uintmax_t(std::uintptr_t(pointer)));
+  std::snprintf(digits, sizeof digits, "0x%jx", std::uintmax_t(runtime::shownAddress(pointer)));
   return unicode::fromUtf8Lossy(digits);
 }
 

@@ -1,13 +1,13 @@
 #include "simulator/runtime/AutoreleasePool.h"
 
 #include <pthread.h>
-#include <unistd.h>
 
 #include <cstdint>
 #include <cstdio>
 #include <vector>
 
 #include "simulator/runtime/Fatal.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim::runtime {
 namespace {
@@ -92,10 +92,9 @@ id addToAutoreleasePool(id object) {
   PoolStack& stack = PoolStack::current();
   if (!stack.hasPool()) {
     std::fprintf(stderr,
-                 "objc[%d]: MISSING POOLS: Object %p of class %s autoreleased with no pool in "
+                 "objc: MISSING POOLS: Object 0x%zx of class %s autoreleased with no pool in "
                  "place - kept until its thread ends\n",
-                 static_cast<int>(getpid()), static_cast<void*>(object),
-                 object_getClassName(object));
+                 shownAddress(object), object_getClassName(object));
   }
   stack.add(object);
   return object;

@@ -7,6 +7,7 @@
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/Instances.h"
 #include "simulator/runtime/LiveObjects.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim::runtime {
 namespace {
@@ -46,7 +47,7 @@ bool releaseHeapBlock(const void* block) {
   do {
     const std::int32_t count = flags & BlockFlag::referenceMask;
     if (count == BlockFlag::referenceMask || (flags & BlockFlag::deallocating) != 0) return false;
-    if (count == 0) fatal("block %p was released too often", const_cast<void*>(block));
+    if (count == 0) fatal("block 0x%zx was released too often", shownAddress(block));
     lowered = flags - BlockFlag::oneCount;
     if (count == BlockFlag::oneCount) lowered |= BlockFlag::deallocating;
   } while (!flagsOf(block).compare_exchange_weak(flags, lowered));
@@ -111,7 +112,7 @@ void* _Block_copy(const void* block) {
     return layoutOf(block);
   }
   if (layoutOf(block)->invoke == nullptr)
-    fatal("_Block_copy: block %p has no function", const_cast<void*>(block));
+    fatal("_Block_copy: block 0x%zx has no function", shownAddress(block));
   return copyToHeap(*layoutOf(block));
 }
 
@@ -123,5 +124,6 @@ void _Block_release(const void* block) {
   const std::uint32_t traces = tracesOf(block).load(std::memory_order_acquire);
   clearTraces(reinterpret_cast<id>(layoutOf(block)), traces);
   if ((traces & countedBlock) != 0) countLiveBlocks(-1);
+  endShownAddress(block);
   std::free(layoutOf(block));
 }

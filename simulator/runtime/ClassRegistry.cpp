@@ -13,6 +13,7 @@
 #include "simulator/runtime/ClassChanges.h"
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/MethodCache.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim::runtime {
 
@@ -87,6 +88,7 @@ void destroyClass(Class cls) {
   if (cls->superclass != nullptr) std::erase(cls->superclass->data->subclasses, cls);
   freeCaches(cls);
   delete cls->data;
+  endShownAddress(cls);
   std::free(cls);
 }
 

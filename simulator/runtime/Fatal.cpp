@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "simulator/runtime/ShownAddresses.h"
+
 namespace sim::runtime {
 namespace {
 
@@ -28,9 +30,9 @@ void fatal(const char* format, ...) {
 
 void unrecognizedSelector(id receiver, SEL selector) {
   const bool isClass = object_isClass(receiver);
-  fatal("%c[%s %s]: unrecognized selector sent to %s %p", isClass ? '+' : '-',
+  fatal("%c[%s %s]: unrecognized selector sent to %s 0x%zx", isClass ? '+' : '-',
         object_getClassName(receiver), sel_getName(selector), isClass ? "class" : "instance",
-        static_cast<void*>(receiver));
+        shownAddress(receiver));
 }
 
 }  // namespace sim::runtime

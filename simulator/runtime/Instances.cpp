@@ -10,6 +10,7 @@
 #include "simulator/runtime/Methods.h"
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Send.h"
+#include "simulator/runtime/ShownAddresses.h"
 #include "simulator/runtime/WeakReferences.h"
 
 namespace sim::runtime {
@@ -61,6 +62,7 @@ void destructInstance(id object) {
 void clearTraces(id object, std::uint32_t traces) {
   if ((traces & ObjectTrace::associations) != 0) objc_removeAssociatedObjects(object);
   if ((traces & ObjectTrace::weakReferences) != 0) clearWeakReferences(object);
+  if ((traces & ObjectTrace::shownAddress) != 0) endShownAddress(object);
 }
 
 }  // namespace sim::runtime

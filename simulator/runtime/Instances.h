@@ -14,6 +14,7 @@ struct ObjectTrace {
   enum Value : std::uint32_t {
     associations = 1u << 0,
     weakReferences = 1u << 1,
+    shownAddress = 1u << 2,
   };
 };
 
@@ -43,7 +44,7 @@ void setTrace(id object, ObjectTrace::Value trace);
 // references read nil.
 void destructInstance(id object);
 
-// The last two of these, for the bits of ObjectTrace in `traces`.
+// The last two of these, and the end of its shown address, for the bits of ObjectTrace in `traces`.
 void clearTraces(id object, std::uint32_t traces);
 
 }  // namespace sim::runtime

@@ -46,6 +46,16 @@ std::size_t liveInstanceCount(Class cls) {
   return liveInstances(cls).size();
 }
 
+bool isLiveInstance(const void* pointer) {
+  const auto place = reinterpret_cast<std::uintptr_t>(pointer) - sizeof(InstanceHeader);
+  const auto* wanted = reinterpret_cast<const InstanceHeader*>(place);
+  LiveList& list = lists().of(wanted);
+  const std::lock_guard guard(list.lock);
+  const InstanceHeader* header = list.first;
+  while (header != nullptr && header != wanted) header = header->next;
+  return header != nullptr;
+}
+
 std::vector<LiveCount> liveInstanceCounts() {
   std::unordered_map<Class, std::size_t> byClass;
   visitLiveObjects([&](id object) { ++byClass[object_getClass(object)]; });

@@ -21,6 +21,9 @@ struct LiveCount {
 std::vector<id> liveInstances(Class cls);
 std::size_t liveInstanceCount(Class cls);
 
+// Whatever the pointer leads to, it is not read. Walks a share of all objects.
+bool isLiveInstance(const void* pointer);
+
 // All classes that have instances, by name. Walks all objects.
 std::vector<LiveCount> liveInstanceCounts();
 

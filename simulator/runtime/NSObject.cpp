@@ -7,6 +7,7 @@
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Send.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim::runtime {
 namespace {
@@ -142,7 +143,7 @@ bool isEqual(id self, SEL, id other) {
   return self == other;
 }
 std::size_t hash(id self, SEL) {
-  return reinterpret_cast<std::uintptr_t>(self);
+  return shownAddress(self);
 }
 
 template <class Function>

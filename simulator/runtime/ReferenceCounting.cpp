@@ -6,6 +6,7 @@
 #include "simulator/runtime/Fatal.h"
 #include "simulator/runtime/Instances.h"
 #include "simulator/runtime/Send.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim::runtime {
 namespace {
@@ -39,7 +40,8 @@ void releaseInstance(id object) {
   std::uint32_t lowered = 0;
   do {
     if (current == freedMark)
-      fatal("object %p was released after it had been freed", static_cast<void*>(object));
+      fatal("object 0x%zx was released after it had been freed",
+            shownAddress(static_cast<const void*>(object)));
     if ((current & deallocatingBit) != 0) return;
     lowered = current == oneReference ? deallocatingBit : current - oneReference;
   } while (!references.compare_exchange_weak(current, lowered, std::memory_order_acq_rel,

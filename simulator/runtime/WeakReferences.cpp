@@ -11,6 +11,7 @@
 #include "simulator/runtime/LocationSet.h"
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Shards.h"
+#include "simulator/runtime/ShownAddresses.h"
 
 namespace sim::runtime {
 namespace {
@@ -66,9 +67,9 @@ class TwoTables {
 void requireAlive(id object) {
   if (isDeallocating(object)) {
     fatal(
-        "cannot form a weak reference to instance %p of class %s: it is in dealloc or was "
+        "cannot form a weak reference to instance 0x%zx of class %s: it is in dealloc or was "
         "released too often",
-        static_cast<void*>(object), object_getClassName(object));
+        shownAddress(object), object_getClassName(object));
   }
 }
 

@@ -150,7 +150,7 @@ void NSLayoutConstraint::registerClass() {
       .partial<"setActive:", &setConstraintActive>(
           "of contradictory ones the newest breaks, and what is ambiguous is as small as possible: "
           "the platform's own choices are not known")
-      .partial<"description", &descriptionOf>("no addresses: alike in every run")
+      .partial<"description", &descriptionOf>("without addresses")
       .finish();
 }
 

@@ -1,7 +1,5 @@
 #include "simulator/foundation/NSProcessInfo.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <compare>
 #include <string_view>
@@ -26,7 +24,7 @@ Object processName(Object) {
 }
 
 int processIdentifier(Object) {
-  return ::getpid();
+  return 58;
 }
 
 double systemUptime(Object) {
@@ -60,7 +58,7 @@ void NSProcessInfo::registerClass() {
   StandIn<NSProcessInfo>("Foundation", "NSProcessInfo", "NSObject")
       .classMethod<"processInfo", &processInfo>()
       .method<"processName", &processName>()
-      .method<"processIdentifier", &processIdentifier>()
+      .partial<"processIdentifier", &processIdentifier>("the same in every play")
       .method<"systemUptime", &systemUptime>()
       .method<"operatingSystemVersion", &operatingSystemVersion>()
       .method<"isOperatingSystemAtLeastVersion:", &isAtLeast>()

@@ -1,6 +1,7 @@
 // What Foundation consists of on the simulated phone.
 #include "simulator/standin/Registration.h"
 
+#include "simulator/foundation/Arc4Random.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/NSBundle.h"
 #include "simulator/foundation/NSCharacterSet.h"
@@ -60,6 +61,7 @@ void registerFoundation() {
   NSTimer::registerClass();
   NSRunLoop::registerClass();
   recordLogFunctions();
+  recordRandomNumbers();
   addObjectMethods();  // some of it is for the collections
 }
 

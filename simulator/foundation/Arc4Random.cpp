@@ -1,0 +1,38 @@
+// The system's random numbers are drawn by the phone: whatever depends on them is the same in every
+// play.
+#include "simulator/foundation/Arc4Random.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+#include "simulator/machine/Phone.h"
+#include "simulator/standin/Fidelity.h"
+
+namespace {
+
+// SplitMix64: any start gives numbers of every size.
+struct RandomNumbers {
+  std::uint64_t state = std::uint64_t(sim::Phone::current().clock.uptime());
+
+  std::uint64_t next() {
+    state += 0x9e3779b97f4a7c15;
+    std::uint64_t mixed = (state ^ (state >> 30)) * 0xbf58476d1ce4e5b9;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111eb;
+    return mixed ^ (mixed >> 31);
+  }
+};
+
+}  // namespace
+
+// Found by its name, before the machine's own.
+extern "C" [[gnu::visibility("default")]] std::uint32_t arc4random() noexcept {
+  return std::uint32_t(sim::Phone::current().state<RandomNumbers>().next() >> 32);
+}
+
+namespace sim {
+
+void recordRandomNumbers() {
+  recordFunction("libSystem", "arc4random", {Grade::partial, "the same numbers in every play"});
+}
+
+}  // namespace sim

@@ -45,12 +45,16 @@ class Arguments {
   long integer(std::string_view what);
   bool yesOrNo(std::string_view what);          // YES or NO
   Nanoseconds duration(std::string_view what);  // 250ms, 10s, 5m, 8h
-  void finish();                                // nothing may follow
+  // Nothing may follow. Every command calls it, and before it changes anything: a line is either
+  // refused or done.
+  void finish();
+  bool isFinished() const { return isFinished_; }
   [[noreturn]] void failHere(const std::string& message) const;
 
  private:
   std::vector<Word> words_;
   std::size_t next_ = 0;
+  bool isFinished_ = false;
   std::size_t endColumn_;
 };
 

@@ -55,13 +55,14 @@ void runDefault(Arguments& arguments) {
   arguments.finish();
   nameChecks().all.add([keyWord] { requireNoTypo("the user default", keyWord, {}); });
   const bool hasClasses = objc_getClass("NSUserDefaults") != nullptr;  // the phone has booted
-  if (hasClasses)
-    userDefaultChanged(string(key), value ? propertyListObject(value.get()) : nullptr);
+  const objc::Object object =
+      hasClasses && value ? propertyListObject(value.get()) : objc::Object();
   const PropertyListNode defaults = loadUserDefaults();
   plist_dict_remove_item(defaults.get(), key.c_str());
   if (value) plist_dict_set_item(defaults.get(), key.c_str(), value.release());
   if (!saveUserDefaults(defaults.get()))
     throw ScriptError(0, "cannot write " + userDefaultsFile().string());
+  if (hasClasses) userDefaultChanged(string(key), object);
 }
 
 }  // namespace

@@ -40,6 +40,7 @@ void call(Arguments& arguments) {
 void declare(Arguments& arguments) {
   const std::string name = arguments.text("a function");
   const Word types = arguments.word("an encoding such as \"@i\"");
+  arguments.finish();
   try {
     Session::current().functions.declare(name, types.text);
   } catch (const std::invalid_argument& error) {

@@ -63,6 +63,7 @@ void moveWallClock(Arguments& arguments) {
     throw ScriptError(word.column, "expected +DURATION or -DURATION, found " + word.text);
   Arguments amount({{word.text.substr(1), false, word.column + 1}}, word.column + 1);
   const double distance = seconds(amount.duration("a duration"));
+  arguments.finish();
   Clock& clock = Session::current().phone.clock;
   clock.setWall(clock.wall() + (sign == '+' ? distance : -distance));
 }
@@ -78,6 +79,7 @@ void killAtText(Arguments& arguments) {
   KillText text{line.text, 1};
   if (arguments.takeKeyword("times")) text.times = arguments.integer("a number of lines");
   if (text.times < 1) arguments.failHere("expected at least one line");
+  arguments.finish();
   Session::current().killTexts.push_back(std::move(text));
 }
 
@@ -85,6 +87,7 @@ void killAt(Arguments& arguments) {
   if (const Word* next = arguments.peek(); next != nullptr && next->quoted)
     return killAtText(arguments);
   const long count = arguments.integer("a number of journal lines");
+  arguments.finish();
   Session& session = Session::current();
   const auto recorded = long(session.phone.journal.size());
   if (count <= recorded)

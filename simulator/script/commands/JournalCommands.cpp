@@ -72,6 +72,7 @@ Wanted readWanted(Arguments& arguments) {
     else
       arguments.failHere("expected at, within or times");
   }
+  arguments.finish();
   return wanted;
 }
 
@@ -113,9 +114,11 @@ void expectJournalOrder(Arguments& arguments) {
                                          times(matching(text.text)) + lastLines());
     }
   }
+  arguments.finish();
 }
 
-void clearJournal(Arguments&) {
+void clearJournal(Arguments& arguments) {
+  arguments.finish();
   Session& session = Session::current();
   session.journalStart = session.phone.journal.size();
 }

@@ -64,7 +64,9 @@ void get(Arguments& arguments) {
 Value readValue(Arguments& arguments) {
   if (arguments.takeKeyword("call")) return readCall(arguments);
   const Word path = arguments.word("a class or a $variable");
-  return arguments.atEnd() ? evaluateTarget(path) : readMessage(path, arguments).send();
+  if (!arguments.atEnd()) return readMessage(path, arguments).send();
+  arguments.finish();
+  return evaluateTarget(path);
 }
 
 void let(Arguments& arguments) {

@@ -37,6 +37,7 @@ void playlist(Arguments& words) {
   std::vector<Track> tracks;
   do tracks.push_back(takeTrack(words));
   while (!words.atEnd());
+  words.finish();
   startPlaylist(std::move(tracks));
 }
 

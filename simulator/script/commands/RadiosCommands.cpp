@@ -10,12 +10,11 @@ namespace {
 
 std::vector<std::string> takeNames(Arguments& words) {
   std::vector<std::string> names;
-  if (words.takeKeyword("none")) {
-    words.finish();
-    return names;
+  if (!words.takeKeyword("none")) {
+    do names.push_back(words.text("the name of a device, or none"));
+    while (!words.atEnd());
   }
-  do names.push_back(words.text("the name of a device, or none"));
-  while (!words.atEnd());
+  words.finish();
   return names;
 }
 

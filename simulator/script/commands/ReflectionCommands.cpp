@@ -18,8 +18,9 @@ Class readClass(Arguments& arguments) {
 
 void expectClass(Arguments& arguments) {
   const Class cls = readClass(arguments);
-  if (arguments.atEnd()) return;
+  if (arguments.atEnd()) return arguments.finish();
   const Word& wanted = arguments.word("the name of a superclass");
+  arguments.finish();
   const Class superclass = class_getSuperclass(cls);
   const std::string found = superclass == nullptr ? "none" : class_getName(superclass);
   if (found != wanted.text)
@@ -29,6 +30,7 @@ void expectClass(Arguments& arguments) {
 
 void expectNoClass(Arguments& arguments) {
   const Word& name = arguments.word("the name of a class");
+  arguments.finish();
   if (objc_getClass(name.text.c_str()) != nullptr)
     throw ScriptError(name.column, "expected no class " + name.text + ", found one");
   requireNoTypo("the class", name, classNames());
@@ -46,6 +48,7 @@ void expectType(Arguments& arguments) {
   const Class cls = readClass(arguments);
   const Word name = arguments.word("a selector");
   const Word types = arguments.word("an encoding such as \"v@:B\"");
+  arguments.finish();
   const bool ofClass = name.text.starts_with('+');
   const SEL selector = sel_registerName(name.text.c_str() + (ofClass ? 1 : 0));
   const Method method =
@@ -63,6 +66,7 @@ void expectProperty(Arguments& arguments) {
   const Class cls = readClass(arguments);
   const Word name = arguments.word("a property");
   const Word wanted = arguments.word("attributes such as \"TB,N\"");
+  arguments.finish();
   const objc_property_t property = class_getProperty(cls, name.text.c_str());
   if (property == nullptr)
     throw ScriptError(name.column,
@@ -75,11 +79,13 @@ void expectProperty(Arguments& arguments) {
 }
 
 void expectResponds(Arguments& arguments) {
-  const objc::Object receiver = targetObject(arguments);
+  const Word target = arguments.word("a class or a $variable");
   const Word name = arguments.word("a selector");
   const Word* answer = arguments.peek();
   const std::size_t column = answer == nullptr ? 0 : answer->column;
   const bool wanted = arguments.yesOrNo("an answer");
+  arguments.finish();
+  const objc::Object receiver = targetObject(target);
   const bool found = class_respondsToSelector(object_getClass(receiver.get()),
                                               sel_registerName(name.text.c_str()));
   if (!found) requireNoTypo("the selector", name, selectorNames());

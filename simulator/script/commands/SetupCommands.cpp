@@ -27,6 +27,7 @@ void systemVersion(Arguments& arguments) {
                          word.text.find_first_not_of("0123456789.") == std::string::npos;
   if (!isVersion)
     throw ScriptError(word.column, "expected a version such as 15.4, found " + word.text);
+  arguments.finish();
   setup().systemVersion = word.text;
 }
 
@@ -40,11 +41,14 @@ void locale(Arguments& arguments) {
     throw ScriptError(word.column, "expected a locale such as en_US, found " + word.text);
   if (!isLocale(word.text))
     throw ScriptError(word.column, "there is no locale " + word.text + nearestLocale(word.text));
+  arguments.finish();
   setup().locale = word.text;
 }
 
 void process(Arguments& arguments) {
-  setup().processName = arguments.text("the name of a process");
+  const std::string name = arguments.text("the name of a process");
+  arguments.finish();
+  setup().processName = name;
 }
 
 void haptics(Arguments& arguments) {
@@ -52,6 +56,7 @@ void haptics(Arguments& arguments) {
   const long level = arguments.integer("a level from 0 to 2");
   if (level < 0 || level > 2)
     throw ScriptError(word->column, "expected a level from 0 to 2, found " + word->text);
+  arguments.finish();
   setup().feedbackSupportLevel = level;
 }
 
@@ -82,20 +87,22 @@ void missing(Arguments& arguments) {
     throw ScriptError(0, "what is missing must be said by a line of its own");
   const Word cls = arguments.word("the name of a class");
   std::optional<Word> member;
-  if (arguments.atEnd()) {
+  if (!arguments.atEnd()) member = arguments.word("a selector");
+  arguments.finish();
+  if (!member) {
     if (std::ranges::find(indispensable, cls.text) != std::end(indispensable))
       throw ScriptError(cls.column, "the phone itself cannot do without " + cls.text);
     setup().missingClasses.insert(cls.text);
   } else {
-    member = arguments.word("a selector");
     setup().missingMethods.insert(cls.text + ' ' + member->text);
   }
   nameChecks().system.add([cls, member] { requireStandIn(cls, member); });
 }
 
 void foreignClass(Arguments& arguments) {
-  setup().foreignClasses.push_back(arguments.text("the name of a class"));
+  const std::string name = arguments.text("the name of a class");
   arguments.finish();
+  setup().foreignClasses.push_back(name);
 }
 
 void journalClassChanges(Arguments& arguments) {

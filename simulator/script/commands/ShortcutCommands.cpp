@@ -10,11 +10,12 @@ namespace sim {
 namespace {
 
 void shortcuts(Arguments& words) {
+  std::vector<std::string> names;
+  while (!words.atEnd()) names.push_back(words.text("the name of a shortcut"));
+  words.finish();
   ShortcutRunner& runner = ShortcutRunner::current();
   if (!runner.install())
     throw ScriptError(0, "no shortcut runner is installed: `shortcuts` comes before boot, too");
-  std::vector<std::string> names;
-  while (!words.atEnd()) names.push_back(words.text("the name of a shortcut"));
   runner.setShortcuts(std::move(names));
 }
 

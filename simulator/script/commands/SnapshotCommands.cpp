@@ -25,7 +25,10 @@ std::string endingOf(const Word& file) {
 
 // The screen, or the view that the next word names.
 scene::Node drawnScene(Arguments& words) {
-  if (words.atEnd()) return screenScene();
+  if (words.atEnd()) {
+    words.finish();
+    return screenScene();
+  }
   const Word word = words.word("a view");
   words.finish();
   const objc::Object view = targetObject(word);

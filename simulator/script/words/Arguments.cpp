@@ -82,6 +82,7 @@ Nanoseconds Arguments::duration(std::string_view what) {
 
 void Arguments::finish() {
   if (!atEnd()) failHere("nothing may follow here, found " + shown(words_[next_]));
+  isFinished_ = true;
 }
 
 void Arguments::failHere(const std::string& message) const {

@@ -15,6 +15,8 @@ namespace {
 
 constexpr std::size_t journalLines = 10;
 constexpr std::size_t longestName = 160;
+// What the system maps lies above it, elsewhere in each process: an address there says nothing.
+constexpr std::uintptr_t lowestPlace = std::uintptr_t(1) << 32;
 constexpr const char* again = ", again and again";
 
 std::string hexadecimal(std::size_t number) {
@@ -61,7 +63,7 @@ class Stack {
       const CrashRecord::Frame& frame = record_.frames[index];
       std::string text = frame.method.front() == '\0' ? functions_[index] : methodOf(frame);
       if (text.size() > longestName) text = text.substr(0, longestName) + "…";
-      if (text.empty()) text = hexadecimal(std::size_t(frame.address));
+      if (text.empty()) text = "code without a name";
       if (text == before) {
         if (!all.back().ends_with(again)) all.back() += again;
         continue;
@@ -103,9 +105,9 @@ std::string described(int status) {
 std::string described(const CrashRecord& record, int status) {
   if (record.reason.front() != '\0') return record.reason.data();
   const std::string name = record.signal == 0 ? described(status) : strsignal(record.signal);
-  return record.address == nullptr && record.signal != SIGSEGV
-             ? name
-             : name + " at " + hexadecimal(std::size_t(record.address));
+  const auto place = reinterpret_cast<std::uintptr_t>(record.address);
+  const bool hasPlace = place != 0 || record.signal == SIGSEGV;
+  return hasPlace && place < lowestPlace ? name + " at " + hexadecimal(place) : name;
 }
 
 }  // namespace
@@ -133,6 +135,13 @@ CrashReport reportOf(int status, const std::optional<CrashRecord>& record,
 
 std::vector<std::string> stackOf(const CrashRecord& record) {
   return Stack(record).texts();
+}
+
+void relaunchAfterCrash(nlohmann::json& state, Nanoseconds uptime,
+                        const std::optional<CrashRecord>& record) {
+  state["uptime"] = state["relaunchAt"] = uptime;
+  state["advanceUntil"] = nullptr;
+  if (record) state["wallAtZero"] = record->wallAtZero;
 }
 
 std::string journalLine(const CrashReport& report) {

@@ -27,6 +27,11 @@ CrashReport reportOf(int status, const std::optional<CrashRecord>& record,
 // The stack of a host that lives.
 std::vector<std::string> stackOf(const CrashRecord& record);
 
+// Makes of what a host has said of itself, as of RestartState, what the next one begins with after
+// the crash.
+void relaunchAfterCrash(nlohmann::json& state, Nanoseconds uptime,
+                        const std::optional<CrashRecord>& record);
+
 // "the host crashed: …": the journal's line.
 std::string journalLine(const CrashReport& report);
 // For the terminal, in several lines.

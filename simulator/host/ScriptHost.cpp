@@ -47,6 +47,12 @@ void silence() {
   dup2(nowhere, STDERR_FILENO);
 }
 
+void tellWhatCrashesFind(Session& session, Channel& supervisor) {
+  session.expectCrash = [&supervisor](const RestartState& state) {
+    supervisor.send({{{"checkpoint", restartStateAsJson(state)}}, {}});
+  };
+}
+
 // What was wrong with the script; null: nothing.
 json play(Session& session, const CommandTable& commands, const json& job) {
   try {
@@ -95,6 +101,7 @@ void playScriptInHost(Session& session, const CommandTable& commands, HostEnds& 
   session.choose(optionsFrom(job));
   watchForCrashes(ends.report, session);
   handOverThrough(session, ends.supervisor);
+  tellWhatCrashesFind(session, ends.supervisor);
   if (!session.options.quiet) session.phone.journal.observe(printEntry);
   json end;
   {

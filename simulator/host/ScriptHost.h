@@ -19,7 +19,8 @@ struct ScriptJob {
 nlohmann::json asJson(const ScriptJob& job, const nlohmann::json& state);
 
 // A HostMain for such jobs. Its last message is {"restart": state}, or {"done": exit status} with
-// "line", "column" and "error" for what was wrong.
+// "line", "column" and "error" for what was wrong; of one that crashes as its script expects it is
+// {"checkpoint": state}.
 void playScriptInHost(Session& session, const CommandTable& commands, HostEnds& ends,
                       const nlohmann::json& job);
 

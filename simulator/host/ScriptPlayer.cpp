@@ -66,19 +66,29 @@ ScriptOutcome ScriptPlayer::play(ScriptJob job) {
       job.processorSeconds =
           std::max(job.processorSeconds - result.processorSeconds, leastProcessorSeconds);
     if (last && last->head.contains("done")) return outcomeFrom(last->head, result.status);
-    if (last) {
+    if (last && last->head.contains("restart")) {
       state = last->head.at("restart");
       continue;
     }
     journal_.refresh();
-    ScriptOutcome outcome;
-    outcome.status = 1;
-    outcome.crash = reportOf(result.status, result.crash, journal_);
-    journal_.append({outcome.crash->uptime, journalLine(*outcome.crash)});
-    if (!job.options.quiet)
-      std::cout << formatted({outcome.crash->uptime, journalLine(*outcome.crash)}) << std::endl;
-    return outcome;
+    const CrashReport report = reportOf(result.status, result.crash, journal_);
+    tell(report, job.options.quiet);
+    // Without a word of its own it was killed by somebody else.
+    if (!last || !result.crash) {
+      ScriptOutcome outcome;
+      outcome.status = 1;
+      outcome.crash = report;
+      return outcome;
+    }
+    state = last->head.at("checkpoint");
+    relaunchAfterCrash(state, report.uptime, result.crash);
   }
+}
+
+void ScriptPlayer::tell(const CrashReport& report, bool isQuiet) {
+  const JournalEntry entry{report.uptime, journalLine(report)};
+  journal_.append(entry);
+  if (!isQuiet) std::cout << formatted(entry) << std::endl;
 }
 
 }  // namespace sim

@@ -28,6 +28,8 @@ class ScriptPlayer {
  private:
   Zygote& zygoteFor(const std::string& script);
   std::optional<Message> lastMessage(HostProcess& host) const;
+  // Writes the crash into the journal, and prints it as the host has printed the rest.
+  void tell(const CrashReport& report, bool isQuiet);
 
   int endSignals_;
   HostMain main_ = playScriptInHost;

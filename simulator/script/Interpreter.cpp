@@ -27,7 +27,8 @@ class Deeper {
 
 void Interpreter::play() {
   acceptLines();
-  requireKnownCommands();
+  // Before anything runs: a misspelt command late in a script is found at once.
+  for (const ScriptLine& line : lines_) commandOf(line);
   watchKillPoints();
   playFrom(0);
 }
@@ -42,18 +43,18 @@ void Interpreter::resume(const RestartState& state) {
   playFrom(state.lineNumber + 1);
 }
 
-// Before anything runs: a misspelt command late in a script is found at once.
-void Interpreter::requireKnownCommands() const {
-  for (const ScriptLine& line : lines_) {
-    const Word& name = line.words.front();
-    if (name.quoted || table_.find(name.text) == nullptr)
-      throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
-  }
+const Command& Interpreter::commandOf(const ScriptLine& line) const {
+  const Word& name = line.words.front();
+  const Command* command = name.quoted ? nullptr : table_.find(name.text);
+  if (command == nullptr)
+    throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
+  return *command;
 }
 
 // For commands that are made of others.
 void Interpreter::acceptLines() {
   session_.runLine = [this](const ScriptLine& line) { run(line); };
+  session_.requireCommand = [this](const ScriptLine& line) { commandOf(line); };
 }
 
 void Interpreter::playFrom(std::size_t lineNumber) {
@@ -73,10 +74,7 @@ void Interpreter::repeatSetup() {
 
 void Interpreter::run(const ScriptLine& line) {
   const Word& name = line.words.front();
-  const Command* known = name.quoted ? nullptr : table_.find(name.text);
-  if (known == nullptr)
-    throw ScriptParseError(line.number, {name.column, "expected a command, found " + name.text});
-  const Command& command = *known;
+  const Command& command = commandOf(line);
   const Deeper deeper(depth_);
   if (depth_ > deepest)
     throw ScriptParseError(line.number,
@@ -90,9 +88,11 @@ void Interpreter::run(const ScriptLine& line) {
     const objc::AutoreleasePool pool;
     Arguments arguments({line.words.begin() + 1, line.words.end()}, line.endColumn);
     command.run(arguments);
-    arguments.finish();
+    if (!arguments.isFinished())
+      throw std::logic_error(command.name + " does not finish its words before it acts");
     // A person cannot do two things within one turn of the phone's main queue.
     session_.phone.queue.runDue();
+    ++session_.commandsDone;
   } catch (const ScriptParseError&) {
     throw;  // of a line within this one
   } catch (const ScriptError& error) {

@@ -25,7 +25,7 @@ class Interpreter {
   void perform(const ScriptLine& line) { run(line); }
 
  private:
-  void requireKnownCommands() const;
+  const Command& commandOf(const ScriptLine& line) const;
   void acceptLines();
   void playFrom(std::size_t lineNumber);
   void repeatSetup();

@@ -1,4 +1,5 @@
-// A command that somebody has ended in its middle.
+// A command that was ended in its middle, by somebody or for want of room: another play of it would
+// not end there.
 #pragma once
 
 #include <string>
@@ -12,9 +13,8 @@ namespace sim {
 
 class Interrupted : public ScriptParseError {
  public:
-  Interrupted(std::size_t lineNumber, Nanoseconds uptime)
-      : ScriptParseError(lineNumber, {1, "interrupted at " + notation(seconds(uptime)) + " s"}),
-        lines{"advance-to " + secondsText(uptime)} {}
+  Interrupted(std::size_t lineNumber, Nanoseconds uptime, const std::string& why)
+      : ScriptParseError(lineNumber, {1, why}), lines{"advance-to " + secondsText(uptime)} {}
 
   // As many lines of a script as do what has been done of it.
   std::vector<std::string> lines;

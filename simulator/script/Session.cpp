@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "simulator/script/Interrupted.h"
 #include "simulator/script/ScriptFiles.h"
 
 namespace sim {
@@ -44,7 +45,7 @@ std::string Session::place() const {
 void Session::checkInterruption() const {
   if (interruptionHook) interruptionHook();
   if (const std::string problem = phone.journal.problem(); !problem.empty())
-    throw ScriptError(0, problem);
+    throw Interrupted(lineNumber, phone.clock.uptime(), problem);
 }
 
 Session& Session::current() {

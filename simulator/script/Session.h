@@ -68,13 +68,18 @@ class Session {
   std::vector<KillText> killTexts;                 // lines of the journal at which the host dies
   std::optional<Nanoseconds> advanceUntil;         // while `advance` runs
   std::size_t lineNumber = 0;                      // of the command that runs
+  std::size_t commandsDone = 0;                    // those within others, too
   std::function<void(const ScriptLine&)> runLine;  // as if it stood in the script
+  // Throws ScriptParseError when the line does not begin with a command.
+  std::function<void(const ScriptLine&)> requireCommand;
   // Between two of the many things that one command does. Throws what ends the command there:
   // somebody's wish, or a journal that can hold no more.
   void checkInterruption() const;
   std::function<void()> interruptionHook;  // may throw it, see Interrupted
   // Ends this process, and has the next one go on from the recorded state; does not return.
   std::function<void(const RestartState&)> handOver;
+  // What the next process has to know if this one crashes from here on. Empty: a crash is the end.
+  std::function<void(const RestartState&)> expectCrash;
 };
 
 }  // namespace sim

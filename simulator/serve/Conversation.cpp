@@ -72,10 +72,13 @@ void ServedPhone::progress() {
   send({{"progress", session_.phone.clock.uptime()}});
   receive();
   tellSubscribers(now);
+  const Nanoseconds uptime = session_.phone.clock.uptime();
   if (printed_ != nullptr && printed_->tellp() > mostOutput)
-    throw ScriptError(0, "expected to print at most " + std::to_string(mostOutput) + " bytes");
-  if (!std::exchange(isInterrupted_, false)) return;
-  throw Interrupted(session_.lineNumber, session_.phone.clock.uptime());
+    throw Interrupted(session_.lineNumber, uptime,
+                      "expected to print at most " + std::to_string(mostOutput) + " bytes");
+  if (std::exchange(isInterrupted_, false))
+    throw Interrupted(session_.lineNumber, uptime,
+                      "interrupted at " + notation(seconds(uptime)) + " s");
 }
 
 // Not as often as something happens: what a playlist alone consists of takes its time.

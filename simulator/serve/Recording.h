@@ -24,6 +24,11 @@ class Recording {
   void begin(std::string line, Nanoseconds uptime);
   void done(Nanoseconds uptime);
   void doneBy(const std::vector<std::string>& lines, Nanoseconds uptime);
+  // What was done up to this uptime is saved: the next host begins with it.
+  void saved(Nanoseconds uptime);
+  // The host has crashed at `uptime`: of the line that has begun, or by itself. The next one begins
+  // with what was saved last; nothing after that outlives the crash but files and the clock.
+  void crashed(Nanoseconds uptime);
   // It was refused, or is nothing that a script should repeat.
   void forget() { open_.reset(); }
 
@@ -38,8 +43,12 @@ class Recording {
     Nanoseconds begun;  // uptime
   };
   void write(const std::string& line);
+  void writeUnsaved();
 
   std::FILE* file_;
+  std::vector<std::string> unsaved_;  // lines that are not in the file yet
+  Nanoseconds saved_ = 0;             // uptime
+  Nanoseconds reachedByFile_ = 0;     // uptime
   std::vector<std::string> setup_;
   std::optional<Step> open_;
   Nanoseconds reached_ = 0;  // uptime

@@ -7,6 +7,7 @@
 #include <ostream>
 
 #include "simulator/host/CrashHandler.h"
+#include "simulator/runtime/ShownAddresses.h"
 #include "simulator/script/Interrupted.h"
 #include "simulator/script/Restart.h"
 #include "simulator/script/ScriptFiles.h"
@@ -33,6 +34,23 @@ SessionOptions optionsOf(const PhoneJob& job) {
   options.quiet = true;
   options.isServed = true;
   return options;
+}
+
+// What a line may have changed that the rest of the journal depends on, as far as it can be seen.
+struct Traces {
+  std::size_t lines, commands, addresses;
+  Nanoseconds uptime;
+  bool operator==(const Traces&) const = default;
+};
+
+Traces tracesIn(const Session& session) {
+  return {session.phone.journal.size(), session.commandsDone, runtime::shownAddressCount(),
+          session.phone.clock.uptime()};
+}
+
+// Does not change anything by itself.
+bool isLook(const std::string& command) {
+  return command == "get" || command == "tree" || command == "expect-last";
 }
 
 bool isPlaylist(const std::string& line) {
@@ -186,22 +204,32 @@ void ServedPhone::play(const std::string& text) {
   const Nanoseconds before = clock.uptime();
   const double wallBefore = clock.wallAtZero();
   const bool wasOff = session_.state == HostState::off;
-  const std::string& name = line.words.front().text;
-  const bool isRecorded = name != "get" && name != "tree";
-  if (isRecorded) send({{"begun", text}, {"uptime", before}});
+  Traces tracesBefore = tracesIn(session_);
+  const auto end = [&](const std::vector<std::string>& lines) {
+    send({{"instead", lines}, {"uptime", clock.uptime()}});
+  };
+  send({{"begun", text}, {"uptime", before}});
   changed_ = mustSave_ = true;
   progressed_ = steady_clock::now();
   try {
     interpreter_->perform(line);
   } catch (const Interrupted& error) {
-    if (isRecorded) send({{"instead", error.lines}, {"uptime", clock.uptime()}});
+    end(error.lines);
     rebase();
     throw;
   } catch (...) {
-    if (isRecorded) send({{"forget", true}});
+    if (tracesIn(session_) == tracesBefore)
+      send({{"forget", true}});
+    else
+      end({"expect-refused " + text});
+    if (clock.uptime() != before) rebase();
     throw;
   }
-  if (isRecorded) send({{"done", true}, {"uptime", clock.uptime()}});
+  ++tracesBefore.commands;
+  if (isLook(line.words.front().text) && tracesIn(session_) == tracesBefore)
+    send({{"forget", true}});
+  else
+    send({{"done", true}, {"uptime", clock.uptime()}});
   if (wasOff || clock.uptime() != before) rebase();
   if (clock.wallAtZero() != wallBefore) report_.demand("clock");
 }

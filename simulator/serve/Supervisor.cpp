@@ -129,6 +129,7 @@ void Supervisor::take(Life& life, const Message& message) {
   } else if (head.contains("checkpoint")) {
     life.state = head.at("checkpoint");
     life.uptime = life.state.at("uptime").get<Nanoseconds>();
+    life.recording->saved(life.uptime);
   } else if (head.contains("progress")) {
     life.uptime = head.at("progress").get<Nanoseconds>();
     hasProgress_ = true;
@@ -202,6 +203,7 @@ void Supervisor::hostRestarts(Life& life) {
   life.state = last.at("restart");
   life.uptime = life.state.at("uptime").get<Nanoseconds>();
   life.recording->done(life.uptime);
+  life.recording->saved(life.uptime);
   // Who has it restarted in order wants it whole.
   life.isSafe = false;
   life.crashes = 0;
@@ -222,16 +224,18 @@ void Supervisor::hostCrashed(Life& life, const HostResult& result) {
   report.uptime = std::max(report.uptime, life.uptime);
   const std::string line = journalLine(report);
   life.journal.append({report.uptime, line});
-  life.recording->done(report.uptime);
+  // Whom others have killed does not die again of itself.
+  if (result.crash && !life.isKilled && !life.state.is_null())
+    life.recording->crashed(report.uptime);
+  else
+    life.recording->done(report.uptime);
   refuseFirst(line);
   life.crashes = steady_clock::now() < life.launched + soon ? life.crashes + 1 : 1;
   life.isSafe = life.crashes >= crashesUntilSafe;
   life.uptime = report.uptime;
   report_ = report;
   if (!life.state.is_null()) {
-    life.state["uptime"] = life.state["relaunchAt"] = report.uptime;
-    life.state["advanceUntil"] = nullptr;
-    if (result.crash) life.state["wallAtZero"] = result.crash->wallAtZero;
+    relaunchAfterCrash(life.state, report.uptime, result.crash);
     json& script = life.state["survivors"]["serve"]["script"];
     if (!script.is_null() && script.at("state") == "running") {
       script["state"] = "failed";

@@ -39,6 +39,35 @@ TEST(Recorder, WritesDownWhatAnInterruptedLineHasDone) {
             "boot\nadvance-to 5\nrepeat 2 lock\nadvance-to 6\n");
 }
 
+TEST(Recorder, WritesDownThatTheHostHasCrashed) {
+  Recording recording;
+  recording.begin("boot", 0);
+  recording.done(0);
+  recording.saved(nanoseconds(5));
+  recording.begin("lock", nanoseconds(5));
+  recording.crashed(nanoseconds(5));
+  recording.saved(nanoseconds(7));
+  recording.crashed(nanoseconds(8));
+  EXPECT_EQ(recording.asScript(nanoseconds(8)),
+            "boot\nadvance-to 5\nexpect-crash lock\nadvance-to 7\nexpect-crash advance-to 8\n");
+}
+
+// The next host knows nothing of them.
+TEST(Recorder, HasLinesThatWereNotSavedDieWithTheCrash) {
+  Recording recording;
+  recording.begin("boot", 0);
+  recording.done(0);
+  recording.saved(0);
+  recording.begin("volume 0.5", 0);
+  recording.done(0);
+  recording.begin("pause", nanoseconds(2));
+  recording.done(nanoseconds(2));
+  recording.begin("lock", nanoseconds(2));
+  recording.crashed(nanoseconds(2));
+  EXPECT_EQ(recording.asScript(nanoseconds(2)),
+            "boot\nexpect-crash repeat 1 volume 0.5 then advance-to 2 then pause then lock\n");
+}
+
 TEST(Recorder, KeepsTheLinesBeforeBoot) {
   Recording recording;
   for (const char* line : {"ios 16.1", "boot", "lock"}) {

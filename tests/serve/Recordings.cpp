@@ -1,17 +1,14 @@
 // What is done by hand is a script: played headless, it has the same journal.
 #include <gtest/gtest.h>
 
-#include <regex>
-
 #include "tests/serve/EventReader.h"
 #include "tests/serve/ServedProgram.h"
 
 namespace sim {
 namespace {
 
-// Descriptions of objects that are logged have them: another process, other addresses.
-std::string withoutAddresses(const std::string& journal) {
-  return std::regex_replace(journal, std::regex("0x[0-9a-f]+"), "0x");
+std::string recordingOf(const ServedProgram& program) {
+  return program.get("/api/recording.phone").body;
 }
 
 TEST(Recordings, HoldWhatWasDoneAndWhen) {
@@ -53,8 +50,83 @@ TEST(Recordings, PlayHeadlessWithTheSameJournal) {
   program.command({"volume 0.1", "respring", "unlock"});
   const std::string journal = program.journal();
   EXPECT_NE(journal.find("-[SBMediaController pause]"), std::string::npos);
-  const std::string again = playHeadless(program.get("/api/recording.phone").body);
-  EXPECT_EQ(withoutAddresses(again), withoutAddresses(journal));
+  EXPECT_EQ(playHeadless(recordingOf(program)), journal);
+}
+
+struct Refusal {
+  const char* name;
+  const char* line;
+  const char* recorded;  // null: nothing
+};
+void PrintTo(const Refusal& each, std::ostream* out) {
+  *out << each.name;
+}
+class Refusals : public testing::TestWithParam<Refusal> {};
+
+// What was done until then is repeated, and no more; whatever is logged after it shows the same
+// addresses.
+TEST_P(Refusals, AreReplayedAsFarAsTheyCame) {
+  const ServedProgram program;
+  const auto [name, line, recorded] = GetParam();
+  program.command({"playlist \"A\" 30 \"B\" 47.25", "lock", "control-center open"});
+  const std::string before = recordingOf(program);
+  EXPECT_EQ(program.command(line).status, 400);
+  EXPECT_EQ(recordingOf(program), before + (recorded == nullptr ? "" : recorded));
+  program.command({"module expand", "advance 20s", "respring"});
+  program.command("control-center open");  // the next host takes it
+  const std::string journal = program.journal();
+  EXPECT_NE(journal.find(": 0x2800000"), std::string::npos) << journal;
+  EXPECT_EQ(playHeadless(recordingOf(program)), journal);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , Refusals,
+    testing::Values(Refusal{"InTheFirstRound", "repeat 3 volume 0.25 then volume 9",
+                            "expect-refused repeat 3 volume 0.25 then volume 9\n"},
+                    Refusal{"WhenTimeHasPassed", "repeat 9 advance 20s then expect-track \"A\"",
+                            "expect-refused repeat 9 advance 20s then expect-track \"A\"\n"},
+                    Refusal{"WithoutALineOfTheJournal", "repeat 2 wall-clock +1h then screen dim",
+                            "expect-refused repeat 2 wall-clock +1h then screen dim\n"},
+                    Refusal{"OfAnExpectationThatShowsAnAddress",
+                            "expect NSObject.new.description \"none\"",
+                            "expect-refused expect NSObject.new.description \"none\"\n"},
+                    Refusal{"OfASecondCommandThatIsNone", "repeat 2 lock then lok", nullptr},
+                    Refusal{"OfAWordTooMany", "wall-clock +1h now", nullptr},
+                    Refusal{"BeforeItHasBegun", "seek -1", nullptr}),
+    [](const auto& each) { return each.param.name; });
+
+TEST(Recordings, RepeatALookThatTheJournalShows) {
+  const ServedProgram program;
+  program.command({"lock", "get NSObject.new.description", "get NSObject.new.hash"});
+  program.command({"get UIDevice.currentDevice.systemVersion", "control-center open"});
+  EXPECT_EQ(recordingOf(program),
+            "boot\nlock\nunlock\nlock\nget NSObject.new.description\nget NSObject.new.hash\n"
+            "control-center open\n");
+}
+
+TEST(Recordings, GoOnAfterACrash) {
+  const ServedProgram program({"--no-music", "--tweak", FAILING_EXTENSION});
+  program.command({"playlist \"A\" 180", "volume 0.25", "advance 12500ms"});
+  program.command({"volume 0.5", "wall-clock +1h", "send Failing.class readsNowhere"});
+  EXPECT_EQ(program.value("NSProcessInfo.processInfo.systemUptime"), "12.5");
+  // What one request does is saved in one piece.
+  program.command({"expect-volume 0.25", "next-track", "default \"left\" 3"});
+  const std::string journal = program.journal();
+  EXPECT_NE(journal.find("the host crashed: Segmentation fault"), std::string::npos);
+  EXPECT_EQ(playHeadless(recordingOf(program), "--tweak '" FAILING_EXTENSION "'"), journal);
+}
+
+TEST(Recordings, GoOnAfterACrashAsTimePassed) {
+  const ServedProgram program({"--no-music", "--tweak", FAILING_EXTENSION});
+  program.command({"playlist \"A\" 5 \"B\" 180", "advance 1s"});
+  program.command(
+      "send Failing.class performSelector:withObject:afterDelay: selector aborts nil 9");
+  program.post("/api/time", {{"advance", 60}});
+  EXPECT_EQ(program.command({"volume 0.1", "advance 1s"}).status, 200);
+  const std::string journal = program.journal();
+  EXPECT_NE(journal.find("    10.000  the host crashed: Aborted"), std::string::npos) << journal;
+  EXPECT_NE(recordingOf(program).find("expect-crash advance-to 10\n"), std::string::npos);
+  EXPECT_EQ(playHeadless(recordingOf(program), "--tweak '" FAILING_EXTENSION "'"), journal);
 }
 
 // The haptic of the extension's icon buttons is an action's.

@@ -187,11 +187,12 @@ std::string ServedProgram::journal() const {
   return text;
 }
 
-std::string playHeadless(const std::string& script) {
+std::string playHeadless(const std::string& script, const std::string& options) {
   const TestFolder folder;
   const std::string file = folder.write("recording.phone", script);
   const std::string output = (folder.path() / "output").string();
-  const std::string command = "'" SIMULATOR "' play '" + file + "' > '" + output + "' 2>&1";
+  const std::string command =
+      "'" SIMULATOR "' play " + options + " '" + file + "' > '" + output + "' 2>&1";
   if (std::system(command.c_str()) != 0) return "it fails: " + contentOf(output);
   return contentOf(output);
 }

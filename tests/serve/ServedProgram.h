@@ -96,6 +96,6 @@ inline constexpr const char* timerOfOneMinute =
     "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 0 60";
 
 // Plays a script headless; the journal that is printed.
-std::string playHeadless(const std::string& script);
+std::string playHeadless(const std::string& script, const std::string& options = "");
 
 }  // namespace sim

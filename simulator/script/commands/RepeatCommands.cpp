@@ -1,27 +1,44 @@
-// A command that is made of others.
+// Commands that are made of others.
 #include <vector>
 
 #include "simulator/script/Interrupted.h"
+#include "simulator/script/Restart.h"
 #include "simulator/script/Session.h"
 #include "simulator/script/commands/PhoneCommands.h"
 
 namespace sim {
 namespace {
 
+// What is no command is found before anything runs.
+ScriptLine commandOf(std::vector<Word> words, const Arguments& behind) {
+  if (words.empty()) behind.failHere("expected a command");
+  const Session& session = Session::current();
+  const std::size_t end = words.back().column + words.back().text.size();
+  ScriptLine line{session.lineNumber, std::move(words), end};
+  session.requireCommand(line);
+  return line;
+}
+
 // What lies between the words `then` is one command each.
-std::vector<ScriptLine> readCommands(Arguments& words, std::size_t lineNumber) {
+std::vector<ScriptLine> readCommands(Arguments& words) {
   std::vector<ScriptLine> commands;
   for (bool another = true; another;) {
     another = false;
-    ScriptLine line;
-    line.number = lineNumber;
+    std::vector<Word> taken;
     while (!words.atEnd() && !(another = words.takeKeyword("then")))
-      line.words.push_back(words.word("a command"));
-    if (line.words.empty()) words.failHere("expected a command");
-    line.endColumn = line.words.back().column + line.words.back().text.size();
-    commands.push_back(std::move(line));
+      taken.push_back(words.word("a command"));
+    commands.push_back(commandOf(std::move(taken), words));
   }
+  words.finish();
   return commands;
+}
+
+// All that is left, which may be made of others in its turn.
+ScriptLine readCommand(Arguments& words) {
+  std::vector<Word> taken;
+  while (!words.atEnd()) taken.push_back(words.word("a command"));
+  words.finish();
+  return commandOf(std::move(taken), words);
 }
 
 // As it would stand in a script.
@@ -47,7 +64,7 @@ std::vector<std::string> linesDone(const std::vector<ScriptLine>& commands, long
 void repeat(Arguments& words) {
   Session& session = Session::current();
   const long times = words.integer("how often");
-  const std::vector<ScriptLine> commands = readCommands(words, session.lineNumber);
+  const std::vector<ScriptLine> commands = readCommands(words);
   for (long round = 0; round < times; ++round) {
     for (std::size_t index = 0; index < commands.size(); ++index) {
       try {
@@ -62,6 +79,27 @@ void repeat(Arguments& words) {
   }
 }
 
+void expectRefused(Arguments& words) {
+  const ScriptLine line = readCommand(words);
+  try {
+    Session::current().runLine(line);
+  } catch (const Interrupted&) {
+    throw;
+  } catch (const ScriptParseError&) {
+    return;
+  }
+  throw ScriptError(0, "expected it to be refused");
+}
+
+void expectCrash(Arguments& words) {
+  const ScriptLine line = readCommand(words);
+  const Session& session = Session::current();
+  if (!session.expectCrash) throw ScriptError(0, "only a script that is played expects a crash");
+  session.expectCrash(recorded(session, "as the host died at " + session.place()));
+  session.runLine(line);
+  throw ScriptError(0, "expected the host to crash");
+}
+
 }  // namespace
 
 void addRepeatCommands(CommandTable& table) {
@@ -69,6 +107,15 @@ void addRepeatCommands(CommandTable& table) {
              "repeat 3 next-track then advance 10s",
              "Runs one command, or several in turn, that often. A restart of the host ends it.",
              repeat});
+  table.add({"expect-refused", Stage::any, "expect-refused COMMAND…",
+             "expect-refused repeat 2 volume 0.5 then volume 2",
+             "Requires that a command is refused; what it has done until then stays done.",
+             expectRefused});
+  table.add({"expect-crash", Stage::running, "expect-crash COMMAND…",
+             "expect-crash send SBMediaController.sharedInstance fail",
+             "Requires that the host crashes of a command; it is launched again at once, and the "
+             "script goes on behind this line.",
+             expectCrash});
 }
 
 }  // namespace sim

@@ -49,6 +49,11 @@ objc::Object HBPreferences::preferencesForIdentifier(objc::Object name) {
       objc::adopt(objc::send<objc::Object, "initWithIdentifier:">(objc_alloc(cls()), name)));
 }
 
+objc::Object HBPreferences::known(const std::string& name) {
+  const auto found = instances().find(name);
+  return found == instances().end() ? objc::Object() : found->second.get();
+}
+
 void HBPreferences::domainDidChangeElsewhere(const std::string& name) {
   const auto found = instances().find(name);
   if (found == instances().end()) return;

@@ -24,6 +24,8 @@ struct HBPreferences : objc::Implementation<HBPreferences> {
   // One object per identifier and process; it is never destroyed.
   objc::Object initWithIdentifier(objc::Object identifier);
   static objc::Object preferencesForIdentifier(objc::Object identifier);
+  // nil as long as nobody in this process has asked for the domain.
+  static objc::Object known(const std::string& identifier);
   // Another process says that it has changed the domain: the library reads it again when the main
   // queue comes to it. Nothing happens when nobody in this process listens for that domain.
   static void domainDidChangeElsewhere(const std::string& identifier);

@@ -2,6 +2,8 @@
 
 #include "objc/Message.h"
 #include "simulator/cephei/HBPreferences.h"
+#include "simulator/cephei/PreferencesFile.h"
+#include "simulator/foundation/PropertyList.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/script/Session.h"
 #include "simulator/serve/SettingsWording.h"
@@ -15,12 +17,23 @@ namespace {
 
 constexpr const char* domainName = "com.corvane.dozewell2";
 
-// nil as long as no host runs, and on a phone without the library.
-Object domain() {
-  const Session& session = Session::current();
-  if (session.state != HostState::running || HBPreferences::cls() == nullptr) return nullptr;
-  return HBPreferences::preferencesForIdentifier(string(domainName));
-}
+// As the host sees them, which must not notice: a domain that it has not opened stays so.
+struct Domain {
+  Object stored, defaults;  // NSDictionary or nil
+
+  // Empty as long as no host runs, and on a phone without the library.
+  Domain() {
+    if (Session::current().state != HostState::running || HBPreferences::cls() == nullptr) return;
+    if (const Object known = HBPreferences::known(domainName)) {
+      stored = HBPreferences::of(known).dictionaryRepresentation();
+      defaults = HBPreferences::of(known).defaults();
+      return;
+    }
+    std::string unread;
+    const Object content = readPropertyList(preferencesFile(domainName), &unread);
+    if (isKindOf(content, "NSDictionary")) stored = content;
+  }
+};
 
 // What is stored may be of any class: what does not fit the type is shown as it is.
 json asJson(Object value, const std::string& type) {
@@ -32,17 +45,20 @@ json asJson(Object value, const std::string& type) {
   return objc::send<double, "doubleValue">(value);
 }
 
-json valueOf(Object preferences, const json& setting) {
-  if (!preferences) return nullptr;
-  const Object key = string(setting.at("key").get<std::string>());
-  return asJson(HBPreferences::of(preferences).objectForKey(key), setting.at("type"));
+// Before boot there may not even be strings to ask with.
+Object find(Object dictionary, const json& setting) {
+  if (!dictionary) return nullptr;
+  return objc::send<Object, "objectForKey:">(dictionary,
+                                             string(setting.at("key").get<std::string>()));
 }
 
-json defaultOf(Object preferences, const json& setting) {
-  if (!preferences) return nullptr;
-  const Object key = string(setting.at("key").get<std::string>());
-  const Object defaults = HBPreferences::of(preferences).defaults();
-  return asJson(objc::send<Object, "objectForKey:">(defaults, key), setting.at("type"));
+json defaultOf(const Domain& domain, const json& setting) {
+  return asJson(find(domain.defaults, setting), setting.at("type"));
+}
+
+json valueOf(const Domain& domain, const json& setting) {
+  const Object value = find(domain.stored, setting);
+  return value ? asJson(value, setting.at("type")) : defaultOf(domain, setting);
 }
 
 std::string literal(const json& value) {
@@ -57,21 +73,21 @@ Settings::Settings() : wording_(json::parse(settingsWording)) {}
 
 json Settings::list() const {
   const objc::AutoreleasePool pool;
-  const Object preferences = domain();
+  const Domain domain;
   json all = wording_;
   for (json& setting : all) {
-    setting["default"] = defaultOf(preferences, setting);
-    setting["value"] = valueOf(preferences, setting);
+    setting["default"] = defaultOf(domain, setting);
+    setting["value"] = valueOf(domain, setting);
   }
   return all;
 }
 
 json Settings::values() const {
   const objc::AutoreleasePool pool;
-  const Object preferences = domain();
+  const Domain domain;
   json all = json::object();
   for (const json& setting : wording_)
-    all[setting.at("key").get<std::string>()] = valueOf(preferences, setting);
+    all[setting.at("key").get<std::string>()] = valueOf(domain, setting);
   return all;
 }
 

@@ -104,6 +104,20 @@ TEST(Recordings, RepeatALookThatTheJournalShows) {
             "control-center open\n");
 }
 
+// The page shows settings that nobody on the phone has asked for.
+TEST(Recordings, DoNotDependOnWhoWatches) {
+  const ServedProgram program;
+  program.post("/api/setup",
+               {{"lines", {"process Other", "trace HBPreferences initWithIdentifier:"}}});
+  EventReader page(program);
+  page.next("snapshot");
+  program.command({"lock", "set volumeFadeOutTime 20"});
+  EXPECT_EQ(program.get("/api/settings").status, 200);
+  const std::string journal = program.journal();
+  EXPECT_NE(journal.find("user lock"), std::string::npos);
+  EXPECT_EQ(playHeadless(recordingOf(program)), journal);
+}
+
 TEST(Recordings, GoOnAfterACrash) {
   const ServedProgram program({"--no-music", "--tweak", FAILING_EXTENSION});
   program.command({"playlist \"A\" 180", "volume 0.25", "advance 12500ms"});

@@ -25,14 +25,24 @@ struct RandomNumbers {
 }  // namespace
 
 // Found by its name, before the machine's own.
-extern "C" [[gnu::visibility("default")]] std::uint32_t arc4random() noexcept {
+extern "C" {
+[[gnu::visibility("default")]] std::uint32_t arc4random() noexcept {
   return std::uint32_t(sim::Phone::current().state<RandomNumbers>().next() >> 32);
+}
+[[gnu::visibility("default")]] std::uint32_t arc4random_uniform(std::uint32_t bound) noexcept {
+  return std::uint32_t((std::uint64_t(arc4random()) * bound) >> 32);
+}
+[[gnu::visibility("default")]] void arc4random_buf(void* place, std::size_t size) noexcept {
+  for (auto* byte = static_cast<unsigned char*>(place); size > 0; --size)
+    *byte++ = static_cast<unsigned char>(arc4random());
+}
 }
 
 namespace sim {
 
 void recordRandomNumbers() {
-  recordFunction("libSystem", "arc4random", {Grade::partial, "the same numbers in every play"});
+  for (const char* name : {"arc4random", "arc4random_uniform", "arc4random_buf"})
+    recordFunction("libSystem", name, {Grade::partial, "the same numbers in every play"});
 }
 
 }  // namespace sim

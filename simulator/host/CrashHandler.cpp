@@ -1,14 +1,11 @@
 #include "simulator/host/CrashHandler.h"
 
 #include <cxxabi.h>
-#include <dlfcn.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <ucontext.h>
 #include <unistd.h>
-#include <unwind.h>
 
-#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cmath>
@@ -20,8 +17,8 @@
 #include <exception>
 #include <new>
 
-#include "objc/runtime.h"
 #include "simulator/host/CrashRecord.h"
+#include "simulator/host/CrashStack.h"
 #include "simulator/runtime/Fatal.h"
 #include "simulator/script/Session.h"
 
@@ -41,7 +38,6 @@ constexpr std::size_t signalStackSize = std::size_t(256) * 1024;
 constexpr std::size_t reserveSize = std::size_t(8) * 1024 * 1024;
 constexpr rlim_t mostMemory = rlim_t(4) << 30;
 constexpr unsigned patience = 2;  // seconds to say something in
-constexpr std::size_t mostFrames = 1'000'000;
 constexpr std::uintptr_t stackMargin = std::uintptr_t(128) * 1024;
 
 int reportPipe = -1;
@@ -51,13 +47,6 @@ void* reserve = nullptr;    // given back when memory has run out
 std::uintptr_t stackEnd = 0;
 std::atomic_flag dying = ATOMIC_FLAG_INIT;
 CrashRecord lastRecord;
-using Frames = decltype(CrashRecord::frames);
-using Beginnings = std::array<const void*, std::tuple_size_v<Frames>>;
-
-template <std::size_t size>
-void copy(std::array<char, size>& place, const char* text) {
-  std::snprintf(place.data(), size, "%s", text);
-}
 
 void writeRecord() {
   const char* bytes = reinterpret_cast<const char*>(&lastRecord);
@@ -71,120 +60,12 @@ void writeRecord() {
   }
 }
 
+std::uintptr_t stackPointer(const ucontext_t& context) {
 #if defined(__x86_64__)
-std::uintptr_t programCounter(const ucontext_t& context) {
-  return std::uintptr_t(context.uc_mcontext.gregs[REG_RIP]);
-}
-std::uintptr_t stackPointer(const ucontext_t& context) {
   return std::uintptr_t(context.uc_mcontext.gregs[REG_RSP]);
-}
 #else
-std::uintptr_t programCounter(const ucontext_t& context) {
-  return context.uc_mcontext.pc;
-}
-std::uintptr_t stackPointer(const ucontext_t& context) {
   return context.uc_mcontext.sp;
-}
 #endif
-
-// Of the frames of this thread those below the signal's handler; of very many the innermost, and
-// where it all began.
-struct Walk {
-  static constexpr std::size_t inner = 16, outer = std::tuple_size_v<Frames> - inner;
-  std::uintptr_t stopped;  // where the signal came; 0: anywhere
-  std::array<void*, inner> first;
-  std::array<void*, outer> last;  // in turn
-  std::size_t count;
-
-  static _Unwind_Reason_Code take(_Unwind_Context* context, void* data) {
-    Walk& walk = *static_cast<Walk*>(data);
-    const std::uintptr_t address = _Unwind_GetIP(context);
-    if (address == 0) return _URC_END_OF_STACK;
-    // A call into nowhere leaves no more than where it came from.
-    if (address == walk.stopped) walk.count = 0;
-    auto* place = reinterpret_cast<void*>(address);
-    if (walk.count < inner)
-      walk.first[walk.count] = place;
-    else
-      walk.last[(walk.count - inner) % outer] = place;
-    return ++walk.count < mostFrames ? _URC_NO_REASON : _URC_END_OF_STACK;
-  }
-};
-
-void recordFrame(void* address) {
-  CrashRecord::Frame& frame = lastRecord.frames[lastRecord.frameCount++];
-  frame = {};
-  frame.address = address;
-  Dl_info image;
-  if (dladdr(address, &image) == 0) return;
-  frame.offset = std::size_t(static_cast<char*>(address) - static_cast<char*>(image.dli_fbase));
-  copy(frame.image, image.dli_fname);
-  if (image.dli_sname != nullptr) copy(frame.symbol, image.dli_sname);
-}
-
-void recordFrames(const ucontext_t* context) {
-  Walk walk{context == nullptr ? 0 : programCounter(*context), {}, {}, 0};
-  _Unwind_Backtrace(Walk::take, &walk);
-  lastRecord.frameCount = 0;
-  for (std::size_t at = 0; at < std::min(walk.count, Walk::inner); ++at)
-    recordFrame(walk.first[at]);
-  const std::size_t rest = walk.count - lastRecord.frameCount;
-  for (std::size_t at = rest - std::min(rest, Walk::outer); at < rest; ++at)
-    recordFrame(walk.last[at % Walk::outer]);
-}
-
-const void* imageOf(const void* address) {
-  Dl_info image;
-  return dladdr(address, &image) != 0 ? image.dli_fbase : nullptr;
-}
-
-// The stand-ins are part of this program.
-bool isHosts(const Method* methods, unsigned count) {
-  const void* program = imageOf(reinterpret_cast<const void*>(&imageOf));
-  return std::any_of(methods, methods + count, [program](Method method) {
-    return imageOf(reinterpret_cast<const void*>(method_getImplementation(method))) == program;
-  });
-}
-
-// Where the function of each frame begins. Asked once: the answer takes as long as a small search.
-Beginnings beginnings() {
-  Beginnings all{};
-  for (std::size_t at = 0; at < lastRecord.frameCount; ++at) {
-    // What returns belongs to the call before.
-    auto* place = static_cast<char*>(const_cast<void*>(lastRecord.frames[at].address));
-    all[at] = _Unwind_FindEnclosingFunction(place - (at > 0 ? 1 : 0));
-  }
-  return all;
-}
-
-void nameMethods(Class cls, char kind, const Beginnings& starts) {
-  unsigned count = 0;
-  Method* methods = class_copyMethodList(cls, &count);
-  for (unsigned index = 0; index < count; ++index) {
-    const void* start = reinterpret_cast<const void*>(method_getImplementation(methods[index]));
-    for (std::size_t at = 0; at < lastRecord.frameCount; ++at) {
-      if (starts[at] != start) continue;
-      CrashRecord::Frame& frame = lastRecord.frames[at];
-      std::snprintf(frame.method.data(), frame.method.size(), "%c[%s %s]", kind, class_getName(cls),
-                    sel_getName(method_getName(methods[index])));
-      frame.isHook = imageOf(start) != imageOf(reinterpret_cast<const void*>(&nameMethods)) &&
-                     isHosts(methods, count);
-    }
-  }
-  std::free(methods);
-}
-
-void nameAllMethods() {
-  const int count = objc_getClassList(nullptr, 0);
-  auto* classes = static_cast<Class*>(std::calloc(std::size_t(count), sizeof(Class)));
-  if (classes == nullptr) return;
-  const int given = std::min(count, objc_getClassList(classes, count));
-  const Beginnings starts = beginnings();
-  for (int index = 0; index < given; ++index) {
-    nameMethods(classes[index], '-', starts);
-    nameMethods(object_getClass(reinterpret_cast<id>(classes[index])), '+', starts);
-  }
-  std::free(classes);
 }
 
 void tell(CrashRecord::Kind kind, int signal, const void* address, const ucontext_t* context) {
@@ -195,9 +76,9 @@ void tell(CrashRecord::Kind kind, int signal, const void* address, const ucontex
   lastRecord.launchedAt = watched->host.launchedAt();
   lastRecord.wallAtZero = watched->phone.clock.wallAtZero();
   lastRecord.line = watched->lineNumber;
-  recordFrames(context);
+  recordFrames(lastRecord, context);
   writeRecord();
-  nameAllMethods();
+  nameMethods(lastRecord);
   writeRecord();
 }
 
@@ -207,9 +88,9 @@ void explain(int signal, const siginfo_t& info, const ucontext_t& context) {
   const bool isAtEnd = pointer < stackEnd + stackMargin || address < stackEnd + stackMargin;
   if (signal == SIGSEGV && isAtEnd && address + stackMargin > pointer &&
       address < pointer + stackMargin)
-    copy(lastRecord.reason, "stack overflow");
+    copyText(lastRecord.reason, "stack overflow");
   else if (signal == SIGABRT)
-    copy(lastRecord.reason, sim::runtime::fatalMessage());
+    copyText(lastRecord.reason, sim::runtime::fatalMessage());
   else if (signal == SIGXCPU)
     std::snprintf(lastRecord.reason.data(), lastRecord.reason.size(),
                   "it has taken more than %g s of processor time", processorLimit);
@@ -234,7 +115,7 @@ void showWhatItDoes(int, siginfo_t*, void* context) {
 }
 
 [[noreturn]] void dieFor(const char* reason) {
-  copy(lastRecord.reason, reason);
+  copyText(lastRecord.reason, reason);
   std::abort();
 }
 
@@ -297,8 +178,7 @@ void watchForCrashes(int descriptor, const Session& played) {
   reportPipe = descriptor;
   watched = &played;
   prepareMemory();
-  Walk unused{};
-  _Unwind_Backtrace(Walk::take, &unused);  // it may allocate the first time
+  rehearseFrames();
   for (const int each : {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT, SIGTRAP, SIGSYS, SIGXCPU})
     handle(each, die);
   handle(SIGUSR2, showWhatItDoes);

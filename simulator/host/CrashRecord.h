@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdio>
 
 #include "simulator/machine/Clock.h"
 
@@ -31,5 +32,11 @@ struct CrashRecord {
   std::size_t frameCount;
   std::array<Frame, 60> frames;  // innermost first; all of it fits twice into a pipe
 };
+
+// As much of the text as there is room for.
+template <std::size_t size>
+void copyText(std::array<char, size>& place, const char* text) {
+  std::snprintf(place.data(), size, "%s", text);
+}
 
 }  // namespace sim

@@ -40,8 +40,7 @@ void releaseInstance(id object) {
   std::uint32_t lowered = 0;
   do {
     if (current == freedMark)
-      fatal("object 0x%zx was released after it had been freed",
-            shownAddress(static_cast<const void*>(object)));
+      fatal("object 0x%zx was released after it had been freed", lastShownAddress(object));
     if ((current & deallocatingBit) != 0) return;
     lowered = current == oneReference ? deallocatingBit : current - oneReference;
   } while (!references.compare_exchange_weak(current, lowered, std::memory_order_acq_rel,

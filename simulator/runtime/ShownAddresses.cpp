@@ -13,8 +13,9 @@ namespace {
 // As on a phone, whose small objects lie there, each of them at a multiple of 16.
 constexpr std::uintptr_t firstAddress = 0x280000000;
 constexpr std::uintptr_t distance = 0x40;
-// The system maps nothing below this: it is some number, nil for one.
-constexpr std::uintptr_t noAddress = 0x10000;
+// Programs whose place is random lie between: the rest are numbers, nil for one.
+constexpr std::uintptr_t lowestPlace = std::uintptr_t(1) << 32;
+constexpr std::uintptr_t endOfPlaces = std::uintptr_t(1) << 47;
 
 struct Shown {
   std::uintptr_t address = 0;
@@ -32,14 +33,6 @@ AddressTable& shownTable() {
   return *instance;
 }
 
-// What is known of that place; what has ended counts if the caller wants what was there.
-std::uintptr_t known(const void* pointer, bool alsoEnded) {
-  const std::lock_guard guard(shownTable().lock);
-  const auto found = shownTable().all.find(pointer);
-  if (found == shownTable().all.end() || (found->second.hasEnded && !alsoEnded)) return 0;
-  return found->second.address;
-}
-
 std::uintptr_t knownOrNext(const void* pointer) {
   const std::lock_guard guard(shownTable().lock);
   Shown& shown = shownTable().all[pointer];
@@ -52,16 +45,28 @@ std::uintptr_t knownOrNext(const void* pointer) {
 
 std::uintptr_t shownAddress(id object) {
   if (object == nullptr) return 0;
-  if (kindOf(object) == ObjectKind::instance) setTrace(object, ObjectTrace::shownAddress);
+  if (kindOf(object) != ObjectKind::instance) return knownOrNext(object);
+  // What was known of its place before it was shown itself is of something else.
+  constexpr std::uint32_t shown = ObjectTrace::shownAddress;
+  if ((headerOf(object).traces.load(std::memory_order_acquire) & shown) == 0)
+    endShownAddress(object);
+  setTrace(object, ObjectTrace::shownAddress);
   return knownOrNext(object);
 }
 
 std::uintptr_t shownAddress(const void* pointer) {
   const auto place = reinterpret_cast<std::uintptr_t>(pointer);
-  if (place < noAddress) return place;
-  if (const std::uintptr_t address = known(pointer, false)) return address;
+  if (place < lowestPlace || place >= endOfPlaces) return place;
   if (isLiveInstance(pointer)) return shownAddress(static_cast<id>(const_cast<void*>(pointer)));
-  if (const std::uintptr_t address = known(pointer, true)) return address;
+  return knownOrNext(pointer);
+}
+
+std::uintptr_t lastShownAddress(const void* pointer) {
+  {
+    const std::lock_guard guard(shownTable().lock);
+    const auto found = shownTable().all.find(pointer);
+    if (found != shownTable().all.end()) return found->second.address;
+  }
   return knownOrNext(pointer);
 }
 

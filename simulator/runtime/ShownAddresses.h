@@ -10,11 +10,13 @@
 
 namespace sim::runtime {
 
-// Any thread. 0 for nil. An object has the same address until it is freed, and, as far as anybody
-// still asks, until another object that is shown lies in its place.
+// Any thread. 0 for nil. An object has the same address until it is freed.
 std::uintptr_t shownAddress(id object);
-// What it is need not be known: a pointer to an object, alive or freed, has the object's address.
+// What it is need not be known: a pointer to an object has the object's address, what can be no
+// place of a process is a number and stays one.
 std::uintptr_t shownAddress(const void* pointer);
+// That of what was shown last in this place, alive or freed.
+std::uintptr_t lastShownAddress(const void* pointer);
 
 // How many have been given out: whoever compares sees whether there was a new one.
 std::size_t shownAddressCount();

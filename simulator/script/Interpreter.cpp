@@ -37,6 +37,7 @@ void Interpreter::resume(const RestartState& state) {
   acceptLines();
   repeatSetup();
   restoreSession(session_, state);
+  if (!state.failure.empty()) throw ScriptParseError(state.lineNumber, {1, state.failure});
   watchKillPoints();
   if (state.relaunchAt) relaunchHost(*state.relaunchAt);
   if (state.advanceUntil) advanceTo(*state.advanceUntil);
@@ -83,13 +84,13 @@ void Interpreter::run(const ScriptLine& line) {
   session_.lineNumber = line.number;
   nameChecks().system.beginLine(line.number);
   nameChecks().all.beginLine(line.number);
+  bool hasReadAll = false;
   try {
     requireStage(command);
     const objc::AutoreleasePool pool;
     Arguments arguments({line.words.begin() + 1, line.words.end()}, line.endColumn);
     command.run(arguments);
-    if (!arguments.isFinished())
-      throw std::logic_error(command.name + " does not finish its words before it acts");
+    hasReadAll = arguments.isFinished();
     // A person cannot do two things within one turn of the phone's main queue.
     session_.phone.queue.runDue();
     ++session_.commandsDone;
@@ -101,6 +102,9 @@ void Interpreter::run(const ScriptLine& line) {
   } catch (const std::exception& error) {
     throw ScriptParseError(line.number, {name.column, error.what()});
   }
+  // The command's own mistake, which no script may expect.
+  if (!hasReadAll)
+    throw std::logic_error(command.name + " does not finish its words before it acts");
 }
 
 void Interpreter::requireStage(const Command& command) const {

@@ -27,6 +27,7 @@ void endHostProcess(HostEnd how, std::optional<Nanoseconds> relaunchAt) {
       session, (how == HostEnd::respring ? "in the respring at " : "as the host died at ") +
                    session.place());
   state.relaunchAt = relaunchAt;
+  state.failure = session.expectsOtherEnd;
   std::fflush(nullptr);
   if (session.handOver) session.handOver(state);
   std::fputs("nobody goes on with a host that ends\n", stderr);

@@ -25,6 +25,7 @@ struct RestartState {
   // When the host comes back by itself, and how long the interrupted `advance` goes on.
   std::optional<Nanoseconds> relaunchAt;
   std::optional<Nanoseconds> advanceUntil;
+  std::string failure;  // why the host was not to end now: the script ends there; empty: it was
 };
 
 nlohmann::json restartStateAsJson(const RestartState& state);

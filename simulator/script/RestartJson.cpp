@@ -44,6 +44,7 @@ json restartStateAsJson(const RestartState& state) {
       {"functions", state.functions},
       {"relaunchAt", optional(state.relaunchAt)},
       {"advanceUntil", optional(state.advanceUntil)},
+      {"failure", state.failure},
   };
 }
 
@@ -62,6 +63,7 @@ RestartState restartStateFromJson(const json& from) {
     state.functions.emplace(name, types.get<std::string>());
   state.relaunchAt = optional(from.at("relaunchAt"));
   state.advanceUntil = optional(from.at("advanceUntil"));
+  from.at("failure").get_to(state.failure);
   return state;
 }
 

@@ -80,6 +80,7 @@ class Session {
   std::function<void(const RestartState&)> handOver;
   // What the next process has to know if this one crashes from here on. Empty: a crash is the end.
   std::function<void(const RestartState&)> expectCrash;
+  std::string expectsOtherEnd;  // what is wrong if the host ends in order now; empty: nothing
 };
 
 }  // namespace sim

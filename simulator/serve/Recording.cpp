@@ -21,7 +21,8 @@ std::string advanceLine(Nanoseconds uptime) {
 
 // As one of the commands of a `repeat`.
 bool canBeOneOfSeveral(const std::string& line) {
-  return line.find('#') == std::string::npos && line.find("then") == std::string::npos;
+  return line.find('#') == std::string::npos &&
+         (' ' + line + ' ').find(" then ") == std::string::npos;
 }
 
 }  // namespace

@@ -58,6 +58,18 @@ TEST_F(Contents, TheOneThatHugsLessStretches) {
   EXPECT_EQ(laidOut(a), rect(0, 0, 340, 30));
 }
 
+TEST_F(Contents, TheLabelThatHugsLessStretches) {
+  const auto a = label(window, "one"), b = label(window, "other");
+  fillRow(a, b);
+  hug(b, 249);
+  const double width = laidOut(a).size.width;
+  EXPECT_LT(width, 100);
+  hug(b, 251);
+  EXPECT_GT(laidOut(a).size.width, 300);
+  hug(b, 249);
+  EXPECT_EQ(laidOut(a).size.width, width);
+}
+
 TEST_F(Contents, TheOneThatResistsLessIsCompressed) {
   const auto a = content(window, {300, 30}), b = content(window, {200, 30});
   fillRow(a, b);
@@ -139,6 +151,8 @@ TEST_F(Contents, TheNumberOfLinesCountsAtOnce) {
   const double oneLine = laidOut(text).size.height;
   send<void, "setNumberOfLines:">(text.get(), 2L);
   EXPECT_GT(laidOut(text).size.height, 1.5 * oneLine);
+  send<void, "setNumberOfLines:">(text.get(), 1L);
+  EXPECT_EQ(laidOut(text).size.height, oneLine);
 }
 
 }  // namespace

@@ -107,6 +107,23 @@ TEST(ExpectedCrashes, MustCome) {
             "SCRIPT:2:1: expected the host to crash");
 }
 
+// In order: by a command, or at a line of the journal at which the script lets it die.
+TEST(ExpectedCrashes, AreNoOtherEnds) {
+  const std::string crash = "expected the host to crash, but the host has ended in order";
+  for (const char* line : {"kill", "respring"})
+    EXPECT_EQ(firstLine(play("boot\nexpect-crash " + std::string(line)).errors),
+              "SCRIPT:2:1: " + crash);
+  EXPECT_EQ(firstLine(play("boot\nkill-at \"user *\"\nexpect-crash volume 0.25").errors),
+            "SCRIPT:3:1: " + crash);
+  EXPECT_EQ(firstLine(play("boot\nexpect-refused kill").errors),
+            "SCRIPT:2:1: expected it to be refused, but the host has ended in order");
+}
+
+TEST(ExpectedCrashes, StandByThemselves) {
+  EXPECT_EQ(firstLine(play("boot\nrepeat 2 expect-crash lock").errors),
+            "SCRIPT:2:10: expect-crash is no part of another command");
+}
+
 TEST(ExpectedCrashes, AreNoOthers) {
   const Outcome outcome = play(
       "boot\nlet nobody NSObject new\nexpect-crash send $nobody performSelector: selector nope\n"

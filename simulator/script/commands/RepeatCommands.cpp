@@ -12,6 +12,8 @@ namespace {
 // What is no command is found before anything runs.
 ScriptLine commandOf(std::vector<Word> words, const Arguments& behind) {
   if (words.empty()) behind.failHere("expected a command");
+  if (words.front().text == "expect-crash")
+    throw ScriptError(words.front().column, "expect-crash is no part of another command");
   const Session& session = Session::current();
   const std::size_t end = words.back().column + words.back().text.size();
   ScriptLine line{session.lineNumber, std::move(words), end};
@@ -79,8 +81,23 @@ void repeat(Arguments& words) {
   }
 }
 
+// While a command runs that is not to end the host in order.
+class ExpectingOtherEnd {
+ public:
+  explicit ExpectingOtherEnd(const char* expected) {
+    session_.expectsOtherEnd = std::string(expected) + ", but the host has ended in order";
+  }
+  ~ExpectingOtherEnd() { session_.expectsOtherEnd.clear(); }
+  ExpectingOtherEnd(const ExpectingOtherEnd&) = delete;
+  ExpectingOtherEnd& operator=(const ExpectingOtherEnd&) = delete;
+
+ private:
+  Session& session_ = Session::current();
+};
+
 void expectRefused(Arguments& words) {
   const ScriptLine line = readCommand(words);
+  const ExpectingOtherEnd expecting("expected it to be refused");
   try {
     Session::current().runLine(line);
   } catch (const Interrupted&) {
@@ -95,6 +112,7 @@ void expectCrash(Arguments& words) {
   const ScriptLine line = readCommand(words);
   const Session& session = Session::current();
   if (!session.expectCrash) throw ScriptError(0, "only a script that is played expects a crash");
+  const ExpectingOtherEnd expecting("expected the host to crash");
   session.expectCrash(recorded(session, "as the host died at " + session.place()));
   session.runLine(line);
   throw ScriptError(0, "expected the host to crash");
@@ -114,7 +132,8 @@ void addRepeatCommands(CommandTable& table) {
   table.add({"expect-crash", Stage::running, "expect-crash COMMAND…",
              "expect-crash send SBMediaController.sharedInstance fail",
              "Requires that the host crashes of a command; it is launched again at once, and the "
-             "script goes on behind this line.",
+             "script goes on behind this line. Only in scripts that are played, not in those that "
+             "a page has opened.",
              expectCrash});
 }
 

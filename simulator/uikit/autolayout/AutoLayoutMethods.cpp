@@ -48,7 +48,7 @@ void setPriority(Object view, float value, long axis) {
   float& kept = (constraintsOf(view).*priorities)[axis == 0 ? 0 : 1];
   if (kept == value) return;
   kept = value;
-  contentSizeChanged(view);
+  if (!translates(view)) constraintsChanged(view);
 }
 
 UIEdgeInsets margins(Object view) {

@@ -47,7 +47,7 @@ bool isPlainLabel(Object view) {
 
 bool isAsLargeAsBefore(Object view) {
   const ViewConstraints& its = constraintsOf(view);
-  return its.contentSize && isPlainLabel(view) && !wraps(view) &&
+  return its.contentSize && !its.wrappedAt && isPlainLabel(view) && !wraps(view) &&
          objc::send<CGSize, "intrinsicContentSize">(view) == *its.contentSize;
 }
 

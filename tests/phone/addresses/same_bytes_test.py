@@ -26,7 +26,7 @@ def printed(simulator, scripts, surroundings, folder, prepare=None):
                             preexec_fn=prepare, capture_output=True, text=True)
     if played.returncode != 0:
         sys.exit(played.stdout[-2000:] + played.stderr)
-    return played.stdout
+    return played.stdout + played.stderr
 
 
 def without_randomized_layout():

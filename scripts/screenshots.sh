@@ -9,7 +9,7 @@ build=$PWD/${1:-build/dev}
 
 export DOZEWELL_SIMULATOR=$build/simulator/dozewell-simulator
 export DOZEWELL_NODE_MODULES=$build/tests/web/node_modules
-DOZEWELL_CHROMIUM=$(command -v chromium)
+DOZEWELL_CHROMIUM=$(command -v chromium-headless-shell)
 export DOZEWELL_CHROMIUM
 mkdir -p docs/pictures
 node tests/web/pictures/pictures.mjs docs/pictures

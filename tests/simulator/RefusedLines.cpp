@@ -115,6 +115,8 @@ TEST(ExpectedCrashes, AreNoOtherEnds) {
               "SCRIPT:2:1: " + crash);
   EXPECT_EQ(firstLine(play("boot\nkill-at \"user *\"\nexpect-crash volume 0.25").errors),
             "SCRIPT:3:1: " + crash);
+  EXPECT_EQ(firstLine(play("boot\nexpect-crash repeat 1 expect-refused volume 2 then kill").errors),
+            "SCRIPT:2:1: " + crash);
   EXPECT_EQ(firstLine(play("boot\nexpect-refused kill").errors),
             "SCRIPT:2:1: expected it to be refused, but the host has ended in order");
 }

@@ -1,4 +1,6 @@
 // Commands that are made of others.
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "simulator/script/Interrupted.h"
@@ -81,18 +83,18 @@ void repeat(Arguments& words) {
   }
 }
 
-// While a command runs that is not to end the host in order.
+// While a command runs that is not to end the host in order; one may run within another's.
 class ExpectingOtherEnd {
  public:
-  explicit ExpectingOtherEnd(const char* expected) {
-    session_.expectsOtherEnd = std::string(expected) + ", but the host has ended in order";
-  }
-  ~ExpectingOtherEnd() { session_.expectsOtherEnd.clear(); }
+  explicit ExpectingOtherEnd(const char* expected)
+      : before_(std::exchange(Session::current().expectsOtherEnd,
+                              std::string(expected) + ", but the host has ended in order")) {}
+  ~ExpectingOtherEnd() { Session::current().expectsOtherEnd = before_; }
   ExpectingOtherEnd(const ExpectingOtherEnd&) = delete;
   ExpectingOtherEnd& operator=(const ExpectingOtherEnd&) = delete;
 
  private:
-  Session& session_ = Session::current();
+  std::string before_;
 };
 
 void expectRefused(Arguments& words) {

@@ -17,6 +17,7 @@
 
 #include "simulator/script/Commands.h"
 #include "simulator/script/Session.h"
+#include "simulator/standin/Versions.h"
 
 namespace sim {
 
@@ -135,14 +136,18 @@ class ZygoteProcess {
 
 bool suitsRegisteredClasses(std::string_view script) {
   constexpr std::string_view blanks = " \t\r";
+  static const int registeredMajor = majorVersion(Setup().systemVersion);
   while (!script.empty()) {
     std::string_view line = script.substr(0, script.find('\n'));
     script.remove_prefix(std::min(line.size() + 1, script.size()));
     line.remove_prefix(std::min(line.find_first_not_of(blanks), line.size()));
     const std::string_view word = line.substr(0, line.find_first_of(blanks));
     if (word == "boot") return true;
-    const bool isHarmless = word.empty() || word.starts_with('#') || word == "ios" ||
-                            word == "locale" || word == "haptics" || word == "process";
+    line.remove_prefix(word.size());
+    line.remove_prefix(std::min(line.find_first_not_of(blanks), line.size()));
+    const bool isHarmless = word.empty() || word.starts_with('#') || word == "locale" ||
+                            word == "haptics" || word == "process" ||
+                            (word == "ios" && majorVersion(line) == registeredMajor);
     if (!isHarmless) return false;
   }
   return false;

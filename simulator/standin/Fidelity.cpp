@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "simulator/machine/Phone.h"
+#include "simulator/standin/Versions.h"
 
 namespace sim {
 namespace {
@@ -84,12 +85,15 @@ FidelityPage::FidelityPage(const char* framework, const char* cls)
 }
 
 bool FidelityPage::isPresent() const {
-  return !namesOnly && Phone::current().setup.hasClass(cls_);
+  return !namesOnly && Phone::current().setup.hasClass(cls_) &&
+         versionsOf(cls_).contains(systemMajor());
 }
 
 bool FidelityPage::record(char kind, const char* name, const Rating& rating) const {
   allStandIns()[cls_].insert(name);
-  if (!isPresent() || !Phone::current().setup.hasMethod(cls_, name)) return false;
+  if (!isPresent() || !Phone::current().setup.hasMethod(cls_, name) ||
+      !versionsOf(cls_, name).contains(systemMajor()))
+    return false;
   records().push_back({framework_, cls_, kind, name, rating});
   return true;
 }

@@ -12,6 +12,7 @@
 #include "simulator/script/names/NameChecks.h"
 #include "simulator/standin/Fidelity.h"
 #include "simulator/standin/KnownNames.h"
+#include "simulator/standin/Versions.h"
 
 namespace sim {
 namespace {
@@ -28,6 +29,9 @@ void systemVersion(Arguments& arguments) {
   if (!isVersion)
     throw ScriptError(word.column, "expected a version such as 15.4, found " + word.text);
   arguments.finish();
+  const bool isOtherSystem = majorVersion(word.text) != systemMajor();
+  if (isOtherSystem && Session::current().host.isRegistered())
+    throw ScriptError(0, "the system's version must be said by a line of its own");
   setup().systemVersion = word.text;
 }
 
@@ -153,7 +157,8 @@ void file(Arguments& arguments) {
 }  // namespace
 
 void addSetupCommands(CommandTable& table) {
-  table.add({"ios", Stage::setup, "ios VERSION", "ios 16.1.2", "Sets the version of the system.",
+  table.add({"ios", Stage::setup, "ios VERSION", "ios 16.1.2",
+             "Sets the version of the system, and with it which classes and methods it has.",
              systemVersion});
   table.add({"locale", Stage::setup, "locale ID", "locale ar_SA",
              "Sets the language and region, of known codes: they need not go together.", locale});

@@ -1,0 +1,47 @@
+#include "simulator/standin/Versions.h"
+
+#include "simulator/machine/NumberReader.h"
+#include "simulator/machine/Phone.h"
+
+namespace sim {
+namespace {
+
+struct Row {
+  std::string_view cls;
+  std::string_view member;  // empty for the class itself
+  Versions versions;
+};
+
+constexpr int earliest = Versions::earliest, latest = Versions::latest;
+
+constexpr Row table[] = {
+    // The media module was built anew in 16.0.
+    {"MRUEmbeddingView", "", {earliest, 15}},
+    {"MRUNowPlayingRoutingButton", "", {earliest, 15}},
+};
+
+}  // namespace
+
+std::string Versions::text() const {
+  if (first == last) return std::to_string(first);
+  if (first != earliest && last != latest)
+    return std::to_string(first) + " to " + std::to_string(last);
+  if (last != latest) return std::to_string(last) + " and earlier";
+  return first != earliest ? std::to_string(first) + " and later" : std::string();
+}
+
+Versions versionsOf(std::string_view cls, std::string_view member) {
+  for (const Row& row : table)
+    if (row.cls == cls && row.member == member) return row.versions;
+  return {};
+}
+
+int majorVersion(std::string_view version) {
+  return takeNumber<int>(version).value_or(0);
+}
+
+int systemMajor() {
+  return majorVersion(Phone::current().setup.systemVersion);
+}
+
+}  // namespace sim

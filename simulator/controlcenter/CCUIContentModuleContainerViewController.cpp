@@ -62,7 +62,6 @@ void Container::registerClass() {
       .method<"loadView", &Container::loadView>()
       .method<"viewDidLoad", &Container::viewDidLoad>()
       .method<"viewWillLayoutSubviews", &Container::viewWillLayoutSubviews>()
-      .readonlyProperty<"expanded", &Container::expanded>()
       .readonlyProperty<"isExpanded", &Container::expanded>()
       .partial<"setExpanded:", &Container::setExpanded>(
           "one transition, in place at once; the content is told before it")

@@ -12,6 +12,7 @@
 #include "simulator/mediaremote/Player.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
+#include "simulator/standin/Versions.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
@@ -84,7 +85,8 @@ void Controller::viewDidDisappear(bool animated) {
 }
 
 void Controller::updateMediaControls() {
-  const bool plays = Player::current().track() != nullptr;
+  // From 16 on the lock screen's player is another process's.
+  const bool plays = Player::current().track() != nullptr && systemMajor() < 16;
   if (plays == bool(mediaControlsViewController)) return;
   if (plays) {
     mediaControlsViewController = CSMediaControlsViewController::make();

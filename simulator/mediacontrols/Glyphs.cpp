@@ -71,6 +71,8 @@ Path transportPath(TransportSymbol symbol) {
       addTriangle(path, 6, 18);
       addTriangle(path, 18, 30);
       break;
+    case TransportSymbol::routes:
+      return routingTriangle();
   }
   return path;
 }

@@ -12,8 +12,8 @@ inline constexpr double glyphSize = 36;  // points
 
 using Path = std::vector<PathElement>;
 
-enum class TransportSymbol { previous, play, pause, next };
-Path transportPath(TransportSymbol symbol);
+enum class TransportSymbol { previous, play, pause, next, routes };
+Path transportPath(TransportSymbol symbol);  // to be filled; of the routes, their triangle
 
 // The routes' glyph: a triangle, to be filled, below waves, to be drawn as lines.
 Path routingTriangle();

@@ -1,6 +1,9 @@
 #include "simulator/mediacontrols/MRUControlCenterViewController.h"
 
+#include <utility>
+
 #include "simulator/mediacontrols/MRULayout.h"
+#include "simulator/mediacontrols/ModuleVersion.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -9,6 +12,12 @@ namespace sim {
 using objc::Object;
 using Controller = MRUControlCenterViewController;
 
+void Controller::loadView() {
+  if (!isModuleOf16()) return super<void, "loadView">();
+  const auto made = objc::adopt(objc::send<Object, "new">(objc_getClass("MRUControlCenterView")));
+  objc::send<void, "setView:">(self(), made.get());
+}
+
 void Controller::viewDidLoad() {
   super<void, "viewDidLoad">();
   nowPlayingViewController =
@@ -16,6 +25,11 @@ void Controller::viewDidLoad() {
   const Object player = nowPlayingViewController;
   objc::send<void, "setDelegate:">(player, Object(self()));
   addChildController(Object(self()), player);
+  if (!isModuleOf16()) return;
+  const Object view = objc::send<Object, "view">(self());
+  const Object corner = objc::send<Object, "routingButton">(view);
+  objc::send<void, "bringSubviewToFront:">(view, corner);
+  addTapTarget(corner, Object(self()), objc::selector<"didSelectRoutingButton:">());
 }
 
 void Controller::viewWillLayoutSubviews() {
@@ -26,6 +40,14 @@ void Controller::viewWillLayoutSubviews() {
 
 void Controller::willTransitionToExpandedContentMode(bool expanded) {
   const Object player = nowPlayingViewController;
+  if (isModuleOf16()) {
+    const long pending = std::exchange(pendingNowPlayingExpandedLayout, 0);
+    objc::send<void, "setShowRoutingButton:">(objc::send<Object, "view">(self()), !expanded);
+    objc::send<void, "setLayout:">(player, !expanded      ? long(minimizedLayout)
+                                           : pending != 0 ? pending
+                                                          : long(expandedLayout));
+    return;
+  }
   const long layout = objc::send<long, "layout">(player);
   const bool fits = expanded ? layout != minimizedLayout : layout == minimizedLayout;
   if (!fits)
@@ -39,15 +61,32 @@ void Controller::nowPlayingViewControllerDidChangeLayout(Object player) {
     objc::send<void, "setExpanded:">(container, needsRoom);
 }
 
+void Controller::applyLayout(Object player, long layout) {
+  const Object container = objc::send<Object, "parentViewController">(self());
+  if (objc::send<bool, "isExpanded">(container))
+    return objc::send<void, "setLayout:">(player, layout);
+  if (layout == minimizedLayout) return;
+  pendingNowPlayingExpandedLayout = layout;
+  objc::send<void, "setExpanded:">(container, true);
+}
+
+void Controller::didSelectRoutingButton(Object) {
+  applyLayout(nowPlayingViewController, routingLayout);
+}
+
 void Controller::registerClass() {
   StandIn<Controller>("MediaControls", "MRUControlCenterViewController", "UIViewController")
       .readonlyProperty<"nowPlayingViewController", &Controller::nowPlayingViewController>()
+      .partial<"loadView", &Controller::loadView>(
+          "a UIView before 16, where a phone has an MRUControlCenterView in every version")
       .method<"viewDidLoad", &Controller::viewDidLoad>()
       .method<"viewWillLayoutSubviews", &Controller::viewWillLayoutSubviews>()
       .method<"willTransitionToExpandedContentMode:",
               &Controller::willTransitionToExpandedContentMode>()
       .method<"nowPlayingViewControllerDidChangeLayout:",
               &Controller::nowPlayingViewControllerDidChangeLayout>()
+      .method<"nowPlayingViewController:applyLayout:", &Controller::applyLayout>()
+      .method<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>()
       .finish();
 }
 

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include "simulator/foundation/Kind.h"
 #include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/mediacontrols/MRULayout.h"
+#include "simulator/mediacontrols/MRUTransportButton.h"
+#include "simulator/mediacontrols/ModuleVersion.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -26,25 +29,43 @@ Object MRUNowPlayingHeaderView::initWithFrame(CGRect frame) {
   constexpr double inset = (artwork - glyphSize) / 2;
   objc::send<void, "setFrame:">(note.get(), CGRect{{inset, inset}, {glyphSize, glyphSize}});
   labelView = addView(made, "MRUNowPlayingLabelView");
-  routingButton = addView(made, "MRUNowPlayingRoutingButton");
+  if (isModuleOf16()) {
+    routingButton = addView(made, "MRUTransportButton");
+    if (auto* state = stateOf<MRUTransportButton>(routingButton.get()))
+      state->show(TransportSymbol::routes, "routes");
+    showRoutingButtonOrNot();
+  } else {
+    routingButton = addView(made, "MRUNowPlayingRoutingButton");
+  }
   return made;
 }
 
 void MRUNowPlayingHeaderView::setLayout(long chosen) {
   layout = chosen;
+  if (isModuleOf16()) showRoutingButtonOrNot();
   objc::send<void, "setNeedsLayout">(self());
 }
 
 void MRUNowPlayingHeaderView::setShowRoutingButton(bool show) {
   showRoutingButton = show;
-  objc::send<void, "setHidden:">(routingButton.get(), !show);
+  showRoutingButtonOrNot();
   objc::send<void, "setNeedsLayout">(self());
+}
+
+// From 16 on it is that of a row in the list of devices; the player's lies beside its other
+// buttons.
+void MRUNowPlayingHeaderView::showRoutingButtonOrNot() {
+  constexpr long inTheListOfDevices = 3;
+  if (isModuleOf16())
+    setAlpha(routingButton, layout == inTheListOfDevices && showRoutingButton ? 1 : 0);
+  else
+    objc::send<void, "setHidden:">(routingButton.get(), !showRoutingButton);
 }
 
 void MRUNowPlayingHeaderView::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize size = sizeOf(Object(self()));
-  objc::send<void, "setHidden:">(routingButton.get(), !showRoutingButton);
+  showRoutingButtonOrNot();
   setAlpha(artworkView, layout == minimizedLayout ? 0 : 1);
   if (layout == minimizedLayout)
     placeMinimized(size);
@@ -72,7 +93,9 @@ void MRUNowPlayingHeaderView::placeInARow(CGSize size) {
 
 void MRUNowPlayingHeaderView::registerClass() {
   StandIn<MRUNowPlayingHeaderView>("MediaControls", "MRUNowPlayingHeaderView", "UIView")
-      .method<"initWithFrame:", &MRUNowPlayingHeaderView::initWithFrame>()
+      .partial<"initWithFrame:", &MRUNowPlayingHeaderView::initWithFrame>(
+          "before 16 a phone has a UIControl, which opens the player's application when tapped, in "
+          "a view that holds the controls")
       .readonlyProperty<"artworkView", &MRUNowPlayingHeaderView::artworkView>()
       .readonlyProperty<"labelView", &MRUNowPlayingHeaderView::labelView>()
       .property<"routingButton", &MRUNowPlayingHeaderView::routingButton>()

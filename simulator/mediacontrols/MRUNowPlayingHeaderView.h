@@ -9,7 +9,7 @@ namespace sim {
 struct MRUNowPlayingHeaderView : objc::Implementation<MRUNowPlayingHeaderView> {
   objc::Strong<objc::Object> artworkView;
   objc::Strong<objc::Object> labelView;      // MRUNowPlayingLabelView
-  objc::Strong<objc::Object> routingButton;  // MRUNowPlayingRoutingButton
+  objc::Strong<objc::Object> routingButton;  // MRUNowPlayingRoutingButton; MRUTransportButton of 16
   long layout = 0;                           // MRULayout
   bool showRoutingButton = true;
 
@@ -21,6 +21,7 @@ struct MRUNowPlayingHeaderView : objc::Implementation<MRUNowPlayingHeaderView> {
   static void registerClass();
 
  private:
+  void showRoutingButtonOrNot();
   void placeMinimized(CGSize size);
   void placeInARow(CGSize size);
 };

@@ -63,7 +63,7 @@ void MRUNowPlayingRoutingButton::registerClass() {
   StandIn<MRUNowPlayingRoutingButton>("MediaControls", "MRUNowPlayingRoutingButton", "UIControl")
       .method<"initWithFrame:", &MRUNowPlayingRoutingButton::initWithFrame>()
       .property<"packageView", &MRUNowPlayingRoutingButton::packageView>()
-      .readonlyProperty<"active", &MRUNowPlayingRoutingButton::active>()
+      .method<"isActive", &MRUNowPlayingRoutingButton::isActive>()
       .partial<"setActive:", &MRUNowPlayingRoutingButton::setActive>(
           "tints shapes, where a phone sets a state of its package")
       .partial<"updatePackage", &MRUNowPlayingRoutingButton::updatePackage>(

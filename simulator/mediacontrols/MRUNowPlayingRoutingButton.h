@@ -14,6 +14,7 @@ struct MRUNowPlayingRoutingButton : objc::Implementation<MRUNowPlayingRoutingBut
 
   objc::Object initWithFrame(CGRect frame);
   // Whether sound goes elsewhere than to the phone's own speaker.
+  bool isActive() const { return active; }
   void setActive(bool isActive);
   // Loads the routing glyph into the package view.
   void updatePackage();

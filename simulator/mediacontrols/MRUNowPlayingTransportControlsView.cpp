@@ -4,6 +4,7 @@
 
 #include "simulator/foundation/Kind.h"
 #include "simulator/mediacontrols/MRUTransportButton.h"
+#include "simulator/mediacontrols/ModuleVersion.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -26,7 +27,17 @@ Object MRUNowPlayingTransportControlsView::initWithFrame(CGRect frame) {
   show(previousButton, TransportSymbol::previous, "previous track");
   show(nextButton, TransportSymbol::next, "next track");
   setPlaying(false);
+  if (isModuleOf16()) {
+    routingButton = addView(made, "MRUTransportButton");
+    show(routingButton, TransportSymbol::routes, "routes");
+    addTapTarget(routingButton, made, objc::selector<"_didSelectRoutingButton:">());
+  }
   return made;
+}
+
+void MRUNowPlayingTransportControlsView::didSelectRoutingButton(Object sender) {
+  objc::send<void, "transportControlsView:didSelectRoutingButton:">(delegate.load().get(),
+                                                                    Object(self()), sender);
 }
 
 void MRUNowPlayingTransportControlsView::setPlaying(bool isPlaying) {
@@ -46,6 +57,7 @@ void MRUNowPlayingTransportControlsView::layoutSubviews() {
     setFrame(button, {{x, 0}, {width, size.height}});
     x += width;
   }
+  setFrame(routingButton, {{size.width - glyphSize, 0}, {glyphSize, size.height}});
 }
 
 void MRUNowPlayingTransportControlsView::registerClass() {
@@ -55,6 +67,9 @@ void MRUNowPlayingTransportControlsView::registerClass() {
       .readonlyProperty<"previousButton", &View::previousButton>()
       .readonlyProperty<"playPauseButton", &View::playPauseButton>()
       .readonlyProperty<"nextButton", &View::nextButton>()
+      .readonlyProperty<"routingButton", &View::routingButton>()
+      .method<"setDelegate:", &View::setDelegate>()
+      .method<"_didSelectRoutingButton:", &View::didSelectRoutingButton>()
       .method<"layoutSubviews", &View::layoutSubviews>()
       .finish();
 }

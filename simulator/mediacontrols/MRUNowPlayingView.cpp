@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "simulator/mediacontrols/MRULayout.h"
+#include "simulator/mediacontrols/ModuleVersion.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -21,8 +22,12 @@ Object MRUNowPlayingView::initWithFrame(CGRect frame) {
   timeControl = addView(made, "MRUNowPlayingTimeControl");
   transportControlsView = addView(made, "MRUNowPlayingTransportControlsView");
   volumeSlider = addView(made, "UISlider");
-  collapsedEmbeddingView = addView(made, "MRUEmbeddingView");
-  objc::send<void, "setClipsToBounds:">(collapsedEmbeddingView.get(), true);
+  if (isModuleOf16()) {
+    containerView = addView(made, "MRUNowPlayingContainerView");
+  } else {
+    collapsedEmbeddingView = addView(made, "MRUEmbeddingView");
+    objc::send<void, "setClipsToBounds:">(collapsedEmbeddingView.get(), true);
+  }
   headerView = addView(made, "MRUNowPlayingHeaderView");
   return made;
 }
@@ -41,15 +46,25 @@ void MRUNowPlayingView::layoutSubviews() {
     placeMinimized(size);
   else
     placePlayer(size);
-  placeEmbedding(size);
+  if (containerView)
+    placeContainer(size);
+  else
+    placeEmbedding(size);
 }
 
 void MRUNowPlayingView::showParts() {
-  const bool isPlayer = layout != minimizedLayout && layout != routingLayout;
+  // The routes take the place of the other controls; from 16 on they lie below them.
+  const bool showsRoutesOnly = layout == routingLayout && !containerView;
+  const bool isPlayer = layout != minimizedLayout && !showsRoutesOnly;
   setAlpha(timeControl, isPlayer ? 1 : 0);
   setAlpha(volumeSlider, isPlayer ? 1 : 0);
-  setAlpha(transportControlsView, layout == routingLayout ? 0 : 1);
+  setAlpha(transportControlsView, showsRoutesOnly ? 0 : 1);
   setAlpha(collapsedEmbeddingView, layout == routingLayout ? 1 : 0);
+  if (!containerView) return;
+  setAlpha(containerView, layout == routingLayout ? 1 : 0);
+  // The small module has another, in its corner.
+  setAlpha(objc::send<Object, "routingButton">(transportControlsView.get()),
+           layout == minimizedLayout ? 0 : 1);
 }
 
 void MRUNowPlayingView::placeMinimized(CGSize size) {
@@ -80,6 +95,27 @@ void MRUNowPlayingView::placeEmbedding(CGSize size) {
   setFrame(collapsedEmbeddingView, {{0, embeddingTop}, sizeThatFits(collapsedEmbeddingView, room)});
 }
 
+// Below the controls, which then lie close together; it has all the height that is left.
+void MRUNowPlayingView::placeContainer(CGSize size) {
+  constexpr double gap = 7;
+  if (layout != routingLayout) return setFrame(containerView, {{0, size.height}, {size.width, 0}});
+  double y = embeddingTop;
+  for (const Object control :
+       {timeControl.get(), transportControlsView.get(), volumeSlider.get()}) {
+    const CGSize its = frameOf(control).size;
+    setFrame(control, {{margin, y}, its});
+    y += its.height + gap;
+  }
+  setFrame(containerView, {{0, y}, {size.width, std::max(size.height - y, 0.0)}});
+}
+
+Object MRUNowPlayingView::contentView() const {
+  return objc::send<Object, "contentView">(containerView.get());
+}
+void MRUNowPlayingView::setContentView(Object view) {
+  objc::send<void, "setContentView:">(containerView.get(), view);
+}
+
 void MRUNowPlayingView::registerClass() {
   using View = MRUNowPlayingView;
   StandIn<View>("MediaControls", "MRUNowPlayingView", "UIView")
@@ -89,6 +125,9 @@ void MRUNowPlayingView::registerClass() {
       .readonlyProperty<"transportControlsView", &View::transportControlsView>()
       .readonlyProperty<"volumeSlider", &View::volumeSlider>()
       .readonlyProperty<"collapsedEmbeddingView", &View::collapsedEmbeddingView>()
+      .readonlyProperty<"containerView", &View::containerView>()
+      .method<"contentView", &View::contentView>()
+      .method<"setContentView:", &View::setContentView>()
       .readonlyProperty<"layout", &View::layout>()
       .method<"setLayout:", &View::setLayout>()
       .partial<"layoutSubviews", &View::layoutSubviews>("measures of the simulator's own")

@@ -11,11 +11,15 @@ struct MRUNowPlayingView : objc::Implementation<MRUNowPlayingView> {
   objc::Strong<objc::Object> timeControl;             // MRUNowPlayingTimeControl
   objc::Strong<objc::Object> transportControlsView;   // MRUNowPlayingTransportControlsView
   objc::Strong<objc::Object> volumeSlider;            // UISlider
-  objc::Strong<objc::Object> collapsedEmbeddingView;  // MRUEmbeddingView
+  objc::Strong<objc::Object> collapsedEmbeddingView;  // MRUEmbeddingView; nil from 16 on
+  objc::Strong<objc::Object> containerView;           // MRUNowPlayingContainerView; nil before 16
   long layout = 0;                                    // MRULayout
 
   objc::Object initWithFrame(CGRect frame);
   void setLayout(long chosen);
+  // The container's.
+  objc::Object contentView() const;
+  void setContentView(objc::Object view);
   void layoutSubviews();
 
   static void registerClass();
@@ -25,6 +29,7 @@ struct MRUNowPlayingView : objc::Implementation<MRUNowPlayingView> {
   void placeMinimized(CGSize size);
   void placePlayer(CGSize size);
   void placeEmbedding(CGSize size);
+  void placeContainer(CGSize size);
 };
 
 }  // namespace sim

@@ -10,6 +10,7 @@
 #include "simulator/mediacontrols/MRUNowPlayingTimeControl.h"
 #include "simulator/mediacontrols/MRUNowPlayingTransportControlsView.h"
 #include "simulator/mediacontrols/MRUNowPlayingView.h"
+#include "simulator/mediacontrols/ModuleVersion.h"
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
@@ -36,7 +37,7 @@ void showTrack(Object labels) {
 // Active while sound goes to another device.
 void showRoute(Object routingButton) {
   const bool isElsewhere = !Radios::current().peers().empty();
-  if (objc::send<bool, "active">(routingButton) != isElsewhere)
+  if (objc::send<bool, "isActive">(routingButton) != isElsewhere)
     objc::send<void, "setActive:">(routingButton, isElsewhere);
 }
 
@@ -63,11 +64,14 @@ void nowPlayingInfoDidChange(Object self, Object) {
   Controller::of(self).update();
 }
 
+objc::Strong<Object> makeRoutes() {
+  return objc::adopt(objc::send<Object, "new">(objc_getClass("MRURoutingViewController")));
+}
+
 }  // namespace
 
 Object Controller::initWithNibName_bundle(Object name, Object bundle) {
-  routingViewController =
-      objc::adopt(objc::send<Object, "new">(objc_getClass("MRURoutingViewController")));
+  if (!isModuleOf16()) routingViewController = makeRoutes();
   return super<Object, "initWithNibName:bundle:">(name, bundle);
 }
 
@@ -80,8 +84,11 @@ void Controller::loadView() {
 void Controller::viewDidLoad() {
   super<void, "viewDidLoad">();
   connectControls();
-  objc::send<void, "setEmbeddedViewController:">(
-      objc::send<Object, "collapsedEmbeddingView">(moduleView()), routingViewController.get());
+  if (isModuleOf16())
+    makeRoutesLater();
+  else
+    objc::send<void, "setEmbeddedViewController:">(
+        objc::send<Object, "collapsedEmbeddingView">(moduleView()), routingViewController.get());
   update();
 }
 
@@ -98,6 +105,7 @@ void Controller::connectControls() {
                objc::selector<"_didSelectPlayPauseButton:">());
   addTapTarget(objc::send<Object, "nextButton">(transport), me,
                objc::selector<"_didSelectNextButton:">());
+  if (isModuleOf16()) objc::send<void, "setDelegate:">(transport, me);
   constexpr unsigned long valueChanged = 1 << 12;
   objc::send<void, "addTarget:action:forControlEvents:">(
       view->volumeSlider.get(), me, objc::selector<"_volumeSliderValueChanged:">(), valueChanged);
@@ -135,12 +143,43 @@ void Controller::setLayout(long chosen) {
   animateLayout(view);
 }
 
-void Controller::didSelectRoutingButton(Object) {
+void Controller::didSelectRoutingButton(Object sender) {
+  if (isModuleOf16()) return presentRoutingControls(sender);
   const bool opens = layout != routingLayout;
   if (opens) layoutBeforeRouting = layout;
   if (opens) showEmbedded();
   objc::send<void, "setLayout:">(self(), opens ? routingLayout : layoutBeforeRouting);
   objc::send<void, "nowPlayingViewControllerDidChangeLayout:">(itsDelegate(), Object(self()));
+}
+
+// Whoever shows the player decides how it comes to its layout.
+void Controller::presentRoutingControls(Object) {
+  objc::send<void, "nowPlayingViewController:applyLayout:">(
+      itsDelegate(), Object(self()),
+      long(layout == routingLayout ? expandedLayout : routingLayout));
+}
+
+void Controller::didSelectRoutingButtonOf(Object, Object button) {
+  objc::send<void, "presentRoutingControlsFromSourceView:">(self(), button);
+}
+
+void Controller::makeRoutesLater() {
+  Phone::current().queue.addNow([player = objc::retain(Object(self()))] {
+    objc::send<void, "setRoutingViewController:">(player.get(), makeRoutes().get());
+  });
+}
+
+void Controller::setRoutingViewController(Object controller) {
+  if (routingViewController) {
+    objc::send<void, "willMoveToParentViewController:">(routingViewController.get(), nullptr);
+    objc::send<void, "removeFromParentViewController">(routingViewController.get());
+  }
+  routingViewController = objc::retain(controller);
+  if (!controller) return;
+  const Object me(self());
+  objc::send<void, "addChildViewController:">(me, controller);
+  objc::send<void, "setContentView:">(moduleView(), objc::send<Object, "view">(controller));
+  objc::send<void, "didMoveToParentViewController:">(controller, me);
 }
 
 // What was shown before, and what somebody has shown there already, stays as it is.
@@ -159,7 +198,7 @@ void Controller::update() {
   if (auto* transport =
           stateOf<MRUNowPlayingTransportControlsView>(view->transportControlsView.get()))
     transport->setPlaying(Player::current().isPlaying());
-  showRoute(objc::send<Object, "routingButton">(header));
+  if (!isModuleOf16()) showRoute(objc::send<Object, "routingButton">(header));
   showVolume();
   showTime();
 }
@@ -209,6 +248,12 @@ void Controller::registerClass() {
       .method<"setLayout:", &Controller::setLayout>()
       .partial<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>(
           "closing goes back to the layout of before, where a phone stays expanded")
+      .partial<"presentRoutingControlsFromSourceView:", &Controller::presentRoutingControls>(
+          "never the system's sheet")
+      .method<"transportControlsView:didSelectRoutingButton:",
+              &Controller::didSelectRoutingButtonOf>()
+      .partial<"setRoutingViewController:", &Controller::setRoutingViewController>(
+          "once, where a phone does it again for each device that is chosen")
       .method<"_didSelectPreviousButton:", &previousTrack>()
       .method<"_didSelectPlayPauseButton:", &togglePlayPause>()
       .method<"_didSelectNextButton:", &nextTrack>()

@@ -30,6 +30,10 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
   void setLayout(long chosen);
   // To the routes, and back to the layout that was there before.
   void didSelectRoutingButton(objc::Object sender);
+  // From 16 on.
+  void presentRoutingControls(objc::Object source);
+  void didSelectRoutingButtonOf(objc::Object transportControls, objc::Object button);
+  void setRoutingViewController(objc::Object controller);
   // A change of what plays, or of the volume: the text of both comes from the phone's player.
   void update();
 
@@ -39,6 +43,7 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
   objc::Object moduleView() const;  // MRUNowPlayingView; nil before it is loaded
   void connectControls();
   void showEmbedded();
+  void makeRoutesLater();
   void showTime();
   void showVolume();
   void stopClock();

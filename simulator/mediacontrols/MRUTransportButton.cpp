@@ -18,19 +18,23 @@ Object MRUTransportButton::initWithFrame(CGRect frame) {
 void MRUTransportButton::show(TransportSymbol symbol, const char* name) {
   objc::send<void, "setPath:">(shape.get(), CGPath::of(transportPath(symbol)));
   objc::send<void, "setAccessibilityLabel:">(self(), string(name));
+  if (symbol != TransportSymbol::routes || waves) return;
+  waves = addShape(Object(self()), routingWaves(), 1.8);
+  tint(waves, whiteColor(0.95));
 }
 
 void MRUTransportButton::layoutSubviews() {
   super<void, "layoutSubviews">();
   const CGSize size = sizeOf(Object(self()));
-  objc::send<void, "setFrame:">(
-      shape.get(), CGRect{{(size.width - glyphSize) / 2, (size.height - glyphSize) / 2},
-                          {glyphSize, glyphSize}});
+  const CGRect centred = {{(size.width - glyphSize) / 2, (size.height - glyphSize) / 2},
+                          {glyphSize, glyphSize}};
+  for (const Object each : {shape.get(), waves.get()}) objc::send<void, "setFrame:">(each, centred);
 }
 
 void MRUTransportButton::registerClass() {
   StandIn<MRUTransportButton>("MediaControls", "MRUTransportButton", "UIControl")
-      .method<"initWithFrame:", &MRUTransportButton::initWithFrame>()
+      .partial<"initWithFrame:", &MRUTransportButton::initWithFrame>(
+          "a UIControl, where a phone has an MPButton with a package")
       .method<"layoutSubviews", &MRUTransportButton::layoutSubviews>()
       .finish();
 }

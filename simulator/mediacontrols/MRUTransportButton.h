@@ -9,6 +9,7 @@ namespace sim {
 
 struct MRUTransportButton : objc::Implementation<MRUTransportButton> {
   objc::Strong<objc::Object> shape;  // CAShapeLayer
+  objc::Strong<objc::Object> waves;  // CAShapeLayer; nil unless it shows the routes
 
   objc::Object initWithFrame(CGRect frame);
   void show(TransportSymbol symbol, const char* name);

@@ -1,7 +1,9 @@
 // What the Now Playing module is made of.
+#include "simulator/mediacontrols/MRUControlCenterView.h"
 #include "simulator/mediacontrols/MRUControlCenterViewController.h"
 #include "simulator/mediacontrols/MRUEmbeddingView.h"
 #include "simulator/mediacontrols/MRUMediaControlsModule.h"
+#include "simulator/mediacontrols/MRUNowPlayingContainerView.h"
 #include "simulator/mediacontrols/MRUNowPlayingHeaderView.h"
 #include "simulator/mediacontrols/MRUNowPlayingLabelView.h"
 #include "simulator/mediacontrols/MRUNowPlayingRoutingButton.h"
@@ -23,9 +25,11 @@ void registerMediaControls() {
   MRUTransportButton::registerClass();
   MRUNowPlayingTransportControlsView::registerClass();
   MRUEmbeddingView::registerClass();
+  MRUNowPlayingContainerView::registerClass();
   MRUNowPlayingView::registerClass();
   MRURoutingViewController::registerClass();
   MRUNowPlayingViewController::registerClass();
+  MRUControlCenterView::registerClass();
   MRUControlCenterViewController::registerClass();
   MRUMediaControlsModule::registerClass();
 }

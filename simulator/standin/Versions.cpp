@@ -16,8 +16,19 @@ constexpr int earliest = Versions::earliest, latest = Versions::latest;
 
 constexpr Row table[] = {
     // The media module was built anew in 16.0.
+    {"MRUControlCenterView", "routingButton", {16, latest}},
+    {"MRUControlCenterView", "setShowRoutingButton:", {16, latest}},
+    {"MRUControlCenterView", "showRoutingButton", {16, latest}},
+    {"MRUControlCenterViewController", "didSelectRoutingButton:", {16, latest}},
     {"MRUEmbeddingView", "", {earliest, 15}},
     {"MRUNowPlayingRoutingButton", "", {earliest, 15}},
+    {"MRUNowPlayingTransportControlsView", "routingButton", {16, latest}},
+    {"MRUNowPlayingView", "collapsedEmbeddingView", {earliest, 15}},
+    {"MRUNowPlayingView", "contentView", {16, latest}},
+    {"MRUNowPlayingView", "setContentView:", {16, latest}},
+    {"MRUNowPlayingViewController", "presentRoutingControlsFromSourceView:", {16, latest}},
+    {"MRUNowPlayingViewController", "setRoutingViewController:", {16, latest}},
+    {"MRUNowPlayingViewController", "transportControlsView:didSelectRoutingButton:", {16, latest}},
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "simulator/machine/Phone.h"
 #include "simulator/script/Command.h"
 #include "simulator/script/values/PhoneVariables.h"
+#include "simulator/standin/Versions.h"
 
 namespace sim {
 namespace {
@@ -44,7 +45,9 @@ Object header() {
 }
 
 Object embedding() {
-  return objc::send<Object, "collapsedEmbeddingView">(objc::send<Object, "view">(player()));
+  const Object view = objc::send<Object, "view">(player());
+  return systemMajor() >= 16 ? objc::send<Object, "containerView">(view)
+                             : objc::send<Object, "collapsedEmbeddingView">(view);
 }
 
 }  // namespace

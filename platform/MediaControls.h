@@ -29,11 +29,22 @@ struct MRUNowPlayingHeaderView : UIView {
 // What the module's controller embeds below its header: the routing panel, usually.
 struct MRUEmbeddingView : UIView {
   using UIView::UIView;
+  static Class cls() { return objc::classNamed<"MRUEmbeddingView">(); }
   void removeViewController() const { objc::send<void, "removeViewController">(*this); }
   void setEmbeddedViewController(UIViewController controller) const {
     objc::send<void, "setEmbeddedViewController:">(*this, controller);
   }
   void showViewController() const { objc::send<void, "showViewController">(*this); }
+};
+
+// The module's whole view.
+struct MRUNowPlayingView : UIView {
+  using UIView::UIView;
+  static Class cls() { return objc::classNamed<"MRUNowPlayingView">(); }
+  // Up to 15.
+  static bool hasCollapsedEmbeddingView() {
+    return class_getInstanceMethod(cls(), objc::selector<"collapsedEmbeddingView">()) != nullptr;
+  }
 };
 
 struct MRUNowPlayingViewController : UIViewController {

@@ -5,7 +5,6 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/engine/Dozewell2ManagerCompanions.cpp
     tweak/engine/Dozewell2ManagerPersistence.cpp
     tweak/engine/Dozewell2ManagerTracks.cpp
-    tweak/hooks/ButtonPlacement.cpp
     tweak/hooks/DozewellButton.cpp
     tweak/hooks/Embedding.cpp
     tweak/hooks/Glyph.cpp
@@ -14,6 +13,9 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/hooks/NowPlayingHeader.cpp
     tweak/hooks/Startup.cpp
     tweak/hooks/Tracing.cpp
+    tweak/hooks/module/EmbeddingModule.cpp
+    tweak/hooks/module/EmbeddingModulePlacement.cpp
+    tweak/hooks/module/MediaModule.cpp
     tweak/indicators/Dozewell2TimeLeftIndicatorsManager.cpp
     tweak/indicators/LockScreenViews.cpp
     tweak/indicators/SpokenTimeLeft.cpp

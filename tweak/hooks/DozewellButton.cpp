@@ -4,6 +4,7 @@
 #include "objc/Hook.h"
 #include "objc/Property.h"
 #include "tweak/hooks/Glyph.h"
+#include "tweak/hooks/module/MediaModule.h"
 #include "tweak/indicators/SpokenTimeLeft.h"
 #include "tweak/support/SpokenText.h"
 
@@ -102,7 +103,7 @@ bool DozewellButton::nameIsTaken() {
 }
 
 void DozewellButton::registerClass() {
-  Class superclass = MRUNowPlayingRoutingButton::cls();
+  Class superclass = MediaModule::buttonSuperclass();
   if (superclass == nullptr) return;
   Class button = objc_allocateClassPair(superclass, "DozewellButton", 0);
   if (button == nullptr) return;

@@ -1,6 +1,7 @@
 #include "tweak/hooks/Embedding.h"
 
 #include "tweak/engine/Dozewell2Manager.h"
+#include "tweak/hooks/module/MediaModule.h"
 #include "tweak/panel/Dozewell2ViewController.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/HapticFeedbackHelper.h"
@@ -11,8 +12,6 @@ bool shouldReplaceRoutingActionByDozewell;
 
 namespace Embedding {
 namespace {
-
-constexpr double panelHeight = 250;  // points
 
 Dozewell2Manager engine() {
   return Dozewell2Manager::sharedInstance();
@@ -42,12 +41,11 @@ void didSelectDozewellButton(Controller self, objc::Object sender) {
   self.dozewell_expandDozewell(false);
 }
 
-// The host itself changes its layout: it believes that its routing button was tapped.
 void expandDozewell(Controller self, bool expand) {
   if (!expand && self.layout() != routingLayout) return;
   if (expand) self.dozewell_updateEmbeddedVCWithDozewellVC(true);
   shouldReplaceRoutingActionByDozewell = true;
-  self.didSelectRoutingButton(nullptr);
+  MediaModule::toggleRoutingLayout(self);
   // Closing leaves it to the header, which hears of every way out of the routing layout.
   if (expand) engine().setIsShowingDozewellUI(true);
 }
@@ -64,31 +62,7 @@ void didSelectRoutingButton(objc::Original<void(Controller, objc::Object)> origi
 
 void updateEmbeddedController(Controller self, bool useDozewell) {
   shouldShowDozewellEmbeddedVCInsteadOfAirPlay = useDozewell;
-  const auto embedding = self.collapsedEmbeddingView();
-  embedding.removeViewController();
-  embedding.setEmbeddedViewController(useDozewell ? engine().dozewell2VC()
-                                                  : self.routingViewController());
-  embedding.showViewController();
-}
-
-CGSize sizeThatFits(objc::Original<CGSize(MRUEmbeddingView, CGSize)> original,
-                    MRUEmbeddingView self, CGSize size) {
-  logCall("MRUEmbeddingView", self, "sizeThatFits:{", size.width, ", ", size.height, "}");
-  // The host is not asked: the panel is as high as it is.
-  if (shouldShowDozewellEmbeddedVCInsteadOfAirPlay) return {self.frame().size.width, panelHeight};
-  return original(self, size);
-}
-
-void showViewController(objc::Original<void(MRUEmbeddingView)> original, MRUEmbeddingView self) {
-  logCall("MRUEmbeddingView", self, "showViewController");
-  original(self);
-  if (!shouldShowDozewellEmbeddedVCInsteadOfAirPlay) return;
-  const auto panel = Dozewell2ViewController::preloaded();
-  if (engine().isRunning()) {
-    panel.showCurrentTimerView_transitionView_slideAnimated(true, nullptr, false);
-  } else {
-    panel.showChooseSnoozeTimeView_transitionView_slideAnimated(true, nullptr, false);
-  }
+  MediaModule::embed(self, useDozewell);
 }
 
 void setShakeState(objc::Original<void(UIMotionEvent, int)> original, UIMotionEvent self,

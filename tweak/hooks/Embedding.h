@@ -25,11 +25,6 @@ void didSelectRoutingButton(objc::Original<void(Controller, objc::Object)> origi
                             Controller self, objc::Object sender);
 void updateEmbeddedController(Controller self, bool useDozewell);
 
-// MRUEmbeddingView
-CGSize sizeThatFits(objc::Original<CGSize(MRUEmbeddingView, CGSize)> original,
-                    MRUEmbeddingView self, CGSize size);
-void showViewController(objc::Original<void(MRUEmbeddingView)> original, MRUEmbeddingView self);
-
 // UIMotionEvent
 void setShakeState(objc::Original<void(UIMotionEvent, int)> original, UIMotionEvent self,
                    int state);

@@ -4,7 +4,12 @@
 #include "objc/Property.h"
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/hooks/Glyph.h"
+#include "tweak/hooks/module/MediaModule.h"
 #include "tweak/panel/Dozewell2ViewController.h"
+
+void setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(id header) {
+  MediaModule::placeButton(DozewellNowPlayingHeader(header));
+}
 
 namespace NowPlayingHeader {
 namespace {
@@ -61,10 +66,6 @@ void createButton(Header header, UIViewController controller) {
   button.setActive(false);
 }
 
-void place(Header header) {
-  setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(header.get());
-}
-
 }  // namespace
 
 void addButtonProperty() {
@@ -78,7 +79,7 @@ void layoutSubviews(objc::Original<void(Header)> original, Header self) {
   if (!dozewellButton(self)) {
     if (const auto controller = controllerInControlCenter(self)) createButton(self, controller);
   }
-  place(self);
+  MediaModule::placeButton(self);
 }
 
 void setLayout(objc::Original<void(Header, long)> original, Header self, long layout) {
@@ -88,7 +89,7 @@ void setLayout(objc::Original<void(Header, long)> original, Header self, long la
     Dozewell2ViewController::preloaded().dismissCurrentView();
   }
   original(self, layout);
-  place(self);
+  MediaModule::placeButton(self);
 }
 
 // Never switched off: the timer button's place is told from it.
@@ -97,7 +98,7 @@ void setShowRoutingButton(objc::Original<void(Header, bool)> original, Header se
 }
 
 void stateChanged(Header self, objc::Object) {
-  place(self);
+  MediaModule::placeButton(self);
 }
 
 // The host's teardown first, as the extension always has done it: what is left of the header is its

@@ -14,6 +14,8 @@
 #include "tweak/hooks/LockScreen.h"
 #include "tweak/hooks/NowPlayingHeader.h"
 #include "tweak/hooks/Tracing.h"
+#include "tweak/hooks/module/EmbeddingModule.h"
+#include "tweak/hooks/module/MediaModule.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
 #include "tweak/panel/ButtonWithIncreasedTouchArea.h"
 #include "tweak/panel/CheckboxButton.h"
@@ -56,6 +58,11 @@ void logMissingLibrary() {
   (LogLine() << "Dozewell is not installed: Cephei, the preferences library, is missing").write();
 }
 
+void logUnknownModule() {
+  (LogLine() << "Dozewell adds no button: the media module of this system is built in another way")
+      .write();
+}
+
 bool hasClasses() {
   return Dozewell2StorageManager::cls() != nullptr;
 }
@@ -89,16 +96,23 @@ void installControllerHooks() {
              "didSelectRoutingButton:", Embedding::didSelectRoutingButton>();
   objc::addMethod<"dozewell_updateEmbeddedVCWithDozewellVC:", &Embedding::updateEmbeddedController>(
       controller);
-  objc::hook<"MRUEmbeddingView", "sizeThatFits:", Embedding::sizeThatFits>();
-  objc::hook<"MRUEmbeddingView", "showViewController", Embedding::showViewController>();
+  objc::hook<"MRUEmbeddingView", "sizeThatFits:", EmbeddingModule::sizeThatFits>();
+  objc::hook<"MRUEmbeddingView", "showViewController", EmbeddingModule::showViewController>();
+}
+
+// Nothing where the module is built in a way that the extension does not know: there a second
+// routing button would appear in the list of devices, and a tap on the host's would end the host.
+void installModuleHooks() {
+  if (MediaModule::shape() == MediaModule::Shape::unknown) return logUnknownModule();
+  DozewellButton::registerClass();
+  installHeaderHooks();
+  installControllerHooks();
 }
 
 void installHooks() {
   objc::hook<"CCUICAPackageDescription",
              "initWithPackageName:inBundle:", tracePackageDescription>();
-  DozewellButton::registerClass();
-  installHeaderHooks();
-  installControllerHooks();
+  installModuleHooks();
   objc::hook<"SpringBoard", "applicationDidFinishLaunching:", applicationDidFinishLaunching>();
   objc::hook<"UIMotionEvent", "setShakeState:", Embedding::setShakeState>();
 }

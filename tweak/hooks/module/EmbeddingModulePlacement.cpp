@@ -2,9 +2,10 @@
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/hooks/DozewellButton.h"
 #include "tweak/hooks/Embedding.h"
-#include "tweak/hooks/NowPlayingHeader.h"
+#include "tweak/hooks/module/EmbeddingModule.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 
+namespace EmbeddingModule {
 namespace {
 
 using Button = DozewellButton;
@@ -90,8 +91,7 @@ CGRect place(MRUNowPlayingHeaderView header, UIView routing, Button button) {
 
 }  // namespace
 
-void setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(id headerObject) {
-  const DozewellNowPlayingHeader header(headerObject);
+void placeButton(DozewellNowPlayingHeader header) {
   const auto routing = header.routingButton();
   const auto button = header.dozewellButton();
   // Each layout hides what it has no place for.
@@ -99,3 +99,5 @@ void setDozewellButtonPositionAndVisibilityAccordingToCurrentLayout(id headerObj
   button.setHidden(false);
   button.setFrame(place(header, routing, button));
 }
+
+}  // namespace EmbeddingModule

@@ -51,6 +51,17 @@ std::string signature(const FidelityRecord& record) {
   }
 }
 
+std::string classTitle(const std::string& cls) {
+  if (cls.empty()) return "Functions";
+  const std::string versions = versionsOf(cls).text();
+  return cls + " (" + (versions.empty() ? "all versions" : versions) + ')';
+}
+
+std::string versionNote(const FidelityRecord& record) {
+  const std::string versions = versionsOf(record.cls, record.name).text();
+  return versions.empty() ? versions : " (" + versions + ')';
+}
+
 // A bar would end the table cell, a line break the table.
 std::string cell(std::string text) {
   for (std::size_t at = 0; (at = text.find('|', at)) != std::string::npos; at += 2)
@@ -69,7 +80,10 @@ constexpr const char* introduction =
     "- **stub**: does nothing but write `stub -[Class selector]` to the journal.\n"
     "\n"
     "What is not listed does not exist: sending it stops the program with "
-    "`unrecognized selector`, as on a phone.\n";
+    "`unrecognized selector`, as on a phone.\n"
+    "\n"
+    "Behind a class stand the versions of the system that have it, as far as is known; behind a "
+    "method, those of them that have it, where not all do. `ios VERSION` in a script chooses.\n";
 
 constexpr const char* tableHead = "\n| what | grade | difference |\n|---|---|---|\n";
 
@@ -91,11 +105,11 @@ bool FidelityPage::isPresent() const {
 
 bool FidelityPage::record(char kind, const char* name, const Rating& rating) const {
   allStandIns()[cls_].insert(name);
-  if (!isPresent() || !Phone::current().setup.hasMethod(cls_, name) ||
-      !versionsOf(cls_, name).contains(systemMajor()))
-    return false;
+  const Setup& setup = Phone::current().setup;
+  if (namesOnly || !setup.hasClass(cls_) || !setup.hasMethod(cls_, name)) return false;
+  // Also what other versions have: the page says which.
   records().push_back({framework_, cls_, kind, name, rating});
-  return true;
+  return isPresent() && versionsOf(cls_, name).contains(systemMajor());
 }
 
 NamesOnly::NamesOnly() {
@@ -137,11 +151,11 @@ std::string fidelityMarkdown() {
     const bool newFramework = previous == nullptr || previous->framework != record.framework;
     if (newFramework) page += "\n## " + record.framework + "\n";
     if (newFramework || previous->cls != record.cls) {
-      page += "\n### " + (record.cls.empty() ? "Functions" : record.cls) + "\n";
+      page += "\n### " + classTitle(record.cls) + "\n";
       page += tableHead;
     }
-    page += "| `" + cell(signature(record)) + "` | " + gradeName(record.rating.grade) + " | " +
-            cell(record.rating.difference) + " |\n";
+    page += "| `" + cell(signature(record)) + '`' + versionNote(record) + " | " +
+            gradeName(record.rating.grade) + " | " + cell(record.rating.difference) + " |\n";
     previous = &record;
   }
   return page;

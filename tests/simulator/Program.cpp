@@ -118,5 +118,19 @@ TEST(Program, FidelityGradesEveryFramework) {
     EXPECT_NE(outcome.output.find(line), std::string::npos) << line;
 }
 
+TEST(Program, FidelityNamesTheVersionsOfEachClass) {
+  const std::string page = runSimulator("fidelity").output;
+  for (const char* line : {"### MRUEmbeddingView (15 and earlier)\n",
+                           "### MRUNowPlayingContainerView (all versions)\n",
+                           "| `@property collapsedEmbeddingView` (15 and earlier) | real |",
+                           "| `-[MRUNowPlayingView contentView]` (16 and later) | real |"})
+    EXPECT_NE(page.find(line), std::string::npos) << line;
+  const std::string title = "\n### ";
+  for (auto at = page.find(title); at != std::string::npos; at = page.find(title, at + 1)) {
+    const std::string line = page.substr(at + 1, page.find('\n', at + 1) - at - 1);
+    EXPECT_TRUE(line == "### Functions" || line.ends_with(')')) << line;
+  }
+}
+
 }  // namespace
 }  // namespace sim

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """Plays one evening on phones that each lack one class which the extension looks up, and on one
-that lacks all of them.
+that lacks all of them; on a system of each shape.
 
 usage: run.py SIMULATOR SOURCES SCRIPT
 
 SOURCES is the top of the repository: the classes are those that its sources name. The script says
-with "unless CLASS... :" before a line that the line needs these classes.
+with "unless CLASS... :" before a line that the line needs these classes. Which of them a system has,
+the simulator itself tells.
 """
 
 import pathlib
@@ -13,6 +14,9 @@ import re
 import subprocess
 import sys
 import tempfile
+
+# The version that the extension is made for, and one of each other shape.
+SYSTEMS = ["15.4.1", "14.8", "16.7"]
 
 # Nothing on the phone works without these: not the journal, not the scripts.
 ESSENTIAL = {
@@ -37,26 +41,38 @@ def classes(top):
     return sorted(found - ESSENTIAL - OF_LAYOUTS - SUPERCLASSES)
 
 
-def script_without(absent, template):
-    lines = [f"missing {name}" for name in absent]
+def systems_of(simulator):
+    """The major versions of the system that have it, for each class."""
+    page = subprocess.run([simulator, "fidelity"], text=True, stdout=subprocess.PIPE, check=True).stdout
+    titles = re.findall(r"^### (\w+) \((?:(\d+) and earlier|(\d+) and later|(\d+) to (\d+)|(\d+)|all versions)\)$",
+                        page, re.MULTILINE)
+    if not titles:
+        sys.exit("the fidelity page names no versions")
+    found = {}
+    for name, earlier, later, first, last, only in titles:
+        low, high = later or first or only or "0", earlier or last or only or "1000"
+        found[name] = range(int(low), int(high) + 1)
+    return found
+
+
+def script_without(system, lacking, absent, template):
+    lines = [f"ios {system}", *(f"missing {name}" for name in absent)]
     for line in template.splitlines():
         condition, _, command = line.partition(" : ")
         if condition.startswith("unless "):
-            if set(condition.split()[1:]) & set(absent):
+            if set(condition.split()[1:]) & {*absent, *lacking}:
                 continue
             line = command
         lines.append(line)
     return "\n".join(lines) + "\n"
 
 
-def play(simulator, absent, template, folder):
-    script = folder / "evening.phone"
-    script.write_text(script_without(absent, template), encoding="utf-8")
-    run = subprocess.run([simulator, "play", "--quiet", script], text=True,
-                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-    if run.returncode != 0:
-        print(f"without {', '.join(absent)}: status {run.returncode}\n{run.stdout}", file=sys.stderr)
-    return run.returncode == 0
+def cases(system, names, known):
+    """The classes that the phones of that system are to lack, and those that all of them do."""
+    major = int(system.partition(".")[0])
+    lacking = {name for name in names if name in known and major not in known[name]}
+    there = [name for name in names if name not in lacking]
+    return [[], *([name] for name in there), there], lacking
 
 
 def main(words):
@@ -68,11 +84,18 @@ def main(words):
     if len(names) < 20:
         print(f"only {len(names)} classes found below {top}: {names}", file=sys.stderr)
         return 1
+    known = systems_of(simulator)
     with tempfile.TemporaryDirectory() as folder:
-        cases = [[], *([name] for name in names), names]
-        results = [play(simulator, absent, template, pathlib.Path(folder)) for absent in cases]
-    print(f"{sum(results)} of {len(results)} evenings went as they should")
-    return 0 if all(results) else 1
+        scripts = []
+        for system in SYSTEMS:
+            absences, lacking = cases(system, names, known)
+            for absent in absences:
+                which = absent[0] if len(absent) == 1 else "all" if absent else "nothing"
+                scripts.append(pathlib.Path(folder) / f"{system}-without-{which}.phone")
+                scripts[-1].write_text(script_without(system, lacking, absent, template), encoding="utf-8")
+        status = subprocess.run([simulator, "play", "--quiet", *scripts]).returncode
+    print(f"{len(scripts)} evenings on {', '.join(SYSTEMS)}: status {status}")
+    return status
 
 
 sys.exit(main(sys.argv[1:]))

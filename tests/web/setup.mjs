@@ -36,3 +36,20 @@ phoneTest(
     assert.deepEqual(await lines(served), []);
   },
 );
+
+phoneTest("each version says what to expect of it", {}, async (served, page) => {
+  await page.click("#tab-setup");
+  const said = page.locator("#setup-ios-expectation");
+  assert.match(await said.textContent(), /made for/);
+  const versions = await page
+    .locator("#setup-ios option")
+    .evaluateAll((options) => options.map((option) => option.value));
+  for (const version of versions) {
+    await page.selectOption("#setup-ios", version);
+    const isOfTheNewModule = Number.parseInt(version, 10) >= 16;
+    assert.equal(/^No moon/.test(await said.textContent()), isOfTheNewModule, version);
+  }
+  await andRestart(page, () => page.click("#setup-apply"));
+  assert.deepEqual(await lines(served), [`ios ${versions.at(-1)}`]);
+  assert.match(await said.textContent(), /^No moon/);
+});

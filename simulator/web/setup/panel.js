@@ -2,7 +2,7 @@
 import { post } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
 import { toast } from "../ui/toast.js";
-import { languages, systems, haptics } from "./choices.js";
+import { expectation, haptics, languages, systems } from "./choices.js";
 import { companions, fromLines, standard, toLines } from "./model.js";
 
 const listed = (text) =>
@@ -14,11 +14,13 @@ const listed = (text) =>
 export class SetupPanel {
   #state;
   #parts = {};
+  #expectation = h("small", { id: "setup-ios-expectation" });
   #form;
 
   constructor(state) {
     this.#state = state;
     this.#form = this.#makeForm();
+    this.#parts.ios.addEventListener("change", () => this.#say());
     byId("panel-setup").append(
       h(
         "div",
@@ -76,7 +78,7 @@ export class SetupPanel {
         "label",
         { class: "setting-words", for: `setup-${name}` },
         h("span", { text: label }),
-        help ? h("small", { text: help }) : null,
+        typeof help === "string" ? h("small", { text: help }) : help,
       ),
       control,
     );
@@ -108,7 +110,7 @@ export class SetupPanel {
         this.#row(
           "ios",
           "Version of the system",
-          null,
+          this.#expectation,
           this.#select(
             "ios",
             systems.map((each) => [each, `iOS ${each}`]),
@@ -163,6 +165,10 @@ export class SetupPanel {
     );
   }
 
+  #say() {
+    this.#expectation.textContent = expectation(this.#parts.ios.value);
+  }
+
   #reset() {
     this.#show(fromLines(this.#state.setup?.lines ?? []));
   }
@@ -176,6 +182,7 @@ export class SetupPanel {
   #show(model) {
     const p = this.#parts;
     for (const name of ["ios", "locale", "haptics"]) this.#choose(p[name], model[name]);
+    this.#say();
     for (const name of ["bluetooth", "shortcuts", "missing", "others"])
       p[name].value = model[name].join("\n");
     p.runner.checked = model.runner;

@@ -22,6 +22,7 @@ Object CCUICAPackageView::initWithFrame(CGRect frame) {
 }
 
 void CCUICAPackageView::setPackage(Object given) {
+  if (package.get() == given) return;
   if (const CAPackage* before = stateOf<CAPackage>(package))
     send<void, "removeFromSuperlayer">(before->rootLayer.get());
   package = objc::retain(given);
@@ -34,7 +35,6 @@ void CCUICAPackageView::setPackage(Object given) {
   stateController = objc::adopt(
       send<Object, "initWithLayer:">(objc_alloc(objc_getClass("CAStateController")), root));
   send<void, "setInitialStatesOfLayer:">(stateController.get(), root);
-  setStateName(stateName);
   placeContent();
 }
 
@@ -50,13 +50,11 @@ void CCUICAPackageView::setScale(double factor) {
 }
 
 void CCUICAPackageView::setStateName(Object name) {
-  stateName = objc::adopt(send<Object, "copy">(name));
   const CAPackage* shown = stateOf<CAPackage>(package);
   const Object root = shown != nullptr ? shown->rootLayer.get() : Object();
   const Object state = send<Object, "stateWithName:">(root, name);
   const float speed = animationsAreEnabled() ? 1 : 0;
-  if (state)
-    send<void, "setState:ofLayer:transitionSpeed:">(stateController.get(), state, root, speed);
+  send<void, "setState:ofLayer:transitionSpeed:">(stateController.get(), state, root, speed);
 }
 
 void CCUICAPackageView::layoutSubviews() {
@@ -80,14 +78,14 @@ void CCUICAPackageView::registerClass() {
   StandIn<CCUICAPackageView>("ControlCenterUIKit", "CCUICAPackageView", "UIView")
       .method<"initWithFrame:", &CCUICAPackageView::initWithFrame>()
       .partial<"setPackage:", &CCUICAPackageView::setPackage>(
-          "loads also the package that it has already, and keeps the state")
+          "placed at once, where a phone waits for the layout")
       .property<"package", &CCUICAPackageView::package>()
       .method<"setPackageDescription:", &CCUICAPackageView::setPackageDescription>()
       .property<"packageDescription", &CCUICAPackageView::packageDescription>()
-      .method<"setScale:", &CCUICAPackageView::setScale>()
+      .partial<"setScale:", &CCUICAPackageView::setScale>(
+          "placed at once, where a phone waits for the layout")
       .property<"scale", &CCUICAPackageView::scale>()
       .partial<"setStateName:", &CCUICAPackageView::setStateName>("the change is complete at once")
-      .property<"stateName", &CCUICAPackageView::stateName>()
       .method<"layoutSubviews", &CCUICAPackageView::layoutSubviews>()
       .finish();
 }

@@ -11,7 +11,6 @@ struct CCUICAPackageView : objc::Implementation<CCUICAPackageView> {
   objc::Strong<objc::Object> packageDescription;  // CCUICAPackageDescription, when set by it
   objc::Strong<objc::Object> contentView;         // UIView as large as the package's root layer
   objc::Strong<objc::Object> stateController;     // CAStateController of the root layer
-  objc::Strong<objc::Object> stateName;           // NSString
   double scale = 1;                               // of the content view
 
   objc::Object initWithFrame(CGRect frame);
@@ -19,7 +18,7 @@ struct CCUICAPackageView : objc::Implementation<CCUICAPackageView> {
   void setPackage(objc::Object given);
   void setPackageDescription(objc::Object description);
   void setScale(double factor);
-  // A name that is none of the package's changes nothing but stateName.
+  // A name that is none of the package's means no state at all.
   void setStateName(objc::Object name);
   void layoutSubviews();
 

@@ -64,7 +64,7 @@ void Container::registerClass() {
       .method<"viewWillLayoutSubviews", &Container::viewWillLayoutSubviews>()
       .readonlyProperty<"isExpanded", &Container::expanded>()
       .partial<"setExpanded:", &Container::setExpanded>(
-          "one transition, in place at once; the content is told before it")
+          "expands the module itself, where a phone is told by the transition that does")
       .partial<"_didTapModule:", &Container::didTapModule>(
           "a tap does what a long press does, too, on the platform")
       .finish();

@@ -79,12 +79,14 @@ void Controller::registerClass() {
       .readonlyProperty<"nowPlayingViewController", &Controller::nowPlayingViewController>()
       .partial<"loadView", &Controller::loadView>(
           "a UIView before 16, where a phone has an MRUControlCenterView in every version")
-      .method<"viewDidLoad", &Controller::viewDidLoad>()
+      .partial<"viewDidLoad", &Controller::viewDidLoad>(
+          "one player, where a phone before 16 has one for each device")
       .method<"viewWillLayoutSubviews", &Controller::viewWillLayoutSubviews>()
-      .method<"willTransitionToExpandedContentMode:",
-              &Controller::willTransitionToExpandedContentMode>()
-      .method<"nowPlayingViewControllerDidChangeLayout:",
-              &Controller::nowPlayingViewControllerDidChangeLayout>()
+      .partial<"willTransitionToExpandedContentMode:",
+               &Controller::willTransitionToExpandedContentMode>(
+          "a phone is told by didTransitionToExpandedContentMode: only")
+      .partial<"nowPlayingViewControllerDidChangeLayout:",
+               &Controller::nowPlayingViewControllerDidChangeLayout>("the simulator's own")
       .method<"nowPlayingViewController:applyLayout:", &Controller::applyLayout>()
       .method<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>()
       .finish();

@@ -62,7 +62,9 @@ void MRUEmbeddingView::registerClass() {
       .method<"setEmbeddedViewController:", &MRUEmbeddingView::setEmbeddedViewController>()
       .method<"removeViewController", &MRUEmbeddingView::removeViewController>()
       .partial<"showViewController", &MRUEmbeddingView::showViewController>(
-          "shows at any time, where a phone needs a parent and waits until it is active")
+          "shows at any time, by the responder chain, where a phone has a parent, is active or "
+          "not, "
+          "and can hide")
       .method<"sizeThatFits:", &MRUEmbeddingView::sizeThatFits>()
       .method<"layoutSubviews", &MRUEmbeddingView::layoutSubviews>()
       .finish();

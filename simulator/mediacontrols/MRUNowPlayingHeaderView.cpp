@@ -101,12 +101,14 @@ void MRUNowPlayingHeaderView::registerClass() {
       .property<"routingButton", &MRUNowPlayingHeaderView::routingButton>()
       .readonlyProperty<"layout", &MRUNowPlayingHeaderView::layout>()
       .partial<"setLayout:", &MRUNowPlayingHeaderView::setLayout>(
-          "layouts 0 to 3 only; another looks like the full player")
+          "layouts 0 to 3 only, of which 3 is the lock screen's, 4 on later phones; another looks "
+          "like "
+          "the full player; the same layout again is laid out again")
       .readonlyProperty<"showRoutingButton", &MRUNowPlayingHeaderView::showRoutingButton>()
       .partial<"setShowRoutingButton:", &MRUNowPlayingHeaderView::setShowRoutingButton>(
           "hides the button, where a phone makes it transparent")
       .partial<"layoutSubviews", &MRUNowPlayingHeaderView::layoutSubviews>(
-          "measures of the simulator's own")
+          "measures of the simulator's own, the same in languages from the right")
       .finish();
 }
 

@@ -66,7 +66,7 @@ void MRUNowPlayingLabelView::registerClass() {
       .method<"artist", &MRUNowPlayingLabelView::artist>()
       .method<"setArtist:", &MRUNowPlayingLabelView::setArtist>()
       .partial<"sizeThatFits:", &MRUNowPlayingLabelView::sizeThatFits>(
-          "long titles break into two lines instead of moving")
+          "long titles break into two lines instead of moving, and no line names the route")
       .method<"layoutSubviews", &MRUNowPlayingLabelView::layoutSubviews>()
       .finish();
 }

@@ -61,7 +61,9 @@ void MRUNowPlayingRoutingButton::layoutSubviews() {
 
 void MRUNowPlayingRoutingButton::registerClass() {
   StandIn<MRUNowPlayingRoutingButton>("MediaControls", "MRUNowPlayingRoutingButton", "UIControl")
-      .method<"initWithFrame:", &MRUNowPlayingRoutingButton::initWithFrame>()
+      .partial<"initWithFrame:", &MRUNowPlayingRoutingButton::initWithFrame>(
+          "a UIControl, where a phone has a UIButton's subclass with title, image and states, and "
+          "touches reach beyond the frame of the host's own")
       .property<"packageView", &MRUNowPlayingRoutingButton::packageView>()
       .method<"isActive", &MRUNowPlayingRoutingButton::isActive>()
       .partial<"setActive:", &MRUNowPlayingRoutingButton::setActive>(

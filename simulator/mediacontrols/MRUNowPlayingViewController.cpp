@@ -235,7 +235,10 @@ void Controller::stopWatching() {
 
 void Controller::registerClass() {
   StandIn<Controller>("MediaControls", "MRUNowPlayingViewController", "UIViewController")
-      .method<"initWithNibName:bundle:", &Controller::initWithNibName_bundle>()
+      .partial<"initWithNibName:bundle:", &Controller::initWithNibName_bundle>(
+          "a phone makes it for an endpoint and with a way to show the routes; before 16 the "
+          "routes "
+          "are there from the start")
       .readonlyProperty<"routingViewController", &Controller::routingViewController>()
       .method<"delegate", &Controller::itsDelegate>()
       .method<"setDelegate:", &Controller::setDelegate>()
@@ -247,7 +250,8 @@ void Controller::registerClass() {
       .readonlyProperty<"layout", &Controller::layout>()
       .method<"setLayout:", &Controller::setLayout>()
       .partial<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>(
-          "closing goes back to the layout of before, where a phone stays expanded")
+          "before 16 at once, and closing goes back to the layout of before, where a phone expands "
+          "the module first and stays expanded; never the system's sheet")
       .partial<"presentRoutingControlsFromSourceView:", &Controller::presentRoutingControls>(
           "never the system's sheet")
       .method<"transportControlsView:didSelectRoutingButton:",

@@ -1,6 +1,8 @@
 #include "simulator/mediaremote/AudioSystem.h"
 
+#include <cmath>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "simulator/machine/Phone.h"
 
@@ -13,6 +15,12 @@ constexpr float volumeOfANewPhone = 0.5F;
 float held(float level) {
   if (!(level > 0)) return 0;
   return level < 1 ? level : 1;
+}
+
+float nearestStep(float level, int steps) {
+  if (steps == 0) return level;
+  const auto all = float(steps);
+  return std::round(level * all) / all;
 }
 
 }  // namespace
@@ -32,14 +40,32 @@ float AudioSystem::volume(std::string_view category) const {
 }
 
 void AudioSystem::setVolume(float level, std::string_view category) {
+  if (store(level, category)) announce(category);
+}
+
+void AudioSystem::write(float level, std::string_view category) {
+  if (!store(level, category)) return;
+  phone_.queue.addNow([this, category = std::string(category)] { announce(category); });
+}
+
+bool AudioSystem::store(float level, std::string_view category) {
   const float before = volume(category);
-  const float after = held(level);
+  float after = held(level);
+  if (category == mediaCategory) after = nearestStep(after, route_.steps);
   volumes_.insert_or_assign(std::string(category), after);
-  if (after == before) return;
-  if (!indicatorSuppressed_) phone_.journal.record("HUD volume " + notation(after));
+  return after != before;
+}
+
+void AudioSystem::announce(std::string_view category) {
+  if (!indicatorSuppressed_) phone_.journal.record("HUD volume " + notation(volume(category)));
   if (category != mediaCategory) return;
   const auto now = observers_;  // one of them may forget another
   for (const auto& [number, observer] : now) observer();
+}
+
+void AudioSystem::setRoute(AudioRoute route) {
+  route_ = std::move(route);
+  store(volume(), mediaCategory);
 }
 
 long AudioSystem::observe(std::function<void()> observer) {
@@ -48,14 +74,16 @@ long AudioSystem::observe(std::function<void()> observer) {
 }
 
 nlohmann::json AudioSystem::save() const {
-  auto saved = nlohmann::json::object();
-  for (const auto& [category, level] : volumes_) saved[category] = level;
-  return saved;
+  auto volumes = nlohmann::json::object();
+  for (const auto& [category, level] : volumes_) volumes[category] = level;
+  return {{"volumes", std::move(volumes)}, {"route", route_.name}, {"steps", route_.steps}};
 }
 
 void AudioSystem::restore(const nlohmann::json& saved) {
   volumes_.clear();
-  for (const auto& [category, level] : saved.items()) volumes_[category] = level.get<float>();
+  for (const auto& [category, level] : saved.at("volumes").items())
+    volumes_[category] = level.get<float>();
+  route_ = {saved.at("route").get<std::string>(), saved.at("steps").get<int>()};
 }
 
 }  // namespace sim

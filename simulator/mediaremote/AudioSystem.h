@@ -14,6 +14,12 @@ namespace sim {
 // The category of music and films.
 inline constexpr std::string_view mediaCategory = "Audio/Video";
 
+// Where the sound goes.
+struct AudioRoute {
+  std::string name = "iPhone";
+  int steps = 0;  // from silent to full; a volume lies on one of them. 0: any volume
+};
+
 class AudioSystem {
  public:
   explicit AudioSystem(Phone& phone);
@@ -26,8 +32,17 @@ class AudioSystem {
 
   // From 0 (silent) to 1 (full). A category that nobody has set is at half volume.
   float volume(std::string_view category = mediaCategory) const;
-  // Held to 0..1; not-a-number counts as 0. A change shows the indicator unless suppressed.
+  // Held to 0..1; not-a-number counts as 0. The media volume goes to the nearest step of the route.
+  // A change shows the indicator unless suppressed.
   void setVolume(float level, std::string_view category = mediaCategory);
+  // As the host's own writes, which a queue of the sound's process carries out one after the other:
+  // a volume read afterwards waits for them, and so sees them at once, but the host hears of a
+  // change only when its main queue comes to it.
+  void write(float level, std::string_view category);
+
+  const AudioRoute& route() const { return route_; }
+  // The media volume stays as near as the route allows, and nobody is told of the difference.
+  void setRoute(AudioRoute route);
 
   // Called after every change of the media volume, until the observer is forgotten by its number.
   long observe(std::function<void()> observer);
@@ -37,6 +52,8 @@ class AudioSystem {
   void setIndicatorSuppressed(bool suppressed) { indicatorSuppressed_ = suppressed; }
 
  private:
+  bool store(float level, std::string_view category);  // whether that is a change
+  void announce(std::string_view category);
   nlohmann::json save() const;
   void restore(const nlohmann::json& saved);
 
@@ -44,6 +61,7 @@ class AudioSystem {
   std::map<std::string, float, std::less<>> volumes_;
   std::map<long, std::function<void()>> observers_;
   long lastObserver_ = 0;
+  AudioRoute route_;
   bool indicatorSuppressed_ = false;
 };
 

@@ -46,7 +46,8 @@ json PlayerView::now() {
                {"playing", present.playing},
                {"position", position_},
                {"at", seconds(uptime_)},
-               {"volume", rounded(AudioSystem::current().volume())}};
+               {"volume", rounded(AudioSystem::current().volume())},
+               {"route", AudioSystem::current().route().name}};
   describe(view, player.track(), library_);
   return view;
 }

@@ -1,5 +1,6 @@
 #include "simulator/springboard/SBVolumeControl.h"
 
+#include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/AudioSystem.h"
@@ -18,15 +19,20 @@ float SBVolumeControl::mediaVolume() {
 void SBVolumeControl::setVolume_forCategory(float level, objc::Object category) {
   Phone::current().journal.record("-[SBVolumeControl setVolume:" + notation(level) +
                                   " forCategory:" + notation(category) + ']');
-  AudioSystem::current().setVolume(level, text(category));
+  if (!category)
+    raiseException("NSInternalInconsistencyException",
+                   methodName(objc::Object(self()), "setVolume:forCategory:") +
+                       ": there is no category of nothing");
+  AudioSystem::current().write(level, text(category));
 }
 
 void SBVolumeControl::registerClass() {
   StandIn<SBVolumeControl>("SpringBoard", "SBVolumeControl", "NSObject")
       .classMethod<"sharedInstance", &SBVolumeControl::sharedInstance>()
-      .method<"_getMediaVolumeForIAP", &SBVolumeControl::mediaVolume>()
+      .partial<"_getMediaVolumeForIAP", &SBVolumeControl::mediaVolume>(
+          "sees what was written before, as a phone does, but never keeps the main thread waiting")
       .partial<"setVolume:forCategory:", &SBVolumeControl::setVolume_forCategory>(
-          "at once, where a phone sets it on a queue of its own")
+          "takes no time; one volume for all routes, which go to the nearest step")
       .finish();
 }
 

@@ -10,7 +10,7 @@ struct SBVolumeControl : objc::Implementation<SBVolumeControl> {
   static objc::Object sharedInstance();
 
   float mediaVolume();  // 0 to 1
-  // Held to 0..1; callers rely on it.
+  // Held to 0..1; callers rely on it. A nil category is an exception.
   void setVolume_forCategory(float level, objc::Object category);
 
   static void registerClass();

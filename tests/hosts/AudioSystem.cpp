@@ -63,7 +63,27 @@ TEST_F(AudioSystemTest, ASuppressedIndicatorShowsNothing) {
   EXPECT_EQ(count("HUD volume 0.5"), 1);
 }
 
-TEST_F(AudioSystemTest, VolumesSurviveTheHostAndSuppressionDoesNot) {
+TEST_F(AudioSystemTest, ARouteWithStepsHoldsTheNearestOfThem) {
+  audio.setVolume(0.5F);
+  audio.setRoute({"Headset", 16});
+  audio.setVolume(0.47F);
+  EXPECT_EQ(audio.volume(), 0.5F);
+  audio.setVolume(0.46F);
+  EXPECT_EQ(audio.volume(), 0.4375F);
+  audio.setVolume(0.46F, "Ringtone");
+  EXPECT_EQ(audio.volume("Ringtone"), 0.46F);
+}
+
+TEST_F(AudioSystemTest, AWriteIsReadAtOnceAndHeardOfLater) {
+  audio.write(0.25F, mediaCategory);
+  EXPECT_EQ(audio.volume(), 0.25F);
+  EXPECT_TRUE(journal().empty());
+  phone.queue.runDue();
+  EXPECT_EQ(count("HUD volume 0.25"), 1);
+}
+
+TEST_F(AudioSystemTest, VolumesAndRouteSurviveTheHostAndSuppressionDoesNot) {
+  audio.setRoute({"Headset", 16});
   audio.setIndicatorSuppressed(true);
   audio.setVolume(0.125F);
   const auto saved = phone.saveSurvivors();
@@ -72,6 +92,8 @@ TEST_F(AudioSystemTest, VolumesSurviveTheHostAndSuppressionDoesNot) {
   AudioSystem restored{after};
   after.restoreSurvivors(saved);
   EXPECT_EQ(restored.volume(), 0.125F);
+  EXPECT_EQ(restored.route().name, "Headset");
+  EXPECT_EQ(restored.route().steps, 16);
   EXPECT_FALSE(restored.isIndicatorSuppressed());
   EXPECT_TRUE(after.journal.entries().empty());
 }

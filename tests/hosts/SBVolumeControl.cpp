@@ -19,6 +19,7 @@ class SBVolumeControlTest : public TestHost {
 TEST_F(SBVolumeControlTest, SetsTheVolumeOfMusic) {
   setVolume(0.25F, "Audio/Video");
   EXPECT_EQ(mediaVolume(), 0.25F);
+  Phone::current().queue.runDue();
   const std::vector<std::string> expected = {
       "-[SBVolumeControl setVolume:0.25 forCategory:\"Audio/Video\"]", "HUD volume 0.25"};
   EXPECT_EQ(journal(), expected);

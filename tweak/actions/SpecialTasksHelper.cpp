@@ -13,6 +13,13 @@
 
 namespace {
 
+// What a step of a fade-out leaves to the next one, 0 to 1.
+struct FadeStep {
+  double found = 0;
+  double written = 0;           // in single precision, as the host is told it
+  bool changedNothing = false;  // the step found what the one before had found
+};
+
 struct SpecialTasksHelperImplementation : objc::Implementation<SpecialTasksHelperImplementation> {
   double volumeBeforeFadeOut;  // 0 to 1
 
@@ -28,6 +35,7 @@ struct SpecialTasksHelperImplementation : objc::Implementation<SpecialTasksHelpe
   void pauseMusicWithFadeOutVolume(int seconds);
   // One step of a fade-out. The argument is the volume that a step takes away, not a count.
   void doVolumeFadeOutWithSteps(float decrement);
+  void takeFadeStep(float decrement, FadeStep before);
 
   // The actions that the user has chosen, in a fixed order, each setting read just before its
   // step. None waits for another, and none is skipped because another failed.
@@ -121,15 +129,30 @@ void Tasks::pauseMusicWithFadeOutVolume(int seconds) {
   doVolumeFadeOutWithSteps(float(volumeBeforeFadeOut / steps));
 }
 
-// The volume is read again at every step: the user who makes it louder has a longer fade, and the
-// user who silences the phone ends it.
 void Tasks::doVolumeFadeOutWithSteps(float decrement) {
+  takeFadeStep(decrement, FadeStep());
+}
+
+// The volume is read again at every step: the user who makes it louder has a longer fade, and the
+// user who silences the phone ends it. But a route that knows only some volumes, as Bluetooth does,
+// rounds what a short step asks for back to where it was; a fade that went on from what it reads
+// would never end there. Two such steps in a row, so that nobody's hand is taken for a route, and
+// it goes on from what it has last asked for, until the volume moves.
+void Tasks::takeFadeStep(float decrement, FadeStep before) {
   const auto controller = SBMediaController::sharedInstance();
-  if (getVolume() > 0.0) {
+  FadeStep step{.found = getVolume()};
+  if (step.found > 0.0) {
+    step.changedNothing = before.written < step.found && step.found == before.found;
+    const bool isRounded = step.changedNothing && before.changedNothing;
+    step.written = float((isRounded ? before.written : step.found) - decrement);
     controller.setSuppressHUD(true);
-    changeVolumeBy(-decrement);
+    if (isRounded) {
+      setVolume(step.written);
+    } else {
+      changeVolumeBy(-decrement);
+    }
     dispatch::onMainAfter(stepNanoseconds,
-                          [decrement] { getInstance().doVolumeFadeOutWithSteps(decrement); });
+                          [decrement, step] { getInstance().takeFadeStep(decrement, step); });
   } else {
     pauseMusic();
     restoreVolumeLater(controller);

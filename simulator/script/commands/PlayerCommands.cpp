@@ -95,6 +95,19 @@ void volume(Arguments& words) {
   AudioSystem::current().setVolume(level);
 }
 
+void route(Arguments& words) {
+  constexpr long mostSteps = 1L << 20;
+  AudioRoute route{words.text("the name of a route"), 0};
+  if (!words.takeKeyword("exact")) {
+    const long steps = words.integer("the number of its steps, or exact");
+    if (steps < 1 || steps > mostSteps) words.failHere("a route has at least one step");
+    route.steps = int(steps);
+  }
+  words.finish();
+  Phone::current().journal.record("user route " + sim::quoted(route.name));
+  AudioSystem::current().setRoute(std::move(route));
+}
+
 // A press of the key, as the phone counts them.
 template <int direction>
 void volumeKey(Arguments& words) {
@@ -205,6 +218,12 @@ void addPlayerCommands(CommandTable& table) {
              }});
   table.add({"volume", Stage::any, "volume LEVEL", "volume 0.5",
              "The user sets the media volume, from 0 to 1.", volume});
+  table.add(
+      {"route", Stage::any, "route NAME STEPS|exact", "route \"Pillow Speaker\" 16",
+       "The sound goes that way, which knows so many steps of volume from silent to full: what "
+       "is set goes to the nearest one, and that is what is read back. Without this line the "
+       "volume is exactly what was set.",
+       route});
   table.add({"volume-up", Stage::any, "volume-up", "volume-up",
              "The user presses the key that makes the music louder by a sixteenth.", volumeKey<1>});
   table.add({"volume-down", Stage::any, "volume-down", "volume-down",

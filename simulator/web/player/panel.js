@@ -124,6 +124,7 @@ export class MusicPanel {
     p.seek.disabled = !player?.length;
     if (!p.volume.matches(":active")) p.volume.value = player?.volume ?? 0;
     p.volume.style.setProperty("--part", player?.volume ?? 0);
+    p.volume.title = player ? `The sound goes to ${player.route}` : "";
     this.#showCover(player?.file ?? null);
     this.#list.show();
     this.#showPosition();

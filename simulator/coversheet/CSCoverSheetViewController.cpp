@@ -107,7 +107,7 @@ void Controller::viewWillLayoutSubviews() {
   setFrame(timeLabel, {{0, clockTop}, {size.width, clockHeight}});
   const CGSize line = sizeOf(dateView);
   setFrame(dateView, {{(size.width - line.width) / 2, clockTop + clockHeight}, line});
-  setFrame(countdownLabel, {{0, clockTop + clockHeight + line.height + 6}, {size.width, 22}});
+  setFrame(countdownLabel, {{0, clockTop + clockHeight}, {size.width, 22}});
   const double width = std::min(size.width, 390.0) - 2 * margin;
   if (mediaControlsViewController)
     setFrame(viewOf(mediaControlsViewController),
@@ -130,6 +130,7 @@ void Controller::showTime() {
 }
 
 void Controller::showCountdown(std::optional<double> secondsLeft) {
+  objc::send<void, "setHidden:">(dateView.get(), secondsLeft.has_value());
   setText(countdownLabel, secondsLeft ? string(countdownText(*secondsLeft)) : Object());
 }
 

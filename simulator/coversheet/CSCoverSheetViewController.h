@@ -23,7 +23,7 @@ struct CSCoverSheetViewController : objc::Implementation<CSCoverSheetViewControl
   void viewWillAppear(bool animated);
   void viewDidDisappear(bool animated);
   void viewWillLayoutSubviews();
-  // Below the date; nothing when there is none.
+  // In place of the date; nothing when there is none.
   void showCountdown(std::optional<double> secondsLeft);
   // The line under the clock, which is made elsewhere.
   void setDateView(objc::Object view);

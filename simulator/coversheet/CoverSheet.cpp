@@ -2,10 +2,12 @@
 #include "simulator/coversheet/CSCoverSheetViewController.h"
 #include "simulator/coversheet/CSMediaControlsViewController.h"
 #include "simulator/coversheet/CSTimerViewController.h"
+#include "simulator/coversheet/LockScreen.h"
 #include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
 #include "simulator/coversheet/SBFLockScreenDateSubtitleView.h"
 #include "simulator/coversheet/SBLockScreenManager.h"
 #include "simulator/coversheet/SBUILegibilityLabel.h"
+#include "simulator/springboard/SpringBoard.h"
 #include "simulator/standin/Registration.h"
 
 namespace sim {
@@ -19,6 +21,7 @@ void registerCoverSheet() {
   CSMediaControlsViewController::registerClass();
   CSCoverSheetViewController::registerClass();
   SBLockScreenManager::registerClass();
+  addLaunchTask([] { LockScreen::current().makeTimerController(); });
 }
 
 }  // namespace sim

@@ -6,7 +6,9 @@
 
 #include "objc/Message.h"
 #include "simulator/coversheet/CSCoverSheetViewController.h"
+#include "simulator/coversheet/CSTimerViewController.h"
 #include "simulator/foundation/Deadline.h"
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/springboard/StatusBar.h"
@@ -29,7 +31,8 @@ LockScreen& LockScreen::current() {
 void LockScreen::lock() {
   locked_ = true;
   for (const auto& handler : lockHandlers_) handler();
-  if (!hasParts_) makeParts();
+  if (!std::exchange(hasDateView_, true))
+    dateView_ = objc::Object(objc_alloc_init(objc_getClass("SBFLockScreenDateSubtitleDateView")));
   const double now = Phone::current().clock.wall();
   drawDate(now);
   redrawAt(midnightAfter(now));
@@ -53,6 +56,7 @@ void LockScreen::showCoverSheet() {
   objc::send<void, "setWindowLevel:">(window_, windowLevel);
   objc::send<void, "setRootViewController:">(window_, sheet.get());
   objc::send<void, "setHidden:">(window_, false);
+  objc::send<void, "setDelegate:">(timerController_, sheet.get());
   setStatusBarShowsTime(false);
   followCountdown();
 }
@@ -70,11 +74,10 @@ objc::Object LockScreen::coverSheet() const {
   return objc::send<objc::Object, "rootViewController">(window_);
 }
 
-void LockScreen::makeParts() {
-  hasParts_ = true;
+void LockScreen::makeTimerController() {
   timerController_ = objc::send<objc::Object, "initWithNibName:bundle:">(
       objc_alloc(objc_getClass("CSTimerViewController")), nullptr, nullptr);
-  dateView_ = objc::Object(objc_alloc_init(objc_getClass("SBFLockScreenDateSubtitleDateView")));
+  objc::send<void, "setEnabled:">(timerController_, true);
 }
 
 void LockScreen::drawDate(double moment) {
@@ -100,9 +103,9 @@ std::optional<std::string> LockScreen::dateText() const {
 }
 
 std::optional<double> LockScreen::countdown() const {
-  const auto end = objc::send<objc::Object, "endDate">(timerController_);
-  if (!end) return std::nullopt;
-  const double left = objc::send<double, "timeIntervalSinceNow">(end);
+  const auto* controller = stateOf<CSTimerViewController>(timerController_);
+  if (controller == nullptr || !controller->counts()) return std::nullopt;
+  const double left = objc::send<double, "timeIntervalSinceNow">(controller->endDate.get());
   return left > 0 ? std::optional(left) : std::nullopt;
 }
 

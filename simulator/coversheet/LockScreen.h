@@ -1,4 +1,4 @@
-// The host's lock screen: makes its parts when it is first shown, and keeps its date right.
+// The host's lock screen: makes its date line when it is first shown, and keeps the date right.
 #pragma once
 
 #include <functional>
@@ -18,6 +18,8 @@ class LockScreen {
   static LockScreen& current();
 
   bool isLocked() const { return locked_; }
+  // The countdown is there from the host's launch on, which does this.
+  void makeTimerController();
   void lock();
   void unlock();
   // Called whenever the phone is locked, before the lock screen is there.
@@ -25,13 +27,13 @@ class LockScreen {
   // CSCoverSheetViewController; nil while the phone is not locked.
   objc::Object coverSheet() const;
 
-  // What the line under the clock shows; nothing before the phone was first locked.
+  // What the date line says, also while a countdown takes its place; nothing before the phone was
+  // first locked.
   std::optional<std::string> dateText() const;
   // Seconds until the countdown ends; nothing when there is no countdown.
   std::optional<double> countdown() const;
 
  private:
-  void makeParts();
   void showCoverSheet();
   void followCountdown();
   // Both in seconds since the reference date.
@@ -40,11 +42,11 @@ class LockScreen {
 
   bool locked_ = false;
   std::vector<std::function<void()>> lockHandlers_;
-  // Owned, and never given up. nil before the phone was first locked, or without the class.
+  // Owned, and never given up. nil without the class; the date line also before the first lock.
   objc::Object timerController_;  // CSTimerViewController
   objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView
   objc::Object window_;           // UIWindow; owned, nil while the phone is not locked
-  bool hasParts_ = false;
+  bool hasDateView_ = false;
   bool followsCountdown_ = false;
   MainQueue::Ticket nextDrawing_ = 0;
 };

@@ -1,5 +1,8 @@
 #include "simulator/springboard/SpringBoard.h"
 
+#include <utility>
+#include <vector>
+
 #include "simulator/machine/Phone.h"
 #include "simulator/springboard/HomeScreen.h"
 #include "simulator/springboard/StatusBar.h"
@@ -7,9 +10,21 @@
 #include "simulator/standin/StandIn.h"
 
 namespace sim {
+namespace {
+
+struct LaunchTasks {
+  std::vector<std::function<void()>> all;
+};
+
+}  // namespace
+
+void addLaunchTask(std::function<void()> task) {
+  Phone::current().state<LaunchTasks>().all.push_back(std::move(task));
+}
 
 void SpringBoard::applicationDidFinishLaunching(objc::Object) {
   Phone::current().journal.record("-[SpringBoard applicationDidFinishLaunching:]");
+  for (const auto& task : Phone::current().state<LaunchTasks>().all) task();
 }
 
 void SpringBoard::registerClass() {

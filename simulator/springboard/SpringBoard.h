@@ -1,6 +1,8 @@
 // The host: the phone's home-screen application.
 #pragma once
 
+#include <functional>
+
 #include "objc/Class.h"
 
 namespace sim {
@@ -10,5 +12,8 @@ struct SpringBoard : objc::Implementation<SpringBoard> {
 
   static void registerClass();
 };
+
+// Done inside applicationDidFinishLaunching:, for frameworks that build upon this one.
+void addLaunchTask(std::function<void()> task);
 
 }  // namespace sim

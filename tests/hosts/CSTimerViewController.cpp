@@ -1,3 +1,4 @@
+#include "simulator/coversheet/ClockTimer.h"
 #include "tests/hosts/TestHost.h"
 
 namespace sim {
@@ -7,14 +8,19 @@ class CSTimerViewControllerTest : public TestHost {
  protected:
   CSTimerViewControllerTest() { boot(); }
 
-  static objc::Strong<objc::Object> make() {
-    return objc::adopt(objc::send<objc::Object, "new">(objc_getClass("CSTimerViewController")));
+  // Enabled, and past what the Clock answers to its first question.
+  objc::Strong<objc::Object> make() {
+    auto made =
+        objc::adopt(objc::send<objc::Object, "new">(objc_getClass("CSTimerViewController")));
+    objc::send<void, "setEnabled:">(made.get(), true);
+    phone.queue.runDue();
+    return made;
   }
   void countDown(objc::Object controller, double duration) {
     objc::send<void, "setEndDate:">(controller, date(phone.clock.wall() + duration));
   }
   static bool counts(objc::Object controller) {
-    return bool(objc::send<objc::Object, "endDate">(controller));
+    return bool(objc::send<objc::Object, "_endDate">(controller));
   }
 };
 
@@ -50,11 +56,29 @@ TEST_F(CSTimerViewControllerTest, NoDateRemovesIt) {
   EXPECT_EQ(count(ended), 0);
 }
 
-TEST_F(CSTimerViewControllerTest, ADateInThePastIsOverAtOnce) {
+TEST_F(CSTimerViewControllerTest, ADateInThePastStartsNothing) {
   const auto controller = make();
   countDown(controller.get(), -60);
-  advance(0);
+  advance(1000);
+  EXPECT_EQ(count(ended), 0);
+}
+
+TEST_F(CSTimerViewControllerTest, TheSameDateAgainChangesNothing) {
+  const auto controller = make();
+  const objc::Object end = date(phone.clock.wall() + 60);
+  objc::send<void, "setEndDate:">(controller.get(), end);
+  objc::send<void, "setEndDate:">(controller.get(), end);
+  EXPECT_EQ(count("-[CSTimerViewController setEndDate:2027-01-01 22:01:00 +0000]"), 1);
+}
+
+TEST_F(CSTimerViewControllerTest, TheClockAnswersAfterTheTurnInWhichItWasAsked) {
+  const auto controller = make();
+  ClockTimer::current().start(60);
   EXPECT_FALSE(counts(controller.get()));
+  countDown(controller.get(), 90);
+  advance(0);
+  advance(1000);
+  EXPECT_EQ(timeOf(ended), 60);
 }
 
 TEST_F(CSTimerViewControllerTest, FollowsAWallClockThatIsSetBack) {

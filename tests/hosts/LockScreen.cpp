@@ -23,9 +23,10 @@ void countDrawing(objc::Original<void(objc::Object, objc::Object, objc::Object)>
   original(view, date, timeZone);
 }
 
-TEST_F(LockScreenTest, IsMadeWhenThePhoneIsFirstLocked) {
+TEST_F(LockScreenTest, IsMadeWhenThePhoneIsFirstLockedButForItsCountdown) {
   boot();
-  EXPECT_EQ(controllers(), 0U);
+  launchSpringBoard();
+  EXPECT_EQ(controllers(), 1U);
   EXPECT_FALSE(screen().dateText());
   screen().lock();
   screen().unlock();

@@ -28,20 +28,23 @@ CSTimerViewController initTimerController(
 }
 
 void startCountdown(DozewellTimerController self, objc::Object end) {
-  self.setEndDate(objc::as<NSDate>(end));
+  self.showEndDate(objc::as<NSDate>(end));
 }
 
 void stopCountdown(DozewellTimerController self) {
-  self.setEndDate(nullptr);
+  self.showEndDate(nullptr);
 }
 
 void setDate(objc::Original<void(DozewellDateView, objc::Object, objc::Object)> original,
              DozewellDateView self, objc::Object date, objc::Object timeZone) {
   original(self, date, timeZone);
   DozewellDateView::setNewest(self);
-  // The host redraws the date when it likes; the songs left must survive it.
-  if (Dozewell2StorageManager::sharedInstance().showIndicatorOnNC() &&
-      Dozewell2Manager::sharedInstance().nbSongsModeIsRunning())
+  if (!Dozewell2StorageManager::sharedInstance().showIndicatorOnNC()) return;
+  // The host redraws the date when it likes, at the latest when the phone is locked. The songs left
+  // must survive it; and the countdown, which somebody else may have taken away, is seen from then
+  // on.
+  DozewellTimerController::showEndDateAgain();
+  if (Dozewell2Manager::sharedInstance().nbSongsModeIsRunning())
     self.dozewell_setNbTracksLeftText();
 }
 

@@ -5,6 +5,7 @@
 namespace {
 
 objc::Global<objc::Strong<CSTimerViewController>> newestTimerController;
+objc::Global<objc::Strong<NSDate>> endDateShown;  // nil: no countdown of ours
 objc::Global<objc::Strong<SBFLockScreenDateSubtitleDateView>> newestDateView;
 
 }  // namespace
@@ -15,6 +16,16 @@ DozewellTimerController DozewellTimerController::newest() {
 
 void DozewellTimerController::setNewest(CSTimerViewController controller) {
   *newestTimerController = objc::retain(controller);
+}
+
+void DozewellTimerController::showEndDate(NSDate end) const {
+  *endDateShown = objc::retain(end);
+  setEndDate(end);
+}
+
+void DozewellTimerController::showEndDateAgain() {
+  const NSDate end = endDateShown->get();
+  if (end.timeIntervalSinceNow() > 0) newest().setEndDate(end);
 }
 
 DozewellDateView DozewellDateView::newest() {

@@ -8,8 +8,7 @@
 struct DozewellTimerController : CSTimerViewController {
   using CSTimerViewController::CSTimerViewController;
 
-  // The one that the host made last, kept alive until it makes the next; nil before the lock
-  // screen was first shown.
+  // The one that the host made last, kept alive until it makes the next; nil before.
   static DozewellTimerController newest();
   static void setNewest(CSTimerViewController controller);
 
@@ -18,6 +17,14 @@ struct DozewellTimerController : CSTimerViewController {
     objc::send<void, "dozewell_startTimerWithDate:">(*this, end);
   }
   void dozewell_stopTimer() const { objc::send<void, "dozewell_stopTimer">(*this); }
+
+  // Counts down to that date; nil shows no countdown.
+  void showEndDate(NSDate end) const;
+  // The countdown is the Clock's, which puts its own date, or none, there whenever its timer
+  // changes and when the host has launched. The date that was shown last is sent again while it
+  // lies ahead: the very object, which the host does not start anew when it still counts down to
+  // it.
+  static void showEndDateAgain();
 };
 
 // The date line, for songs. Main thread.

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "objc/Message.h"
+#include "simulator/coversheet/ClockTimer.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/script/Command.h"
@@ -22,6 +23,21 @@ void unlock(Arguments& words) {
   words.finish();
   Phone::current().journal.record("user unlock");
   LockScreen::current().unlock();
+}
+
+void clockTimer(Arguments& words) {
+  if (words.takeKeyword("stop")) {
+    words.finish();
+    Phone::current().journal.record("user clock-timer stop");
+    ClockTimer::current().stop();
+    return;
+  }
+  if (!words.takeKeyword("start")) words.failHere("expected start or stop");
+  const double duration = words.number("seconds");
+  if (!(duration > 0)) words.failHere("a timer lasts longer than 0 seconds");
+  words.finish();
+  Phone::current().journal.record("user clock-timer start " + notation(duration));
+  ClockTimer::current().start(duration);
 }
 
 [[noreturn]] void refuseLockScreen(const std::string& what, const std::string& expected,
@@ -69,6 +85,13 @@ objc::Object lockScreenHeader() {
 }  // namespace
 
 void addLockScreenCommands(CommandTable& table) {
+  ClockTimer::current();  // exists before a restart's saved state is given back to it
+  table.add(
+      {"clock-timer", Stage::any, "clock-timer start SECONDS|stop", "clock-timer start 300",
+       "The user starts or stops the timer of the Clock, whose countdown the lock screen shows. "
+       "The lock screen hears of each change, and of what runs when the host launches, a moment "
+       "later.",
+       clockTimer});
   table.add({"lock", Stage::running, "lock", "lock",
              "The user locks the phone; the lock screen draws its date. A new host has no lock "
              "screen before this. While it shows a player, $lockScreenNowPlaying and "
@@ -79,7 +102,8 @@ void addLockScreenCommands(CommandTable& table) {
   table.add({"unlock", Stage::running, "unlock", "unlock", "The user unlocks the phone.", unlock});
   table.add({"expect-lock-screen-date", Stage::running, "expect-lock-screen-date TEXT|none",
              "expect-lock-screen-date \"Friday, January 1\"",
-             "The line under the lock screen's clock.", expectDate});
+             "What the date line under the lock screen's clock says. A countdown takes its place.",
+             expectDate});
   table.add({"expect-lock-screen-timer", Stage::running,
              "expect-lock-screen-timer SECONDS|none [within TOLERANCE]",
              "expect-lock-screen-timer 60 within 0.5",

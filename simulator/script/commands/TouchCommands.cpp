@@ -9,6 +9,7 @@
 #include "simulator/script/commands/UIKitCommands.h"
 #include "simulator/script/values/Literal.h"
 #include "simulator/script/values/Target.h"
+#include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/controls/UISlider.h"
 #include "simulator/uikit/pickers/PickerTouches.h"
@@ -100,14 +101,17 @@ void slide(Arguments& words) {
   Finger::current().touch(view, view, knob, to);
 }
 
-// Each shake ends with its state back at 0.
+// Nothing is felt while the screen is off.
 void shake(Arguments& words) {
+  const bool isCancelled = words.takeKeyword("cancelled");
   words.finish();
   if (UIMotionEvent::cls() == nullptr) throw ScriptError(0, "this phone lacks UIMotionEvent");
-  record("shake");
+  record(isCancelled ? "shake cancelled" : "shake");
+  if (!UIScreen::isLit()) return;
   const auto event = UIMotionEvent::make();
-  objc::send<void, "setShakeState:">(event.get(), 1);
-  objc::send<void, "setShakeState:">(event.get(), 0);
+  UIMotionEvent& motion = UIMotionEvent::of(event.get());
+  motion.enter(UIMotionEvent::began);
+  motion.enter(isCancelled ? UIMotionEvent::cancelled : UIMotionEvent::ended);
 }
 
 }  // namespace
@@ -127,9 +131,12 @@ void addTouchCommands(CommandTable& table) {
              "way and the time until they rest. A picker in no window is taken as alone on the "
              "screen.",
              select});
-  table.add({"shake", Stage::running, "shake", "shake",
-             "The user shakes the phone: the shake state of a motion event becomes 1, then 0.",
-             shake});
+  table.add(
+      {"shake", Stage::running, "shake [cancelled]", "shake",
+       "The user shakes the phone: the shake state of a motion event becomes 0 as the movement "
+       "begins, then 1. Cancelled it is no shake in the end, as when the phone is picked up: 0, "
+       "then 2. With the screen off nothing is felt.",
+       shake});
   table.add({"slide", Stage::running, "slide TARGET VALUE", "slide $slider 0.25",
              "The user drags the knob of a slider to a value: a finger comes down on the knob, "
              "moves once and leaves it. It fails where `tap` would.",

@@ -3,6 +3,27 @@
 #include "simulator/standin/StandIn.h"
 
 namespace sim {
+namespace {
+
+template <objc::FixedString Selector>
+void deliver(objc::Object event) {
+  constexpr long motionShake = 1;
+  auto responder = objc::send<objc::Object, "keyWindow">(
+      objc::send<objc::Object, "sharedApplication">(objc_getClass("UIApplication")));
+  while (responder && !objc::respondsTo<Selector>(responder))
+    responder = objc::send<objc::Object, "nextResponder">(responder);
+  if (responder) objc::send<void, Selector>(responder, motionShake, event);
+}
+
+}  // namespace
+
+void UIMotionEvent::enter(ShakeState state) {
+  const objc::Object event(self());
+  objc::send<void, "setShakeState:">(event, int(state));
+  if (state == began) deliver<"motionBegan:withEvent:">(event);
+  if (state == ended) deliver<"motionEnded:withEvent:">(event);
+  if (state == cancelled) deliver<"motionCancelled:withEvent:">(event);
+}
 
 void UIMotionEvent::registerClass() {
   StandIn<UIMotionEvent>("UIKit", "UIMotionEvent", "UIEvent")

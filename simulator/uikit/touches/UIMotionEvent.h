@@ -1,4 +1,4 @@
-// The event of a shaken phone.
+// The event of a moved phone.
 #pragma once
 
 #include "objc/Class.h"
@@ -6,7 +6,17 @@
 namespace sim {
 
 struct UIMotionEvent : objc::Implementation<UIMotionEvent> {
-  int shakeState = 0;  // 1 while the phone is being shaken
+  enum ShakeState : int {
+    began = 0,  // a movement strong enough, long before it is known to be a shake
+    ended = 1,  // it was one
+    cancelled = 2,
+  };
+
+  int shakeState = began;
+
+  // What the phone does as it is moved: the event comes to be in that state, and is delivered to
+  // the key window and who responds behind it.
+  void enter(ShakeState state);
 
   static void registerClass();
 };

@@ -33,6 +33,10 @@ struct BBSettingsGateway : objc::Object {
   static objc::Strong<BBSettingsGateway> make() {
     return objc::adopt(BBSettingsGateway(objc_alloc_init(objc::classNamed<"BBSettingsGateway">())));
   }
+  // Before iOS 15 only.
+  bool canSetBehaviorOverrideStatus() const {
+    return objc::respondsTo<"setBehaviorOverrideStatus:">(*this);
+  }
   // 1: on.
   void setBehaviorOverrideStatus(long status) const {
     objc::send<void, "setBehaviorOverrideStatus:">(*this, status);

@@ -9,6 +9,8 @@ struct RadiosPreferences : objc::Object {
     return objc::adopt(RadiosPreferences(objc_alloc_init(objc::classNamed<"RadiosPreferences">())));
   }
   void setAirplaneMode(bool on) const { objc::send<void, "setAirplaneMode:">(*this, on); }
+  // Up to iOS 17; the setter alone is enough there, too.
+  bool canSynchronize() const { return objc::respondsTo<"synchronize">(*this); }
   void synchronize() const { objc::send<void, "synchronize">(*this); }
 };
 
@@ -27,5 +29,5 @@ struct BluetoothManager : objc::Object {
   void disconnectDevicePhysicalLink(BluetoothDevice device) const {
     objc::send<void, "disconnectDevicePhysicalLink:">(*this, device);
   }
-  void setEnabled(bool on) const { objc::send<void, "setEnabled:">(*this, on); }
+  bool setEnabled(bool on) const { return objc::send<bool, "setEnabled:">(*this, on); }
 };

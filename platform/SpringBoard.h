@@ -40,10 +40,11 @@ struct SBMediaController : NSObject {
   }
   bool canPause() const { return objc::respondsTo<"pause">(*this); }
   void pause() const { objc::send<void, "pause">(*this); }
-  // Replaces `pause` on some systems.
+  // In place of `pause` from iOS 15 on, and beside it on some systems before.
   bool canPauseForEventSource() const { return objc::respondsTo<"pauseForEventSource:">(*this); }
-  void pauseForEventSource(long source) const {
-    objc::send<void, "pauseForEventSource:">(*this, source);
+  // false: the system's policy refused, and nothing has happened.
+  bool pauseForEventSource(long source) const {
+    return objc::send<bool, "pauseForEventSource:">(*this, source);
   }
   // Both before iOS 13 only.
   float volume() const { return objc::send<float, "volume">(*this); }

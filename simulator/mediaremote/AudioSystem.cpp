@@ -57,8 +57,10 @@ bool AudioSystem::store(float level, std::string_view category) {
 }
 
 void AudioSystem::announce(std::string_view category) {
-  if (!indicatorSuppressed_) phone_.journal.record("HUD volume " + notation(volume(category)));
-  if (category != mediaCategory) return;
+  const bool isMedia = category == mediaCategory;
+  if (!isMedia || !indicatorSuppressed_)
+    phone_.journal.record("HUD volume " + notation(volume(category)));
+  if (!isMedia) return;
   const auto now = observers_;  // one of them may forget another
   for (const auto& [number, observer] : now) observer();
 }

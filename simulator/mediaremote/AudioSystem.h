@@ -48,6 +48,7 @@ class AudioSystem {
   long observe(std::function<void()> observer);
   void forget(long number) { observers_.erase(number); }
 
+  // Of changes of the media volume.
   bool isIndicatorSuppressed() const { return indicatorSuppressed_; }
   void setIndicatorSuppressed(bool suppressed) { indicatorSuppressed_ = suppressed; }
 

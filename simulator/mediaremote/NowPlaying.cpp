@@ -55,36 +55,53 @@ void post(id name) {
   objc::send<void, "postNotificationName:object:">(notificationCenter(), name, nullptr);
 }
 
-// Between two hosts, while one restarts, there is nobody to tell.
-bool hasLaunched() {
-  return bool(objc::send<objc::Object, "sharedApplication">(objc_getClass("UIApplication")));
-}
-
-struct AnnouncedApplication {
-  std::string name;  // empty: nothing plays
+// Who is registered ends with the host: while it restarts there is nobody to tell.
+struct NowPlayingClients {
+  int registered = 0;
 };
 
-// The player is another process: the host hears of a change when its main queue comes to it.
-void announceChange() {
-  std::string& announced = Phone::current().state<AnnouncedApplication>().name;
-  const Player& player = Player::current();
-  const std::string application = player.track() != nullptr ? player.application() : "";
-  const bool applicationChanged = std::exchange(announced, application) != application;
-  Phone::current().queue.addNow([applicationChanged] {
-    if (!hasLaunched()) return;
-    if (applicationChanged) post(kMRMediaRemoteNowPlayingApplicationDidChangeNotification);
-    post(kMRMediaRemoteNowPlayingInfoDidChangeNotification);
+int& registeredClients() {
+  return Phone::current().state<NowPlayingClients>().registered;
+}
+
+struct Announced {
+  std::string application;       // empty: nothing plays
+  const Track* track = nullptr;  // for telling it from the next one only
+};
+
+void announceLater(id name) {
+  Phone::current().queue.addNow([name] {
+    if (registeredClients() > 0) post(name);
   });
 }
 
-void define(id& symbol, const char* name) {
+// The player is another process: the host hears of a change when its main queue comes to it. Of a
+// new track it hears again once there is artwork.
+void announceChange() {
+  auto& announced = Phone::current().state<Announced>();
+  const Player& player = Player::current();
+  const Track* track = player.track();
+  const bool isOtherTrack = std::exchange(announced.track, track) != track;
+  const std::string application = track != nullptr ? player.application() : "";
+  if (std::exchange(announced.application, application) != application)
+    announceLater(kMRMediaRemoteNowPlayingApplicationDidChangeNotification);
+  announceLater(kMRMediaRemoteNowPlayingInfoDidChangeNotification);
+  if (isOtherTrack && track != nullptr)
+    announceLater(kMRMediaRemoteNowPlayingInfoDidChangeNotification);
+}
+
+void define(id& symbol, const char* name, const Rating& rating = {Grade::real, ""}) {
   symbol = objc::retain(string(name)).detach().get();
-  recordFunction(framework, name, {Grade::real, ""});
+  recordFunction(framework, name, rating);
 }
 
 void defineStrings() {
-  define(kMRMediaRemoteNowPlayingInfoDidChangeNotification,
-         "kMRMediaRemoteNowPlayingInfoDidChangeNotification");
+  define(
+      kMRMediaRemoteNowPlayingInfoDidChangeNotification,
+      "kMRMediaRemoteNowPlayingInfoDidChangeNotification",
+      {Grade::partial,
+       "on the main thread, where a phone may use any; twice for a new track, once for any other "
+       "change, where a phone may post more"});
   define(kMRMediaRemoteNowPlayingApplicationDidChangeNotification,
          "kMRMediaRemoteNowPlayingApplicationDidChangeNotification");
   define(kMRMediaRemoteNowPlayingInfoTitle, "kMRMediaRemoteNowPlayingInfoTitle");
@@ -129,6 +146,9 @@ void registerMediaRemote() {
                  {Grade::partial, "no artwork, no identifiers of the track"});
   recordFunction(framework, "MRMediaRemoteSendCommand",
                  {Grade::partial, "commands 0 to 5; the options are ignored"});
+  recordFunction(framework, "MRMediaRemoteRegisterForNowPlayingNotifications",
+                 {Grade::partial, "the queue is ignored"});
+  recordFunction(framework, "MRMediaRemoteUnregisterForNowPlayingNotifications", {Grade::real, ""});
   Player::current().observe(announceChange);
   Player::current().hostDidBoot();
 }
@@ -140,6 +160,14 @@ void observeNowPlayingInfo(objc::Object observer) {
 }
 
 }  // namespace sim
+
+void MRMediaRemoteRegisterForNowPlayingNotifications(dispatch_queue_t) {
+  ++sim::registeredClients();
+}
+
+void MRMediaRemoteUnregisterForNowPlayingNotifications(void) {
+  if (int& clients = sim::registeredClients(); clients > 0) --clients;
+}
 
 void MRMediaRemoteGetNowPlayingInfo(dispatch_queue_t queue, id block) {
   using Completion = objc::Block<void(objc::Object)>;

@@ -17,6 +17,11 @@ extern id kMRMediaRemoteNowPlayingInfoDuration;      // NSNumber, seconds
 extern id kMRMediaRemoteNowPlayingInfoElapsedTime;   // NSNumber, seconds
 extern id kMRMediaRemoteNowPlayingInfoPlaybackRate;  // NSNumber, 1 or 0
 
+// The notifications are posted only while somebody in the process has registered; each registration
+// is taken back once. They come on the main thread, whatever the queue.
+void MRMediaRemoteRegisterForNowPlayingNotifications(dispatch_queue_t queue);
+void MRMediaRemoteUnregisterForNowPlayingNotifications(void);
+
 // Runs the block, a void(^)(NSDictionary*), on `queue` with what plays then; nil when nothing does.
 void MRMediaRemoteGetNowPlayingInfo(dispatch_queue_t queue, id block);
 

@@ -27,9 +27,10 @@ bool BluetoothManager::enabled() {
   return Radios::current().isBluetoothOn();
 }
 
-void BluetoothManager::setEnabled(bool on) {
+bool BluetoothManager::setEnabled(bool on) {
   journal("setEnabled:" + notation(on));
   Radios::current().setBluetooth(on);
+  return true;
 }
 
 objc::Object BluetoothManager::connectedDevices() {

@@ -9,7 +9,7 @@ struct BluetoothManager : objc::Implementation<BluetoothManager> {
   static objc::Object sharedInstance();
 
   bool enabled();
-  void setEnabled(bool on);
+  bool setEnabled(bool on);
   // A new array each time, which later changes leave alone.
   objc::Object connectedDevices();
   // Ends the connection and keeps the pairing.

@@ -19,13 +19,20 @@ std::string addressOf(long number) {
 
 }  // namespace
 
-Radios::Radios(Phone& phone) {
+Radios::Radios(Phone& phone) : phone_(phone) {
   phone.survives("radios", {[this] { return save(); },
                             [this](const nlohmann::json& saved) { restore(saved); }});
 }
 
 Radios& Radios::current() {
   return Phone::current().state<Radios>();
+}
+
+void Radios::waitForWatch() {
+  constexpr double longestWait = 5;  // seconds
+  if (!hasPairedWatch_) return;
+  Clock& clock = phone_.clock;
+  clock.advanceTo(clock.uptime() + nanoseconds(longestWait));
 }
 
 void Radios::setBluetooth(bool on) {
@@ -47,6 +54,7 @@ nlohmann::json Radios::save() const {
   auto peers = nlohmann::json::array();
   for (const Peer& peer : peers_) peers.push_back({{"name", peer.name}, {"address", peer.address}});
   return {{"airplaneMode", airplaneMode_},
+          {"hasPairedWatch", hasPairedWatch_},
           {"bluetoothOn", bluetoothOn_},
           {"peers", std::move(peers)},
           {"lastAddress", lastAddress_}};
@@ -54,6 +62,7 @@ nlohmann::json Radios::save() const {
 
 void Radios::restore(const nlohmann::json& saved) {
   airplaneMode_ = saved.at("airplaneMode").get<bool>();
+  hasPairedWatch_ = saved.at("hasPairedWatch").get<bool>();
   bluetoothOn_ = saved.at("bluetoothOn").get<bool>();
   lastAddress_ = saved.at("lastAddress").get<long>();
   peers_.clear();

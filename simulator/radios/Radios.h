@@ -29,6 +29,11 @@ class Radios {
   // Leaves Bluetooth as it is, as phones do whose owner has once kept it on in airplane mode.
   void setAirplaneMode(bool on) { airplaneMode_ = on; }
 
+  // A watch that takes airplane mode over, and is out of reach.
+  void setHasPairedWatch(bool has) { hasPairedWatch_ = has; }
+  // Keeps the main thread waiting for the watch, if there is one: what is due meanwhile is late.
+  void waitForWatch();
+
   bool isBluetoothOn() const { return bluetoothOn_; }
   // Off ends every connection. On again, none comes back by itself.
   void setBluetooth(bool on);
@@ -44,7 +49,9 @@ class Radios {
   nlohmann::json save() const;
   void restore(const nlohmann::json& saved);
 
+  Phone& phone_;
   bool airplaneMode_ = false;
+  bool hasPairedWatch_ = false;
   bool bluetoothOn_ = true;
   std::vector<Peer> peers_;  // connected, in order of connection
   long lastAddress_ = 0;

@@ -7,25 +7,24 @@
 namespace sim {
 
 bool RadiosPreferences::airplaneMode() {
-  return unsaved.value_or(Radios::current().isAirplaneModeOn());
+  return Radios::current().isAirplaneModeOn();
 }
 
 void RadiosPreferences::setAirplaneMode(bool on) {
   Phone::current().journal.record("-[RadiosPreferences setAirplaneMode:" + notation(on) + ']');
-  unsaved = on;
+  Radios::current().waitForWatch();
+  Radios::current().setAirplaneMode(on);
 }
 
 void RadiosPreferences::synchronize() {
   Phone::current().journal.record("-[RadiosPreferences synchronize]");
-  if (unsaved) Radios::current().setAirplaneMode(*unsaved);
-  unsaved.reset();
 }
 
 void RadiosPreferences::registerClass() {
   StandIn<RadiosPreferences>("AppSupport", "RadiosPreferences", "NSObject")
       .method<"airplaneMode", &RadiosPreferences::airplaneMode>()
       .partial<"setAirplaneMode:", &RadiosPreferences::setAirplaneMode>(
-          "takes effect with synchronize, not before; Bluetooth stays as it is")
+          "Bluetooth stays as it is; a paired watch never answers before its 5 seconds are over")
       .method<"synchronize", &RadiosPreferences::synchronize>()
       .finish();
 }

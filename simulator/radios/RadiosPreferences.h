@@ -1,16 +1,13 @@
 // AppSupport: airplane mode.
 #pragma once
 
-#include <optional>
-
 #include "objc/Class.h"
 
 namespace sim {
 
 struct RadiosPreferences : objc::Implementation<RadiosPreferences> {
-  std::optional<bool> unsaved;  // this object's own value, until it is synchronized
-
   bool airplaneMode();
+  // At once. With a paired watch the main thread waits for it first.
   void setAirplaneMode(bool on);
   void synchronize();
 

@@ -4,6 +4,7 @@
 
 #include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/AudioSystem.h"
+#include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
 #include "simulator/springboard/SBApplication.h"
 #include "simulator/springboard/SBVolumeControl.h"
@@ -16,35 +17,51 @@ void journal(const std::string& message) {
   Phone::current().journal.record("-[SBMediaController " + message + ']');
 }
 
+struct MediaPolicy {
+  bool refuses = false;
+};
+
+template <auto command>
+bool perform(const std::string& message) {
+  journal(message);
+  if (Phone::current().state<MediaPolicy>().refuses) return false;
+  (Player::current().*command)();
+  return true;
+}
+
 }  // namespace
 
 objc::Object SBMediaController::sharedInstance() {
   return objc::Object(shared().self());
 }
 
+objc::Object SBMediaController::init() {
+  MRMediaRemoteRegisterForNowPlayingNotifications(&_dispatch_main_q);
+  return super<objc::Object, "init">();
+}
+
+void SBMediaController::setRefusesCommands(bool refuses) {
+  Phone::current().state<MediaPolicy>().refuses = refuses;
+}
+
 void SBMediaController::play() {
-  journal("play");
-  Player::current().play();
+  perform<&Player::play>("play");
 }
 
 void SBMediaController::pause() {
-  journal("pause");
-  Player::current().pause();
+  perform<&Player::pause>("pause");
 }
 
-void SBMediaController::pauseForEventSource(long source) {
-  journal("pauseForEventSource:" + notation(source));
-  Player::current().pause();
+bool SBMediaController::pauseForEventSource(long source) {
+  return perform<&Player::pause>("pauseForEventSource:" + notation(source));
 }
 
 void SBMediaController::togglePlayPause() {
-  journal("togglePlayPause");
-  Player::current().togglePlayPause();
+  perform<&Player::togglePlayPause>("togglePlayPause");
 }
 
-void SBMediaController::togglePlayPauseForEventSource(long source) {
-  journal("togglePlayPauseForEventSource:" + notation(source));
-  Player::current().togglePlayPause();
+bool SBMediaController::togglePlayPauseForEventSource(long source) {
+  return perform<&Player::togglePlayPause>("togglePlayPauseForEventSource:" + notation(source));
 }
 
 bool SBMediaController::isPlaying() {
@@ -87,9 +104,9 @@ objc::Object SBMediaController::volumeControl() {
 void SBMediaController::registerClass() {
   StandIn<SBMediaController>("SpringBoard", "SBMediaController", "NSObject")
       .classMethod<"sharedInstance", &SBMediaController::sharedInstance>()
+      .method<"init", &SBMediaController::init>()
       .method<"play", &SBMediaController::play>()
-      .partial<"pause", &SBMediaController::pause>(
-          "on every version; newer phones have pauseForEventSource: alone")
+      .method<"pause", &SBMediaController::pause>()
       .partial<"pauseForEventSource:", &SBMediaController::pauseForEventSource>(
           "the source changes nothing")
       .method<"togglePlayPause", &SBMediaController::togglePlayPause>()
@@ -98,11 +115,11 @@ void SBMediaController::registerClass() {
       .method<"isPlaying", &SBMediaController::isPlaying>()
       .method<"isPaused", &SBMediaController::isPaused>()
       .partial<"nowPlayingApplication", &SBMediaController::nowPlayingApplication>(
-          "a new object each time")
-      .partial<"volume", &SBMediaController::volume>(
-          "on every version; newer phones have it in SBVolumeControl alone")
-      .partial<"setVolume:", &SBMediaController::setVolume>(
-          "on every version; newer phones have it in SBVolumeControl alone")
+          "a new object each time; whatever plays, also where a phone has nil because it may not "
+          "play "
+          "in the background")
+      .method<"volume", &SBMediaController::volume>()
+      .method<"setVolume:", &SBMediaController::setVolume>()
       .method<"suppressHUD", &SBMediaController::suppressHUD>()
       .method<"setSuppressHUD:", &SBMediaController::setSuppressHUD>()
       .method<"_volumeControl", &SBMediaController::volumeControl>()

@@ -20,6 +20,9 @@ void registerSpringBoard() {
   SBHomeScreenView::registerClass();
   StatusBarView::registerClass();
   SpringBoard::registerClass();
+  addLaunchTask([] {
+    if (SBMediaController::cls() != nullptr) SBMediaController::sharedInstance();
+  });
 }
 
 }  // namespace sim

@@ -15,6 +15,12 @@ struct Row {
 constexpr int earliest = Versions::earliest, latest = Versions::latest;
 
 constexpr Row table[] = {
+    {"BBSettingsGateway", "setBehaviorOverrideStatus:", {earliest, 14}},
+    {"RadiosPreferences", "synchronize", {earliest, 17}},
+    {"SBMediaController", "pause", {earliest, 14}},
+    {"SBMediaController", "setVolume:", {earliest, 12}},
+    {"SBMediaController", "volume", {earliest, 12}},
+    {"SBVolumeControl", "sharedInstance", {earliest, 15}},
     // The media module was built anew in 16.0.
     {"MRUControlCenterView", "routingButton", {16, latest}},
     {"MRUControlCenterView", "setShowRoutingButton:", {16, latest}},

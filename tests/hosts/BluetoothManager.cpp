@@ -60,10 +60,10 @@ TEST_F(BluetoothManagerTest, NobodyIsNoDevice) {
 }
 
 TEST_F(BluetoothManagerTest, SwitchedOffEndsEveryConnection) {
-  objc::send<void, "setEnabled:">(manager(), false);
+  EXPECT_TRUE((objc::send<bool, "setEnabled:">(manager(), false)));
   EXPECT_FALSE((objc::send<bool, "enabled">(manager())));
   EXPECT_EQ(count(devices()), 0U);
-  objc::send<void, "setEnabled:">(manager(), true);
+  objc::send<bool, "setEnabled:">(manager(), true);
   EXPECT_TRUE((objc::send<bool, "enabled">(manager())));
   EXPECT_EQ(count(devices()), 0U);
 }

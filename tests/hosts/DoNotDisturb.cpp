@@ -43,6 +43,7 @@ TEST_F(DoNotDisturb, AskingForNothingIsRefused) {
 }
 
 TEST_F(DoNotDisturb, OlderSystemsHaveASwitchAlone) {
+  phone.setup.systemVersion = "14.8";
   phone.setup.missingClasses.insert("DNDModeAssertionService");
   boot();
   EXPECT_FALSE(service());

@@ -93,17 +93,29 @@ TEST_F(NowPlayingTest, ATrackWithoutTitleHasNoTitleEntry) {
   EXPECT_FALSE(infoValue(kMRMediaRemoteNowPlayingInfoTitle));
 }
 
-TEST_F(NowPlayingTest, EveryChangeIsAnnouncedWhenTheMainQueueRuns) {
+TEST_F(NowPlayingTest, EveryChangeIsAnnouncedWhenTheMainQueueRunsANewTrackTwice) {
   playTracks();
   EXPECT_EQ(Listener::infoChanges, 0);
   advance(0);
-  EXPECT_EQ(Listener::infoChanges, 1);
-  advance(10);
   EXPECT_EQ(Listener::infoChanges, 2);
+  advance(10);
+  EXPECT_EQ(Listener::infoChanges, 4);
   Player::current().pause();
   Player::current().seek(3);
   advance(0);
-  EXPECT_EQ(Listener::infoChanges, 4);
+  EXPECT_EQ(Listener::infoChanges, 6);
+}
+
+TEST_F(NowPlayingTest, NothingIsAnnouncedToNobody) {
+  MRMediaRemoteUnregisterForNowPlayingNotifications();
+  playTracks();
+  advance(0);
+  EXPECT_EQ(Listener::infoChanges, 0);
+  MRMediaRemoteUnregisterForNowPlayingNotifications();
+  MRMediaRemoteRegisterForNowPlayingNotifications(&_dispatch_main_q);
+  Player::current().pause();
+  advance(0);
+  EXPECT_EQ(Listener::infoChanges, 1);
 }
 
 TEST_F(NowPlayingTest, TheApplicationChangesWhenMusicBeginsAndEnds) {

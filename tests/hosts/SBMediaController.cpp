@@ -1,3 +1,5 @@
+#include "simulator/springboard/SBMediaController.h"
+
 #include "tests/hosts/TestHost.h"
 
 namespace sim {
@@ -17,6 +19,7 @@ TEST_F(SBMediaControllerTest, ThereIsOne) {
 }
 
 TEST_F(SBMediaControllerTest, PausesAndPlaysTheMusic) {
+  phone.setup.systemVersion = "14.8";
   boot();
   EXPECT_FALSE(isPaused());
   playTracks();
@@ -26,7 +29,7 @@ TEST_F(SBMediaControllerTest, PausesAndPlaysTheMusic) {
   EXPECT_TRUE(isPaused());
   objc::send<void, "play">(controller());
   EXPECT_TRUE(isPlaying());
-  objc::send<void, "pauseForEventSource:">(controller(), 0L);
+  EXPECT_TRUE((objc::send<bool, "pauseForEventSource:">(controller(), 0L)));
   EXPECT_TRUE(isPaused());
   objc::send<void, "togglePlayPause">(controller());
   EXPECT_TRUE(isPlaying());
@@ -37,10 +40,21 @@ TEST_F(SBMediaControllerTest, PausesAndPlaysTheMusic) {
 TEST_F(SBMediaControllerTest, TheRequestIsJournalledBeforeItsEffect) {
   boot();
   playTracks();
-  objc::send<void, "pause">(controller());
-  const std::vector<std::string> expected = {"player play \"A\"", "-[SBMediaController pause]",
-                                             "player pause"};
+  objc::send<bool, "pauseForEventSource:">(controller(), 1L);
+  const std::vector<std::string> expected = {
+      "player play \"A\"", "-[SBMediaController pauseForEventSource:1]", "player pause"};
   EXPECT_EQ(journal(), expected);
+}
+
+TEST_F(SBMediaControllerTest, ARefusedCommandDoesNothing) {
+  boot();
+  playTracks();
+  SBMediaController::setRefusesCommands(true);
+  EXPECT_FALSE((objc::send<bool, "pauseForEventSource:">(controller(), 0L)));
+  EXPECT_TRUE(isPlaying());
+  SBMediaController::setRefusesCommands(false);
+  EXPECT_TRUE((objc::send<bool, "pauseForEventSource:">(controller(), 0L)));
+  EXPECT_FALSE(isPlaying());
 }
 
 TEST_F(SBMediaControllerTest, NamesTheApplicationThatHasATrack) {
@@ -56,7 +70,8 @@ TEST_F(SBMediaControllerTest, NamesTheApplicationThatHasATrack) {
   EXPECT_FALSE(identifier());
 }
 
-TEST_F(SBMediaControllerTest, HasTheMediaVolume) {
+TEST_F(SBMediaControllerTest, HasTheMediaVolumeBeforeIOS13) {
+  phone.setup.systemVersion = "12.5";
   boot();
   objc::send<void, "setSuppressHUD:">(controller(), true);
   EXPECT_TRUE((objc::send<bool, "suppressHUD">(controller())));
@@ -85,9 +100,9 @@ TEST_F(SBMediaControllerTest, WithoutAVolumeControlClassThereIsNone) {
       (objc::send<objc::Object, "safeValueForKey:">(controller(), string("_volumeControl"))));
 }
 
-TEST_F(SBMediaControllerTest, APauseMethodMayBeMissing) {
-  phone.setup.missingMethods.insert("SBMediaController pause");
+TEST_F(SBMediaControllerTest, HasNoPlainPauseNorVolumeFromIOS15On) {
   boot();
+  EXPECT_FALSE(objc::respondsTo<"volume">(controller()));
   EXPECT_FALSE(objc::respondsTo<"pause">(controller()));
   EXPECT_TRUE(objc::respondsTo<"pauseForEventSource:">(controller()));
 }

@@ -123,7 +123,7 @@ void EngineModel::handleTrackChanged() {
 }
 
 void EngineModel::pauseMusic() {
-  record("-[SBMediaController pause]");
+  record("-[SBMediaController pauseForEventSource:0]");
   pause();
 }
 

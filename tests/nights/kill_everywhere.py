@@ -32,7 +32,7 @@ clear-journal
 send {ENGINE} startTimerWithMode:andValue: 0 3
 expect {ENGINE}.timerModeIsRunning YES
 advance 4s
-expect-journal "-[SBMediaController pause]" times 1
+expect-journal "-[SBMediaController pauseForEventSource:0]" times 1
 expect {ENGINE}.isRunning NO
 send NSUserDefaults.standardUserDefaults objectForKey: "{DATE}"
 expect-last nil

@@ -49,7 +49,7 @@ TEST(Recordings, PlayHeadlessWithTheSameJournal) {
   program.post("/api/time", {{"advance", 5}});
   program.command({"volume 0.1", "respring", "unlock"});
   const std::string journal = program.journal();
-  EXPECT_NE(journal.find("-[SBMediaController pause]"), std::string::npos);
+  EXPECT_NE(journal.find("-[SBMediaController pauseForEventSource:0]"), std::string::npos);
   EXPECT_EQ(playHeadless(recordingOf(program)), journal);
 }
 

@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Crashes, NameTheHook) {
   const Outcome outcome = playFailing(
-      "boot\nsend Failing.class failInHook\nsend SBMediaController.sharedInstance pause");
+      "ios 14.8\nboot\nsend Failing.class failInHook\nsend SBMediaController.sharedInstance pause");
   EXPECT_NE(outcome.output.find("the host crashed: Segmentation fault at 0x0 in the hook of "
                                 "-[SBMediaController pause]\n"),
             std::string::npos)

@@ -7,7 +7,7 @@ phoneTest("a timer is set and its end pauses the music", {}, async (served, page
   await press(page, onScreen(page, "button", "Confirm"));
   await journalHas(page, 'post "DozewellDidStartNotification"');
   await pass(served, 400);
-  await journalHas(page, "-[SBMediaController pause]");
+  await journalHas(page, "-[SBMediaController pauseForEventSource:0]");
   assert.ok((await served.journal()).includes('post "DozewellDidStopNotification"'));
 });
 

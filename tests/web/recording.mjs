@@ -29,7 +29,7 @@ phoneTest("a night by hand, replayed", {}, async (served, page) => {
   await andCommand(page, "volume", () => page.click(".up-key"));
   await andCommand(page, "lock", () => page.click(".lock-key"));
   await pass(served, 4000);
-  await journalHas(page, "-[SBMediaController pause]");
+  await journalHas(page, "-[SBMediaController pauseForEventSource:0]");
 
   const [download] = await Promise.all([
     page.waitForEvent("download"),

@@ -26,9 +26,9 @@ phoneTest(
     await andRestart(page, () => page.click("#device-respring"));
     await page.locator("#device-controls:not([aria-pressed=true])").waitFor();
     await pass(served, 400);
-    await journalHas(page, "-[SBMediaController pause]");
+    await journalHas(page, "-[SBMediaController pauseForEventSource:0]");
     assert.equal(
-      (await served.journal()).filter((line) => line.includes("SBMediaController pause]")).length,
+      (await served.journal()).filter((line) => line.includes("SBMediaController pauseForEventSource:0]")).length,
       1,
     );
   },
@@ -43,5 +43,5 @@ phoneTest("a host that was killed is started again by hand", {}, async (served, 
   );
   await page.locator("#device-kill:enabled").waitFor();
   await pass(served, 400);
-  await journalHas(page, "-[SBMediaController pause]");
+  await journalHas(page, "-[SBMediaController pauseForEventSource:0]");
 });

@@ -95,7 +95,7 @@ phoneTest.withoutPhone("the fade is heard, the pause is real, the volume comes b
       "the level rose within the fade",
     );
     assert.ok(rested.level < 0.1, `paused at level ${rested.level}`);
-    await journalHas(page, "-[SBMediaController pause]");
+    await journalHas(page, "-[SBMediaController pauseForEventSource:0]");
     const back = await until(
       page,
       "at the old volume",

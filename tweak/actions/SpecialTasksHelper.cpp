@@ -59,8 +59,8 @@ void Tasks::pauseMusic() {
   const auto controller = SBMediaController::sharedInstance();
   if (controller.canPause()) {
     controller.pause();
-  } else if (controller.canPauseForEventSource()) {
-    controller.pauseForEventSource(0);
+  } else if (controller.canPauseForEventSource() && !controller.pauseForEventSource(0)) {
+    (LogLine() << "The phone refused to pause what plays.").write();
   }
   // Even where nothing could be paused: the timer has ended.
   getInstance().performSpecialActionsOnTimerEnd();
@@ -202,7 +202,7 @@ void Tasks::performSpecialActionsOnTimerEnd() {
 void Tasks::enablePlaneMode() {
   const auto radios = RadiosPreferences::make();
   radios->setAirplaneMode(true);
-  radios->synchronize();
+  if (radios->canSynchronize()) radios->synchronize();
 }
 
 void Tasks::enableDND() {
@@ -215,7 +215,8 @@ void Tasks::enableDND() {
                                                "com.apple.donotdisturb.mode.default"_ns, nullptr);
     service.takeModeAssertionWithDetails(details, nullptr);
   } else {
-    BBSettingsGateway::make()->setBehaviorOverrideStatus(1);
+    const auto gateway = BBSettingsGateway::make();
+    if (gateway->canSetBehaviorOverrideStatus()) gateway->setBehaviorOverrideStatus(1);
   }
 }
 

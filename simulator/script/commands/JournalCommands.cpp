@@ -128,14 +128,14 @@ void clearJournal(Arguments& arguments) {
 void addJournalCommands(CommandTable& table) {
   table.add({"expect-journal", Stage::any,
              "expect-journal TEXT [at SECONDS] [within TOLERANCE] [times N]",
-             "expect-journal \"-[SBMediaController pause]\" at 2701 times 1",
+             "expect-journal \"-[SBMediaController pauseForEventSource:0]\" at 2701 times 1",
              "Requires a line of the journal (`*` stands for anything), at that time, that often.",
              expectJournal});
   table.add({"expect-no-journal", Stage::any, "expect-no-journal TEXT",
              "expect-no-journal \"-[SBMediaController *]\"",
              "Requires that no line of the journal is this one.", expectNoJournal});
   table.add({"expect-journal-order", Stage::any, "expect-journal-order TEXT TEXT…",
-             "expect-journal-order \"-[SBMediaController pause]\" \"log *\"",
+             "expect-journal-order \"-[SBMediaController pauseForEventSource:0]\" \"log *\"",
              "Requires these lines in this order; others may lie between.", expectJournalOrder});
   table.add({"clear-journal", Stage::any, "clear-journal", "clear-journal",
              "Later expectations look only at journal lines after this command.", clearJournal});

@@ -10,6 +10,7 @@
 #include "simulator/mediaremote/Playlist.h"
 #include "simulator/script/Command.h"
 #include "simulator/script/ScriptFiles.h"
+#include "simulator/springboard/SBMediaController.h"
 
 namespace sim {
 namespace {
@@ -108,6 +109,13 @@ void route(Arguments& words) {
   AudioSystem::current().setRoute(std::move(route));
 }
 
+void mediaPolicy(Arguments& words) {
+  const bool refuses = words.takeKeyword("refuse");
+  if (!refuses && !words.takeKeyword("allow")) words.failHere("expected refuse or allow");
+  words.finish();
+  SBMediaController::setRefusesCommands(refuses);
+}
+
 // A press of the key, as the phone counts them.
 template <int direction>
 void volumeKey(Arguments& words) {
@@ -177,6 +185,14 @@ void addControls(CommandTable& table) {
              "The user moves to a position of the track, in seconds from its start.", seek});
 }
 
+void addPolicy(CommandTable& table) {
+  table.add(
+      {"media-policy", Stage::running, "media-policy refuse|allow", "media-policy refuse",
+       "A policy of the system refuses what the host asks of the player, until it allows it or "
+       "the host ends: SBMediaController answers NO, and nothing happens.",
+       mediaPolicy});
+}
+
 void addExpectations(CommandTable& table) {
   table.add({"expect-volume", Stage::any, "expect-volume LEVEL [within TOLERANCE]",
              "expect-volume 0.5 within 0.001", "The media volume is LEVEL.", expectVolume});
@@ -230,6 +246,7 @@ void addPlayerCommands(CommandTable& table) {
              "The user presses the key that makes the music quieter by a sixteenth.",
              volumeKey<-1>});
   addControls(table);
+  addPolicy(table);
   addExpectations(table);
 }
 

@@ -37,6 +37,12 @@ void expectBluetooth(Arguments& words) {
                       "connected devices: expected " + shown(expected) + ", found " + shown(found));
 }
 
+void pairedWatch(Arguments& words) {
+  const bool has = words.yesOrNo("whether a watch is paired");
+  words.finish();
+  Radios::current().setHasPairedWatch(has);
+}
+
 void expectAirplaneMode(Arguments& words) {
   const bool expected = words.yesOrNo("whether airplane mode is on");
   words.finish();
@@ -53,6 +59,11 @@ void addRadiosCommands(CommandTable& table) {
   table.add({"bluetooth", Stage::any, "bluetooth NAME...|none",
              "bluetooth \"Pillow Speaker\" \"Headset\"",
              "Bluetooth is on, and connected to these devices alone.", bluetooth});
+  table.add(
+      {"paired-watch", Stage::any, "paired-watch YES|NO", "paired-watch YES",
+       "Whether there is a watch that takes airplane mode over. It is out of reach: the host's "
+       "main thread waits 5 seconds for it whenever airplane mode is set.",
+       pairedWatch});
   table.add({"expect-bluetooth", Stage::any, "expect-bluetooth NAME...|none",
              "expect-bluetooth \"Headset\"",
              "The names of the connected devices, in the order of connection.", expectBluetooth});

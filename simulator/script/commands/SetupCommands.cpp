@@ -169,7 +169,8 @@ void addSetupCommands(CommandTable& table) {
              "What the phone can make felt: 0 nothing, 1 system sounds, 2 (without this line) "
              "every kind of feedback.",
              haptics});
-  table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]", "missing SBMediaController pause",
+  table.add({"missing", Stage::setup, "missing CLASS [SELECTOR]",
+             "missing SBMediaController pauseForEventSource:",
              "Leaves a class of the system, or one of its methods or properties, out of the phone.",
              missing});
   table.add({"class", Stage::setup, "class NAME", "class SleepTimer",

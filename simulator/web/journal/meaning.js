@@ -93,7 +93,7 @@ const known = [
   [
     /^-\[RadiosPreferences synchronize\]/,
     "radio",
-    () => "The change of airplane mode takes effect.",
+    () => "The radios' settings are written and read again.",
   ],
   [/DND|BBSettingsGateway/, "radio", () => "Do Not Disturb changes."],
   [/^-\[BluetoothManager /, "radio", () => "The extension changes Bluetooth."],

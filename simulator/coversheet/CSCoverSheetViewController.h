@@ -9,11 +9,11 @@
 namespace sim {
 
 struct CSCoverSheetViewController : objc::Implementation<CSCoverSheetViewController> {
-  objc::Strong<objc::Object> wallpaper;                    // SBFWallpaperView
-  objc::Strong<objc::Object> padlock;                      // UIView
-  objc::Strong<objc::Object> timeLabel;                    // UILabel
-  objc::Strong<objc::Object> countdownLabel;               // UILabel
-  objc::Strong<objc::Object> dateView;                     // SBFLockScreenDateSubtitleDateView
+  objc::Strong<objc::Object> wallpaper;       // SBFWallpaperView
+  objc::Strong<objc::Object> padlock;         // UIView
+  objc::Strong<objc::Object> timeLabel;       // UILabel
+  objc::Strong<objc::Object> countdownLabel;  // UILabel
+  objc::Strong<objc::Object> dateView;        // SBFLockScreenDateSubtitleDateView or its successor
   objc::Strong<objc::Object> mediaControlsViewController;  // nil while nothing plays
   MainQueue::Ticket nextMinute = 0;  // the queue's entry for the next step of the clock
 

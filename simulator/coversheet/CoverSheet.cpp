@@ -1,6 +1,7 @@
 // What the lock screen is made of.
 #include "simulator/coversheet/CSCoverSheetViewController.h"
 #include "simulator/coversheet/CSMediaControlsViewController.h"
+#include "simulator/coversheet/CSProminentSubtitleDateView.h"
 #include "simulator/coversheet/CSTimerViewController.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
@@ -17,6 +18,8 @@ void registerCoverSheet() {
   SBUILegibilityLabel::registerClass();
   SBFLockScreenDateSubtitleView::registerClass();
   SBFLockScreenDateSubtitleDateView::registerClass();
+  CSProminentTextElementView::registerClass();
+  CSProminentSubtitleDateView::registerClass();
   CSTimerViewController::registerClass();
   CSMediaControlsViewController::registerClass();
   CSCoverSheetViewController::registerClass();

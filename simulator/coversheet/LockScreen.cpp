@@ -6,6 +6,7 @@
 
 #include "objc/Message.h"
 #include "simulator/coversheet/CSCoverSheetViewController.h"
+#include "simulator/coversheet/CSProminentSubtitleDateView.h"
 #include "simulator/coversheet/CSTimerViewController.h"
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Kind.h"
@@ -16,6 +17,11 @@
 
 namespace sim {
 namespace {
+
+// iOS 16 draws the clock and what stands below it anew.
+bool hasProminentDate() {
+  return CSProminentSubtitleDateView::cls() != nullptr;
+}
 
 double midnightAfter(double moment) {
   constexpr double day = 86400;
@@ -32,7 +38,8 @@ void LockScreen::lock() {
   locked_ = true;
   for (const auto& handler : lockHandlers_) handler();
   if (!std::exchange(hasDateView_, true))
-    dateView_ = objc::Object(objc_alloc_init(objc_getClass("SBFLockScreenDateSubtitleDateView")));
+    dateView_ = objc::Object(objc_alloc_init(objc_getClass(
+        hasProminentDate() ? "CSProminentSubtitleDateView" : "SBFLockScreenDateSubtitleDateView")));
   const double now = Phone::current().clock.wall();
   drawDate(now);
   redrawAt(midnightAfter(now));
@@ -81,7 +88,10 @@ void LockScreen::makeTimerController() {
 }
 
 void LockScreen::drawDate(double moment) {
-  objc::send<void, "setDate:">(dateView_, date(moment));
+  if (hasProminentDate())
+    CSProminentSubtitleDateView::showDate(dateView_, moment);
+  else
+    objc::send<void, "setDate:">(dateView_, date(moment));
 }
 
 void LockScreen::redrawAt(double midnight) {
@@ -98,7 +108,9 @@ void LockScreen::redrawAt(double midnight) {
 }
 
 std::optional<std::string> LockScreen::dateText() const {
-  const auto shown = objc::send<objc::Object, "string">(dateView_);
+  if (!dateView_) return std::nullopt;
+  const auto shown = hasProminentDate() ? CSProminentSubtitleDateView::shownText(dateView_)
+                                        : objc::send<objc::Object, "string">(dateView_);
   return shown ? std::optional(text(shown)) : std::nullopt;
 }
 

@@ -44,7 +44,7 @@ class LockScreen {
   std::vector<std::function<void()>> lockHandlers_;
   // Owned, and never given up. nil without the class; the date line also before the first lock.
   objc::Object timerController_;  // CSTimerViewController
-  objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView
+  objc::Object dateView_;         // SBFLockScreenDateSubtitleDateView or its successor
   objc::Object window_;           // UIWindow; owned, nil while the phone is not locked
   bool hasDateView_ = false;
   bool followsCountdown_ = false;

@@ -13,9 +13,18 @@ void SBFLockScreenDateSubtitleDateView::setDate(objc::Object shown) {
 
 void SBFLockScreenDateSubtitleDateView::setDate_inTimeZone(objc::Object shown, objc::Object) {
   date = objc::retain(shown);
+  objc::send<void, "_updateDateLabelForCompact">(self());
+}
+
+void SBFLockScreenDateSubtitleDateView::setUseCompactDateFormat(bool compact) {
+  useCompactDateFormat = compact;
+  objc::send<void, "_updateDateLabelForCompact">(self());
+}
+
+void SBFLockScreenDateSubtitleDateView::updateDateLabelForCompact() {
   objc::Object line;
-  if (shown)
-    line = string(dayText(objc::send<double, "timeIntervalSinceReferenceDate">(shown),
+  if (date)
+    line = string(dayText(objc::send<double, "timeIntervalSinceReferenceDate">(date.get()),
                           Phone::current().setup.locale));
   objc::send<void, "setString:">(self(), line);
 }
@@ -25,9 +34,15 @@ void SBFLockScreenDateSubtitleDateView::registerClass() {
   StandIn<View>("SpringBoardFoundation", "SBFLockScreenDateSubtitleDateView",
                 "SBFLockScreenDateSubtitleView")
       .readonlyProperty<"date", &View::date>()
+      .readonlyProperty<"alternateDateLabel", &View::alternateDateLabel>()
+      .readonlyProperty<"useCompactDateFormat", &View::useCompactDateFormat>()
       .method<"setDate:", &View::setDate>()
       .partial<"_setDate:inTimeZone:", &View::setDate_inTimeZone>(
-          "UTC in any time zone; in nine languages, English elsewhere; the Gregorian calendar")
+          "UTC in any time zone; in nine languages, English elsewhere; the Gregorian calendar, and "
+          "no "
+          "lunar date beside it")
+      .partial<"setUseCompactDateFormat:", &View::setUseCompactDateFormat>("the text is no shorter")
+      .method<"_updateDateLabelForCompact", &View::updateDateLabelForCompact>()
       .finish();
 }
 

@@ -16,6 +16,8 @@ constexpr int earliest = Versions::earliest, latest = Versions::latest;
 
 constexpr Row table[] = {
     {"BBSettingsGateway", "setBehaviorOverrideStatus:", {earliest, 14}},
+    {"CSProminentSubtitleDateView", "", {16, latest}},
+    {"CSProminentTextElementView", "", {16, latest}},
     {"RadiosPreferences", "synchronize", {earliest, 17}},
     {"SBMediaController", "pause", {earliest, 14}},
     {"SBMediaController", "setVolume:", {earliest, 12}},

@@ -46,9 +46,13 @@ struct SBMediaController : NSObject {
   bool pauseForEventSource(long source) const {
     return objc::send<bool, "pauseForEventSource:">(*this, source);
   }
-  // Both before iOS 13 only.
-  float volume() const { return objc::send<float, "volume">(*this); }
-  void setVolume(float volume) const { objc::send<void, "setVolume:">(*this, volume); }
+  // Before iOS 13 only; elsewhere 0, and nothing is set.
+  float volume() const {
+    return objc::respondsTo<"volume">(*this) ? objc::send<float, "volume">(*this) : 0;
+  }
+  void setVolume(float volume) const {
+    if (objc::respondsTo<"setVolume:">(*this)) objc::send<void, "setVolume:">(*this, volume);
+  }
   SBVolumeControl volumeControl() const {  // iOS 13 and later
     return objc::as<SBVolumeControl>(safeValueForKey("_volumeControl"_ns));
   }

@@ -20,7 +20,7 @@ void SBBacklightController::setScreenIsOn(bool on) {
 void SBBacklightController::registerClass() {
   StandIn<SBBacklightController>("SpringBoard", "SBBacklightController", "NSObject")
       .classMethod<"sharedInstance", &SBBacklightController::sharedInstance>()
-      .method<"screenIsOn", &SBBacklightController::screenIsOn>()
+      .partial<"screenIsOn", &SBBacklightController::screenIsOn>("there is no always-on display")
       .finish();
 }
 

@@ -61,8 +61,8 @@ TEST(Restarts, BringADeadHostBack) {
 
 TEST(Restarts, HappenWhereTheHostIsToDie) {
   const ServedProgram program;
-  program.command(
-      {"set volumeFadeOutEnabled NO", "kill-at \"-[SBMediaController pauseForEventSource:0]\"", timerOfOneMinute});
+  program.command({"set volumeFadeOutEnabled NO",
+                   "kill-at \"-[SBMediaController pauseForEventSource:0]\"", timerOfOneMinute});
   EXPECT_EQ(program.command("advance 100s").asJson().at("restarts"), true);
   EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 100.0);
 }

@@ -16,9 +16,11 @@ TEST(Timing, StandsStillWhilePaused) {
   program.command({"set volumeFadeOutEnabled NO", timerOfOneMinute});
   EXPECT_EQ(uptime(program), 0);
   EXPECT_EQ(program.post("/api/time", {{"advance", 59.5}}).asJson().at("uptime"), 59.5);
-  EXPECT_EQ(program.journal().find("-[SBMediaController pauseForEventSource:0]"), std::string::npos);
+  EXPECT_EQ(program.journal().find("-[SBMediaController pauseForEventSource:0]"),
+            std::string::npos);
   EXPECT_EQ(program.post("/api/time", {{"to", 60}}).asJson().at("uptime"), 60.0);
-  EXPECT_NE(program.journal().find("    60.000  -[SBMediaController pauseForEventSource:0]"), std::string::npos);
+  EXPECT_NE(program.journal().find("    60.000  -[SBMediaController pauseForEventSource:0]"),
+            std::string::npos);
 }
 
 TEST(Timing, GoesByItself) {
@@ -29,7 +31,8 @@ TEST(Timing, GoesByItself) {
   program.post("/api/time", {{"speed", 3600}, {"paused", false}});
   const auto hasPaused = [](const json& journal) {
     for (const json& entry : journal.at("entries")) {
-      if (entry.at("text") == "-[SBMediaController pauseForEventSource:0]") return entry.at("time") == 60.0;
+      if (entry.at("text") == "-[SBMediaController pauseForEventSource:0]")
+        return entry.at("time") == 60.0;
     }
     return false;
   };

@@ -45,8 +45,9 @@ INSTANTIATE_TEST_SUITE_P(
         LateWord{"ForeignClass", "class Foreign", "expect-no-class Foreign\nget NSObject.class"},
         LateWord{"Missing", "missing NSObject copy",
                  "expect-responds NSObject.new copy YES\nget NSObject.class"},
-        LateWord{"MissingMember", "missing SBMediaController isPlaying",
-                 "expect-responds SBMediaController.sharedInstance isPlaying YES\nget NSObject.class"},
+        LateWord{
+            "MissingMember", "missing SBMediaController isPlaying",
+            "expect-responds SBMediaController.sharedInstance isPlaying YES\nget NSObject.class"},
         LateWord{"ClassChanges", "journal-class-changes", ""},
         LateWord{"Trace", "trace NSDate +date", "get NSDate.date"},
         LateWord{"WallClock", "wall-clock +1h", "get NSDate.date", "boot "},

@@ -60,7 +60,7 @@ void Tasks::pauseMusic() {
   if (controller.canPause()) {
     controller.pause();
   } else if (controller.canPauseForEventSource() && !controller.pauseForEventSource(0)) {
-    (LogLine() << "The phone refused to pause what plays.").write();
+    (LogLine() << "Dozewell could not pause what plays: the system refused").write();
   }
   // Even where nothing could be paused: the timer has ended.
   getInstance().performSpecialActionsOnTimerEnd();

@@ -89,14 +89,14 @@ void CSTimerViewController::endIfDue() {
 }
 
 void CSTimerViewController::registerClass() {
-  using Controller = CSTimerViewController;
-  StandIn<Controller>("CoverSheet", "CSTimerViewController", "UIViewController")
-      .method<"initWithNibName:bundle:", &Controller::initWithNibName_bundle>()
-      .readonlyProperty<"_endDate", &Controller::endDate>()
-      .partial<"delegate", &Controller::currentDelegate>("the cover sheet, but only while locked")
-      .partial<"setDelegate:", &Controller::setDelegate>("it is told nothing")
-      .partial<"setEnabled:", &Controller::setEnabled>("begins and ends a countdown by itself")
-      .partial<"setEndDate:", &Controller::setEndDate>(
+  using Timer = CSTimerViewController;
+  StandIn<Timer>("CoverSheet", "CSTimerViewController", "UIViewController")
+      .method<"initWithNibName:bundle:", &Timer::initWithNibName_bundle>()
+      .readonlyProperty<"_endDate", &Timer::endDate>()
+      .partial<"delegate", &Timer::currentDelegate>("the cover sheet, but only while locked")
+      .partial<"setDelegate:", &Timer::setDelegate>("it is told nothing")
+      .partial<"setEnabled:", &Timer::setEnabled>("begins and ends a countdown by itself")
+      .partial<"setEndDate:", &Timer::setEndDate>(
           "ends at its date, not with the next second; late when the wall clock is set forward; "
           "shown on every version, where newer ones may not")
       .finish();

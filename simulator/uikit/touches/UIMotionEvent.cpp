@@ -1,6 +1,7 @@
 #include "simulator/uikit/touches/UIMotionEvent.h"
 
 #include "simulator/standin/StandIn.h"
+#include "simulator/uikit/application/UIWindow.h"
 
 namespace sim {
 namespace {
@@ -8,8 +9,7 @@ namespace {
 template <objc::FixedString Selector>
 void deliver(objc::Object event) {
   constexpr long motionShake = 1;
-  auto responder = objc::send<objc::Object, "keyWindow">(
-      objc::send<objc::Object, "sharedApplication">(objc_getClass("UIApplication")));
+  objc::Object responder = UIWindow::keyWindow();
   while (responder && !objc::respondsTo<Selector>(responder))
     responder = objc::send<objc::Object, "nextResponder">(responder);
   if (responder) objc::send<void, Selector>(responder, motionShake, event);

@@ -3,6 +3,7 @@
 #include <map>
 #include <utility>
 
+#include "objc/Block.h"
 #include "objc/Message.h"
 #include "simulator/controlcenter/CCUICAPackageDescription.h"
 #include "simulator/controlcenter/CCUICAPackageView.h"
@@ -12,7 +13,9 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/standin/Registration.h"
+#include "simulator/uikit/animation/Animation.h"
 #include "simulator/uikit/application/UIWindow.h"
+#include "simulator/uikit/views/ViewLayout.h"
 
 namespace sim {
 namespace {
@@ -54,6 +57,10 @@ void openControlCenter() {
   // The key window while it is open: alerts that are shown over all else come over it.
   controlCenter().keyBefore = objc::weak(UIWindow::keyWindow());
   objc::send<void, "makeKeyAndVisible">(shown);
+  // The gesture takes longer than what modules animate as they are first laid out.
+  if (!shown) return;
+  const auto layOut = objc::block<void()>([] { layoutIfNeeded(controlCenter().window); });
+  performWithoutAnimation(layOut.get());
 }
 
 void closeControlCenter() {

@@ -201,11 +201,31 @@ LayerValues CALayer::presentation(Nanoseconds now) const {
 }
 
 void CALayer::removeAllAnimations() {
-  animations.clear();
-  transition = {};
+  const auto kept = objc::retain(Object(self()));  // who hears of it may let the layer go
+  const Nanoseconds now = Phone::current().clock.uptime();
+  std::vector<AnimationTiming> all = {std::exchange(transition, {}).timing};
+  for (const LayerAnimation& each : std::exchange(animations, {})) all.push_back(each.timing);
+  for (const AnimationTiming& each : all)
+    if (each.group && each.end() > now) each.group->interrupt(*this);
+}
+
+void CALayer::dropAnimations(const AnimationGroup& group) {
+  std::erase_if(animations, [&](const auto& each) { return each.timing.group.get() == &group; });
+  if (transition.timing.group.get() == &group) transition = {};
+}
+
+bool CALayer::ignoresTouches(Nanoseconds now) const {
+  const auto does = [now](const AnimationTiming& timing) {
+    return timing.ignoresTouches && timing.end() > now;
+  };
+  return does(transition.timing) ||
+         std::any_of(animations.begin(), animations.end(),
+                     [does](const LayerAnimation& each) { return does(each.timing); });
 }
 
 CALayer::~CALayer() {
+  if (transition.timing.group) transition.timing.group->forget(*this);
+  for (const LayerAnimation& each : animations) each.timing.group->forget(*this);
   for (const auto& child : children) of(child.get()).superlayer = nullptr;
   if (mask) of(mask.get()).masked = nullptr;
 }

@@ -48,8 +48,12 @@ struct CALayer : objc::Implementation<CALayer> {
 
   LayerValues values() const;                       // where all animations end
   LayerValues presentation(Nanoseconds now) const;  // as it is seen at that uptime
-  // What -removeAllAnimations does.
+  // What -removeAllAnimations does: those that have not ended are interrupted.
   void removeAllAnimations();
+  // Takes away what the group animates here, which nobody has seen.
+  void dropAnimations(const AnimationGroup& group);
+  // Whether an animation has not ended that keeps touches from the layer's view.
+  bool ignoresTouches(Nanoseconds now) const;
 
   // Moves the layer from the superlayer that it has; an index past the end means on top.
   void insertSublayer(objc::Object layer, unsigned index);

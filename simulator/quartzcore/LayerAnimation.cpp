@@ -20,11 +20,16 @@ struct Current {
 LayerAnimation& animationOf(CALayer& layer, const AnimationTiming& timing) {
   auto& all = layer.animations;
   if (all.empty() || all.back().timing.group != timing.group) all.push_back({.timing = timing});
+  timing.group->add(layer);
   return all.back();
 }
 
-void removeEnded(std::vector<LayerAnimation>& animations, Nanoseconds now) {
-  std::erase_if(animations, [now](const auto& each) { return each.timing.end() <= now; });
+void removeEnded(CALayer& layer, Nanoseconds now) {
+  std::erase_if(layer.animations, [&layer, now](const LayerAnimation& each) {
+    if (each.timing.end() > now) return false;
+    each.timing.group->forget(layer);
+    return true;
+  });
 }
 
 LayerNumbers numbersOf(const LayerMeasures& measures) {
@@ -93,7 +98,7 @@ void animateFrom(CALayer& layer, const LayerValues& start, const AnimationTiming
 LayerChange::LayerChange(CALayer* layer) : layer_(currentAnimation() ? layer : nullptr) {
   if (layer_ == nullptr) return;
   const Nanoseconds now = Phone::current().clock.uptime();
-  removeEnded(layer_->animations, now);
+  removeEnded(*layer_, now);
   before_ = layer_->values();
   seen_ = currentAnimation()->fromCurrentState ? layer_->presentation(now) : before_;
 }
@@ -105,6 +110,7 @@ LayerChange::~LayerChange() {
   LayerAnimation& animation = animationOf(*layer_, *currentAnimation());
   animateNumbers(animation, after);
   animateTransform(animation, after.transform);
+  if (currentAnimation()->fromCurrentState) interruptReplaced();
 }
 
 void LayerChange::animateNumbers(LayerAnimation& animation, const LayerMeasures& now) const {
@@ -117,6 +123,17 @@ void LayerChange::animateNumbers(LayerAnimation& animation, const LayerMeasures&
       for (LayerAnimation& each : layer_->animations) each.difference[i] = 0;
     animation.difference[i] += seen[i] - after[i];
   }
+}
+
+// What begins from the current state takes the place of what ran until now.
+void LayerChange::interruptReplaced() const {
+  const auto isReplaced = [](const LayerAnimation& each) {
+    return each.changesNothing() && each.timing.group != currentAnimation()->group;
+  };
+  const auto all = layer_->animations;
+  std::erase_if(layer_->animations, isReplaced);
+  for (const LayerAnimation& each : all)
+    if (isReplaced(each)) each.timing.group->interrupt(*layer_);
 }
 
 void LayerChange::animateTransform(LayerAnimation& animation, const CGAffineTransform& now) const {

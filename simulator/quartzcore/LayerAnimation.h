@@ -5,10 +5,12 @@
 // turns by half a turn is seen to turn, clockwise, and never the longer way round.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include "simulator/machine/Clock.h"
+#include "simulator/quartzcore/AnimationGroup.h"
 #include "simulator/quartzcore/LayerValues.h"
 #include "simulator/quartzcore/TimingCurve.h"
 
@@ -17,13 +19,14 @@ namespace sim {
 struct CALayer;
 
 struct AnimationTiming {
-  unsigned long group = 0;  // the same for all that one call animates
-  Nanoseconds begin = 0;    // uptime, after the delay
-  double duration = 0;      // seconds, of one way
+  std::shared_ptr<AnimationGroup> group;  // the same for all that one call animates
+  Nanoseconds begin = 0;                  // uptime, after the delay
+  double duration = 0;                    // seconds, of one way
   TimingCurve curve;
   bool repeats = false;       // for ever
   bool autoreverses = false;  // and back again
   bool fromCurrentState = false;
+  bool ignoresTouches = false;  // no touch reaches the layer's view until it has ended
 
   double progress(Nanoseconds now) const;  // 0: at the start
   Nanoseconds end() const;                 // uptime; never, when it repeats
@@ -34,6 +37,9 @@ struct LayerAnimation {
   LayerNumbers difference{};    // start less end
   CGAffineTransform wayBack{};  // comes after the end's transform to make the start's
 
+  bool changesNothing() const {
+    return difference == LayerNumbers{} && wayBack == CGAffineTransform();
+  }
   // Makes what is seen without this animation what is seen with it, at that uptime.
   void addTo(LayerValues& seen, Nanoseconds now) const;
 };
@@ -56,6 +62,7 @@ class LayerChange {
  private:
   void animateNumbers(LayerAnimation& animation, const LayerMeasures& now) const;
   void animateTransform(LayerAnimation& animation, const CGAffineTransform& now) const;
+  void interruptReplaced() const;
 
   CALayer* layer_;
   LayerValues before_;

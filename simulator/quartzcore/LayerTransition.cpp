@@ -16,11 +16,14 @@ void setTakePicture(TakePicture take) {
   Phone::current().state<Pictures>().take = take;
 }
 
-void beginTransition(CALayer& layer, const AnimationTiming& timing) {
+std::shared_ptr<AnimationGroup> beginTransition(CALayer& layer, const AnimationTiming& timing) {
   const TakePicture takePicture = Phone::current().state<Pictures>().take;
-  if (takePicture == nullptr) return;
+  const bool replaces = layer.transition.timing.end() > Phone::current().clock.uptime();
+  const auto replaced = replaces ? layer.transition.timing.group : nullptr;
   // The picture may show an earlier transition that is still running.
-  layer.transition = {takePicture(layer), timing};
+  layer.transition = {takePicture != nullptr ? takePicture(layer) : nullptr, timing};
+  timing.group->add(layer);
+  return replaced;
 }
 
 }  // namespace sim

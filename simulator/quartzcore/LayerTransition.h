@@ -25,7 +25,9 @@ struct LayerTransition {
 using TakePicture = LayerPicture (*)(const CALayer& layer);
 void setTakePicture(TakePicture take);
 
-// From now on: what the layer looks like at this moment dissolves into what it will look like.
-void beginTransition(CALayer& layer, const AnimationTiming& timing);
+// From now on: what the layer looks like at this moment dissolves into what it will look like. It
+// takes the place of the layer's earlier transition, whose group is returned while that had not
+// ended: it is for the caller to interrupt it.
+std::shared_ptr<AnimationGroup> beginTransition(CALayer& layer, const AnimationTiming& timing);
 
 }  // namespace sim

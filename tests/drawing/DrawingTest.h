@@ -22,19 +22,21 @@ class DrawingTest : public UIKitTest {
   }
 };
 
-// One view, that the test moves.
+// One view, that the test moves; out of windows nothing does.
 class MovementTest : public DrawingTest {
  protected:
   void SetUp() override {
     DrawingTest::SetUp();
+    window = shownWindow();
     view = make("UIView", rect(0, 0, 100, 100));
+    add(window, view);
   }
   void TearDown() override {
-    view = nullptr;
+    view = window = nullptr;
     DrawingTest::TearDown();
   }
 
-  Strong<Object> view;
+  Strong<Object> window, view;
 };
 
 inline Object color(double red, double green, double blue, double alpha = 1) {

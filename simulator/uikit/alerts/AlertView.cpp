@@ -114,7 +114,8 @@ void AlertView::pressed(Object button) {
 
 void AlertView::animateIn() {
   constexpr double seconds = 0.4, larger = 1.15;
-  const auto timing = timingOf({.duration = seconds, .options = animation::curveEaseOut});
+  const auto timing = timingOf(
+      {.duration = seconds, .options = animation::allowUserInteraction | animation::curveEaseOut});
   CALayer& whole = CALayer::of(UIView::layerOf(Object(self())));
   CALayer& cardLayer = CALayer::of(UIView::layerOf(card.get()));
   LayerValues start = whole.values();

@@ -1,13 +1,15 @@
 #include "simulator/uikit/animation/Animation.h"
 
+#include "simulator/foundation/Kind.h"
 #include "simulator/machine/Phone.h"
+#include "simulator/quartzcore/CALayer.h"
+#include "simulator/uikit/application/UIWindow.h"
 
 namespace sim {
 namespace {
 
 struct Animations {
   bool areEnabled = true;
-  unsigned long groupsBegun = 0;
 };
 
 Animations& animations() {
@@ -35,6 +37,22 @@ class CurrentAnimation {
   std::optional<AnimationTiming> outer_;
 };
 
+bool isInWindow(const CALayer& layer) {
+  const CALayer* root = &layer;
+  while (root->superlayer) root = &CALayer::of(root->superlayer);
+  return isA<UIWindow>(root->delegate);
+}
+
+// Out of windows nothing is seen to move.
+void dropUnseen(AnimationGroup& group) {
+  const std::vector<CALayer*> layers = group.layers();
+  for (CALayer* layer : layers) {
+    if (isInWindow(*layer)) continue;
+    layer->dropAnimations(group);
+    group.forget(*layer);
+  }
+}
+
 }  // namespace
 
 bool animationsAreEnabled() {
@@ -46,13 +64,14 @@ void setAnimationsEnabled(bool enabled) {
 
 AnimationTiming timingOf(const AnimationParameters& parameters) {
   AnimationTiming timing;
-  timing.group = ++animations().groupsBegun;
+  timing.group = std::make_shared<AnimationGroup>();
   timing.begin = deadline(Phone::current().clock.uptime(), nanoseconds(parameters.delay));
   timing.duration = parameters.duration;
   timing.curve = curveOf(parameters);
   timing.repeats = (parameters.options & animation::repeat) != 0;
   timing.autoreverses = (parameters.options & animation::autoreverse) != 0;
   timing.fromCurrentState = (parameters.options & animation::beginFromCurrentState) != 0;
+  timing.ignoresTouches = (parameters.options & animation::allowUserInteraction) == 0;
   const auto& outer = currentAnimation();
   if (!outer) return timing;
   if ((parameters.options & animation::overrideInheritedDuration) == 0)
@@ -62,11 +81,20 @@ AnimationTiming timingOf(const AnimationParameters& parameters) {
 }
 
 void finishAnimation(const AnimationTiming& timing, AnimationCompletion completion) {
-  if (!completion || timing.repeats) return;
-  Phone& phone = Phone::current();
-  if (timing.end() <= phone.clock.uptime() || !animations().areEnabled) return completion(true);
-  auto kept = objc::adopt(objc::send<AnimationCompletion, "copy">(completion));
-  phone.queue.add(timing.end(), [kept = std::move(kept)] { kept.get()(true); });
+  MainQueue& queue = Phone::current().queue;
+  MainQueue::Ticket atTheEnd = 0;
+  if (completion) {
+    auto kept = objc::adopt(objc::send<AnimationCompletion, "copy">(completion));
+    timing.group->whenEnded([kept = std::move(kept)](bool finished) { kept.get()(finished); });
+    if (!timing.repeats)
+      atTheEnd = queue.add(timing.end(), [group = timing.group] { group->end(); });
+  }
+  queue.addNow([group = timing.group, atTheEnd] {
+    dropUnseen(*group);
+    if (!group->isEmpty()) return;
+    Phone::current().queue.cancel(atTheEnd);
+    group->end();
+  });
 }
 
 void animateChanges(const AnimationParameters& parameters, AnimationBlock changes,

@@ -26,16 +26,13 @@ void animateSpring(double seconds, double delay, double damping, double velocity
 }  // namespace
 
 void addViewAnimations(StandIn<UIView>& view) {
-  constexpr const char* difference = "takes its time also when nothing changes";
-  view.partialClassMethod<"animateWithDuration:animations:", &animate>(difference)
-      .partialClassMethod<"animateWithDuration:animations:completion:", &animateCompletion>(
-          difference)
-      .partialClassMethod<"animateWithDuration:delay:options:animations:completion:",
-                          &animateDelayed>(difference)
-      .partialClassMethod<
+  view.classMethod<"animateWithDuration:animations:", &animate>()
+      .classMethod<"animateWithDuration:animations:completion:", &animateCompletion>()
+      .classMethod<"animateWithDuration:delay:options:animations:completion:", &animateDelayed>()
+      .classMethod<
           "animateWithDuration:delay:usingSpringWithDamping:"
           "initialSpringVelocity:options:animations:completion:",
-          &animateSpring>(difference)
+          &animateSpring>()
       .classMethod<"performWithoutAnimation:", &performWithoutAnimation>()
       .classMethod<"areAnimationsEnabled", &animationsAreEnabled>()
       .classMethod<"setAnimationsEnabled:", &setAnimationsEnabled>();

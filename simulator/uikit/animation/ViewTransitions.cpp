@@ -1,4 +1,5 @@
 // UIView: transitions, which are animations between two states of a tree.
+#include <memory>
 #include <utility>
 
 #include "objc/Message.h"
@@ -13,24 +14,41 @@ namespace {
 
 using objc::Object;
 
+// A view's transition, and the one of before that it has taken the place of.
+struct Transition {
+  AnimationTiming timing;
+  CALayer* layer = nullptr;                  // nullptr: nothing is seen
+  std::shared_ptr<AnimationGroup> replaced;  // nullptr: there was none
+};
+
 // The picture is taken before anything changes.
-AnimationTiming begin(Object view, double seconds, unsigned long options) {
-  const AnimationTiming timing = timingOf({.duration = seconds, .options = options});
+Transition begin(Object view, double seconds, unsigned long options) {
+  Transition made{timingOf({.duration = seconds, .options = options}), nullptr, nullptr};
   CALayer* layer = view ? stateOf<CALayer>(UIView::layerOf(view)) : nullptr;
-  const bool isSeen = animationsAreEnabled() && timing.end() > Phone::current().clock.uptime() &&
+  const bool isSeen = animationsAreEnabled() &&
+                      made.timing.end() > Phone::current().clock.uptime() &&
                       (options & animation::transitionMask) != 0;
-  if (layer != nullptr && isSeen) beginTransition(*layer, timing);
-  return timing;
+  if (layer == nullptr || !isSeen) return made;
+  made.layer = layer;
+  made.replaced = beginTransition(*layer, made.timing);
+  return made;
+}
+
+// Once all has changed.
+void finish(const Transition& transition, AnimationCompletion ended) {
+  finishAnimation(transition.timing, ended);
+  if (transition.replaced) transition.replaced->interrupt(*transition.layer);
 }
 
 void transitionWithView(Object view, double seconds, unsigned long options, AnimationBlock changes,
                         AnimationCompletion ended) {
-  const AnimationTiming timing = begin(view, seconds, options);
+  const auto kept = objc::retain(view);
+  const Transition transition = begin(view, seconds, options);
   if ((options & animation::allowAnimatedContent) != 0)
     animateChanges({.duration = seconds, .options = options}, changes, nullptr);
   else
     changes();
-  finishAnimation(timing, ended);
+  finish(transition, ended);
 }
 
 // The platform dissolves what it showed last, and the second view was not to be seen then, even if
@@ -51,8 +69,7 @@ class HiddenGuard {
   bool wasHidden_;
 };
 
-AnimationTiming beginWithout(Object second, Object container, double seconds,
-                             unsigned long options) {
+Transition beginWithout(Object second, Object container, double seconds, unsigned long options) {
   const HiddenGuard unseen(second);
   return begin(container, seconds, options);
 }
@@ -68,15 +85,15 @@ void exchange(Object from, Object to) {
 void transitionBetween(Object from, Object to, double seconds, unsigned long options,
                        AnimationCompletion ended) {
   const auto kept = objc::retain(from);
-  const Object container = from ? UIView::of(from).parent : Object();
-  const AnimationTiming timing = beginWithout(to, container, seconds, options);
+  const auto container = objc::retain(from ? UIView::of(from).parent : Object());
+  const Transition transition = beginWithout(to, container.get(), seconds, options);
   if ((options & animation::showHideTransitionViews) != 0) {
     objc::send<void, "setHidden:">(from, true);
     objc::send<void, "setHidden:">(to, false);
   } else if (from) {
     exchange(from, to);
   }
-  finishAnimation(timing, ended);
+  finish(transition, ended);
 }
 
 }  // namespace

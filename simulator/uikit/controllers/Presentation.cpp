@@ -66,7 +66,8 @@ void UIViewController::animateIn() {
   LayerValues start = layer->values();
   start.position.y += start.bounds.size.height;
   animateFrom(*layer, start,
-              timingOf({.duration = animationSeconds, .options = animation::curveEaseOut}));
+              timingOf({.duration = animationSeconds,
+                        .options = animation::allowUserInteraction | animation::curveEaseOut}));
 }
 
 void UIViewController::dismiss(bool animated, objc::Block<void()> completion) {

@@ -29,8 +29,7 @@ Object hitTest(Object self, CGPoint point, Object event) {
 
 void addHitTesting(StandIn<UIView>& view) {
   view.method<"pointInside:withEvent:", &pointInside>()
-      .partial<"hitTest:withEvent:", &hitTest>(
-          "views take touches also while they are animated, where they end")
+      .method<"hitTest:withEvent:", &hitTest>()
       .property<"userInteractionEnabled", &UIView::userInteractionEnabled>()
       .readonlyProperty<"isUserInteractionEnabled", &UIView::userInteractionEnabled>();
 }

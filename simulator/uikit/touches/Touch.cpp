@@ -3,7 +3,8 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
-#include "simulator/machine/Journal.h"
+#include "simulator/machine/Phone.h"
+#include "simulator/quartzcore/CALayer.h"
 #include "simulator/uikit/application/UIResponder.h"
 #include "simulator/uikit/application/UIWindow.h"
 #include "simulator/uikit/controls/UIButton.h"
@@ -47,7 +48,11 @@ std::string obstacleTo(Object view, CGPoint point) {
 const char* whyUntouchable(const UIView& view) {
   if (view.isHidden()) return "is hidden";
   if (view.alpha() < almostTransparent) return "is transparent";
-  return view.userInteractionEnabled ? nullptr : "takes no touches";
+  if (!view.userInteractionEnabled) return "takes no touches";
+  const CALayer* layer = stateOf<CALayer>(view.layer.get());
+  const bool isAnimated =
+      layer != nullptr && layer->ignoresTouches(Phone::current().clock.uptime());
+  return isAnimated ? "is still being animated" : nullptr;
 }
 
 Object viewOnScreenAt(CGPoint point) {

@@ -2,6 +2,7 @@
 
 #include "objc/Block.h"
 #include "objc/Message.h"
+#include "simulator/uikit/animation/Animation.h"
 #include "simulator/uikit/controls/UIControl.h"
 
 namespace sim {
@@ -83,8 +84,9 @@ void animateLayout(Object view) {
   constexpr double seconds = 0.3;
   const auto layOut = objc::block<void()>([view] { objc::send<void, "layoutIfNeeded">(view); });
   objc::send<void, "setNeedsLayout">(view);
-  objc::send<void, "animateWithDuration:animations:">(objc_getClass("UIView"), seconds,
-                                                      layOut.get());
+  // Whether the host's own animations keep touches away is not known: they do not.
+  animateChanges({.duration = seconds, .options = animation::allowUserInteraction}, layOut.get(),
+                 nullptr);
 }
 
 }  // namespace sim

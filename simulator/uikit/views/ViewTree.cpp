@@ -80,6 +80,13 @@ void putIn(Object parent, const Strong<Object>& view, std::size_t index) {
   constraintsChanged(view);
 }
 
+// What is in no window any more moves no longer.
+void removeAnimations(CALayer& layer) {
+  const auto children = layer.children;
+  layer.removeAllAnimations();
+  for (const auto& child : children) removeAnimations(CALayer::of(child.get()));
+}
+
 void move(Object view, Object parent, std::size_t index) {
   const Strong<Object> kept = objc::retain(view);
   const Object window = parent ? windowOf(parent) : Object();
@@ -91,6 +98,8 @@ void move(Object view, Object parent, std::size_t index) {
   if (parent) putIn(parent, kept, index);
   if (changesWindow) didMoveToWindow(view, windowBefore);
   objc::send<void, "didMoveToSuperview">(view);
+  CALayer* layer = stateOf<CALayer>(UIView::of(view).layer.get());
+  if (changesWindow && windowBefore && layer != nullptr) removeAnimations(*layer);
   if (!parent) return;
   objc::send<void, "didAddSubview:">(parent, view);
   objc::send<void, "setNeedsLayout">(parent);

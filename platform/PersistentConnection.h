@@ -6,8 +6,8 @@
 struct PCSimpleTimer : NSObject {
   using NSObject::NSObject;
 
-  // One shot, `seconds` after it is scheduled. Calls `selector` on `target`, which it keeps, on
-  // the run loop it is scheduled in. The identifier names who woke the phone.
+  // One shot, `seconds` of the wall clock after it is made. Calls `selector` on `target`, which it
+  // keeps, on the run loop it is scheduled in. The identifier names who woke the phone.
   static objc::Strong<PCSimpleTimer> make(double seconds, NSString serviceIdentifier,
                                           objc::Object target, SEL selector,
                                           objc::Object userInfo) {

@@ -2,62 +2,115 @@
 
 #include <cstring>
 #include <utility>
+#include <vector>
 
+#include "simulator/foundation/Deadline.h"
+#include "simulator/foundation/Exception.h"
+#include "simulator/foundation/NSProcessInfo.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
+#include "simulator/machine/WallClock.h"
+#include "simulator/services/PCDispatchTimer.h"
 #include "simulator/standin/StandIn.h"
 
 namespace sim {
 namespace {
 
-void perform(objc::Object target, SEL selector, objc::Object timer) {
+using objc::Object;
+
+struct ScheduledTimers {
+  std::vector<PCSimpleTimer*> all;
+};
+
+std::vector<PCSimpleTimer*>& scheduledTimers() {
+  return Phone::current().state<ScheduledTimers>().all;
+}
+
+void perform(Object target, SEL selector, Object timer) {
   const bool takesTimer = std::strchr(sel_getName(selector), ':') != nullptr;
   if (takesTimer)
-    objc::send<objc::Object, "performSelector:withObject:">(target, selector, timer);
+    objc::send<Object, "performSelector:withObject:">(target, selector, timer);
   else
-    objc::send<objc::Object, "performSelector:">(target, selector);
+    objc::send<Object, "performSelector:">(target, selector);
+}
+
+objc::Strong<Object> dispatchTimer(double moment) {
+  if (PCDispatchTimer::cls() == nullptr) return {};
+  auto made = PCDispatchTimer::make();
+  PCDispatchTimer::of(made.get()).fireDate = objc::retain(date(moment));
+  return made;
 }
 
 }  // namespace
 
-objc::Object PCSimpleTimer::initWithTimeInterval_serviceIdentifier_target_selector_userInfo(
-    double seconds, objc::Object service, objc::Object owner, SEL action, objc::Object info) {
-  interval = seconds;
-  serviceIdentifier = objc::adopt(objc::send<objc::Object, "copy">(service));
+Object PCSimpleTimer::initWithTimeInterval_serviceIdentifier_target_selector_userInfo(
+    double seconds, Object service, Object owner, SEL action, Object info) {
+  const Clock& clock = Phone::current().clock;
+  moment_ = clock.wall() + seconds;
+  due_ = deadline(clock.uptime(), nanoseconds(seconds));
+  serviceIdentifier = objc::adopt(objc::send<Object, "copy">(service));
   target = objc::retain(owner);
   selector = action;
   userInfo = objc::retain(info);
   valid = true;
-  return objc::Object(self());
+  return Object(self());
 }
 
-void PCSimpleTimer::scheduleInRunLoop(objc::Object runLoop) {
-  if (!valid || fireTimer) return;
+void PCSimpleTimer::scheduleInRunLoop(Object) {
+  if (!valid)
+    raiseException("NSInternalInconsistencyException", "a PCSimpleTimer is scheduled only once");
+  if (ticket_ != 0) return;
   Phone::current().journal.record("-[PCSimpleTimer scheduleInRunLoop:]");
-  fireTimer = objc::retain(
-      objc::send<objc::Object, "timerWithTimeInterval:target:selector:userInfo:repeats:">(
-          objc_getClass("NSTimer"), interval, self(), objc::selector<"_fireTimerFired:">(), nullptr,
-          false));
-  objc::send<void, "addTimer:forMode:">(runLoop, fireTimer.get(), string("kCFRunLoopCommonModes"));
+  fireTimer = dispatchTimer(moment_);
+  scheduledTimers().push_back(this);
+  arm();
+}
+
+// The entry keeps the timer alive, the one of before until there is another.
+void PCSimpleTimer::arm() {
+  MainQueue& queue = Phone::current().queue;
+  const MainQueue::Ticket before = ticket_;
+  ticket_ = queue.add(due_, [timer = objc::retain(Object(self()))] { of(timer.get()).fire(); });
+  queue.cancel(before);
+}
+
+void PCSimpleTimer::stop() {
+  valid = false;
+  std::erase(scheduledTimers(), this);
+  Phone::current().queue.cancel(std::exchange(ticket_, 0));
 }
 
 // Journals only what had an effect: invalidating twice is invalidating once.
 void PCSimpleTimer::invalidate() {
   if (!valid) return;
   Phone::current().journal.record("-[PCSimpleTimer invalidate]");
-  const auto alive = objc::retain(objc::Object(self()));  // the NSTimer may hold the last reference
-  objc::send<void, "invalidate">(fireTimer.get());
-  valid = false;
+  const auto alive = objc::retain(Object(self()));  // the entry may hold the last reference
+  stop();
   fireTimer = nullptr;
   target = nullptr;
 }
 
-void PCSimpleTimer::fireTimerFired(objc::Object) {
-  const auto alive = objc::retain(objc::Object(self()));
+// All of its own is over when the run loop comes to calling the target.
+void PCSimpleTimer::fire() {
   Phone::current().journal.record("-[PCSimpleTimer fire] " + notation(serviceIdentifier.get()));
-  valid = false;
-  const auto receiver = std::exchange(target, nullptr);
-  perform(receiver.get(), selector, objc::Object(self()));
+  stop();
+  constexpr long withoutIts = 16;
+  if (systemVersion().majorVersion >= withoutIts) fireTimer = nullptr;
+  Phone::current().queue.addNow([timer = objc::retain(Object(self())), action = selector,
+                                 receiver = std::exchange(target, nullptr)] {
+    perform(receiver.get(), action, timer.get());
+  });
+}
+
+// All here are made with an interval: a clock that goes back by more than a minute fires them at
+// once. Otherwise the moment stays.
+void PCSimpleTimer::wallClockMoved(double distance) {
+  constexpr double tooFarBack = -60;  // seconds
+  const Clock& clock = Phone::current().clock;
+  for (PCSimpleTimer* timer : scheduledTimers()) {
+    timer->due_ = distance < tooFarBack ? clock.uptime() : uptimeAt(clock, timer->moment_);
+    timer->arm();
+  }
 }
 
 void PCSimpleTimer::registerClass() {
@@ -70,9 +123,8 @@ void PCSimpleTimer::registerClass() {
       .readonlyProperty<"isValid", &PCSimpleTimer::valid>()
       .readonlyProperty<"userInfo", &PCSimpleTimer::userInfo>()
       .readonlyProperty<"_fireTimer", &PCSimpleTimer::fireTimer>()
-      .partial<"_fireTimerFired:", &PCSimpleTimer::fireTimerFired>(
-          "keeps the timer that has fired, whose date is past then")
       .finish();
+  onWallClockMove(&PCSimpleTimer::wallClockMoved);
 }
 
 }  // namespace sim

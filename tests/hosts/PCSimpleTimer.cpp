@@ -1,4 +1,5 @@
 #include "objc/Class.h"
+#include "simulator/machine/WallClock.h"
 #include "simulator/runtime/LiveObjects.h"
 #include "tests/hosts/TestHost.h"
 
@@ -78,11 +79,13 @@ TEST_F(PCSimpleTimerTest, AnUnscheduledTimerNeverFires) {
   EXPECT_EQ(Sleeper::wakes, 0);
 }
 
-TEST_F(PCSimpleTimerTest, TheIntervalCountsFromScheduling) {
+TEST_F(PCSimpleTimerTest, TheIntervalCountsFromTheMaking) {
   const auto timer = make();
-  advance(30);
+  advance(20);
   schedule(timer.get());
-  EXPECT_EQ(secondsLeft(timer.get()), 60);
+  EXPECT_EQ(secondsLeft(timer.get()), 40);
+  advance(40);
+  EXPECT_EQ(Sleeper::wakes, 1);
 }
 
 TEST_F(PCSimpleTimerTest, TheFireDateStaysReadableAfterFiring) {
@@ -94,12 +97,60 @@ TEST_F(PCSimpleTimerTest, TheFireDateStaysReadableAfterFiring) {
   EXPECT_EQ(secondsLeft(timer.get()), -5);
 }
 
+TEST_F(PCSimpleTimerTest, SinceIOS16TheFireTimerIsGoneAfterFiring) {
+  phone.setup.systemVersion = "16.0";
+  const auto timer = make();
+  schedule(timer.get());
+  EXPECT_TRUE(fireTimer(timer.get()));
+  advance(60);
+  EXPECT_EQ(Sleeper::wakes, 1);
+  EXPECT_FALSE(fireTimer(timer.get()));
+}
+
+TEST_F(PCSimpleTimerTest, FiresAtItsMomentOfTheWallClock) {
+  const auto timer = make();
+  schedule(timer.get());
+  moveWallClock(10);
+  EXPECT_EQ(secondsLeft(timer.get()), 50);
+  advance(49.9);
+  EXPECT_EQ(Sleeper::wakes, 0);
+  moveWallClock(-60);
+  advance(60);
+  EXPECT_EQ(Sleeper::wakes, 0);
+  advance(0.1);
+  EXPECT_EQ(Sleeper::wakes, 1);
+}
+
+TEST_F(PCSimpleTimerTest, FiresAtOnceWhenTheClockGoesPastItsMoment) {
+  const auto timer = make();
+  schedule(timer.get());
+  moveWallClock(61);
+  advance(0);
+  EXPECT_EQ(Sleeper::wakes, 1);
+}
+
+TEST_F(PCSimpleTimerTest, FiresAtOnceWhenTheClockGoesBackByMoreThanAMinute) {
+  const auto timer = make(), unscheduled = make();
+  schedule(timer.get());
+  moveWallClock(-61);
+  EXPECT_EQ(Sleeper::wakes, 0);
+  advance(0);
+  EXPECT_EQ(Sleeper::wakes, 1);
+}
+
+TEST_F(PCSimpleTimerTest, CallsItsTargetATurnAfterItHasFired) {
+  const auto timer = make();
+  schedule(timer.get());
+  phone.queue.add(nanoseconds(60), [] { EXPECT_EQ(Sleeper::wakes, 0); });
+  advance(60);
+  EXPECT_EQ(Sleeper::wakes, 1);
+}
+
 TEST_F(PCSimpleTimerTest, AnInvalidatedTimerNeverFires) {
   const auto timer = make();
   schedule(timer.get());
   objc::send<void, "invalidate">(timer.get());
   objc::send<void, "invalidate">(timer.get());
-  schedule(timer.get());
   EXPECT_FALSE(fireTimer(timer.get()));
   advance(600);
   EXPECT_EQ(Sleeper::wakes, 0);
@@ -118,7 +169,8 @@ TEST_F(PCSimpleTimerTest, ADroppedTimerStillFires) {
     const objc::AutoreleasePool pool;
     schedule(make().get());
   }
-  advance(60);
+  moveWallClock(10);
+  advance(50);
   EXPECT_EQ(Sleeper::wakes, 1);
 }
 
@@ -131,7 +183,7 @@ TEST_F(PCSimpleTimerTest, LeavesNothingBehindWhenItHasFired) {
   advance(60);
   EXPECT_EQ(live("TestSleeper"), 0U);
   EXPECT_EQ(live("PCSimpleTimer"), 0U);
-  EXPECT_EQ(live("NSTimer"), 0U);
+  EXPECT_EQ(live("PCDispatchTimer"), 0U);
 }
 
 TEST_F(PCSimpleTimerTest, LetsItsTargetGoWhenItHasFired) {

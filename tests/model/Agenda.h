@@ -19,6 +19,7 @@ enum class Event {
   settingsArrive,  // what was written to the preferences domain holds
   restore,         // the task of the launch
   timerFires,      // a host timer, current or stale
+  timerDidFire,    // and calls the engine, one turn later
   fadeStep,
   volumeRestored,   // two seconds after the pause
   indicatorAllowed  // suppression of the volume indicator ends

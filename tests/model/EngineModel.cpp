@@ -1,5 +1,6 @@
 #include "tests/model/EngineModel.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace model {
@@ -27,12 +28,9 @@ void EngineModel::startTimerWithTimeInterval(long seconds) {
   engine.timerModeIsRunning = true;
   const std::size_t timer = engine.timers.size();
   engine.systemTimer = timer;
-  engine.timers.push_back({});
+  engine.timers.push_back({wall() + double(seconds)});
   record("-[PCSimpleTimer scheduleInRunLoop:]");
-  // A host timer never fires at once.
-  const Nanoseconds delay = toNanoseconds(seconds > 0 ? double(seconds) : 0.0001);
-  addAfter(delay, {0, Event::timerFires, timer});
-  engine.timers[timer].due = uptime + std::min(delay, never - uptime);
+  addAfter(toNanoseconds(std::max(double(seconds), 0.0)), {0, Event::timerFires, timer});
   record("post \"DozewellDidStartNotification\"");
 }
 
@@ -59,6 +57,10 @@ void EngineModel::restartTimerWithLastChosenValue() {
 void EngineModel::timerFires(std::size_t timer) {
   record("-[PCSimpleTimer fire] \"com.corvane.dozewell2\"");
   engine.timers[timer].valid = false;
+  addAfter(0, {0, Event::timerDidFire});
+}
+
+void EngineModel::timerDidFire() {
   if (settings.letTheSongFinishEnabled)
     engine.shouldPauseMusicAtTheEndOfThisTrack = true;
   else
@@ -101,8 +103,19 @@ void EngineModel::reinit() {
 
 double EngineModel::remainingTime() const {
   if (!engine.systemTimer) return 0;
-  const double fireDate = wall() + toSeconds(engine.timers[*engine.systemTimer].due - uptime);
-  return fireDate - wall();
+  return engine.timers[*engine.systemTimer].moment - wall();
+}
+
+// The host's timers go by the wall clock; one that goes back by more than a minute fires them.
+void EngineModel::moveWall(double distance) {
+  PhoneModel::moveWall(distance);
+  for (std::size_t timer = 0; timer < engine.timers.size(); ++timer) {
+    if (!engine.timers[timer].valid) continue;
+    agenda.remove(Event::timerFires, timer);
+    const double left = std::round((engine.timers[timer].moment - wall()) * 1e6) / 1e6;
+    addAfter(distance < -60 ? 0 : toNanoseconds(std::max(left, 0.0)),
+             {0, Event::timerFires, timer});
+  }
 }
 
 void EngineModel::readTitle() {

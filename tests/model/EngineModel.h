@@ -12,7 +12,7 @@
 namespace model {
 
 struct HostTimer {
-  Nanoseconds due = 0;
+  double moment = 0;  // of the wall clock
   bool valid = true;
 };
 
@@ -44,7 +44,9 @@ struct EngineModel : PhoneModel {
 
   void restoreIfNeeded();
   void readTitle();
+  void moveWall(double distance);
   void timerFires(std::size_t timer);
+  void timerDidFire();
   void fadeStep(float decrement);
   void restoreVolume();
 

@@ -101,16 +101,17 @@ Gen<Action> listening() {
 }
 
 Gen<Action> actions() {
-  return gen::weightedOneOf<Action>({{6, starts()},
-                                     {8, advances()},
-                                     {8, listening()},
-                                     {1, action<Cancel>()},
-                                     {2, action<Reinit>()},
-                                     {2, action<Restart>()},
-                                     {3, settings()},
-                                     {1, action<WallClock>(gen::element(1, -1, 3600, -3600))},
-                                     {2, restarts()},
-                                     {1, stored()}});
+  return gen::weightedOneOf<Action>(
+      {{6, starts()},
+       {8, advances()},
+       {8, listening()},
+       {1, action<Cancel>()},
+       {2, action<Reinit>()},
+       {2, action<Restart>()},
+       {3, settings()},
+       {1, action<WallClock>(gen::element(1, -1, 60, -60, 3600, -3600))},
+       {2, restarts()},
+       {1, stored()}});
 }
 
 Gen<std::vector<int>> deaths() {

@@ -69,6 +69,7 @@ struct NightModel::Performer {
     night.restartAfter(respring.after);
   }
   void operator()(Kill kill) {
+    phone.engine.timers.clear();
     phone.moveWall(kill.wallMoves);
     night.restartAfter(kill.after);
   }
@@ -124,6 +125,8 @@ void NightModel::run(const Entry& entry) {
       return phone.restoreIfNeeded();
     case Event::timerFires:
       return phone.timerFires(entry.timer);
+    case Event::timerDidFire:
+      return phone.timerDidFire();
     case Event::fadeStep:
       return phone.fadeStep(entry.decrement);
     case Event::volumeRestored:

@@ -1,6 +1,7 @@
 #include "simulator/script/commands/HostCommands.h"
 
 #include "simulator/foundation/NSUserDefaults.h"
+#include "simulator/machine/WallClock.h"
 #include "simulator/script/Restart.h"
 #include "simulator/script/commands/PhoneCommands.h"
 #include "simulator/script/names/JournalNames.h"
@@ -56,7 +57,7 @@ void advanceToUptime(Arguments& arguments) {
   advanceTo(until);
 }
 
-void moveWallClock(Arguments& arguments) {
+void wallClock(Arguments& arguments) {
   const Word& word = arguments.word("+DURATION or -DURATION");
   const char sign = word.quoted || word.text.empty() ? '\0' : word.text[0];
   if (sign != '+' && sign != '-')
@@ -64,8 +65,7 @@ void moveWallClock(Arguments& arguments) {
   Arguments amount({{word.text.substr(1), false, word.column + 1}}, word.column + 1);
   const double distance = seconds(amount.duration("a duration"));
   arguments.finish();
-  Clock& clock = Session::current().phone.clock;
-  clock.setWall(clock.wall() + (sign == '+' ? distance : -distance));
+  moveWallClock(sign == '+' ? distance : -distance);
 }
 
 void kill(Arguments& arguments) {
@@ -161,9 +161,12 @@ void addHostCommands(CommandTable& table) {
   table.add({"advance-to", Stage::booted, "advance-to SECONDS", "advance-to 2701.5",
              "Lets virtual time pass up to this many seconds since the phone's start.",
              advanceToUptime});
-  table.add({"wall-clock", Stage::any, "wall-clock +DURATION|-DURATION", "wall-clock -1h",
-             "Moves the wall clock, as a user or the network may; timers by uptime do not notice.",
-             moveWallClock});
+  table.add(
+      {"wall-clock", Stage::any, "wall-clock +DURATION|-DURATION", "wall-clock -1h",
+       "Moves the wall clock, as a user or the network may. Timers by uptime do not notice; a "
+       "PCSimpleTimer fires at its moment of the wall clock, and at once when the clock goes "
+       "back by more than a minute.",
+       wallClock});
   table.add({"kill", Stage::running, "kill", "kill",
              "The host dies here without an orderly end; `respring` brings it back.", kill});
   table.add({"kill-at", Stage::any, "kill-at N|TEXT [times N]", "kill-at 3",

@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <list>
 
+#include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/NSObject.h"
+#include "simulator/foundation/NSRunLoop.h"
 #include "simulator/foundation/NSThread.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/machine/WorkerThread.h"
@@ -19,6 +22,7 @@ struct Perform {
   Strong<Object> target;
   SEL selector;
   Strong<Object> argument;
+  RunLoopModes modes;
   MainQueue::Ticket ticket;
 };
 
@@ -34,12 +38,18 @@ void perform(Object target, SEL selector, Object argument) {
   sim::runtime::send<void>(target.get(), selector, argument.get());
 }
 
-void performAfterDelay(Object self, SEL selector, Object argument, double delay) {
-  pending().push_back({objc::retain(self), selector, objc::retain(argument), 0});
-  const auto entry = std::prev(pending().end());
-  Phone& phone = Phone::current();
-  const Nanoseconds due = deadline(phone.clock.uptime(), nanoseconds(delay));
-  entry->ticket = phone.queue.add(due, [entry] {
+void addToQueue(std::list<Perform>::iterator entry, Nanoseconds due);
+
+// Nobody has cancelled it meanwhile, if it is still there.
+void addAgain(MainQueue::Ticket ticket) {
+  for (auto entry = pending().begin(); entry != pending().end(); ++entry)
+    if (entry->ticket == ticket) return addToQueue(entry, Phone::current().clock.uptime());
+}
+
+void addToQueue(std::list<Perform>::iterator entry, Nanoseconds due) {
+  entry->ticket = Phone::current().queue.add(due, [entry] {
+    if (!entry->modes.holdNow())
+      return whenModeChanges([ticket = entry->ticket] { addAgain(ticket); });
     std::list<Perform> running;
     running.splice(running.begin(), pending(), entry);
     const Perform& now = running.front();
@@ -47,8 +57,21 @@ void performAfterDelay(Object self, SEL selector, Object argument, double delay)
   });
 }
 
-void performInModes(Object self, SEL selector, Object argument, double delay, Object) {
-  performAfterDelay(self, selector, argument, delay);
+void add(Object self, SEL selector, Object argument, double delay, RunLoopModes modes) {
+  pending().push_back({objc::retain(self), selector, objc::retain(argument), modes, 0});
+  addToQueue(std::prev(pending().end()),
+             deadline(Phone::current().clock.uptime(), nanoseconds(delay)));
+}
+
+void performAfterDelay(Object self, SEL selector, Object argument, double delay) {
+  add(self, selector, argument, delay, {.inDefault = true});
+}
+
+void performInModes(Object self, SEL selector, Object argument, double delay, Object names) {
+  RunLoopModes modes;
+  if (const NSArray* list = stateOf<NSArray>(names))
+    for (const auto& name : list->elements) modes = joined(modes, modesNamed(name));
+  add(self, selector, argument, delay, modes);
 }
 
 template <class Matches>
@@ -88,9 +111,9 @@ void performOnMainThread(Object self, SEL selector, Object argument, bool wait) 
 
 void addDelayedPerforms() {
   addToRootClass<"performSelector:withObject:afterDelay:", &performAfterDelay>(
-      "always on the main run loop, in every mode: also while a wheel or a slider is touched");
+      "always on the main run loop");
   addToRootClass<"performSelector:withObject:afterDelay:inModes:", &performInModes>(
-      "always on the main run loop, in every mode");
+      "always on the main run loop");
   addToRootClass<"performSelectorOnMainThread:withObject:waitUntilDone:", &performOnMainThread>();
   const FidelityPage page("Foundation", "NSObject");
   const Class cls = objc_getClass("NSObject");

@@ -17,8 +17,8 @@ Object mainRunLoop() {
   return onlyObject<NSRunLoop>();
 }
 
-void addTimer(Object, Object timer, Object) {
-  if (NSTimer* state = stateOf<NSTimer>(timer)) state->schedule();
+void addTimer(Object, Object timer, Object mode) {
+  if (NSTimer* state = stateOf<NSTimer>(timer)) state->scheduleIn(modesNamed(mode));
 }
 
 id constant(const char* name, const char* value) {
@@ -28,11 +28,21 @@ id constant(const char* name, const char* value) {
 
 }  // namespace
 
+RunLoopModes modesNamed(Object name) {
+  const std::string mode = text(name);
+  const bool isCommon = mode == "kCFRunLoopCommonModes";
+  return {isCommon || mode == "kCFRunLoopDefaultMode", isCommon || mode == "UITrackingRunLoopMode"};
+}
+
+RunLoopModes joined(RunLoopModes a, RunLoopModes b) {
+  return {a.inDefault || b.inDefault, a.inTracking || b.inTracking};
+}
+
 void NSRunLoop::registerClass() {
   StandIn<NSRunLoop>("Foundation", "NSRunLoop", "NSObject")
       .classMethod<"mainRunLoop", &mainRunLoop>()
       .partialClassMethod<"currentRunLoop", &mainRunLoop>("the main run loop on every thread")
-      .partial<"addTimer:forMode:", &addTimer>("the timer runs in every mode")
+      .method<"addTimer:forMode:", &addTimer>()
       .finish();
   const objc::AutoreleasePool pool;  // the phone boots before there is any other
   NSDefaultRunLoopMode = constant("NSDefaultRunLoopMode", "kCFRunLoopDefaultMode");

@@ -7,6 +7,7 @@
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSDate.h"
+#include "simulator/foundation/NSRunLoop.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/runtime/Send.h"
@@ -57,7 +58,7 @@ Object timerWithBlock(double seconds, bool repeats, TimerBlock block) {
   return autorelease(makeWithBlock(seconds, repeats, block));
 }
 Object scheduled(Strong<Object> made) {
-  NSTimer::of(made.get()).schedule();
+  NSTimer::of(made.get()).scheduleIn({.inDefault = true});
   return autorelease(std::move(made));
 }
 Object scheduledTimer(double seconds, Object target, SEL selector, Object info, bool repeats) {
@@ -94,12 +95,18 @@ Object NSTimer::initWithBlock(Object date, double seconds, bool repeats, TimerBl
   return Object(self());
 }
 
+void NSTimer::scheduleIn(RunLoopModes added) {
+  modes = joined(modes, added);
+  schedule();
+}
+
 void NSTimer::schedule() {
-  if (!valid || ticket != 0) return;
+  if (!valid || ticket != 0 || (!modes.inDefault && !modes.inTracking)) return;
   ticket = Phone::current().queue.add(due, [timer = objc::retain(Object(self()))] {
     NSTimer& state = of(timer.get());
     state.ticket = 0;
-    state.tick();
+    if (state.modes.holdNow()) return state.tick();
+    whenModeChanges([timer] { of(timer.get()).schedule(); });
   });
 }
 

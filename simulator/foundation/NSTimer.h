@@ -3,6 +3,7 @@
 #include "objc/Block.h"
 #include "objc/Class.h"
 #include "simulator/machine/MainQueue.h"
+#include "simulator/machine/RunLoopMode.h"
 
 namespace sim {
 
@@ -13,6 +14,7 @@ struct NSTimer : objc::Implementation<NSTimer> {
   Nanoseconds due = 0;       // uptime
   Nanoseconds interval = 0;  // 0: fires once
   MainQueue::Ticket ticket = 0;
+  RunLoopModes modes;
   bool valid = false;
   objc::Strong<objc::Object> target;  // retained until the timer is invalidated
   SEL selector = nullptr;
@@ -22,7 +24,8 @@ struct NSTimer : objc::Implementation<NSTimer> {
   objc::Object initWithFireDate(objc::Object date, double seconds, objc::Object itsTarget,
                                 SEL itsSelector, objc::Object info, bool repeats);
   objc::Object initWithBlock(objc::Object date, double seconds, bool repeats, TimerBlock itsBlock);
-  void schedule();  // does nothing when it is scheduled or invalid
+  // In these modes, and in those that it runs in already.
+  void scheduleIn(RunLoopModes added);
   void fire();
   void invalidate();
   objc::Object fireDate() const;
@@ -32,6 +35,7 @@ struct NSTimer : objc::Implementation<NSTimer> {
   static void registerClass();
 
  private:
+  void schedule();  // does nothing when it is scheduled, invalid or in no mode
   void begin(Nanoseconds firstDue, double seconds, bool repeats);
   void tick();
   void call();

@@ -1,3 +1,5 @@
+#include "simulator/foundation/NSRunLoop.h"
+#include "simulator/machine/RunLoopMode.h"
 #include "simulator/standin/StandIn.h"
 #include "tests/foundation/FoundationTest.h"
 
@@ -43,6 +45,27 @@ TEST_F(DelayedPerformsTest, runAfterTheirDelayInOrder) {
   EXPECT_EQ(Listener::of(listener.get()).heard.size(), 2u);
   advance(0.001);
   EXPECT_EQ(Listener::of(listener.get()).heard.back(), "\"late\"");
+}
+
+TEST_F(DelayedPerformsTest, runInTheDefaultModeOnly) {
+  const auto listener = Listener::make();
+  const auto& heard = Listener::of(listener.get()).heard;
+  {
+    const Tracking scrolling;
+    perform(listener, string("second"), 2);
+    perform(listener, string("first"), 1);
+    perform(listener, string("cancelled"), 1);
+    send<void, "performSelector:withObject:afterDelay:inModes:">(
+        listener.get(), sel_registerName("hear:"), string("common"), 1.0,
+        array({Object(NSRunLoopCommonModes)}));
+    advance(3);
+    EXPECT_EQ(heard, (Lines{"\"common\""}));
+    send<void, "cancelPreviousPerformRequestsWithTarget:selector:object:">(
+        cls("NSObject"), listener.get(), sel_registerName("hear:"), string("cancelled"));
+  }
+  EXPECT_EQ(heard.size(), 1u);
+  advance(0);
+  EXPECT_EQ(heard, (Lines{"\"common\"", "\"first\"", "\"second\""}));
 }
 
 TEST_F(DelayedPerformsTest, keepTheirTarget) {

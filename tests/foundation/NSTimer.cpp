@@ -128,6 +128,27 @@ TEST_F(NSTimerTest, isScheduledOnceHoweverOftenItIsAdded) {
   send<void, "invalidate">(timer);
 }
 
+TEST_F(NSTimerTest, waitsForItsMode) {
+  const auto target = Target::make(), always = Target::make();
+  const double start = now();
+  const Object timer = schedule(target, 1, true);
+  const Object common = schedule(always, 1, true);
+  send<void, "addTimer:forMode:">(send<Object, "mainRunLoop">(cls("NSRunLoop")), common,
+                                  Object(NSRunLoopCommonModes));
+  {
+    const Tracking scrolling;
+    advance(2.5);
+    EXPECT_TRUE(Target::of(target.get()).fired.empty());
+    EXPECT_EQ(Target::of(always.get()).fired.size(), 2u);
+  }
+  EXPECT_TRUE(Target::of(target.get()).fired.empty());
+  advance(1);
+  EXPECT_EQ(Target::of(target.get()).fired, (Times{start + 2.5, start + 3}));
+  EXPECT_EQ(Target::of(always.get()).fired.size(), 3u);
+  send<void, "invalidate">(timer);
+  send<void, "invalidate">(common);
+}
+
 TEST_F(NSTimerTest, firesAtOnceWhenAskedTo) {
   const auto target = Target::make();
   const Object once = schedule(target, 5, false);
@@ -176,7 +197,7 @@ TEST_F(NSTimerTest, startsAtADate) {
           objc_alloc(cls("NSTimer")), date, 2.0, target.get(), sel_registerName("fire:"), Object(),
           true)));
   send<void, "addTimer:forMode:">(send<Object, "mainRunLoop">(cls("NSRunLoop")), timer.get(),
-                                  Object());
+                                  Object(NSDefaultRunLoopMode));
   advance(3);
   EXPECT_EQ(Target::of(target.get()).fired.size(), 2u);
   EXPECT_DOUBLE_EQ(Target::of(target.get()).fired[0], start + 0.3);

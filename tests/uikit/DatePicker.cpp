@@ -1,5 +1,6 @@
 #include <functional>
 
+#include "simulator/uikit/touches/Finger.h"
 #include "simulator/uikit/views/UILabel.h"
 #include "simulator/uikit/views/ViewTree.h"
 #include "tests/uikit/UIKitTest.h"
@@ -31,8 +32,12 @@ TEST_F(DatePicker, ShowsWholeStepsFromOneUpwards) {
   EXPECT_EQ(duration(), 120);
   set(0);
   EXPECT_EQ(duration(), 60);
-  set(100000);
+  set((23 * 60 + 59) * 60 + 59.9);
   EXPECT_EQ(duration(), (23 * 60 + 59) * 60);
+  set(24 * 3600);  // has no place on the wheels: the first step after nothing
+  EXPECT_EQ(duration(), 60);
+  set(100000);
+  EXPECT_EQ(duration(), 60);
 }
 
 TEST_F(DatePicker, StepsDivideTheHour) {
@@ -44,12 +49,10 @@ TEST_F(DatePicker, StepsDivideTheHour) {
   setInterval(5);
   set(60);
   EXPECT_EQ(duration(), 5 * 60);
-  set(100000);
-  EXPECT_EQ(duration(), (23 * 60 + 55) * 60);
-  setInterval(7);
-  EXPECT_EQ((send<long, "minuteInterval">(picker.get())), 1);
-  setInterval(60);
-  EXPECT_EQ((send<long, "minuteInterval">(picker.get())), 1);
+  for (const long wrong : {7L, 60L, 0L, -5L}) {
+    setInterval(wrong);
+    EXPECT_EQ((send<long, "minuteInterval">(picker.get())), 5);
+  }
 }
 
 TEST_F(DatePicker, OnlyCountsDownInThatMode) {
@@ -109,6 +112,43 @@ TEST_F(DatePicker, SpeaksThePhonesLanguage) {
   advance(0);
   EXPECT_EQ(selection(picker), (std::vector<std::string>{"د", "٤٥", "ساعات", "٣"}));
   phone.setup.locale = "en_US";
+}
+
+TEST_F(DatePicker, ChangesWhenAllItsWheelsRest) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 320, 200));
+  add(window, picker);
+  set(3600);
+  advance(0);
+  Finger& finger = Finger::current();
+  // The hours run out while the minutes are held, and come back to where they were.
+  finger.began({60, 100});
+  advance(0.02);
+  finger.moved({60, 60});
+  advance(0.02);
+  finger.moved({60, 20});
+  finger.ended({60, 20});
+  finger.began({260, 100});
+  advance(5);
+  EXPECT_EQ(duration(), 3600);
+  finger.ended({260, 100});
+  advance(2);
+  EXPECT_GT(duration(), 2 * 3600);
+}
+
+TEST_F(DatePicker, EndsWithTheLastHour) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 320, 200));
+  add(window, picker);
+  set(23 * 3600);
+  advance(0);
+  Finger& finger = Finger::current();
+  finger.began({60, 100});
+  finger.moved({60, 0});
+  advance(1);
+  finger.ended({60, 0});
+  advance(2);
+  EXPECT_EQ(duration(), 23 * 3600);
 }
 
 TEST_F(DatePicker, WithoutACountDownHasNoWheels) {

@@ -1,5 +1,6 @@
 #include "objc/Class.h"
 #include "simulator/uikit/pickers/UIPickerView.h"
+#include "simulator/uikit/touches/Finger.h"
 #include "simulator/uikit/views/UIView.h"
 #include "tests/uikit/UIKitTest.h"
 
@@ -64,9 +65,14 @@ TEST_F(PickerView, BeginsWithTheFirstRow) {
 TEST_F(PickerView, SelectingByMessageTellsNobody) {
   select(41);
   EXPECT_EQ(selected(), 41);
-  select(1000);
-  EXPECT_EQ(selected(), 98);
   EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(PickerView, SelectsNoRowThatItDoesNotHave) {
+  select(41);
+  select(99);
+  EXPECT_EQ(selected(), 41);
+  EXPECT_DEATH(select(-1), "NSRangeException");
 }
 
 TEST_F(PickerView, TurningItByHandTellsTheDelegate) {
@@ -118,7 +124,7 @@ TEST_F(PickerView, ShowsTheRowsAroundTheSelectedOne) {
   EXPECT_DOUBLE_EQ(UIView::of(shown[4].get()).alpha(), 1);
   EXPECT_LT(UIView::of(shown[3].get()).alpha(), 0.6);
   EXPECT_LT(UIView::of(shown[0].get()).alpha(), UIView::of(shown[3].get()).alpha());
-  EXPECT_LT(middle(shown[3]), 100 - 25);
+  EXPECT_LT(middle(shown[3]), 100 - 20);
   EXPECT_DOUBLE_EQ(middle(shown[3]) + middle(shown[5]), 200);
 }
 
@@ -140,6 +146,47 @@ TEST_F(PickerView, WhatOthersAddLiesInFrontOfTheWheels) {
   advance(0);
   EXPECT_EQ(UIView::of(picker.get()).children.back().get(), label.get());
   EXPECT_EQ(UIView::of(picker.get()).children.size(), 3U);
+}
+
+TEST_F(PickerView, MakesItsRowsAgainInANewSize) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 321, 250));
+  add(window, picker);
+  select(50);
+  advance(0);
+  EXPECT_EQ(frameOf(wheelOf(picker)), rect(9, 0, 303, 250));
+  viewsMade = 0;
+  send<void, "setFrame:">(picker.get(), rect(10, 0, 321, 250));
+  advance(0);
+  EXPECT_EQ(viewsMade, 0);
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 200, 100));
+  advance(0);
+  EXPECT_EQ(viewsMade, 9);
+  EXPECT_EQ(frameOf(wheelOf(picker)), rect(9, 0, 182, 100));
+  const auto shown = cells(wheelOf(picker));
+  EXPECT_EQ((send<CGRect, "bounds">(shown[4].get())), rect(0, 0, 182, 24));
+  EXPECT_EQ(selected(), 50);
+  EXPECT_TRUE(chosen.empty());
+}
+
+TEST_F(PickerView, TellsTheRowUnderItsBarWhileItTurns) {
+  const auto window = shownWindow();
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 320, 300));
+  add(window, picker);
+  select(50);
+  advance(0);
+  Finger& finger = Finger::current();
+  finger.began({160, 150});
+  finger.moved({160, 150 - 3 * 32});
+  EXPECT_EQ(selected(), 53);
+  EXPECT_TRUE(chosen.empty());
+  // A new size ends the turn on that row, and tells nobody.
+  send<void, "setFrame:">(picker.get(), rect(0, 0, 200, 300));
+  advance(0);
+  finger.ended({160, 150 - 3 * 32});
+  advance(3);
+  EXPECT_EQ(selected(), 53);
+  EXPECT_TRUE(chosen.empty());
 }
 
 TEST_F(PickerView, RollsToARow) {

@@ -74,8 +74,9 @@ void Page::setDefaultTimerPickerValue(long minutes) {
 void Page::setDefaultNbSongsPickerValue(long songs) {
   if (songs == defaultNbSongsPickerValue) return;
   defaultNbSongsPickerValue = songs;
-  // The setting may be any number; the picker takes no row that it does not have.
+  // The setting may be any number. The picker leaves out rows past its last; a negative one would
+  // raise and end the host.
   const long row = wrappingDifference(songs, 1);
-  nbSongsPickerView->selectRow(row, 0, false);
+  if (row >= 0) nbSongsPickerView->selectRow(row, 0, false);
   addOrRemovePluralForRow(row);
 }

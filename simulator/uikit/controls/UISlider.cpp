@@ -87,6 +87,7 @@ void UISlider::slideTo(float to) {
 }
 
 bool UISlider::beginTracking(Object touch, Object) {
+  tracking_.emplace();
   heldFrom_ = value;
   fingerFrom_ = UITouch::of(touch).locationInView(Object(self())).x;
   return true;
@@ -122,6 +123,8 @@ void UISlider::registerClass() {
       .method<"layoutSubviews", &UISlider::layoutSubviews>()
       .method<"beginTrackingWithTouch:withEvent:", &UISlider::beginTracking>()
       .method<"continueTrackingWithTouch:withEvent:", &UISlider::continueTracking>()
+      .method<"endTrackingWithTouch:withEvent:", &UISlider::endTracking>()
+      .method<"cancelTrackingWithEvent:", &UISlider::cancelTracking>()
       .finish();
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
+
 #include "objc/Class.h"
 #include "simulator/coregraphics/Geometry.h"
+#include "simulator/machine/RunLoopMode.h"
 
 namespace sim {
 
@@ -19,6 +22,8 @@ struct UISlider : objc::Implementation<UISlider> {
   // The knob follows the finger's way, wherever on the slider it came down.
   bool beginTracking(objc::Object touch, objc::Object event);
   bool continueTracking(objc::Object touch, objc::Object event);
+  void endTracking(objc::Object, objc::Object) { tracking_.reset(); }
+  void cancelTracking(objc::Object) { tracking_.reset(); }
   // By a mouse's wheel or a key: so many twentieths of the way down.
   void turnBy(long steps);
   // How much of its length the knob has behind it, for that value.
@@ -33,6 +38,7 @@ struct UISlider : objc::Implementation<UISlider> {
  private:
   void slideTo(float to);  // by hand: its actions are sent
 
+  std::optional<Tracking> tracking_;
   float heldFrom_ = 0;     // the value when a finger came down
   double fingerFrom_ = 0;  // and where that was, x
 };

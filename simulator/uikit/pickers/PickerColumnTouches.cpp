@@ -1,6 +1,7 @@
 // UIPickerColumnView: a finger on the wheel, and how it runs out.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
@@ -40,6 +41,7 @@ void UIPickerColumnView::touchBegan(CGPoint point) {
   fingerAt_ = point.y;
   fingerWay_ = 0;
   takeWheel();
+  tracking_.emplace();
   wheel_->hold();
 }
 
@@ -56,6 +58,7 @@ void UIPickerColumnView::touchEnded(CGPoint point) {
   if (fingerWay_ > tapWay) {
     wheel_->release(now());
   } else {
+    tracking_.reset();
     const double height = UIView::of(self()).geometry().bounds.size.height;
     wheel_->runTo(std::lround(position() + (point.y - height / 2) / rowHeight), now());
   }
@@ -69,11 +72,16 @@ void UIPickerColumnView::touchCancelled() {
 
 void UIPickerColumnView::turnBy(long rows) {
   if (numberOfRows <= 0) return;
-  wheel_.reset();
+  stopTurning();
   const long from = place_;
   place_ = isEndless ? from + rows : std::clamp(from + rows, 0L, numberOfRows - 1);
   arrange();
   if (place_ != from) rest();
+}
+
+void UIPickerColumnView::stopTurning() {
+  wheel_.reset();
+  tracking_.reset();
 }
 
 void UIPickerColumnView::keepRunning() {
@@ -89,7 +97,7 @@ void UIPickerColumnView::run() {
   const bool rests = wheel_->advance(now());
   if (rests) {
     place_ = std::lround(wheel_->position());
-    wheel_.reset();
+    stopTurning();
   }
   arrange();
   if (rests) return rest();
@@ -97,11 +105,11 @@ void UIPickerColumnView::run() {
 }
 
 void UIPickerColumnView::rest() {
-  const long row = rowAt(place_);
-  if (row == selectedRow) return;
-  selectedRow = row;
   const auto kept = objc::retain(objc::Object(self()));
-  if (turned) turned(row);
+  const long row = rowAt(place_);
+  const bool isAnother = std::exchange(selectedRow, row) != row;
+  if (isAnother && turned) turned(row);
+  if (rested) rested();
 }
 
 }  // namespace sim

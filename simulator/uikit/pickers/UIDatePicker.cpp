@@ -25,8 +25,9 @@ void addHighlightsToday() {
 
 double UIDatePicker::shownDuration(double seconds) const {
   const double step = double(interval) * 60;
-  constexpr double longest = (23 * 60 + 59) * 60;
-  return std::max(std::floor(std::min(seconds, longest) / step) * step, step);
+  constexpr double day = 24 * 3600;
+  const double shown = std::floor(std::clamp(seconds, 0.0, day) / step) * step;
+  return shown == day ? step : std::max(shown, step);
 }
 
 double UIDatePicker::countDownDuration() const {
@@ -40,8 +41,8 @@ void UIDatePicker::setCountDownDuration(double seconds) {
 }
 
 void UIDatePicker::setMinuteInterval(long minutes) {
-  const bool works = minutes >= 1 && minutes <= 30 && 60 % minutes == 0;
-  interval = works ? minutes : 1;
+  if (minutes < 1 || minutes > 30 || 60 % minutes != 0) return;
+  interval = minutes;
   duration = shownDuration(duration);
   removeWheels();
 }
@@ -52,12 +53,11 @@ void UIDatePicker::registerClass() {
   picker.readonlyProperty<"datePickerMode", &UIDatePicker::mode>()
       .partial<"setDatePickerMode:", &UIDatePicker::setMode>("only the count-down has wheels")
       .method<"countDownDuration", &UIDatePicker::countDownDuration>()
-      .partial<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>(
-          "24 hours and more become the last step before, not 0:00")
+      .method<"setCountDownDuration:", &UIDatePicker::setCountDownDuration>()
       .readonlyProperty<"minuteInterval", &UIDatePicker::interval>()
-      .partial<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>(
-          "a step that is not allowed becomes 1, where a phone keeps the one of before")
-      .method<"layoutSubviews", &UIDatePicker::layoutSubviews>()
+      .method<"setMinuteInterval:", &UIDatePicker::setMinuteInterval>()
+      .partial<"layoutSubviews", &UIDatePicker::layoutSubviews>(
+          "wheels and units have measures of their own, and units do not fade")
       .readonlyProperty<"_textColor", &UIDatePicker::textColor>()
       .method<"_setTextColor:", &UIDatePicker::setTextColor>()
       .finish();

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
@@ -80,7 +81,7 @@ void UIDatePicker::setTextColor(Object color) {
 
 void UIDatePicker::removeWheels() {
   for (auto* part : {&band_, &hours_, &minutes_, &hoursUnit_, &minutesUnit_}) {
-    if (auto* wheel = stateOf<UIPickerColumnView>(part->get())) wheel->turned = nullptr;
+    if (auto* wheel = stateOf<UIPickerColumnView>(part->get())) wheel->rested = nullptr;
     if (*part) removeFromSuperview(part->get());
     *part = nullptr;
   }
@@ -88,13 +89,13 @@ void UIDatePicker::removeWheels() {
 }
 
 // Digits stand at the end of their row.
-Strong<Object> UIDatePicker::makeWheel(long rows, long step) {
+Strong<Object> UIDatePicker::makeWheel(long rows, long step, bool isEndless) {
   auto made = UIPickerColumnView::make();
   UIPickerColumnView& wheel = UIPickerColumnView::of(made.get());
   objc::send<void, "setUserInteractionEnabled:">(made.get(), false);
   wheel.rowHeight = rowHeight;
   wheel.numberOfRows = rows;
-  wheel.isEndless = true;
+  wheel.isEndless = isEndless;
   wheel.makeRow = [step, color = textColor](long row) {
     auto label = pickerLabel(localizedNumber(row * step), pickerDigits, color);
     objc::send<void, "setTextAlignment:">(label.get(), interfaceIsRightToLeft() ? 0L : 2L);
@@ -107,8 +108,8 @@ Strong<Object> UIDatePicker::makeWheel(long rows, long step) {
 void UIDatePicker::makeWheels() {
   if (hours_ || UIPickerColumnView::cls() == nullptr) return;
   band_ = pickerBand();
-  hours_ = makeWheel(hoursOfDay, 1);
-  minutes_ = makeWheel(60 / interval, interval);
+  hours_ = makeWheel(hoursOfDay, 1, false);
+  minutes_ = makeWheel(60 / interval, interval, true);
   const std::string& locale = Phone::current().setup.locale;
   hoursUnit_ = pickerLabel(string(widestHourUnit(locale)), pickerUnit, textColor);
   minutesUnit_ = pickerLabel(string(minuteUnit(locale)), pickerUnit, textColor);
@@ -116,16 +117,25 @@ void UIDatePicker::makeWheels() {
   for (const auto* part : {&band_, &hours_, &hoursUnit_, &minutes_, &minutesUnit_})
     insertSubview(Object(self()), part->get(), index++);
   for (const auto* wheel : {&hours_, &minutes_})
-    UIPickerColumnView::of(wheel->get()).turned = [this](long) { wheelDidTurn(); };
+    UIPickerColumnView::of(wheel->get()).rested = [this] { wheelDidRest(); };
   updateWheels();
 }
 
-// By hand. The wheels do not rest at nothing: they go on to the first step.
-void UIDatePicker::wheelDidTurn() {
+bool UIDatePicker::wheelsTurn() const {
+  return UIPickerColumnView::of(hours_.get()).isTurning() ||
+         UIPickerColumnView::of(minutes_.get()).isTurning();
+}
+
+// By hand. Nothing counts before the last of them rests. The wheels do not rest at nothing: they go
+// on to the first step.
+void UIDatePicker::wheelDidRest() {
+  if (wheelsTurn()) return;
   const long hours = UIPickerColumnView::of(hours_.get()).selectedRow;
   const long minutes = UIPickerColumnView::of(minutes_.get()).selectedRow * interval;
+  const double stands = double(hours * 60 + minutes) * 60;
+  if (stands == countDownDuration()) return;
   const auto kept = objc::retain(Object(self()));
-  duration = shownDuration(double(hours * 60 + minutes) * 60);
+  duration = shownDuration(stands);
   updateWheels(minutes == 0 && hours == 0);
   UIControl::of(self()).sendActionsForEvents(UIControl::valueChanged, nullptr);
 }
@@ -141,9 +151,10 @@ void UIDatePicker::updateWheels(bool animated) {
 
 void UIDatePicker::layoutSubviews() {
   super<void, "layoutSubviews">();
+  const CGRect bounds = UIView::of(self()).geometry().bounds;
+  if (std::exchange(sizeOfWheels_, bounds.size) != bounds.size) removeWheels();
   if (mode == countDownTimer) makeWheels();
   if (!hours_) return;
-  const CGRect bounds = UIView::of(self()).geometry().bounds;
   objc::send<void, "setFrame:">(band_.get(), pickerBandFrame(bounds, rowHeight));
   const CGSize wheel = {digitsWidth, bounds.size.height};
   const CGSize hoursUnit = sizeOf(hoursUnit_.get()), minutesUnit = sizeOf(minutesUnit_.get());

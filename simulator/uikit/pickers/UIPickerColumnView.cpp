@@ -25,7 +25,9 @@ double fadedAlpha(double rowsFromMiddle) {
 
 void place(Object view, CGSize room) {
   const CGSize size = UIView::of(view).geometry().bounds.size;
-  const CGPoint origin = {(room.width - size.width) / 2, (room.height - size.height) / 2};
+  if (size == CGSize{}) return objc::send<void, "setFrame:">(view, CGRect{{}, room});
+  const CGPoint origin = {std::round((room.width - size.width) / 2),
+                          std::round((room.height - size.height) / 2)};
   objc::send<void, "setFrame:">(view, CGRect{origin, size});
 }
 
@@ -36,8 +38,14 @@ long UIPickerColumnView::rowAt(long place) const {
   return place >= 0 && place < numberOfRows ? place : -1;
 }
 
+long UIPickerColumnView::rowUnderBar() const {
+  const long place = std::lround(position());
+  return isTurning() ? rowAt(isEndless ? place : std::clamp(place, 0L, numberOfRows - 1))
+                     : selectedRow;
+}
+
 void UIPickerColumnView::selectRow(long row, bool animated) {
-  wheel_.reset();
+  stopTurning();
   long way = row - rowAt(place_);
   if (isEndless && numberOfRows > 0) {
     way = (way % numberOfRows + numberOfRows) % numberOfRows;
@@ -55,7 +63,7 @@ void UIPickerColumnView::reload() {
   for (const auto& [place, its] : cells_) objc::send<void, "removeFromSuperview">(its.get());
   cells_.clear();
   place_ = selectedRow;
-  wheel_.reset();
+  stopTurning();
   arranged_.reset();
   objc::send<void, "setNeedsLayout">(self());
 }

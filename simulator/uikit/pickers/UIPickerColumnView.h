@@ -8,6 +8,7 @@
 #include "objc/Class.h"
 #include "simulator/coregraphics/Geometry.h"
 #include "simulator/machine/MainQueue.h"
+#include "simulator/machine/RunLoopMode.h"
 #include "simulator/uikit/pickers/PickerWheel.h"
 
 namespace sim {
@@ -18,6 +19,7 @@ struct UIPickerColumnView : objc::Implementation<UIPickerColumnView> {
 
   MakeRow makeRow;
   std::function<void(long row)> turned;  // a person's hand has turned it to that row
+  std::function<void()> rested;          // a person's hand has left it, and it stands still
   long numberOfRows = 0;
   long selectedRow = 0;
   double rowHeight = 32;   // points
@@ -31,6 +33,10 @@ struct UIPickerColumnView : objc::Implementation<UIPickerColumnView> {
 
   ~UIPickerColumnView();
 
+  // By hand: it is held, or runs out. The row under the bar changes then, the selected one does
+  // not.
+  bool isTurning() const { return wheel_.has_value(); }
+  long rowUnderBar() const;
   // The row that it rests on, as it stands there; nil before it was laid out.
   objc::Object selectedCell() const;
 
@@ -54,6 +60,7 @@ struct UIPickerColumnView : objc::Implementation<UIPickerColumnView> {
   void placeCell(objc::Object cell, double rowsFromMiddle);
   double position() const;  // in places; between two of them while it turns
   void takeWheel();
+  void stopTurning();
   void keepRunning();
   void run();
   void rest();
@@ -62,6 +69,7 @@ struct UIPickerColumnView : objc::Implementation<UIPickerColumnView> {
   std::optional<double> arranged_;  // the place in the middle when the cells were last arranged
   std::map<long, objc::Strong<objc::Object>> cells_;  // by place; each holds a row's view
   std::optional<PickerWheel> wheel_;                  // while it turns by hand
+  std::optional<Tracking> tracking_;                  // as long, but not after a tap
   double fingerAt_ = 0;                               // y
   double fingerWay_ = 0;                              // points, up and down alike
   MainQueue::Ticket ticket_ = 0;                      // of the next step of a wheel that runs out

@@ -44,17 +44,21 @@ void UIPickerView::selectRow(long row, long component, bool animated) {
   if (component < 0 || component >= long(selected.size()))
     raiseException("NSRangeException",
                    "there is no component " + std::to_string(component) + " in the picker view");
-  const long last = numberOfRows(component) - 1;
-  selected[std::size_t(component)] = last < 0 ? -1 : std::clamp(row, 0L, last);
+  if (row < 0)
+    raiseException("NSRangeException", "-[NSMutableIndexSet addIndexesInRange:]: Range {" +
+                                           std::to_string((unsigned long)row) +
+                                           ", 1} exceeds maximum index value of NSNotFound - 1");
+  if (row >= numberOfRows(component)) return;
+  selected[std::size_t(component)] = row;
   if (std::size_t(component) < columns_.size())
-    UIPickerColumnView::of(columns_[std::size_t(component)].get())
-        .selectRow(selected[std::size_t(component)], animated);
+    UIPickerColumnView::of(columns_[std::size_t(component)].get()).selectRow(row, animated);
 }
 
 long UIPickerView::selectedRow(long component) {
   countComponents();
   if (component < 0 || component >= long(selected.size())) return -1;
-  return selected[std::size_t(component)];
+  if (std::size_t(component) >= columns_.size()) return selected[std::size_t(component)];
+  return UIPickerColumnView::of(columns_[std::size_t(component)].get()).rowUnderBar();
 }
 
 Object UIPickerView::viewForRow(long row, long component) {
@@ -112,12 +116,12 @@ void UIPickerView::registerClass() {
       .method<"setDelegate:", &UIPickerView::setDelegate>()
       .method<"numberOfComponents", &UIPickerView::numberOfComponents>()
       .method<"numberOfRowsInComponent:", &UIPickerView::numberOfRows>()
-      .partial<"selectRow:inComponent:animated:", &UIPickerView::selectRow>(
-          "a row beyond the ends is brought into range; a negative one ends a phone's host")
-      .partial<"selectedRowInComponent:", &UIPickerView::selectedRow>(
-          "the row of before until the wheel rests")
-      .partial<"viewForRow:forComponent:", &UIPickerView::viewForRow>("made when asked for or seen")
-      .partial<"layoutSubviews", &UIPickerView::layoutSubviews>("all wheels are equally wide")
+      .method<"selectRow:inComponent:animated:", &UIPickerView::selectRow>()
+      .method<"selectedRowInComponent:", &UIPickerView::selectedRow>()
+      .partial<"viewForRow:forComponent:", &UIPickerView::viewForRow>(
+          "made when asked for or seen; none is offered for being used again")
+      .partial<"layoutSubviews", &UIPickerView::layoutSubviews>(
+          "all wheels are equally wide; no click as rows pass")
       .method<"reloadComponent:", &UIPickerView::reloadComponent>()
       .method<"reloadAllComponents", &UIPickerView::reloadAllComponents>()
       .finish();

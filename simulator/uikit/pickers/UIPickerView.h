@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "objc/Class.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 
@@ -20,9 +21,9 @@ struct UIPickerView : objc::Implementation<UIPickerView> {
   void setDelegate(objc::Object listener);
   long numberOfComponents() const;
   long numberOfRows(long component) const;
-  // Tells nobody. Rows that do not exist give the nearest one.
+  // Tells nobody. A row past the last one changes nothing, a negative one raises.
   void selectRow(long row, long component, bool animated);
-  long selectedRow(long component);  // -1: none
+  long selectedRow(long component);  // the one under the bar; -1: none
   // As the delegate makes it; kept until the rows are loaded again.
   objc::Object viewForRow(long row, long component);
   void reloadAllComponents();
@@ -44,9 +45,11 @@ struct UIPickerView : objc::Implementation<UIPickerView> {
   double rowHeight(long component) const;
   void makeColumns();
   void reloadColumns();  // they are made again when they are next laid out
+  void makeColumnsAnew();
   objc::Strong<objc::Object> rowShown(long row, long component);
   std::map<std::pair<long, long>, objc::Strong<objc::Object>> rowViews_;
   objc::Strong<objc::Object> band_;                  // behind the selected rows
+  CGSize sizeOfColumns_;                             // the picker's when they were made
   std::vector<objc::Strong<objc::Object>> columns_;  // UIPickerColumnView
 };
 

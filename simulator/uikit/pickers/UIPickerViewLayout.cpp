@@ -1,4 +1,8 @@
 // UIPickerView: its wheels.
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/pickers/PickerStyle.h"
 #include "simulator/uikit/pickers/UIPickerColumnView.h"
@@ -21,9 +25,10 @@ void UIPickerView::leave(Object column) {
 }
 
 double UIPickerView::rowHeight(long component) const {
-  constexpr double usual = 32;  // points
+  constexpr double usual = 32, low = 24, usualPicker = 216;  // points
   const auto listener = delegate.load();
-  if (!objc::respondsTo<"pickerView:rowHeightForComponent:">(listener.get())) return usual;
+  if (!objc::respondsTo<"pickerView:rowHeightForComponent:">(listener.get()))
+    return UIView::of(self()).geometry().bounds.size.height < usualPicker ? low : usual;
   return objc::send<double, "pickerView:rowHeightForComponent:">(listener.get(), Object(self()),
                                                                  component);
 }
@@ -45,6 +50,14 @@ void UIPickerView::reloadColumns() {
   }
   columns_.clear();
   objc::send<void, "setNeedsLayout">(self());
+}
+
+// The platform's way with a new size: nothing of the old one is left but the selected rows.
+void UIPickerView::makeColumnsAnew() {
+  for (long component = 0; component < long(columns_.size()); ++component)
+    selected[std::size_t(component)] = selectedRow(component);
+  rowViews_.clear();
+  reloadColumns();
 }
 
 void UIPickerView::makeColumns() {
@@ -71,14 +84,20 @@ void UIPickerView::makeColumns() {
 
 void UIPickerView::layoutSubviews() {
   super<void, "layoutSubviews">();
+  const CGRect bounds = UIView::of(self()).geometry().bounds;
+  if (std::exchange(sizeOfColumns_, bounds.size) != bounds.size) makeColumnsAnew();
   makeColumns();
   if (columns_.empty()) return;
-  const CGRect bounds = UIView::of(self()).geometry().bounds;
   objc::send<void, "setFrame:">(band_.get(), pickerBandFrame(bounds, rowHeight(0)));
-  const double width = bounds.size.width / double(columns_.size());
-  for (std::size_t i = 0; i < columns_.size(); ++i)
-    objc::send<void, "setFrame:">(columns_[i].get(),
-                                  CGRect{{width * double(i), 0}, {width, bounds.size.height}});
+  constexpr double inset = 9, between = 5;  // points
+  const auto count = double(columns_.size());
+  const double width =
+      std::max(std::floor((bounds.size.width - 2 * inset - between * (count - 1)) / count), 0.0);
+  double x = inset;
+  for (const auto& column : columns_) {
+    objc::send<void, "setFrame:">(column.get(), CGRect{{x, 0}, {width, bounds.size.height}});
+    x += width + between;
+  }
 }
 
 }  // namespace sim

@@ -8,6 +8,8 @@
 
 #include <map>
 
+#include "simulator/foundation/NSLocale.h"
+#include "simulator/foundation/NSProcessInfo.h"
 #include "simulator/foundation/Unicode.h"
 #include "simulator/runtime/Fatal.h"
 
@@ -130,6 +132,18 @@ std::u16string unitIn(const UFormattedNumber* formatted) {
   return {text + start, std::size_t(end - start)};
 }
 
+// The digits of Arabic where the system's version differs from ICU's data: without a region they
+// are Western since iOS 18, in the Emirates since iOS 16. Those that an identifier names are left.
+std::string withDigits(std::string identifier) {
+  constexpr long westernInTheEmirates = 16, westernWithoutRegion = 18;
+  const LocaleParts parts = partsOf(identifier);
+  if (parts.language != "ar" || identifier.find('@') != identifier.npos) return identifier;
+  const long version = systemVersion().majorVersion;
+  if (parts.region.empty() && version >= westernWithoutRegion) return identifier + "@numbers=latn";
+  if (parts.region == "AE" && version < westernInTheEmirates) return identifier + "@numbers=arab";
+  return identifier;
+}
+
 }  // namespace
 
 std::string icuLocale(std::string_view identifier) {
@@ -140,7 +154,7 @@ std::string icuLocale(std::string_view identifier) {
     require(problem, "no English");
     return true;
   }();
-  return std::string(identifier.empty() ? "en_US" : identifier);
+  return withDigits(std::string(identifier.empty() ? "en_US" : identifier));
 }
 
 std::string dayText(double secondsSinceReferenceDate, std::string_view locale) {

@@ -19,11 +19,10 @@ caml::PackageContents contentsOf(const std::string& path, const std::string& typ
   throw caml::PackageError("packages of the type " + type + " cannot be read");
 }
 
-Object errorSaying(const std::string& problem) {
-  constexpr long code = 1;
-  const Object info = dictionary({{string("NSLocalizedDescription"), string(problem)}});
+Object errorSaying(const caml::PackageError& problem) {
+  const Object info = dictionary({{string("NSLocalizedDescription"), string(problem.what())}});
   return objc::send<Object, "errorWithDomain:code:userInfo:">(
-      objc_getClass("NSError"), string("CAPackageErrorDomain"), code, info);
+      objc_getClass("NSError"), string("CoreAnimationErrorDomain"), problem.code, info);
 }
 
 Object packageOf(caml::PackageContents contents) {
@@ -42,7 +41,7 @@ Object CAPackage::packageWithContentsOfURL(Object url, Object type, Object, id* 
     const Object path = objc::send<Object, "path">(url);
     return packageOf(contentsOf(text(path), text(type)));
   } catch (const caml::PackageError& problem) {
-    if (error != nullptr) *error = errorSaying(problem.what()).get();
+    if (error != nullptr) *error = errorSaying(problem).get();
     return nullptr;
   }
 }
@@ -51,7 +50,7 @@ void CAPackage::registerClass() {
   StandIn<CAPackage>("QuartzCore", "CAPackage", "NSObject")
       .partialClassMethod<"packageWithContentsOfURL:type:options:error:",
                           &CAPackage::packageWithContentsOfURL>(
-          "no archives, style documents and options")
+          "no archives, style documents and options; unknown classes are left out, not replaced")
       .readonlyProperty<"rootLayer", &CAPackage::rootLayer>()
       .readonlyProperty<"geometryFlipped", &CAPackage::geometryFlipped>()
       .readonlyProperty<"isGeometryFlipped", &CAPackage::geometryFlipped>()

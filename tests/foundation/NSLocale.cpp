@@ -50,7 +50,7 @@ class NSNumberFormatterTest : public NSLocaleTest {
 
 TEST_F(NSNumberFormatterTest, writesTheLocalesDigits) {
   EXPECT_EQ(formatted("ar", number(1234567890L)), "١٢٣٤٥٦٧٨٩٠");
-  EXPECT_EQ(formatted("ar_AE", number(12L)), "12");
+  EXPECT_EQ(formatted("ar_MA", number(12L)), "12");
   EXPECT_EQ(formatted("fa_IR", number(45L)), "۴۵");
   EXPECT_EQ(formatted("en_US", number(1234567L)), "1234567");
   EXPECT_EQ(formatted("de", number(-5L)), "-5");

@@ -43,10 +43,13 @@ class PackageTest : public UIKitTest {
     const Object package = send<Object, "packageWithContentsOfURL:type:options:error:">(
         cls("CAPackage"), url, string(type), Object(), &problem);
     error = text(send<Object, "localizedDescription">(problem));
+    code = send<long, "code">(problem);
+    domain = text(send<Object, "domain">(problem));
     return package;
   }
 
-  std::string error;
+  std::string error, domain;
+  long code = 0;
 };
 
 // A document around these elements.

@@ -53,6 +53,7 @@ TEST_F(Packages, SayWhatIsWrongAndWhere) {
   writePackage("", document("<CAState name=\"on\"/>"));
   EXPECT_FALSE(load());
   EXPECT_EQ(error, "/var/Test.ca/main.caml:1:1: expected a layer in <caml>");
+  EXPECT_EQ(code, 3);
 
   std::filesystem::remove(phone.file("/var/Test.ca/main.caml"));
   EXPECT_FALSE(load());
@@ -60,6 +61,8 @@ TEST_F(Packages, SayWhatIsWrongAndWhere) {
 
   EXPECT_FALSE(load("com.apple.coreanimation-archive"));
   EXPECT_EQ(error, "packages of the type com.apple.coreanimation-archive cannot be read");
+  EXPECT_EQ(domain, "CoreAnimationErrorDomain");
+  EXPECT_EQ(code, 2);
 }
 
 TEST_F(Packages, KeepTheirDocumentInside) {

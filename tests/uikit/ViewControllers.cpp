@@ -116,7 +116,8 @@ TEST_F(ViewControllers, RefuseToPresentOutsideAWindowOrTwice) {
                                                           objc::Block<void()>(nullptr));
 }
 
-TEST_F(ViewControllers, WhatIsPresentedKeepsTheWindow) {
+TEST_F(ViewControllers, WhatIsPresentedKeepsTheWindowBeforeIOS13) {
+  const std::string version = std::exchange(phone.setup.systemVersion, "12.4");
   const auto over = controller();
   {
     const auto window = shownWindow();
@@ -128,6 +129,19 @@ TEST_F(ViewControllers, WhatIsPresentedKeepsTheWindow) {
   EXPECT_TRUE(presenting);
   send<void, "dismissViewControllerAnimated:completion:">(over.get(), false,
                                                           objc::Block<void()>(nullptr));
+  EXPECT_FALSE((send<Object, "presentingViewController">(over.get())));
+  phone.setup.systemVersion = version;
+}
+
+TEST_F(ViewControllers, SinceThenNobodyHoldsIt) {
+  const auto over = controller();
+  {
+    const objc::AutoreleasePool pool;
+    const auto window = shownWindow();
+    const auto root = controller();
+    send<void, "setRootViewController:">(window.get(), root.get());
+    present(root, over);
+  }
   EXPECT_FALSE((send<Object, "presentingViewController">(over.get())));
 }
 

@@ -30,12 +30,13 @@ objc::Strong<Object> layerOf(const std::string& path, const std::string& folder)
   const std::string document = contentOf(path);
   try {
     auto layer = read(document, folder);
-    if (!isA<CALayer>(layer.get())) throw Error(0, "expected a layer in <caml>");
-    return layer;
+    if (isA<CALayer>(layer.get())) return layer;
   } catch (const Error& problem) {
     throw PackageError(path + ':' + lineAndColumn(document, problem.offset) + ": " +
                        problem.what());
   }
+  throw PackageError(path + ':' + lineAndColumn(document, 0) + ": expected a layer in <caml>",
+                     PackageError::noLayerTree);
 }
 
 Object indexOf(const std::string& folder) {

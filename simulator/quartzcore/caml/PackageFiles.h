@@ -17,7 +17,13 @@ struct PackageContents {
 // Says which file, where in it, what was expected and what was found.
 class PackageError : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  // The platform's.
+  static constexpr long cannotLoad = 2, noLayerTree = 3;
+
+  explicit PackageError(const std::string& problem, long itsCode = cannotLoad)
+      : std::runtime_error(problem), code(itsCode) {}
+
+  long code;
 };
 
 // Paths of the phone. Both throw PackageError.

@@ -128,7 +128,8 @@ void UIWindow::registerClass() {
       .method<"setHidden:", &UIWindow::setHidden>()
       .method<"isKeyWindow", &isKeyWindow>()
       .method<"makeKeyWindow", &UIWindow::makeKeyWindow>()
-      .method<"makeKeyAndVisible", &UIWindow::makeKeyAndVisible>()
+      .partial<"makeKeyAndVisible", &UIWindow::makeKeyAndVisible>(
+          "no window needs a scene, without which a phone may show none")
       .method<"layoutSubviews", &UIWindow::layoutSubviews>()
       .finish();
 }

@@ -3,6 +3,7 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
+#include "simulator/foundation/NSProcessInfo.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
@@ -52,7 +53,9 @@ void UIViewController::present(Object controller, bool animated, objc::Block<voi
     return refuse(Object(self()), controller, " whose view is not in the window hierarchy.");
   presented = objc::retain(controller);
   of(controller).presenting = Object(self());
-  of(controller).window = objc::retain(place);
+  // Since iOS 13 a window that nobody holds goes with all that is presented in it.
+  constexpr long holdsNone = 13;
+  if (systemVersion().majorVersion < holdsNone) of(controller).window = objc::retain(place);
   const Object view = objc::send<Object, "view">(controller);
   objc::send<void, "setFrame:">(view, UIView::of(place).geometry().bounds);
   insertSubview(place, view, std::size_t(-1));

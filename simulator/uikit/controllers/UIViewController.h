@@ -18,7 +18,7 @@ struct UIViewController : objc::Implementation<UIViewController> {
   objc::Object parent;  // not owned: it owns this controller and clears it
   objc::Strong<objc::Object> presented;
   objc::Object presenting;            // not owned: it owns this controller and clears it
-  objc::Strong<objc::Object> window;  // kept while something is presented in it
+  objc::Strong<objc::Object> window;  // kept while presented in it, before iOS 13
   long modalPresentationStyle = -2;   // automatic
   CGSize preferredContentSize;        // what containers may give its view; zero: anything
 

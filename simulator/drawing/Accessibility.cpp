@@ -80,8 +80,9 @@ std::string labelOf(Object view) {
                                                          : inWords(object_getClassName(view.get()));
 }
 
-// A touch in its middle would be for it.
+// A touch in its middle would be for it, or will be when it is animated no more.
 bool isReachable(Object view) {
+  const AnimationsCountAsEnded atRest;
   const Object hit = viewTouchedAt(view, middleOf(view));
   if (!hit) return false;
   return isA<UIPickerColumnView>(view) ? isDescendant(hit, UIView::of(view).parent)

@@ -67,7 +67,8 @@ void UIApplication::registerClass() {
       .classMethod<"sharedApplication", &UIApplication::sharedApplication>()
       .partial<"init", &UIApplication::init>("a second application is no error")
       .partial<"delegate", &UIApplication::delegate>("always nil")
-      .method<"keyWindow", &keyWindow>()
+      .partial<"keyWindow", &keyWindow>(
+          "never nil once one was shown, and Control Center's while that is open; neither is sure")
       .method<"windows", &UIApplication::windows>()
       .readonlyProperty<"_activeInterfaceOrientation", &UIApplication::orientation>()
       .partial<"openURL:options:completionHandler:", &UIApplication::openURL>(

@@ -18,6 +18,14 @@ using objc::Object;
 
 constexpr double almostTransparent = 0.01;
 
+struct EndOfAnimations {
+  int asked = 0;  // how often it counts as come
+};
+
+int& endOfAnimations() {
+  return Phone::current().state<EndOfAnimations>().asked;
+}
+
 template <objc::FixedString Selector>
 bool handlesAs(Object object, Class like) {
   const SEL selector = objc::selector<Selector>();
@@ -45,13 +53,20 @@ std::string obstacleTo(Object view, CGPoint point) {
 
 }  // namespace
 
+AnimationsCountAsEnded::AnimationsCountAsEnded() {
+  ++endOfAnimations();
+}
+AnimationsCountAsEnded::~AnimationsCountAsEnded() {
+  --endOfAnimations();
+}
+
 const char* whyUntouchable(const UIView& view) {
   if (view.isHidden()) return "is hidden";
   if (view.alpha() < almostTransparent) return "is transparent";
   if (!view.userInteractionEnabled) return "takes no touches";
   const CALayer* layer = stateOf<CALayer>(view.layer.get());
-  const bool isAnimated =
-      layer != nullptr && layer->ignoresTouches(Phone::current().clock.uptime());
+  const bool isAnimated = layer != nullptr && endOfAnimations() == 0 &&
+                          layer->ignoresTouches(Phone::current().clock.uptime());
   return isAnimated ? "is still being animated" : nullptr;
 }
 

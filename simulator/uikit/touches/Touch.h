@@ -16,6 +16,16 @@ class OutOfReach : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// While there is one, animated views count as touchable: for who asks what can be reached in the
+// end, such as a screen reader, to whom nothing vanishes for the time of an animation.
+class AnimationsCountAsEnded {
+ public:
+  AnimationsCountAsEnded();
+  ~AnimationsCountAsEnded();
+  AnimationsCountAsEnded(const AnimationsCountAsEnded&) = delete;
+  AnimationsCountAsEnded& operator=(const AnimationsCountAsEnded&) = delete;
+};
+
 // "is hidden" and the like of a view that takes no touches, nor do those that lie in it; nullptr
 // for one that does.
 const char* whyUntouchable(const UIView& view);

@@ -120,8 +120,10 @@ void addTouchCommands(CommandTable& table) {
   table.add({"tap", Stage::running, "tap TARGET [at {X, Y}]", "tap $panel.backButton",
              "The user taps a view, in its middle or at a point of its own coordinates: a finger "
              "comes down and leaves it, as with `touch`. It fails where the touch reaches another "
-             "view, naming that, where nothing takes touches, and where a control is not enabled "
-             "or does not follow the finger. A view in no window is taken as alone on the screen.",
+             "view, naming that, where nothing takes touches, while the view or one around it is "
+             "animated (a finger would come later: `advance` first), and where a control is not "
+             "enabled or does not follow the finger. A view in no window is taken as alone on the "
+             "screen.",
              tap});
   table.add({"select", Stage::running, "select TARGET ROW [COMPONENT]", "select $picker 4",
              "The user turns the wheel of a picker view to a row; rows and components count from "

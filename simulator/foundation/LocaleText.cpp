@@ -9,9 +9,9 @@
 #include <map>
 
 #include "simulator/foundation/NSLocale.h"
-#include "simulator/foundation/NSProcessInfo.h"
 #include "simulator/foundation/Unicode.h"
 #include "simulator/runtime/Fatal.h"
+#include "simulator/standin/Versions.h"
 
 namespace sim {
 namespace {
@@ -135,10 +135,10 @@ std::u16string unitIn(const UFormattedNumber* formatted) {
 // The digits of Arabic where the system's version differs from ICU's data: without a region they
 // are Western since iOS 18, in the Emirates since iOS 16. Those that an identifier names are left.
 std::string withDigits(std::string identifier) {
-  constexpr long westernInTheEmirates = 16, westernWithoutRegion = 18;
+  constexpr int westernInTheEmirates = 16, westernWithoutRegion = 18;
   const LocaleParts parts = partsOf(identifier);
   if (parts.language != "ar" || identifier.find('@') != identifier.npos) return identifier;
-  const long version = systemVersion().majorVersion;
+  const int version = systemMajor();
   if (parts.region.empty() && version >= westernWithoutRegion) return identifier + "@numbers=latn";
   if (parts.region == "AE" && version < westernInTheEmirates) return identifier + "@numbers=arab";
   return identifier;

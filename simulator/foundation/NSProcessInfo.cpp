@@ -31,8 +31,15 @@ double systemUptime(Object) {
   return seconds(Phone::current().clock.uptime());
 }
 
+// Parts that the version does not have are 0.
 NSOperatingSystemVersion operatingSystemVersion(Object) {
-  return systemVersion();
+  NSOperatingSystemVersion version = {};
+  std::string_view text = Phone::current().setup.systemVersion;
+  for (long* part : {&version.majorVersion, &version.minorVersion, &version.patchVersion}) {
+    *part = takeNumber<long>(text).value_or(0);
+    text.remove_prefix(std::min<std::size_t>(1, text.size()));  // the point
+  }
+  return version;
 }
 
 bool isAtLeast(Object self, NSOperatingSystemVersion wanted) {
@@ -46,16 +53,6 @@ Object operatingSystemVersionString(Object) {
 }
 
 }  // namespace
-
-NSOperatingSystemVersion systemVersion() {
-  NSOperatingSystemVersion version = {};
-  std::string_view text = Phone::current().setup.systemVersion;
-  for (long* part : {&version.majorVersion, &version.minorVersion, &version.patchVersion}) {
-    *part = takeNumber<long>(text).value_or(0);
-    text.remove_prefix(std::min<std::size_t>(1, text.size()));  // the point
-  }
-  return version;
-}
 
 void NSProcessInfo::registerClass() {
   StandIn<NSProcessInfo>("Foundation", "NSProcessInfo", "NSObject")

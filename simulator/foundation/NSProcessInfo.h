@@ -10,9 +10,6 @@ struct NSOperatingSystemVersion {
   long patchVersion;
 };
 
-// Of the phone that is simulated. Parts that the version does not have are 0.
-NSOperatingSystemVersion systemVersion();
-
 struct NSProcessInfo : objc::Implementation<NSProcessInfo> {
   static void registerClass();
 };

@@ -6,12 +6,12 @@
 
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Exception.h"
-#include "simulator/foundation/NSProcessInfo.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/machine/WallClock.h"
 #include "simulator/services/PCDispatchTimer.h"
 #include "simulator/standin/StandIn.h"
+#include "simulator/standin/Versions.h"
 
 namespace sim {
 namespace {
@@ -94,8 +94,8 @@ void PCSimpleTimer::invalidate() {
 void PCSimpleTimer::fire() {
   Phone::current().journal.record("-[PCSimpleTimer fire] " + notation(serviceIdentifier.get()));
   stop();
-  constexpr long withoutIts = 16;
-  if (systemVersion().majorVersion >= withoutIts) fireTimer = nullptr;
+  constexpr int withoutIts = 16;
+  if (systemMajor() >= withoutIts) fireTimer = nullptr;
   Phone::current().queue.addNow([timer = objc::retain(Object(self())), action = selector,
                                  receiver = std::exchange(target, nullptr)] {
     perform(receiver.get(), action, timer.get());

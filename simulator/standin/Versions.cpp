@@ -37,6 +37,8 @@ constexpr Row table[] = {
     {"MRUNowPlayingViewController", "presentRoutingControlsFromSourceView:", {16, latest}},
     {"MRUNowPlayingViewController", "setRoutingViewController:", {16, latest}},
     {"MRUNowPlayingViewController", "transportControlsView:didSelectRoutingButton:", {16, latest}},
+    // Certainly gone in 14.2: 13.4 is the last of which it is known.
+    {"UIDatePicker", "setHighlightsToday:", {earliest, 13}},
 };
 
 }  // namespace

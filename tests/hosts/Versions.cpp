@@ -30,6 +30,21 @@ TEST_F(SystemVersion, VersionThatNobodyKnowsLacksNoMore) {
   EXPECT_NE(objc_lookUpClass("MRUNowPlayingHeaderView"), nullptr);
 }
 
+TEST_F(SystemVersion, DatePickersHighlightTodayUntil13) {
+  bootWith("13.7");
+  const SEL highlights = sel_registerName("setHighlightsToday:");
+  const Class cls = objc_getClass("UIDatePicker");
+  EXPECT_STREQ(method_getTypeEncoding(class_getInstanceMethod(cls, highlights)), "v@:B");
+  const auto picker = objc::adopt(objc::send<objc::Object, "new">(cls));
+  objc::send<objc::Object, "performSelector:withObject:">(picker.get(), highlights, number(false));
+}
+
+TEST_F(SystemVersion, DatePickersHighlightNothingSince14) {
+  bootWith("14.2");
+  EXPECT_FALSE(class_respondsToSelector(objc_getClass("UIDatePicker"),
+                                        sel_registerName("setHighlightsToday:")));
+}
+
 TEST(Versions, WhatNothingIsKnownOfIsEverywhere) {
   EXPECT_TRUE(versionsOf("NSObject").contains(1));
   EXPECT_EQ(versionsOf("NSObject").text(), "");

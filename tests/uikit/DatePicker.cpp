@@ -65,10 +65,6 @@ TEST_F(DatePicker, HasPrivateColours) {
   const Object white = send<Object, "whiteColor">(cls("UIColor"));
   send<void, "_setTextColor:">(picker.get(), white);
   EXPECT_EQ((send<Object, "_textColor">(picker.get())), white);
-  const SEL highlights = sel_registerName("setHighlightsToday:");
-  EXPECT_STREQ(method_getTypeEncoding(class_getInstanceMethod(cls("UIDatePicker"), highlights)),
-               "v@:B");
-  send<Object, "performSelector:withObject:">(picker.get(), highlights, number(false));
 }
 
 // The texts of all labels below a view, from left to right, in the row of the wheels' selection.

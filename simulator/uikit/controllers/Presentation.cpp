@@ -3,10 +3,10 @@
 #include "objc/Message.h"
 #include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
-#include "simulator/foundation/NSProcessInfo.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/quartzcore/CALayer.h"
+#include "simulator/standin/Versions.h"
 #include "simulator/uikit/animation/Animation.h"
 #include "simulator/uikit/controllers/UIViewController.h"
 #include "simulator/uikit/views/UIView.h"
@@ -54,8 +54,8 @@ void UIViewController::present(Object controller, bool animated, objc::Block<voi
   presented = objc::retain(controller);
   of(controller).presenting = Object(self());
   // Since iOS 13 a window that nobody holds goes with all that is presented in it.
-  constexpr long holdsNone = 13;
-  if (systemVersion().majorVersion < holdsNone) of(controller).window = objc::retain(place);
+  constexpr int holdsNone = 13;
+  if (systemMajor() < holdsNone) of(controller).window = objc::retain(place);
   const Object view = objc::send<Object, "view">(controller);
   objc::send<void, "setFrame:">(view, UIView::of(place).geometry().bounds);
   insertSubview(place, view, std::size_t(-1));

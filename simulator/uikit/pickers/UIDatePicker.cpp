@@ -15,8 +15,7 @@ void setHighlightsToday(id, SEL, id) {}
 
 void addHighlightsToday() {
   if (FidelityPage("UIKit", "UIDatePicker")
-          .record('-', "setHighlightsToday:",
-                  {Grade::partial, "draws nothing; a phone has it before 14.2 only"}))
+          .record('-', "setHighlightsToday:", {Grade::partial, "draws nothing"}))
     class_addMethod(UIDatePicker::cls(), sel_registerName("setHighlightsToday:"),
                     reinterpret_cast<IMP>(&setHighlightsToday),
                     objc::methodEncoding<void, bool>.c_str());

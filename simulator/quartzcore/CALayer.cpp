@@ -209,9 +209,9 @@ void CALayer::removeAllAnimations() {
     if (each.group && each.end() > now) each.group->interrupt(*this);
 }
 
-void CALayer::dropAnimations(const AnimationGroup& group) {
-  std::erase_if(animations, [&](const auto& each) { return each.timing.group.get() == &group; });
-  if (transition.timing.group.get() == &group) transition = {};
+void CALayer::dropAnimations(const AnimationGroup& its) {
+  std::erase_if(animations, [&](const auto& each) { return each.timing.group.get() == &its; });
+  if (transition.timing.group.get() == &its) transition = {};
 }
 
 bool CALayer::ignoresTouches(Nanoseconds now) const {

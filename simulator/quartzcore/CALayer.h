@@ -50,8 +50,8 @@ struct CALayer : objc::Implementation<CALayer> {
   LayerValues presentation(Nanoseconds now) const;  // as it is seen at that uptime
   // What -removeAllAnimations does: those that have not ended are interrupted.
   void removeAllAnimations();
-  // Takes away what the group animates here, which nobody has seen.
-  void dropAnimations(const AnimationGroup& group);
+  // Takes away what that group animates here, which nobody has seen.
+  void dropAnimations(const AnimationGroup& its);
   // Whether an animation has not ended that keeps touches from the layer's view.
   bool ignoresTouches(Nanoseconds now) const;
 

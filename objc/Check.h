@@ -62,13 +62,17 @@ void checkSend(id receiver) {
   }
 }
 
-template <class R, class... Args>
-void checkSuper(Class implementing, SEL name) {
+template <class R, FixedString Name, class... Args>
+void checkSuper(Class implementing) {
   if constexpr (checksTypes) {
+    const SEL name = selector<Name>();
+    static CheckedClasses checked;
     Class above = class_getSuperclass(implementing);
+    if (checked.contains(above)) return;
     if (Method method = class_getInstanceMethod(above, name))
       requireSameTypes("send to super", above, name, methodEncoding<R, Args...>.c_str(),
                        method_getTypeEncoding(method));
+    checked.add(above);
   }
 }
 

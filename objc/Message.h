@@ -204,7 +204,7 @@ R sendSuper(id receiver, Class implementing, Args... args) {
   requireSendable<R, Name, Args...>();
   if (receiver == nullptr) return R();
   const SEL name = selector<Name>();
-  checkSuper<R, Argument<Args>...>(implementing, name);
+  checkSuper<R, Name, Argument<Args>...>(implementing);
   objc_super super{receiver, implementing};
   auto entry = superEntry<R, Argument<Args>...>();
   if constexpr (std::is_void_v<R>)

@@ -6,10 +6,10 @@
 #include "objc/Ownership.h"
 #include "simulator/launch/AbsentNames.h"
 #include "simulator/launch/ClassJournal.h"
-#include "simulator/launch/ExtensionNames.h"
 #include "simulator/launch/Frameworks.h"
 #include "simulator/launch/Tracing.h"
 #include "simulator/machine/Phone.h"
+#include "simulator/standin/ExtensionTexts.h"
 #include "simulator/standin/Registration.h"
 
 namespace sim {
@@ -76,7 +76,7 @@ void Host::load(const std::filesystem::path& extension) {
   void* handle = dlopen(std::filesystem::absolute(extension).c_str(), RTLD_NOW | RTLD_LOCAL);
   if (handle == nullptr) throw HostError(std::string("the extension does not load: ") + dlerror());
   handles_.push_back(handle);
-  addNamesWithin(handle, Phone::current().extensionNames);
+  ExtensionTexts::current().add(handle);
 }
 
 std::optional<Host::Symbol> Host::symbol(const char* name) const {

@@ -35,7 +35,6 @@ class Phone {
   MainQueue queue{clock};
   Journal journal{clock};
   Setup setup;
-  std::vector<std::string> extensionNames;  // sorted; see launch/ExtensionNames.h
 
   // Where a path of the phone ("/var/jb/…") lies on this machine: below the root folder.
   // A path that would leave the root ("..") stays inside it.

@@ -7,7 +7,7 @@
 
 #include "objc/runtime.h"
 #include "simulator/machine/NearestName.h"
-#include "simulator/machine/Phone.h"
+#include "simulator/standin/ExtensionTexts.h"
 #include "simulator/standin/Fidelity.h"
 
 namespace sim {
@@ -92,16 +92,11 @@ Names selectorNames() {
 }
 
 Names extensionNames() {
-  const auto& names = Phone::current().extensionNames;
-  return {names.begin(), names.end()};
+  return ExtensionTexts::current().all();
 }
 
 bool isNamedByExtension(const std::string& name) {
-  // At the end of another is enough: linkers keep "ends" within "weekends", and what lies before a
-  // text need not be one.
-  const auto& names = Phone::current().extensionNames;
-  return std::any_of(names.begin(), names.end(),
-                     [&name](std::string_view each) { return each.ends_with(name); });
+  return ExtensionTexts::current().containEnd(name);
 }
 
 }  // namespace sim

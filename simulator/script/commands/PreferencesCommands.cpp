@@ -12,6 +12,7 @@
 #include "simulator/machine/Phone.h"
 #include "simulator/script/Command.h"
 #include "simulator/script/names/NameChecks.h"
+#include "simulator/standin/ExtensionTexts.h"
 #include "simulator/standin/KnownNames.h"
 
 namespace sim {
@@ -62,7 +63,7 @@ void requireKey(const std::string& domain, const Word& key) {
   // What is near to a key that is read is a slip, even if the extension has such a text.
   const bool isNamed =
       read.empty() ? isNamedByExtension(key.text)
-                   : std::ranges::binary_search(Phone::current().extensionNames, key.text) &&
+                   : ExtensionTexts::current().contain(key.text) &&
                          typoSuggestion(key.text, read).empty();
   if (isNamed) return;
   if (read.empty()) read = extensionNames();

@@ -118,6 +118,15 @@ void requireParts(const WrittenMethod& method, const std::string& first, Names s
   }
 }
 
+// `name` is the selector, or its first part; `next` follows it.
+void requireAmong(Names known, const WrittenMethod& method, const std::string& name, char next) {
+  keepUnique(known);
+  if (next == ':') return requireParts(method, name + ':', known);
+  const bool found =
+      next == '*' ? startsAny(known, name) : std::binary_search(known.begin(), known.end(), name);
+  if (!found) refuseSelector(method, name, known);
+}
+
 void requireSelector(const WrittenMethod& method) {
   const std::string name(nameAt(method.arguments, 0));
   const char next = name.size() < method.arguments.size() ? method.arguments[name.size()] : '*';
@@ -128,13 +137,14 @@ void requireSelector(const WrittenMethod& method) {
   const bool isStandIn = method.wholeClass && standIns().contains(method.cls);
   if (!isHere && isStandIn && standInMembers(method.cls).empty()) return;
   Names known = isHere ? selectorNames(method.cls, method.ofClass) : selectorNames();
-  add(known, extensionNames());
   known.emplace_back("fire");  // the journal's word for the end of a PCSimpleTimer
-  keepUnique(known);
-  if (next == ':') return requireParts(method, name + ':', known);
-  const bool found =
-      next == '*' ? startsAny(known, name) : std::binary_search(known.begin(), known.end(), name);
-  if (!found) refuseSelector(method, name, known);
+  try {
+    return requireAmong(known, method, name, next);
+  } catch (const ScriptError&) {
+    // Few methods are left to be found among the extensions' ten thousand texts.
+  }
+  add(known, extensionNames());
+  requireAmong(known, method, name, next);
 }
 
 // `text` follows the bracket.

@@ -28,14 +28,16 @@ void CCUICAPackageView::setPackage(Object given) {
   package = objc::retain(given);
   stateController = {};
   const CAPackage* shown = stateOf<CAPackage>(given);
-  if (shown == nullptr) return;
-  const Object root = shown->rootLayer;
-  send<void, "setGeometryFlipped:">(root, shown->geometryFlipped);
-  send<void, "addSublayer:">(send<Object, "layer">(contentView.get()), root);
+  const Object root = shown != nullptr ? shown->rootLayer.get() : Object();
+  send<void, "setGeometryFlipped:">(root, shown != nullptr && shown->geometryFlipped);
+  const CGSize size = send<CGRect, "bounds">(root).size;
+  send<void, "setBounds:">(contentView.get(), CGRect{{}, size});
+  send<void, "setPosition:">(root, CGPoint{size.width / 2, size.height / 2});
+  if (root) send<void, "addSublayer:">(send<Object, "layer">(contentView.get()), root);
   stateController = objc::adopt(
       send<Object, "initWithLayer:">(objc_alloc(objc_getClass("CAStateController")), root));
   send<void, "setInitialStatesOfLayer:">(stateController.get(), root);
-  placeContent();
+  send<void, "setNeedsLayout">(self());
 }
 
 void CCUICAPackageView::setPackageDescription(Object description) {
@@ -46,7 +48,7 @@ void CCUICAPackageView::setPackageDescription(Object description) {
 
 void CCUICAPackageView::setScale(double factor) {
   scale = factor;
-  placeContent();
+  send<void, "setNeedsLayout">(self());
 }
 
 void CCUICAPackageView::setStateName(Object name) {
@@ -59,31 +61,19 @@ void CCUICAPackageView::setStateName(Object name) {
 
 void CCUICAPackageView::layoutSubviews() {
   super<void, "layoutSubviews">();
-  placeContent();
-}
-
-void CCUICAPackageView::placeContent() {
-  const CAPackage* shown = stateOf<CAPackage>(package);
-  if (shown == nullptr) return;
-  const Object root = shown->rootLayer;
-  const CGSize size = send<CGRect, "bounds">(root).size;
   const CGSize room = send<CGRect, "bounds">(self()).size;
-  send<void, "setBounds:">(contentView.get(), CGRect{{}, size});
   send<void, "setCenter:">(contentView.get(), CGPoint{room.width / 2, room.height / 2});
   send<void, "setTransform:">(contentView.get(), CGAffineTransform{scale, 0, 0, scale, 0, 0});
-  send<void, "setPosition:">(root, CGPoint{size.width / 2, size.height / 2});
 }
 
 void CCUICAPackageView::registerClass() {
   StandIn<CCUICAPackageView>("ControlCenterUIKit", "CCUICAPackageView", "UIView")
       .method<"initWithFrame:", &CCUICAPackageView::initWithFrame>()
-      .partial<"setPackage:", &CCUICAPackageView::setPackage>(
-          "placed at once, where a phone waits for the layout")
+      .method<"setPackage:", &CCUICAPackageView::setPackage>()
       .property<"package", &CCUICAPackageView::package>()
       .method<"setPackageDescription:", &CCUICAPackageView::setPackageDescription>()
       .property<"packageDescription", &CCUICAPackageView::packageDescription>()
-      .partial<"setScale:", &CCUICAPackageView::setScale>(
-          "placed at once, where a phone waits for the layout")
+      .method<"setScale:", &CCUICAPackageView::setScale>()
       .property<"scale", &CCUICAPackageView::scale>()
       .partial<"setStateName:", &CCUICAPackageView::setStateName>("the change is complete at once")
       .method<"layoutSubviews", &CCUICAPackageView::layoutSubviews>()

@@ -14,18 +14,16 @@ struct CCUICAPackageView : objc::Implementation<CCUICAPackageView> {
   double scale = 1;                               // of the content view
 
   objc::Object initWithFrame(CGRect frame);
-  // Puts the package's layers into the content view in place of those before; nil leaves none.
+  // Puts the package's layers into the content view in place of those before; nil leaves none, the
+  // package that is there already changes nothing.
   void setPackage(objc::Object given);
   void setPackageDescription(objc::Object description);
   void setScale(double factor);
-  // A name that is none of the package's means no state at all.
+  // A name that is none of the package's takes its layers back to what they are without a state.
   void setStateName(objc::Object name);
   void layoutSubviews();
 
   static void registerClass();
-
- private:
-  void placeContent();
 };
 
 }  // namespace sim

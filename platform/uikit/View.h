@@ -33,6 +33,9 @@ struct UIView : NSObject {
   void setSemanticContentAttribute(long attribute) const {
     objc::send<void, "setSemanticContentAttribute:">(*this, attribute);
   }
+  bool isRightToLeft() const {
+    return objc::send<long, "effectiveUserInterfaceLayoutDirection">(*this) == 1;
+  }
   // Of UIAccessibilityTraits.
   static constexpr unsigned long traitStaticText = 1 << 6, traitUpdatesFrequently = 1 << 9;
   // What a screen reader says of the view in place of its own words; nil gives those back.

@@ -8,6 +8,18 @@ namespace sim {
 using objc::Object;
 using Container = CCUIContentModuleContainerViewController;
 
+namespace {
+
+constexpr double transitionSeconds = 0.3;
+
+template <objc::FixedString Selector, class... Arguments>
+void tellIfItAnswers(Object content, Arguments... arguments) {
+  if (objc::send<bool, "respondsToSelector:">(content, objc::selector<Selector>()))
+    objc::send<void, Selector>(content, arguments...);
+}
+
+}  // namespace
+
 Object Container::initWithModuleIdentifier_contentModule(Object identifier, Object module) {
   moduleIdentifier = objc::adopt(objc::send<Object, "copy">(identifier));
   contentModule = objc::retain(module);
@@ -36,19 +48,41 @@ void Container::viewWillLayoutSubviews() {
            {{0, 0}, sizeOf(objc::send<Object, "view">(self()))});
 }
 
-// Room is made from the outside in: the content, too, lays itself out in its new size.
-void Container::setExpanded(bool expands) {
-  if (expanded == expands) return;
-  expanded = expands;
+void Container::expandModule() {
+  Phone::current().queue.addNow([weak = objc::weak(Object(self()))] {
+    if (const auto container = weak.load()) of(container.get()).transition(true, true);
+  });
+}
+
+void Container::dismissExpandedModule(bool animated) {
+  transition(false, animated);
+}
+
+void Container::transition(bool expands, bool animated) {
+  const bool changes = expanded != expands;
+  objc::send<void, "setExpanded:">(self(), expands);
+  if (!changes) return;
+  const Object content = contentViewController();
   const Object everything =
       objc::send<Object, "viewIfLoaded">(objc::send<Object, "parentViewController">(self()));
-  objc::send<void, "setNeedsLayout">(everything);
-  objc::send<void, "willTransitionToExpandedContentMode:">(contentViewController(), expands);
-  animateLayout(everything);
+  tellIfItAnswers<"willTransitionToExpandedContentMode:">(content, expands);
+  const double seconds = animated ? transitionSeconds : 0;
+  changeAnimated(seconds, [content, everything] {
+    // Room is made from the outside in: the content, too, lays itself out in its new size.
+    objc::send<void, "setNeedsLayout">(everything);
+    tellIfItAnswers<"viewWillTransitionToSize:withTransitionCoordinator:">(
+        content, sizeOf(everything), Object());
+    objc::send<void, "layoutIfNeeded">(everything);
+  });
+  Phone& phone = Phone::current();
+  phone.queue.add(
+      phone.clock.uptime() + nanoseconds(seconds), [weak = objc::weak(content), expands] {
+        tellIfItAnswers<"didTransitionToExpandedContentMode:">(weak.load().get(), expands);
+      });
 }
 
 void Container::didTapModule(Object) {
-  if (!expanded) objc::send<void, "setExpanded:">(self(), true);
+  if (!expanded) objc::send<void, "expandModule">(self());
 }
 
 void Container::registerClass() {
@@ -62,9 +96,13 @@ void Container::registerClass() {
       .method<"loadView", &Container::loadView>()
       .method<"viewDidLoad", &Container::viewDidLoad>()
       .method<"viewWillLayoutSubviews", &Container::viewWillLayoutSubviews>()
+      .method<"setExpanded:", &Container::setExpanded>()
       .readonlyProperty<"isExpanded", &Container::expanded>()
-      .partial<"setExpanded:", &Container::setExpanded>(
-          "expands the module itself, where a phone is told by the transition that does")
+      .partial<"expandModule", &Container::expandModule>(
+          "no click presentation: one animation, at the next turn; the content is told the size of "
+          "the screen for its own")
+      .partial<"dismissExpandedModuleAnimated:", &Container::dismissExpandedModule>(
+          "one animation, and the setter is sent again also where nothing is expanded")
       .partial<"_didTapModule:", &Container::didTapModule>(
           "a tap does what a long press does, too, on the platform")
       .finish();

@@ -16,12 +16,20 @@ struct CCUIContentModuleContainerViewController
   void loadView();
   void viewDidLoad();
   void viewWillLayoutSubviews();
-  // The content hears of it first, then Control Center makes room.
-  void setExpanded(bool expands);
+  // Expands nothing by itself.
+  void setExpanded(bool expands) { expanded = expands; }
+  // Later than the call, as after a press of the user's.
+  void expandModule();
+  void dismissExpandedModule(bool animated);
   // A tap beside its controls expands a module.
   void didTapModule(objc::Object sender);
 
   static void registerClass();
+
+ private:
+  // setExpanded: comes first, as a message; then the content hears of it and Control Center makes
+  // room in one animation; last the content hears that it is over.
+  void transition(bool expands, bool animated);
 };
 
 }  // namespace sim

@@ -131,13 +131,14 @@ void Overlay::placeMedia(const ModuleGrid& grid) {
 
 void Overlay::didTapBackground(Object) {
   if (isExpanded())
-    collapseModules();
+    collapseModules(true);
   else
     closeControlCenter();
 }
 
-void Overlay::collapseModules() {
-  if (isExpanded()) objc::send<void, "setExpanded:">(mediaContainer.get(), false);
+void Overlay::collapseModules(bool animated) {
+  if (isExpanded())
+    objc::send<void, "dismissExpandedModuleAnimated:">(mediaContainer.get(), animated);
 }
 
 Object Overlay::container(std::string_view identifier) const {

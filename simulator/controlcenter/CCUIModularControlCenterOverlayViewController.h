@@ -22,7 +22,7 @@ struct CCUIModularControlCenterOverlayViewController
   void viewWillLayoutSubviews();
   // Collapses the expanded module, or else leaves Control Center.
   void didTapBackground(objc::Object sender);
-  void collapseModules();
+  void collapseModules(bool animated);
   // nil when it has no such module.
   objc::Object container(std::string_view identifier) const;
 

@@ -67,7 +67,7 @@ void closeControlCenter() {
   Object& shown = controlCenter().window;
   if (!shown) return;
   const auto overlay = objc::retain(openedControlCenter());
-  CCUIModularControlCenterOverlayViewController::of(overlay.get()).collapseModules();
+  CCUIModularControlCenterOverlayViewController::of(overlay.get()).collapseModules(false);
   const auto window = objc::adopt(std::exchange(shown, nullptr));
   objc::send<void, "setRootViewController:">(window.get(), nullptr);
   objc::send<void, "setHidden:">(window.get(), true);

@@ -1,6 +1,8 @@
 #include "simulator/coversheet/CSMediaControlsViewController.h"
 
+#include "simulator/foundation/Kind.h"
 #include "simulator/mediacontrols/MRULayout.h"
+#include "simulator/mediacontrols/MRUNowPlayingViewController.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -18,6 +20,7 @@ void Controller::viewDidLoad() {
   nowPlayingViewController =
       objc::adopt(objc::send<Object, "new">(objc_getClass("MRUNowPlayingViewController")));
   const Object player = nowPlayingViewController;
+  if (auto* state = stateOf<MRUNowPlayingViewController>(player)) state->presentRoutesOnASheet();
   objc::send<void, "setLayout:">(player, long(lockScreenLayout));
   addChildController(Object(self()), player);
 }
@@ -29,6 +32,7 @@ void Controller::viewWillLayoutSubviews() {
 }
 
 void Controller::registerClass() {
+  // On a phone the player's container is an MRUCoverSheetViewController.
   StandIn<Controller>("CoverSheet", "CSMediaControlsViewController", "UIViewController")
       .readonlyProperty<"nowPlayingViewController", &Controller::nowPlayingViewController>()
       .method<"viewDidLoad", &Controller::viewDidLoad>()

@@ -1,9 +1,13 @@
 #include "simulator/mediacontrols/MRUControlCenterViewController.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
+#include "simulator/foundation/Values.h"
 #include "simulator/mediacontrols/MRULayout.h"
 #include "simulator/mediacontrols/ModuleVersion.h"
+#include "simulator/mediaremote/Endpoints.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -12,24 +16,60 @@ namespace sim {
 using objc::Object;
 using Controller = MRUControlCenterViewController;
 
+Controller::~MRUControlCenterViewController() {
+  if (endpointObserver != 0) Endpoints::current().forget(endpointObserver);
+}
+
 void Controller::loadView() {
   if (!isModuleOf16()) return super<void, "loadView">();
   const auto made = objc::adopt(objc::send<Object, "new">(objc_getClass("MRUControlCenterView")));
   objc::send<void, "setView:">(self(), made.get());
 }
 
+objc::Strong<Object> Controller::makePlayer() {
+  auto player =
+      objc::adopt(objc::send<Object, "new">(objc_getClass("MRUNowPlayingViewController")));
+  objc::send<void, "setDelegate:">(player.get(), Object(self()));
+  return player;
+}
+
 void Controller::viewDidLoad() {
   super<void, "viewDidLoad">();
-  nowPlayingViewController =
-      objc::adopt(objc::send<Object, "new">(objc_getClass("MRUNowPlayingViewController")));
-  const Object player = nowPlayingViewController;
-  objc::send<void, "setDelegate:">(player, Object(self()));
-  addChildController(Object(self()), player);
-  if (!isModuleOf16()) return;
+  nowPlayingViewController = makePlayer();
+  addChildController(Object(self()), nowPlayingViewController);
+  if (!isModuleOf16()) {
+    endpointObserver = Endpoints::current().observe([this] { updateOthers(); });
+    return updateOthers();
+  }
   const Object view = objc::send<Object, "view">(self());
   const Object corner = objc::send<Object, "routingButton">(view);
   objc::send<void, "bringSubviewToFront:">(view, corner);
   addTapTarget(corner, Object(self()), objc::selector<"didSelectRoutingButton:">());
+}
+
+// A player is loaded as soon as its device is found, and goes with it.
+void Controller::updateOthers() {
+  const auto& names = Endpoints::current().names();
+  std::erase_if(others, [&names](const auto& other) {
+    const bool isGone = std::ranges::find(names, other.first) == names.end();
+    if (isGone) removeChildController(other.second);
+    return isGone;
+  });
+  for (const std::string& name : names) {
+    if (others.contains(name)) continue;
+    const Object player = (others[name] = makePlayer()).get();
+    objc::send<void, "addChildViewController:">(self(), player);
+    objc::send<Object, "view">(player);
+    objc::send<void, "didMoveToParentViewController:">(player, Object(self()));
+  }
+}
+
+Object Controller::viewControllers() const {
+  std::vector<std::pair<Object, Object>> all;
+  if (nowPlayingViewController) all.emplace_back(string("iPhone"), nowPlayingViewController.get());
+  for (const auto& [name, player] : others)
+    if (player) all.emplace_back(string(name), player.get());
+  return dictionary(all);
 }
 
 void Controller::viewWillLayoutSubviews() {
@@ -38,36 +78,34 @@ void Controller::viewWillLayoutSubviews() {
            {{0, 0}, sizeOf(objc::send<Object, "view">(self()))});
 }
 
-void Controller::willTransitionToExpandedContentMode(bool expanded) {
-  const Object player = nowPlayingViewController;
-  if (isModuleOf16()) {
-    const long pending = std::exchange(pendingNowPlayingExpandedLayout, 0);
-    objc::send<void, "setShowRoutingButton:">(objc::send<Object, "view">(self()), !expanded);
-    objc::send<void, "setLayout:">(player, !expanded      ? long(minimizedLayout)
-                                           : pending != 0 ? pending
-                                                          : long(expandedLayout));
-    return;
-  }
-  const long layout = objc::send<long, "layout">(player);
-  const bool fits = expanded ? layout != minimizedLayout : layout == minimizedLayout;
-  if (!fits)
-    objc::send<void, "setLayout:">(player, long(expanded ? expandedLayout : minimizedLayout));
+bool Controller::isExpanded() const {
+  return objc::send<bool, "isExpanded">(objc::send<Object, "parentViewController">(self()));
 }
 
-void Controller::nowPlayingViewControllerDidChangeLayout(Object player) {
-  const bool needsRoom = objc::send<long, "layout">(player) != minimizedLayout;
-  const Object container = objc::send<Object, "parentViewController">(self());
-  if (objc::send<bool, "isExpanded">(container) != needsRoom)
-    objc::send<void, "setExpanded:">(container, needsRoom);
+void Controller::viewWillTransition(CGSize, Object) {
+  objc::send<void, "updateSelectedViewControllerLayout">(self());
+}
+
+void Controller::updateSelectedViewControllerLayout() {
+  const bool expanded = isExpanded();
+  const long pending = std::exchange(pendingNowPlayingExpandedLayout, 0);
+  if (isModuleOf16())
+    objc::send<void, "setShowRoutingButton:">(objc::send<Object, "view">(self()), !expanded);
+  const long full = pending != 0 ? pending : long(expandedLayout);
+  objc::send<void, "setLayout:">(nowPlayingViewController.get(),
+                                 expanded ? full : long(minimizedLayout));
 }
 
 void Controller::applyLayout(Object player, long layout) {
-  const Object container = objc::send<Object, "parentViewController">(self());
-  if (objc::send<bool, "isExpanded">(container))
-    return objc::send<void, "setLayout:">(player, layout);
+  constexpr double seconds = 0.3;
+  if (isExpanded())
+    return changeAnimated(seconds, [player, layout] {
+      objc::send<void, "setLayout:">(player, layout);
+      objc::send<void, "layoutIfNeeded">(objc::send<Object, "view">(player));
+    });
   if (layout == minimizedLayout) return;
   pendingNowPlayingExpandedLayout = layout;
-  objc::send<void, "setExpanded:">(container, true);
+  objc::send<void, "expandModule">(objc::send<Object, "parentViewController">(self()));
 }
 
 void Controller::didSelectRoutingButton(Object) {
@@ -77,17 +115,22 @@ void Controller::didSelectRoutingButton(Object) {
 void Controller::registerClass() {
   StandIn<Controller>("MediaControls", "MRUControlCenterViewController", "UIViewController")
       .readonlyProperty<"nowPlayingViewController", &Controller::nowPlayingViewController>()
+      .partial<"viewControllers", &Controller::viewControllers>(
+          "the user cannot choose another device, and there is no list of devices")
+      .readonlyProperty<"pendingNowPlayingExpandedLayout",
+                        &Controller::pendingNowPlayingExpandedLayout>()
       .partial<"loadView", &Controller::loadView>(
           "a UIView before 16, where a phone has an MRUControlCenterView in every version")
-      .partial<"viewDidLoad", &Controller::viewDidLoad>(
-          "one player, where a phone before 16 has one for each device")
+      .method<"viewDidLoad", &Controller::viewDidLoad>()
       .method<"viewWillLayoutSubviews", &Controller::viewWillLayoutSubviews>()
-      .partial<"willTransitionToExpandedContentMode:",
-               &Controller::willTransitionToExpandedContentMode>(
-          "a phone is told by didTransitionToExpandedContentMode: only")
-      .partial<"nowPlayingViewControllerDidChangeLayout:",
-               &Controller::nowPlayingViewControllerDidChangeLayout>("the simulator's own")
-      .method<"nowPlayingViewController:applyLayout:", &Controller::applyLayout>()
+      .method<"viewWillTransitionToSize:withTransitionCoordinator:",
+              &Controller::viewWillTransition>()
+      .method<"didTransitionToExpandedContentMode:",
+              &Controller::didTransitionToExpandedContentMode>()
+      .method<"updateSelectedViewControllerLayout",
+              &Controller::updateSelectedViewControllerLayout>()
+      .partial<"nowPlayingViewController:applyLayout:", &Controller::applyLayout>(
+          "asks its container to expand by itself, where a phone calls a block of the module's")
       .method<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>()
       .finish();
 }

@@ -16,9 +16,14 @@ Object viewOf(Object controller) {
 
 }  // namespace
 
-bool MRUEmbeddingView::isShowing() const {
+bool MRUEmbeddingView::holdsItsView() const {
   const Object view = viewOf(embeddedViewController);
   return view && objc::send<Object, "superview">(view).get() == self();
+}
+
+void MRUEmbeddingView::embedViewController(Object controller, Object itsParent) {
+  objc::send<void, "setEmbeddedViewController:">(self(), controller);
+  objc::send<void, "setParent:">(self(), itsParent);
 }
 
 void MRUEmbeddingView::setEmbeddedViewController(Object controller) {
@@ -28,15 +33,19 @@ void MRUEmbeddingView::setEmbeddedViewController(Object controller) {
 }
 
 void MRUEmbeddingView::removeViewController() {
-  if (!isShowing()) return;
+  active = false;
+  if (!holdsItsView()) return;
   const auto controller = embeddedViewController;
   removeChildController(controller);
 }
 
 void MRUEmbeddingView::showViewController() {
   const Object controller = embeddedViewController;
-  const Object owner = objc::send<Object, "_viewControllerForAncestor">(self());
   if (!controller) return;
+  const auto given = parent.load();
+  const Object owner =
+      given ? given.get() : objc::send<Object, "_viewControllerForAncestor">(self());
+  active = true;
   objc::send<void, "addChildViewController:">(owner, controller);
   const Object view = objc::send<Object, "view">(controller);
   setFrame(view, {{0, 0}, sizeOf(Object(self()))});
@@ -53,18 +62,22 @@ CGSize MRUEmbeddingView::sizeThatFits(CGSize room) const {
 
 void MRUEmbeddingView::layoutSubviews() {
   super<void, "layoutSubviews">();
-  if (isShowing()) setFrame(viewOf(embeddedViewController), {{0, 0}, sizeOf(Object(self()))});
+  if (holdsItsView()) setFrame(viewOf(embeddedViewController), {{0, 0}, sizeOf(Object(self()))});
 }
 
 void MRUEmbeddingView::registerClass() {
+  constexpr const char* bodiesUnknown = "what a phone's does is not known beyond its name";
   StandIn<MRUEmbeddingView>("MediaControls", "MRUEmbeddingView", "UIView")
       .readonlyProperty<"embeddedViewController", &MRUEmbeddingView::embeddedViewController>()
       .method<"setEmbeddedViewController:", &MRUEmbeddingView::setEmbeddedViewController>()
-      .method<"removeViewController", &MRUEmbeddingView::removeViewController>()
+      .method<"parent", &MRUEmbeddingView::itsParent>()
+      .method<"setParent:", &MRUEmbeddingView::setParent>()
+      .readonlyProperty<"isActive", &MRUEmbeddingView::active>()
+      .partial<"embedViewController:parent:", &MRUEmbeddingView::embedViewController>(bodiesUnknown)
+      .partial<"removeViewController", &MRUEmbeddingView::removeViewController>(bodiesUnknown)
+      .partial<"hideViewController", &MRUEmbeddingView::hideViewController>(bodiesUnknown)
       .partial<"showViewController", &MRUEmbeddingView::showViewController>(
-          "shows at any time, by the responder chain, where a phone has a parent, is active or "
-          "not, "
-          "and can hide")
+          "what a phone's does is not known; this one shows also again, and without a parent")
       .method<"sizeThatFits:", &MRUEmbeddingView::sizeThatFits>()
       .method<"layoutSubviews", &MRUEmbeddingView::layoutSubviews>()
       .finish();

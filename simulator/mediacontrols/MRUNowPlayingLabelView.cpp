@@ -12,20 +12,27 @@ using objc::Object;
 
 constexpr double anyHeight = 1000;
 
-double heightOf(Object label, double width) {
-  return sizeThatFits(label, {width, anyHeight}).height;
+CGSize wanted(Object line, double width) {
+  return line ? sizeThatFits(line, {width, anyHeight}) : CGSize();
 }
 
 }  // namespace
 
 Object MRUNowPlayingLabelView::initWithFrame(CGRect frame) {
+  constexpr long natural = 4;  // NSTextAlignment
   const auto made = super<Object, "initWithFrame:">(frame);
-  titleLabel = addLabel(made, {.points = 15, .isBold = true, .lines = 2});
-  artistLabel = addLabel(made, {.points = 13, .alpha = 0.6});
+  titleLabel = addLabel(made, {.points = 15, .isBold = true, .alignment = natural});
+  artistLabel = addLabel(made, {.points = 13, .alpha = 0.6, .alignment = natural});
+  routeLabel = addLabel(made, {.points = 13, .alpha = 0.6, .alignment = natural});
+  objc::send<void, "setHidden:">(routeLabel.get(), true);
   objc::send<void, "setUserInteractionEnabled:">(made, false);
   return made;
 }
 
+void MRUNowPlayingLabelView::setRoute(Object route) {
+  setText(routeLabel, route);
+  objc::send<void, "setNeedsLayout">(self());
+}
 void MRUNowPlayingLabelView::setTitle(Object title) {
   setText(titleLabel, title);
   objc::send<void, "setNeedsLayout">(self());
@@ -34,6 +41,9 @@ void MRUNowPlayingLabelView::setArtist(Object artist) {
   setText(artistLabel, artist);
   objc::send<void, "setNeedsLayout">(self());
 }
+Object MRUNowPlayingLabelView::route() const {
+  return objc::send<Object, "text">(routeLabel.get());
+}
 Object MRUNowPlayingLabelView::title() const {
   return objc::send<Object, "text">(titleLabel.get());
 }
@@ -41,33 +51,53 @@ Object MRUNowPlayingLabelView::artist() const {
   return objc::send<Object, "text">(artistLabel.get());
 }
 
+void MRUNowPlayingLabelView::setShowsRoute(bool shows) {
+  if (showsRoute == shows) return;
+  showsRoute = shows;
+  objc::send<void, "setHidden:">(routeLabel.get(), !shows);
+  objc::send<void, "setNeedsLayout">(self());
+}
+
+std::array<Object, 3> MRUNowPlayingLabelView::lines() const {
+  return {showsRoute ? routeLabel.get() : Object(), titleLabel.get(), artistLabel.get()};
+}
+
 CGSize MRUNowPlayingLabelView::sizeThatFits(CGSize room) const {
-  const double widest = std::max(sim::sizeThatFits(titleLabel, {room.width, anyHeight}).width,
-                                 sim::sizeThatFits(artistLabel, {room.width, anyHeight}).width);
-  return {std::min(widest, room.width),
-          heightOf(titleLabel, room.width) + heightOf(artistLabel, room.width)};
+  CGSize all;
+  for (const Object line : lines()) {
+    const CGSize size = wanted(line, room.width);
+    all = {std::max(all.width, size.width), all.height + size.height};
+  }
+  return {std::min(all.width, room.width), all.height};
 }
 
 void MRUNowPlayingLabelView::layoutSubviews() {
   super<void, "layoutSubviews">();
   const double width = sizeOf(Object(self())).width;
-  const double title = heightOf(titleLabel, width);
-  setFrame(titleLabel, {{0, 0}, {width, title}});
-  setFrame(artistLabel, {{0, title}, {width, heightOf(artistLabel, width)}});
+  double y = 0;
+  for (const Object line : lines()) {
+    const double height = wanted(line, width).height;
+    setFrame(line, {{0, y}, {width, height}});
+    y += height;
+  }
 }
 
 void MRUNowPlayingLabelView::registerClass() {
-  StandIn<MRUNowPlayingLabelView>("MediaControls", "MRUNowPlayingLabelView", "UIView")
-      .method<"initWithFrame:", &MRUNowPlayingLabelView::initWithFrame>()
-      .readonlyProperty<"titleLabel", &MRUNowPlayingLabelView::titleLabel>()
-      .readonlyProperty<"artistLabel", &MRUNowPlayingLabelView::artistLabel>()
-      .method<"title", &MRUNowPlayingLabelView::title>()
-      .method<"setTitle:", &MRUNowPlayingLabelView::setTitle>()
-      .method<"artist", &MRUNowPlayingLabelView::artist>()
-      .method<"setArtist:", &MRUNowPlayingLabelView::setArtist>()
-      .partial<"sizeThatFits:", &MRUNowPlayingLabelView::sizeThatFits>(
-          "long titles break into two lines instead of moving, and no line names the route")
-      .method<"layoutSubviews", &MRUNowPlayingLabelView::layoutSubviews>()
+  using View = MRUNowPlayingLabelView;
+  StandIn<View>("MediaControls", "MRUNowPlayingLabelView", "UIView")
+      .partial<"initWithFrame:", &View::initWithFrame>(
+          "long lines are cut off, where a phone's move; no placeholder")
+      .readonlyProperty<"routeLabel", &View::routeLabel>()
+      .readonlyProperty<"titleLabel", &View::titleLabel>()
+      .readonlyProperty<"artistLabel", &View::artistLabel>()
+      .method<"route", &View::route>()
+      .method<"setRoute:", &View::setRoute>()
+      .method<"title", &View::title>()
+      .method<"setTitle:", &View::setTitle>()
+      .method<"artist", &View::artist>()
+      .method<"setArtist:", &View::setArtist>()
+      .method<"sizeThatFits:", &View::sizeThatFits>()
+      .method<"layoutSubviews", &View::layoutSubviews>()
       .finish();
 }
 

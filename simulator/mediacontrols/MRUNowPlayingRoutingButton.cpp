@@ -1,27 +1,14 @@
 #include "simulator/mediacontrols/MRUNowPlayingRoutingButton.h"
 
+#include "simulator/foundation/Values.h"
 #include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/controls/UIControl.h"
-#include "simulator/uikit/views/ViewAccessibility.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
 
 using objc::Object;
-
-namespace {
-
-// It is a button to UIKit, too.
-unsigned long routingButtonTraits(Object self) {
-  return accessibilityTraitsOr(self.get(),
-                               ViewAccessibility::button | UIControl::of(self).stateTraits());
-}
-bool routingButtonIsElement(Object self) {
-  return isAccessibilityElementOr(self.get(), true);
-}
-
-}  // namespace
 
 Object MRUNowPlayingRoutingButton::initWithFrame(CGRect frame) {
   const auto made = super<Object, "initWithFrame:">(frame);
@@ -31,7 +18,15 @@ Object MRUNowPlayingRoutingButton::initWithFrame(CGRect frame) {
 
 void MRUNowPlayingRoutingButton::setActive(bool isActive) {
   active = isActive;
-  tintGlyph();
+  objc::send<void, "updatePackageState">(self());
+}
+void MRUNowPlayingRoutingButton::setHighlighted(bool highlighted) {
+  super<void, "setHighlighted:">(highlighted);
+  objc::send<void, "updatePackageState">(self());
+}
+void MRUNowPlayingRoutingButton::setSelected(bool selected) {
+  super<void, "setSelected:">(selected);
+  objc::send<void, "updatePackageState">(self());
 }
 
 void MRUNowPlayingRoutingButton::updatePackage() {
@@ -41,14 +36,27 @@ void MRUNowPlayingRoutingButton::updatePackage() {
   setFrame(packageView, {{0, 0}, {glyphSize, glyphSize}});
   triangle = addShape(packageView, routingTriangle());
   waves = addShape(packageView, routingWaves(), 1.8);
-  tintGlyph();
+  objc::send<void, "updatePackageState">(self());
 }
 
-// A subclass with a glyph of its own keeps that one's colours.
-void MRUNowPlayingRoutingButton::tintGlyph() {
+const char* MRUNowPlayingRoutingButton::stateName() const {
+  const bool isUsed = UIControl::of(self()).state() != UIControl::normal;
+  if (active) return isUsed ? "on selected" : "on";
+  return isUsed ? "off selected" : "off";
+}
+
+// A package of somebody else's is told the same names. The simulator's own glyph has no states.
+void MRUNowPlayingRoutingButton::updatePackageState() {
+  if (objc::send<bool, "respondsToSelector:">(packageView.get(), objc::selector<"setStateName:">()))
+    objc::send<void, "setStateName:">(packageView.get(), string(stateName()));
   const Object color = active ? rgbColor(0.04, 0.52, 1) : whiteColor(0.95);
   tint(triangle, color);
   tint(waves, color);
+}
+
+CGSize MRUNowPlayingRoutingButton::sizeThatFits(CGSize) const {
+  constexpr double side = 36;  // points
+  return {side, side};
 }
 
 void MRUNowPlayingRoutingButton::layoutSubviews() {
@@ -60,18 +68,22 @@ void MRUNowPlayingRoutingButton::layoutSubviews() {
 }
 
 void MRUNowPlayingRoutingButton::registerClass() {
-  StandIn<MRUNowPlayingRoutingButton>("MediaControls", "MRUNowPlayingRoutingButton", "UIControl")
-      .partial<"initWithFrame:", &MRUNowPlayingRoutingButton::initWithFrame>(
-          "a UIControl, where a phone has a UIButton's subclass with title, image and states, and "
-          "touches reach beyond the frame of the host's own")
+  StandIn<MRUNowPlayingRoutingButton>("MediaControls", "MRUNowPlayingRoutingButton", "MPButton")
+      .method<"initWithFrame:", &MRUNowPlayingRoutingButton::initWithFrame>()
       .property<"packageView", &MRUNowPlayingRoutingButton::packageView>()
       .method<"isActive", &MRUNowPlayingRoutingButton::isActive>()
-      .partial<"setActive:", &MRUNowPlayingRoutingButton::setActive>(
-          "tints shapes, where a phone sets a state of its package")
+      .method<"setActive:", &MRUNowPlayingRoutingButton::setActive>()
+      .property<"deviceType", &MRUNowPlayingRoutingButton::deviceType>()
+      .property<"context", &MRUNowPlayingRoutingButton::context>()
+      .method<"setHighlighted:", &MRUNowPlayingRoutingButton::setHighlighted>()
+      .method<"setSelected:", &MRUNowPlayingRoutingButton::setSelected>()
       .partial<"updatePackage", &MRUNowPlayingRoutingButton::updatePackage>(
-          "a glyph of the simulator's own, from no package")
-      .method<"accessibilityTraits", &routingButtonTraits>()
-      .method<"isAccessibilityElement", &routingButtonIsElement>()
+          "a glyph of the simulator's own in a plain view, from no package")
+      .partial<"updatePackageState", &MRUNowPlayingRoutingButton::updatePackageState>(
+          "its own glyph is tinted by hand; the states' names are those that others were seen to "
+          "use")
+      .partial<"sizeThatFits:", &MRUNowPlayingRoutingButton::sizeThatFits>(
+          "a measure of the simulator's own")
       .method<"layoutSubviews", &MRUNowPlayingRoutingButton::layoutSubviews>()
       .finish();
 }

@@ -34,6 +34,12 @@ void showTrack(Object labels) {
   objc::send<void, "setArtist:">(labels, hasArtist ? string(track->artist) : Object());
 }
 
+// Sound goes to the device that was connected last.
+std::string routeName() {
+  const auto& peers = Radios::current().peers();
+  return peers.empty() ? "iPhone" : peers.back().name;
+}
+
 // Active while sound goes to another device.
 void showRoute(Object routingButton) {
   const bool isElsewhere = !Radios::current().peers().empty();
@@ -87,8 +93,9 @@ void Controller::viewDidLoad() {
   if (isModuleOf16())
     makeRoutesLater();
   else
-    objc::send<void, "setEmbeddedViewController:">(
-        objc::send<Object, "collapsedEmbeddingView">(moduleView()), routingViewController.get());
+    objc::send<void, "embedViewController:parent:">(
+        objc::send<Object, "collapsedEmbeddingView">(moduleView()), routingViewController.get(),
+        Object(self()));
   update();
 }
 
@@ -117,6 +124,11 @@ void Controller::viewWillAppear(bool animated) {
   observeNowPlayingInfo(Object(self()));
   if (volumeObserver == 0)
     volumeObserver = AudioSystem::current().observe([this] { showVolume(); });
+  if (routeObserver == 0)
+    routeObserver = Radios::current().observe([this] {
+      update();
+      objc::send<void, "updateLayout">(self());
+    });
   update();
 }
 
@@ -130,6 +142,7 @@ void Controller::viewDidDisappear(bool animated) {
   super<void, "viewDidDisappear:">(animated);
   objc::send<void, "removeObserver:">(notificationCenter(), Object(self()));
   stopWatching();
+  objc::send<void, "dismiss">(mediaControls.get());
 }
 
 Object Controller::moduleView() const {
@@ -137,26 +150,45 @@ Object Controller::moduleView() const {
 }
 
 void Controller::setLayout(long chosen) {
+  if (layout == chosen) return;
   layout = chosen;
   const Object view = moduleView();
+  if (chosen == routingLayout && !isModuleOf16()) showEmbedded();
   objc::send<void, "setLayout:">(view, chosen);
-  animateLayout(view);
+  objc::send<void, "layoutIfNeeded">(view);
+}
+
+void Controller::presentRoutesOnASheet() {
+  routeControlsPresentation = onASheet;
+  routingViewController = {};
 }
 
 void Controller::didSelectRoutingButton(Object sender) {
-  if (isModuleOf16()) return presentRoutingControls(sender);
-  const bool opens = layout != routingLayout;
-  if (opens) layoutBeforeRouting = layout;
-  if (opens) showEmbedded();
-  objc::send<void, "setLayout:">(self(), opens ? routingLayout : layoutBeforeRouting);
-  objc::send<void, "nowPlayingViewControllerDidChangeLayout:">(itsDelegate(), Object(self()));
+  presentRoutingControls(sender);
 }
 
-// Whoever shows the player decides how it comes to its layout.
-void Controller::presentRoutingControls(Object) {
-  objc::send<void, "nowPlayingViewController:applyLayout:">(
-      itsDelegate(), Object(self()),
-      long(layout == routingLayout ? expandedLayout : routingLayout));
+void Controller::presentRoutingControls(Object source) {
+  if (routeControlsPresentation != inThePlayer) return presentExternalRoutingControls(source);
+  apply(layout == routingLayout ? expandedLayout : routingLayout);
+}
+
+void Controller::apply(long wanted) {
+  if (const Object asked = itsDelegate())
+    objc::send<void, "nowPlayingViewController:applyLayout:">(asked, Object(self()), wanted);
+  else
+    objc::send<void, "setLayout:">(self(), wanted);
+}
+
+void Controller::presentExternalRoutingControls(Object source) {
+  if (!mediaControls)
+    mediaControls = objc::adopt(objc::send<Object, "new">(objc_getClass("MPMediaControls")));
+  objc::send<void, "setSourceView:">(mediaControls.get(), source);
+  objc::send<void, "present">(mediaControls.get());
+}
+
+void Controller::updateLayout() {
+  const bool isAlone = !Radios::current().peers().empty();
+  if (layout == routingLayout && isAlone) apply(expandedLayout);
 }
 
 void Controller::didSelectRoutingButtonOf(Object, Object button) {
@@ -186,14 +218,16 @@ void Controller::setRoutingViewController(Object controller) {
 void Controller::showEmbedded() {
   const Object embedding = objc::send<Object, "collapsedEmbeddingView">(moduleView());
   const MRUEmbeddingView* state = stateOf<MRUEmbeddingView>(embedding);
-  if (state != nullptr && !state->isShowing()) objc::send<void, "showViewController">(embedding);
+  if (state != nullptr && !state->active) objc::send<void, "showViewController">(embedding);
 }
 
 void Controller::update() {
   const MRUNowPlayingView* view = stateOf<MRUNowPlayingView>(moduleView());
   if (view == nullptr) return;
   const Object header = view->headerView;
-  showTrack(objc::send<Object, "labelView">(header));
+  const Object labels = objc::send<Object, "labelView">(header);
+  showTrack(labels);
+  objc::send<void, "setRoute:">(labels, string(routeName()));
   objc::send<void, "setNeedsLayout">(header);
   if (auto* transport =
           stateOf<MRUNowPlayingTransportControlsView>(view->transportControlsView.get()))
@@ -231,14 +265,13 @@ void Controller::stopClock() {
 void Controller::stopWatching() {
   stopClock();
   if (volumeObserver != 0) AudioSystem::current().forget(std::exchange(volumeObserver, 0));
+  if (routeObserver != 0) Radios::current().forget(std::exchange(routeObserver, 0));
 }
 
 void Controller::registerClass() {
   StandIn<Controller>("MediaControls", "MRUNowPlayingViewController", "UIViewController")
       .partial<"initWithNibName:bundle:", &Controller::initWithNibName_bundle>(
-          "a phone makes it for an endpoint and with a way to show the routes; before 16 the "
-          "routes "
-          "are there from the start")
+          "a phone's is made for a device, and makes its routes when it needs them")
       .readonlyProperty<"routingViewController", &Controller::routingViewController>()
       .method<"delegate", &Controller::itsDelegate>()
       .method<"setDelegate:", &Controller::setDelegate>()
@@ -249,11 +282,14 @@ void Controller::registerClass() {
       .method<"viewDidDisappear:", &Controller::viewDidDisappear>()
       .readonlyProperty<"layout", &Controller::layout>()
       .method<"setLayout:", &Controller::setLayout>()
+      .readonlyProperty<"routeControlsPresentation", &Controller::routeControlsPresentation>()
       .partial<"didSelectRoutingButton:", &Controller::didSelectRoutingButton>(
-          "before 16 at once, and closing goes back to the layout of before, where a phone expands "
-          "the module first and stays expanded; never the system's sheet")
-      .partial<"presentRoutingControlsFromSourceView:", &Controller::presentRoutingControls>(
-          "never the system's sheet")
+          "as later systems do; without a delegate it sets the layout itself")
+      .method<"presentRoutingControlsFromSourceView:", &Controller::presentRoutingControls>()
+      .method<"presentExternalRoutingControlsFromSourceView:",
+              &Controller::presentExternalRoutingControls>()
+      .partial<"updateLayout", &Controller::updateLayout>(
+          "as later systems do, which leave the routes of whatever is connected by Bluetooth")
       .method<"transportControlsView:didSelectRoutingButton:",
               &Controller::didSelectRoutingButtonOf>()
       .partial<"setRoutingViewController:", &Controller::setRoutingViewController>(

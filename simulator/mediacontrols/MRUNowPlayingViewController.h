@@ -11,10 +11,14 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
   objc::Strong<objc::Object> routingViewController;  // MRURoutingViewController
   objc::Weak<objc::Object> delegate;                 // hears of the ways to the routes and back
   long layout = minimizedLayout;
-  long layoutBeforeRouting = minimizedLayout;
-  MainQueue::Ticket nextSecond = 0;  // the queue's entry for the next step of the time line
+  // How the routes are shown: in the player, or on the system's own sheet.
+  static constexpr long inThePlayer = 0, onASheet = 1;
+  long routeControlsPresentation = inThePlayer;
+  objc::Strong<objc::Object> mediaControls;  // MPMediaControls, once it was needed
+  MainQueue::Ticket nextSecond = 0;          // the queue's entry for the next step of the time line
 
-  long volumeObserver = 0;  // AudioSystem's number for it; 0 while off the screen
+  // AudioSystem's and Radios' numbers for it; 0 while off the screen
+  long volumeObserver = 0, routeObserver = 0;
 
   ~MRUNowPlayingViewController() { stopWatching(); }
 
@@ -26,12 +30,16 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
   void viewWillAppear(bool animated);
   void viewDidAppear(bool animated);
   void viewDidDisappear(bool animated);
-  // The view, and the header in it, change with it.
+  // The view, and the header in it, change with it. Nothing happens when it is set already.
   void setLayout(long chosen);
-  // To the routes, and back to the layout that was there before.
+  // Its routes come on the system's sheet; before its view is loaded.
+  void presentRoutesOnASheet();
   void didSelectRoutingButton(objc::Object sender);
-  // From 16 on.
+  // To the routes, and from them to the full player: whoever shows the player decides how.
   void presentRoutingControls(objc::Object source);
+  void presentExternalRoutingControls(objc::Object source);
+  // After a change of the route: one that cannot be played on together with others has no routes.
+  void updateLayout();
   void didSelectRoutingButtonOf(objc::Object transportControls, objc::Object button);
   void setRoutingViewController(objc::Object controller);
   // A change of what plays, or of the volume: the text of both comes from the phone's player.
@@ -42,6 +50,7 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
  private:
   objc::Object moduleView() const;  // MRUNowPlayingView; nil before it is loaded
   void connectControls();
+  void apply(long wanted);
   void showEmbedded();
   void makeRoutesLater();
   void showTime();

@@ -32,9 +32,11 @@ void MRUTransportButton::layoutSubviews() {
 }
 
 void MRUTransportButton::registerClass() {
-  StandIn<MRUTransportButton>("MediaControls", "MRUTransportButton", "UIControl")
+  StandIn<MRUTransportButton>("MediaControls", "MRUTransportButton", "MPButton")
       .partial<"initWithFrame:", &MRUTransportButton::initWithFrame>(
-          "a UIControl, where a phone has an MPButton with a package")
+          "a glyph of the simulator's own, from no package; MRUButton, its superclass before 16.4, "
+          "is "
+          "left out")
       .method<"layoutSubviews", &MRUTransportButton::layoutSubviews>()
       .finish();
 }

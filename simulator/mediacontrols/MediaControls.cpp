@@ -1,4 +1,6 @@
 // What the Now Playing module is made of.
+#include "simulator/mediacontrols/MPButton.h"
+#include "simulator/mediacontrols/MPMediaControls.h"
 #include "simulator/mediacontrols/MRUControlCenterView.h"
 #include "simulator/mediacontrols/MRUControlCenterViewController.h"
 #include "simulator/mediacontrols/MRUEmbeddingView.h"
@@ -18,6 +20,8 @@
 namespace sim {
 
 void registerMediaControls() {
+  MPButton::registerClass();
+  MPMediaControls::registerClass();
   MRUNowPlayingRoutingButton::registerClass();
   MRUNowPlayingLabelView::registerClass();
   MRUNowPlayingHeaderView::registerClass();

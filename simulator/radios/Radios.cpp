@@ -37,17 +37,31 @@ void Radios::waitForWatch() {
 
 void Radios::setBluetooth(bool on) {
   bluetoothOn_ = on;
-  if (!on) peers_.clear();
+  if (on || peers_.empty()) return;
+  peers_.clear();
+  tellObservers();
 }
 
 void Radios::connect(const std::vector<std::string>& names) {
   bluetoothOn_ = true;
   peers_.clear();
   for (const std::string& name : names) peers_.push_back({name, addressOf(++lastAddress_)});
+  tellObservers();
 }
 
 void Radios::disconnect(std::string_view address) {
-  std::erase_if(peers_, [address](const Peer& peer) { return peer.address == address; });
+  const auto isGone = [address](const Peer& peer) { return peer.address == address; };
+  if (std::erase_if(peers_, isGone) != 0) tellObservers();
+}
+
+long Radios::observe(std::function<void()> observer) {
+  observers_.emplace(++lastObserver_, std::move(observer));
+  return lastObserver_;
+}
+
+void Radios::tellObservers() const {
+  const auto now = observers_;  // one of them may forget another
+  for (const auto& [number, observer] : now) observer();
 }
 
 nlohmann::json Radios::save() const {

@@ -34,7 +34,7 @@ class ControlCenterTest : public TestHost {
     const objc::AutoreleasePool pool;
     openControlCenter();
     advance(0);
-    objc::send<void, "setExpanded:">(container(), true);
+    send<void, "expandModule">(container());
     advance(0);
     send<void, "didSelectRoutingButton:">(player(), nullptr);
     closeControlCenter();
@@ -65,22 +65,41 @@ TEST_F(ControlCenterTest, TheRoutesNeedTheExpandedModule) {
   openControlCenter();
   advance(0);
   send<void, "didSelectRoutingButton:">(player(), nullptr);
+  // Later than the call.
+  EXPECT_FALSE((send<bool, "isExpanded">(container())));
+  EXPECT_EQ((send<long, "layout">(header())), 0);
+  advance(0);
   EXPECT_TRUE((send<bool, "isExpanded">(container())));
   EXPECT_EQ((send<long, "layout">(header())), 1);
   send<void, "didSelectRoutingButton:">(player(), nullptr);
-  EXPECT_FALSE((send<bool, "isExpanded">(container())));
-  EXPECT_EQ((send<long, "layout">(header())), 0);
+  EXPECT_TRUE((send<bool, "isExpanded">(container())));
+  EXPECT_EQ((send<long, "layout">(header())), 2);
 }
 
-TEST_F(ControlCenterTest, ExpandingKeepsTheRoutesThatAreShown) {
+TEST_F(ControlCenterTest, ASizeGivesThePlayerItsLayout) {
   launch();
   openControlCenter();
   advance(0);
   send<void, "setLayout:">(player(), 1L);
-  send<void, "setExpanded:">(container(), true);
-  EXPECT_EQ((send<long, "layout">(player())), 1);
-  send<void, "setExpanded:">(container(), false);
+  send<void, "expandModule">(container());
+  advance(0);
+  EXPECT_EQ((send<long, "layout">(player())), 2);
+  send<void, "setLayout:">(player(), 1L);
+  send<void, "dismissExpandedModuleAnimated:">(container(), false);
   EXPECT_EQ((send<long, "layout">(player())), 0);
+}
+
+TEST_F(ControlCenterTest, ClosedBeforeItsModuleExpandsNothingIsLeft) {
+  launch();
+  openControlCenter();
+  advance(0);
+  {
+    const objc::AutoreleasePool pool;
+    send<void, "expandModule">(container());
+    closeControlCenter();
+  }
+  advance(1);
+  EXPECT_EQ(sim::runtime::liveInstanceCount(objc_getClass("MRUControlCenterViewController")), 0U);
 }
 
 TEST_F(ControlCenterTest, LeavesNoObjectBehind) {
@@ -123,7 +142,8 @@ TEST_P(WithoutAClass, OpensAndCloses) {
   playTracks();
   openControlCenter();
   advance(0);
-  send<void, "setExpanded:">(moduleContainer(std::string(nowPlayingModule)), true);
+  send<void, "expandModule">(moduleContainer(std::string(nowPlayingModule)));
+  advance(0);
   send<void, "didSelectRoutingButton:">(player(), nullptr);
   advance(2);
   Player::current().nextTrack();
@@ -137,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(Classes, WithoutAClass,
                          testing::Values("MRUNowPlayingHeaderView", "MRUNowPlayingRoutingButton",
                                          "MRUNowPlayingView", "MRUNowPlayingViewController",
                                          "MRUControlCenterViewController", "MRUEmbeddingView",
-                                         "MRURoutingViewController",
+                                         "MPButton", "MRURoutingViewController",
                                          "CCUIContentModuleContainerViewController", "UIControl",
                                          "UILabel", "UISlider", "UIView", "UIViewController",
                                          "UIWindow", "CALayer", "CAShapeLayer", "CGPath", "UIColor",

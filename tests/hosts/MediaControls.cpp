@@ -25,6 +25,7 @@ class MediaControls : public TestHost {
     const Object labels = send<Object, "labelView">(made.get());
     send<void, "setTitle:">(labels, string(title));
     send<void, "setArtist:">(labels, artist.empty() ? Object() : string(artist));
+    send<void, "setRoute:">(labels, string("iPhone"));
     send<void, "setNeedsLayout">(made.get());
     send<void, "layoutIfNeeded">(made.get());
     return made;
@@ -60,10 +61,15 @@ TEST_F(MediaControls, TheTextIsAsTallAsItNeeds) {
     const auto made = header(2, title, artist);
     return frame(send<Object, "labelView">(made.get())).size.height;
   };
-  EXPECT_EQ(height("", ""), 0);
-  EXPECT_LT(height("A", ""), height("A", "The Band"));
-  EXPECT_LE(height("A", "The Band"), 40);
-  EXPECT_GT(height("One word after another until it is too long", "The Band"), 40);
+  EXPECT_LT(height("", ""), height("A", ""));
+  EXPECT_LE(height("A", ""), 40);
+  EXPECT_GT(height("A", "The Band"), 40);
+  // What is too long for its line stays in it.
+  EXPECT_EQ(height("One word after another until it is too long", "The Band"),
+            height("A", "The Band"));
+  // Only the full player says where sound goes to.
+  const auto small = header(0, "A", "The Band");
+  EXPECT_LE(frame(send<Object, "labelView">(small.get())).size.height, 40);
 }
 
 TEST_F(MediaControls, AHeaderMayHideItsRoutingButton) {
@@ -71,11 +77,12 @@ TEST_F(MediaControls, AHeaderMayHideItsRoutingButton) {
   const auto made = header(2, "A", "");
   const Object button = send<Object, "routingButton">(made.get());
   send<void, "setShowRoutingButton:">(made.get(), false);
-  EXPECT_TRUE((send<bool, "isHidden">(button)));
+  EXPECT_EQ((send<double, "alpha">(button)), 0);
   send<void, "layoutIfNeeded">(made.get());
-  EXPECT_TRUE((send<bool, "isHidden">(button)));
-  send<void, "setShowRoutingButton:">(made.get(), true);
+  EXPECT_EQ((send<double, "alpha">(button)), 0);
   EXPECT_FALSE((send<bool, "isHidden">(button)));
+  send<void, "setShowRoutingButton:">(made.get(), true);
+  EXPECT_EQ((send<double, "alpha">(button)), 1);
 }
 
 TEST_F(MediaControls, TheRoutingGlyphIsBlueWhileSoundGoesElsewhere) {
@@ -102,9 +109,11 @@ TEST_F(MediaControls, AnEmbeddingViewShowsOneController) {
   send<void, "showViewController">(embedding.get());
   const Object view = send<Object, "view">(first.get());
   EXPECT_EQ((send<Object, "superview">(view)), embedding.get());
+  EXPECT_TRUE((send<bool, "isActive">(embedding.get())));
   EXPECT_EQ(frame(view), (CGRect{{0, 0}, {100, 50}}));
   send<void, "setEmbeddedViewController:">(embedding.get(), second.get());
   EXPECT_FALSE((send<Object, "superview">(view)));
+  EXPECT_FALSE((send<bool, "isActive">(embedding.get())));
   send<void, "showViewController">(embedding.get());
   send<void, "removeViewController">(embedding.get());
   EXPECT_FALSE((send<Object, "superview">(send<Object, "view">(second.get()))));
@@ -121,6 +130,27 @@ TEST_F(MediaControls, AnEmbeddedControllerIsAChildOfTheViewsOwn) {
   EXPECT_EQ((send<Object, "parentViewController">(child.get())), owner.get());
   send<void, "removeViewController">(embedding.get());
   EXPECT_FALSE((send<Object, "parentViewController">(child.get())));
+}
+
+TEST_F(MediaControls, AnEmbeddingViewShowsUnderTheParentThatItIsGiven) {
+  boot();
+  const auto owner = make("UIViewController"), child = make("UIViewController"),
+             embedding = make("MRUEmbeddingView");
+  {
+    const objc::AutoreleasePool pool;
+    const auto parent = make("UIViewController");
+    send<void, "embedViewController:parent:">(embedding.get(), child.get(), parent.get());
+    EXPECT_EQ((send<Object, "parent">(embedding.get())), parent.get());
+    send<void, "showViewController">(embedding.get());
+    EXPECT_EQ((send<Object, "parentViewController">(child.get())), parent.get());
+    send<void, "hideViewController">(embedding.get());
+    EXPECT_FALSE((send<Object, "parentViewController">(child.get())));
+  }
+  // Not owned.
+  EXPECT_FALSE((send<Object, "parent">(embedding.get())));
+  send<void, "addSubview:">(send<Object, "view">(owner.get()), embedding.get());
+  send<void, "showViewController">(embedding.get());
+  EXPECT_EQ((send<Object, "parentViewController">(child.get())), owner.get());
 }
 
 TEST_F(MediaControls, AnEmbeddingViewIsAsTallAsItsControllerPrefers) {

@@ -18,7 +18,8 @@ TEST_F(ModuleContainers, CanBeExpanded) {
   boot();
   const objc::Object container = moduleContainer("com.example.one");
   EXPECT_FALSE((objc::send<bool, "isExpanded">(container)));
-  objc::send<void, "setExpanded:">(container, true);
+  objc::send<void, "expandModule">(container);
+  advance(0);
   EXPECT_TRUE((objc::send<bool, "isExpanded">(container)));
   EXPECT_FALSE((objc::send<bool, "isExpanded">(moduleContainer("com.example.two"))));
 }

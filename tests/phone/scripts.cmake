@@ -41,5 +41,8 @@ foreach(language locale row field IN ZIP_LISTS languages locales rows fields)
   set(turn "rotate landscape-left\nadvance 1s")
   set(held on-its-side)
   set(around on-its-side)
+  if(language STREQUAL arabic)  # the header is turned round
+    set(around arabic-on-its-side)
+  endif()
   phone_script(panel-drawn-in-${language}-on-its-side panel-drawn)
 endforeach()

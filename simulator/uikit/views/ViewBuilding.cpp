@@ -80,12 +80,11 @@ void removeChildController(Object child) {
   objc::send<void, "removeFromParentViewController">(child);
 }
 
-void animateLayout(Object view) {
-  constexpr double seconds = 0.3;
-  const auto layOut = objc::block<void()>([view] { objc::send<void, "layoutIfNeeded">(view); });
-  objc::send<void, "setNeedsLayout">(view);
+void changeAnimated(double seconds, const std::function<void()>& changes) {
+  if (seconds <= 0) return changes();
+  const auto run = objc::block<void()>([changes] { changes(); });
   // Whether the host's own animations keep touches away is not known: they do not.
-  animateChanges({.duration = seconds, .options = animation::allowUserInteraction}, layOut.get(),
+  animateChanges({.duration = seconds, .options = animation::allowUserInteraction}, run.get(),
                  nullptr);
 }
 

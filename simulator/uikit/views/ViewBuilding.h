@@ -2,6 +2,8 @@
 // without one of the classes lacks that view and nothing else.
 #pragma once
 
+#include <functional>
+
 #include "objc/Ownership.h"
 #include "simulator/coregraphics/Geometry.h"
 
@@ -39,7 +41,7 @@ void addTapTarget(objc::Object control, objc::Object target, SEL action);
 void addChildController(objc::Object parent, objc::Object child);
 void removeChildController(objc::Object child);
 
-// Lays the view out within an animation of the host's usual length.
-void animateLayout(objc::Object view);
+// Of the host's own changes, seen over that time; at once for none.
+void changeAnimated(double seconds, const std::function<void()>& changes);
 
 }  // namespace sim

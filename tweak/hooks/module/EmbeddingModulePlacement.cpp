@@ -25,12 +25,19 @@ CGRect moved(CGRect frame, double x, double y) {
   return frame;
 }
 
+// In interfaces that run from the right the host turns its header round, and distances count from
+// the other edge. Asked of the routing button, too, which would tell a host that does not.
+bool isTurnedRound(UIView header, UIView routing) {
+  return header.isRightToLeft() && routing.frame().origin.x < header.bounds().size.width / 2;
+}
+
 // At the header's left edge, opposite the routing button. Hidden by the setting, it still gets a
 // place and a look (button-hidden-in-the-small-module).
-CGRect placeInMinimizedLayout(UIView routing, Button button) {
+CGRect placeInMinimizedLayout(UIView header, UIView routing, Button button) {
   auto frame = routing.frame();
   if (Dozewell2StorageManager::sharedInstance().showDozewellButtonInCCMinimizedMediaPlayer()) {
-    frame.origin.x = 0;
+    const bool turned = isTurnedRound(header, routing);
+    frame.origin.x = turned ? header.bounds().size.width - frame.size.width : 0;
   } else {
     button.setHidden(true);
   }
@@ -42,15 +49,15 @@ CGRect placeInMinimizedLayout(UIView routing, Button button) {
 // routing button up from where the last one left it, as the extension always has: while a long
 // title is shown, the two climb with every pass until the routing layout puts them back. Moved from
 // its own place instead, they would stand still (button-moves-up-by-passes).
-CGRect placeInExpandedLayout(UIView labels, UIView routing, Button button) {
+CGRect placeInExpandedLayout(MRUNowPlayingHeaderView header, UIView routing, Button button) {
   constexpr double tallLabels = 40, up = 18, below = 33, beside = 40;  // points
   CGRect frame;
-  if (labels.frame().size.height > tallLabels) {
+  if (header.labelView().frame().size.height > tallLabels) {
     // The frame is read after the move, which it contains.
     routing.setTransform(routing.transform().translated(0, -up));
     frame = moved(routing.frame(), 0, below);
   } else {
-    frame = moved(routing.frame(), -beside, 0);
+    frame = moved(routing.frame(), isTurnedRound(header, routing) ? beside : -beside, 0);
   }
   showOrdinaryState(button);
   return frame;
@@ -79,11 +86,11 @@ CGRect placeElsewhere(UIView routing, Button button) {
 CGRect place(MRUNowPlayingHeaderView header, UIView routing, Button button) {
   switch (header.layout()) {
     case minimizedLayout:
-      return placeInMinimizedLayout(routing, button);
+      return placeInMinimizedLayout(header, routing, button);
     case routingLayout:
       return placeInRoutingLayout(routing, button);
     case expandedLayout:
-      return placeInExpandedLayout(header.labelView(), routing, button);
+      return placeInExpandedLayout(header, routing, button);
     default:
       return placeElsewhere(routing, button);
   }

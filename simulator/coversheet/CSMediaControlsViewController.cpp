@@ -32,10 +32,10 @@ void Controller::viewWillLayoutSubviews() {
 }
 
 void Controller::registerClass() {
-  // On a phone the player's container is an MRUCoverSheetViewController.
   StandIn<Controller>("CoverSheet", "CSMediaControlsViewController", "UIViewController")
       .readonlyProperty<"nowPlayingViewController", &Controller::nowPlayingViewController>()
-      .method<"viewDidLoad", &Controller::viewDidLoad>()
+      .partial<"viewDidLoad", &Controller::viewDidLoad>(
+          "the player itself, where a phone has an MRUCoverSheetViewController between")
       .method<"viewWillLayoutSubviews", &Controller::viewWillLayoutSubviews>()
       .finish();
 }

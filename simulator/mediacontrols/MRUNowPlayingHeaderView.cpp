@@ -119,7 +119,8 @@ void MRUNowPlayingHeaderView::registerClass() {
   StandIn<View>("MediaControls", "MRUNowPlayingHeaderView", isModuleOf16() ? "UIView" : "UIControl")
       .partial<"initWithFrame:", &View::initWithFrame>(
           "lies in the player's view itself, where before 16 a phone has an "
-          "MRUNowPlayingControlsView between; no transportButton")
+          "MRUNowPlayingControlsView between; no transportButton, "
+          "textInsetForSize: or prepareForReuse")
       .readonlyProperty<"artworkView", &View::artworkView>()
       .readonlyProperty<"labelView", &View::labelView>()
       .property<"routingButton", &View::routingButton>()

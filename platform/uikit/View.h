@@ -33,6 +33,7 @@ struct UIView : NSObject {
   void setSemanticContentAttribute(long attribute) const {
     objc::send<void, "setSemanticContentAttribute:">(*this, attribute);
   }
+  void setNeedsLayout() const { objc::send<void, "setNeedsLayout">(*this); }
   bool isRightToLeft() const {
     return objc::send<long, "effectiveUserInterfaceLayoutDirection">(*this) == 1;
   }

@@ -97,8 +97,11 @@ void setShowRoutingButton(objc::Original<void(Header, bool)> original, Header se
   original(self, true);
 }
 
+// Outside of a layout pass the two buttons, one above the other, climb in the full player: the
+// host, asked for one, puts them back.
 void stateChanged(Header self, objc::Object) {
   MediaModule::placeButton(self);
+  self.setNeedsLayout();
 }
 
 // The host's teardown first, as the extension always has done it: what is left of the header is its

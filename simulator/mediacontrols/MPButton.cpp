@@ -30,7 +30,8 @@ void MPButton::registerClass() {
       .factory<"easyTouchButtonWithType:", &easyTouchButtonWithType>()
       .property<"hitRectInsets", &MPButton::hitRectInsets>()
       .property<"alignmentRectInsets", &MPButton::alignmentRectInsets>()
-      .partial<"pointInside:withEvent:", &MPButton::pointInside>("no hold interval")
+      .partial<"pointInside:withEvent:", &MPButton::pointInside>(
+          "no hold interval; easy ones reach as far as later systems let the header's")
       .finish();
 }
 

@@ -81,7 +81,6 @@ void removeChildController(Object child) {
 }
 
 void changeAnimated(double seconds, const std::function<void()>& changes) {
-  if (seconds <= 0) return changes();
   const auto run = objc::block<void()>([changes] { changes(); });
   // Whether the host's own animations keep touches away is not known: they do not.
   animateChanges({.duration = seconds, .options = animation::allowUserInteraction}, run.get(),

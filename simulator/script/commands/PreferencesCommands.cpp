@@ -61,10 +61,9 @@ void requireKey(const std::string& domain, const Word& key) {
   if (read.empty() && !isNamedByExtension(domain)) return;
   if (std::find(read.begin(), read.end(), key.text) != read.end()) return;
   // What is near to a key that is read is a slip, even if the extension has such a text.
-  const bool isNamed =
-      read.empty() ? isNamedByExtension(key.text)
-                   : ExtensionTexts::current().contain(key.text) &&
-                         typoSuggestion(key.text, read).empty();
+  const bool isNamed = read.empty() ? isNamedByExtension(key.text)
+                                    : ExtensionTexts::current().contain(key.text) &&
+                                          typoSuggestion(key.text, read).empty();
   if (isNamed) return;
   if (read.empty()) read = extensionNames();
   throw ScriptError(key.column, "no extension reads the setting " + key.text + " of " + domain +

@@ -17,7 +17,7 @@ namespace {
 struct FadeStep {
   double found = 0;
   double written = 0;           // in single precision, as the host is told it
-  bool changedNothing = false;  // the step found what the one before had found
+  bool changedNothing = false;  // like the one before it: both found the same and left it so
 };
 
 struct SpecialTasksHelperImplementation : objc::Implementation<SpecialTasksHelperImplementation> {
@@ -136,8 +136,9 @@ void Tasks::doVolumeFadeOutWithSteps(float decrement) {
 // The volume is read again at every step: the user who makes it louder has a longer fade, and the
 // user who silences the phone ends it. But a route that knows only some volumes, as Bluetooth does,
 // rounds what a short step asks for back to where it was; a fade that went on from what it reads
-// would never end there. Two such steps in a row, so that nobody's hand is taken for a route, and
-// it goes on from what it has last asked for, until the volume moves.
+// would never end there. Two such steps in a row, and it goes on from what it has last asked for,
+// until the volume moves. A hand that holds the volume up, step after step, is no such route: what
+// was asked for can be read there until the hand is back.
 void Tasks::takeFadeStep(float decrement, FadeStep before) {
   const auto controller = SBMediaController::sharedInstance();
   FadeStep step{.found = getVolume()};
@@ -151,6 +152,7 @@ void Tasks::takeFadeStep(float decrement, FadeStep before) {
     } else {
       changeVolumeBy(-decrement);
     }
+    if (step.changedNothing) step.changedNothing = getVolume() == step.found;
     dispatch::onMainAfter(stepNanoseconds,
                           [decrement, step] { getInstance().takeFadeStep(decrement, step); });
   } else {

@@ -51,6 +51,12 @@ struct MRUNowPlayingViewController : UIViewController {
   using UIViewController::UIViewController;
   static Class cls() { return objc::classNamed<"MRUNowPlayingViewController">(); }
   long layout() const { return objc::send<long, "layout">(*this); }
+  // Whoever carries out its changes of layout: the module that it was made for, also when its
+  // device has gone. nil for none.
+  objc::Object delegate() const {
+    return objc::respondsTo<"delegate">(*this) ? objc::send<objc::Object, "delegate">(*this)
+                                               : objc::Object();
+  }
   UIViewController routingViewController() const {
     return objc::send<UIViewController, "routingViewController">(*this);
   }

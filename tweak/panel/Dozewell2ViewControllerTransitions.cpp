@@ -152,9 +152,11 @@ void Panel::dismissDozewell() {
   const auto last = engine.currentNowPlayingVC();
   last.dozewell_expandDozewell(false);
   // The host loads a player for every device that it finds, beside the one that shows the panel:
-  // left in its routing layout that one would show an empty place. A player that the host has not
-  // taken in is where the panel returns to, as ever (road-two-controllers).
-  if (!last.parentViewController() || !engine.isShowingDozewellUI()) return;
+  // left in its routing layout that one would show an empty place. The last may have gone with its
+  // device meanwhile. A player that was never in a module is where the panel returns to, as ever
+  // (road-two-controllers).
+  const bool isOfTheHost = last.parentViewController() || last.delegate();
+  if (!isOfTheHost || !engine.isShowingDozewellUI()) return;
   const auto holder = UIViewController(self()).parentViewController();
   if (holder.get() != last.get() && isKindOf<MRUNowPlayingViewController>(holder))
     objc::as<DozewellNowPlayingController>(holder).dozewell_expandDozewell(false);

@@ -63,7 +63,7 @@ Versions versionsOf(std::string_view cls, std::string_view member) {
 }
 
 int majorVersion(std::string_view version) {
-  return takeNumber<int>(version).value_or(0);
+  return takeNumber<int>(version).value_or(Versions::latest);  // only more digits are no number
 }
 
 int systemMajor() {

@@ -30,6 +30,11 @@ TEST_F(SystemVersion, VersionThatNobodyKnowsLacksNoMore) {
   EXPECT_NE(objc_lookUpClass("MRUNowPlayingHeaderView"), nullptr);
 }
 
+TEST_F(SystemVersion, VersionTooGreatForANumberIsLaterThanAll) {
+  bootWith("99999999999.1");
+  EXPECT_EQ(objc_lookUpClass("MRUEmbeddingView"), nullptr);
+}
+
 TEST_F(SystemVersion, DatePickersHighlightTodayUntil13) {
   bootWith("13.7");
   const SEL highlights = sel_registerName("setHighlightsToday:");

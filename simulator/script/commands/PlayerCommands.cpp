@@ -101,7 +101,7 @@ void route(Arguments& words) {
   AudioRoute route{words.text("the name of a route"), 0};
   if (!words.takeKeyword("exact")) {
     const long steps = words.integer("the number of its steps, or exact");
-    if (steps < 1 || steps > mostSteps) words.failHere("a route has at least one step");
+    if (steps < 1 || steps > mostSteps) words.failHere("a route has 1 to 1048576 steps");
     route.steps = int(steps);
   }
   words.finish();

@@ -33,7 +33,8 @@ void ClockTimer::setEndDate(std::optional<double> endDate) {
   endDate_ = endDate;
   scheduleEnd();
   const auto now = observers_;  // one of them may forget another
-  for (const auto& [number, observer] : now) observer();
+  for (const auto& [number, observer] : now)
+    if (observers_.contains(number)) observer();
 }
 
 void ClockTimer::scheduleEnd() {

@@ -62,7 +62,8 @@ void AudioSystem::announce(std::string_view category) {
     phone_.journal.record("HUD volume " + notation(volume(category)));
   if (!isMedia) return;
   const auto now = observers_;  // one of them may forget another
-  for (const auto& [number, observer] : now) observer();
+  for (const auto& [number, observer] : now)
+    if (observers_.contains(number)) observer();
 }
 
 void AudioSystem::setRoute(AudioRoute route) {

@@ -61,7 +61,8 @@ long Radios::observe(std::function<void()> observer) {
 
 void Radios::tellObservers() const {
   const auto now = observers_;  // one of them may forget another
-  for (const auto& [number, observer] : now) observer();
+  for (const auto& [number, observer] : now)
+    if (observers_.contains(number)) observer();
 }
 
 nlohmann::json Radios::save() const {

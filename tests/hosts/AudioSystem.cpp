@@ -54,6 +54,15 @@ TEST_F(AudioSystemTest, ObserversHearOfTheMediaVolumeUntilTheyAreForgotten) {
   EXPECT_EQ(second, 2);
 }
 
+TEST_F(AudioSystemTest, AnObserverForgottenByAnotherHearsNothingMore) {
+  int heard = 0;
+  long second = 0;
+  audio.observe([&] { audio.forget(second); });
+  second = audio.observe([&] { ++heard; });
+  audio.setVolume(0.25F);
+  EXPECT_EQ(heard, 0);
+}
+
 TEST_F(AudioSystemTest, ASuppressedIndicatorShowsNothing) {
   audio.setIndicatorSuppressed(true);
   audio.setVolume(0.25F);

@@ -19,7 +19,7 @@ void setTakePicture(TakePicture take) {
 std::shared_ptr<AnimationGroup> beginTransition(CALayer& layer, const AnimationTiming& timing) {
   const TakePicture takePicture = Phone::current().state<Pictures>().take;
   const bool replaces = layer.transition.timing.end() > Phone::current().clock.uptime();
-  const auto replaced = replaces ? layer.transition.timing.group : nullptr;
+  auto replaced = replaces ? layer.transition.timing.group : nullptr;
   // The picture may show an earlier transition that is still running.
   layer.transition = {takePicture != nullptr ? takePicture(layer) : nullptr, timing};
   timing.group->add(layer);

@@ -7,6 +7,7 @@
 #include "tweak/indicators/SleepTimer.h"
 #include "tweak/indicators/SpokenTimeLeft.h"
 #include "tweak/indicators/TimeFormat.h"
+#include "tweak/indicators/TimeLeftPage.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/LocalizationHelper.h"
 
@@ -52,6 +53,7 @@ void Indicators::updateCounterWithNbTracks() {
     DozewellDateView::newest().dozewell_setNbTracksLeftText();
   dozewellVcTimeLeftLabel->setText(LocalizationHelper::getLocalizedNumberStringFrom(
       SleepTimer::sharedInstance().getTimerRemainingTracks()));
+  TimeLeftPage::labelChanged();
   dozewellVcTimeLeftLabel->setAccessibilityValue(spokenTimeLeft());
   toldMinutes = 0;
 }
@@ -85,7 +87,11 @@ void Indicators::refresh() {
 
 void Indicators::showRemainingTime() {
   const double seconds = SleepTimer::sharedInstance().getTimerRemainingTime();
+  const auto before = dozewellVcTimeLeftLabel->text().length();
   dozewellVcTimeLeftLabel->setText(NSString(timeFormatted(wholeSeconds(seconds))));
+  // With hours it is longer. That goes by while the page is seen, and is new to it where the label
+  // stood still as it was opened (panel-unit-follows-the-clock).
+  if (dozewellVcTimeLeftLabel->text().length() != before) TimeLeftPage::labelChanged();
   tellRemainingTime();
 }
 

@@ -4,6 +4,7 @@
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/panel/PageLayout.h"
 #include "tweak/support/BundleHelper.h"
+#include "tweak/support/LocalizationHelper.h"
 #include "tweak/support/SpokenText.h"
 
 namespace {
@@ -37,9 +38,11 @@ const char* durationUnit(NSString clock) {
   return clock.componentsSeparatedByString(":"_ns).count() > 2 ? "HOURS" : "MINUTES";
 }
 
-// What is no number reads as 0, which takes the plural.
+// What is no number reads as 0, which takes the plural. Not every system reads Arabic's digits.
 const char* songUnit(NSString number) {
-  return number.integerValue() == 1 ? "SONG" : "SONGS";
+  const bool isOne = number.integerValue() == 1 ||
+                     number.isEqualToString(LocalizationHelper::getLocalizedNumberStringFrom(1));
+  return isOne ? "SONG" : "SONGS";
 }
 
 id Page::init() {

@@ -2,6 +2,7 @@
 
 #include "tweak/engine/Dozewell2Manager.h"
 #include "tweak/indicators/Dozewell2TimeLeftIndicatorsManager.h"
+#include "tweak/indicators/TimeLeftPage.h"
 #include "tweak/panel/Dozewell2ViewControllerImplementation.h"
 #include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/HapticFeedbackHelper.h"
@@ -122,6 +123,13 @@ void Panel::performHapticFeedback() {
 
 bool Panel::canShowWhileLocked() {
   return true;
+}
+
+void TimeLeftPage::labelChanged() {
+  const auto panel = Dozewell2ViewController::preloaded();
+  if (!isKindOf<Dozewell2ViewController>(panel)) return;
+  Panel& its = Panel::of(panel);
+  its.currentTimerView->setupViewWithMode(its.selectedMode());
 }
 
 Dozewell2ViewController Dozewell2ViewController::preloaded() {

@@ -21,7 +21,7 @@ import refutation
 from screens import PAGES, Screen, parse, units
 from sessions import LANDSCAPE, LANGUAGES, PORTRAIT, Player, pages_of, points_of, survey
 
-USUAL = 150
+USUAL = 120
 BATCH = 50  # sessions for each start of the simulator
 MARK = re.compile(r'^UILabel \{\{0, 0\}, \{0, 0\}\} "(\d+) (\d+)"\n', re.MULTILINE)
 KINDS_SHOWN = 3  # sessions printed of each kind
@@ -116,6 +116,8 @@ def played(phone, player, count, first):
     """How many sessions were wrong; prints each, or only its seed where its kind is known."""
     wrong, known = 0, {}
     for start in range(first, first + count, BATCH):
+        if start > first and (start - first) % 1000 == 0:
+            print(f"{start - first} sessions played", flush=True)
         seeds = range(start, min(start + BATCH, first + count))
         sessions = [player.session(seed) for seed in seeds]
         for seed, session, finding in zip(seeds, sessions, phone.findings(sessions)):

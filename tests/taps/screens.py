@@ -89,10 +89,11 @@ def units(top, language):
     return {key: texts[key] for key in ("HOURS", "MINUTES", "SONG", "SONGS")}
 
 
-def expected_unit(value, texts):
-    if ":" in value:
+def expected_unit(value, counts_songs, texts):
+    if not counts_songs:
         return texts["HOURS" if value.count(":") > 1 else "MINUTES"]
-    return texts["SONG" if value.isdigit() and int(value) == 1 else "SONGS"]
+    number = re.match(r"\d+", value)
+    return texts["SONG" if number and int(number[0]) == 1 else "SONGS"]
 
 
 @dataclasses.dataclass
@@ -150,8 +151,16 @@ class Screen:
             yield "wrong page", f"{page.name} is seen while {'a' if self.running else 'no'} timer runs"
         if page.name == "CurrentTimerView":
             value, unit = [view.text for view in page.named("UILabel")][1:3]
-            if unit != expected_unit(value, self.texts):
+            # The wheel that was shown last decides, not the timer: a number stands above minutes where
+            # the other wheel came up after the timer had started.
+            if unit != expected_unit(value, self.shows_songs(page), self.texts):
                 yield "unit", f"the page says {value} {unit}"
+
+    @staticmethod
+    def shows_songs(page):
+        choosing = [view for view in page.parent.children if view.name == "ChooseSnoozeTimeView"]
+        wheels = [view for its in choosing for view in its.children if view.name == "UIPickerView"]
+        return any(not wheel.hidden for wheel in wheels)
 
     def of_buttons(self, module, routes, is_ours):
         header = module.named("MRUNowPlayingHeaderView")[0]

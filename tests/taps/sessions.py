@@ -183,7 +183,7 @@ class Player:
 
     def waits(self):
         long = self.dice.choice(["2m", "7m", "59m", "1h"])
-        return [[f"advance {self.dice.choice(['100ms', '350ms', '1s', '5s', '300ms', '40s', long])}"]]
+        return [[f"advance {self.dice.choice(['100ms', '280ms', '300ms', '320ms', '1s', '5s', '40s', long])}"]]
 
     def happens(self):
         what = self.dice.choice(["again", "close", "turn", "lock", "shake", "next-track", "pause", "play",

@@ -53,9 +53,9 @@ void Indicators::updateCounterWithNbTracks() {
     DozewellDateView::newest().dozewell_setNbTracksLeftText();
   dozewellVcTimeLeftLabel->setText(LocalizationHelper::getLocalizedNumberStringFrom(
       SleepTimer::sharedInstance().getTimerRemainingTracks()));
-  TimeLeftPage::labelChanged();
   dozewellVcTimeLeftLabel->setAccessibilityValue(spokenTimeLeft());
   toldMinutes = 0;
+  TimeLeftPage::labelChanged();
 }
 
 void Indicators::stopCounter() {
@@ -89,10 +89,10 @@ void Indicators::showRemainingTime() {
   const double seconds = SleepTimer::sharedInstance().getTimerRemainingTime();
   const auto before = dozewellVcTimeLeftLabel->text().length();
   dozewellVcTimeLeftLabel->setText(NSString(timeFormatted(wholeSeconds(seconds))));
+  tellRemainingTime();
   // With hours it is longer. That goes by while the page is seen, and is new to it where the label
   // stood still as it was opened (panel-unit-follows-the-clock).
   if (dozewellVcTimeLeftLabel->text().length() != before) TimeLeftPage::labelChanged();
-  tellRemainingTime();
 }
 
 // Texts are looked up once a minute, not at every tick; for a label that was told nothing, at once.

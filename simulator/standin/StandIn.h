@@ -109,6 +109,20 @@ class StandIn {
     return *this;
   }
 
+  // A BOOL as the platform declares its own: the property `hidden` is read with `isHidden`, and no
+  // method is named like it.
+  template <objc::FixedString Name, objc::FixedString Getter, auto member>
+  StandIn& flag() {
+    using Access = objc::Accessors<Self, member>;
+    Class cls = objc::Implementation<Self>::cls();
+    if (!page_.record('@', Name.c_str(), {Grade::real, ""}) || cls == nullptr) return *this;
+    const objc_property_attribute_t attributes[] = {{"T", "B"}, {"G", Getter.c_str()}, {"N", ""}};
+    class_addProperty(cls, Name.c_str(), attributes, std::size(attributes));
+    objc::addMethod<Self, Getter, &Access::read>(cls);
+    objc::addMethod<Self, objc::setterName<Name>(), &Access::write>(cls);
+    return *this;
+  }
+
   Class finish() { return builder_.finish(); }
 
  private:

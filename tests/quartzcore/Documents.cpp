@@ -24,7 +24,7 @@ TEST_F(Documents, GiveALayerItsPropertiesByTheirTypes) {
   EXPECT_EQ((send<CGPoint, "position">(layer.get())), (CGPoint{5, 6}));
   EXPECT_EQ((send<CGPoint, "anchorPoint">(layer.get())), (CGPoint{0, 1}));
   EXPECT_EQ((send<float, "opacity">(layer.get())), 0.5F);
-  EXPECT_TRUE((send<bool, "hidden">(layer.get())));
+  EXPECT_TRUE((send<bool, "isHidden">(layer.get())));
   EXPECT_FALSE((send<bool, "masksToBounds">(layer.get())));
   EXPECT_EQ((send<double, "cornerRadius">(layer.get())), 3);
   EXPECT_EQ((send<CGAffineTransform, "affineTransform">(layer.get())).a, 2);

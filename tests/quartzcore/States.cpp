@@ -75,7 +75,7 @@ TEST_F(States, SetValuesOfEveryType) {
   take("on");
   EXPECT_EQ(*CAShapeLayer::of(shape).fill(), (ColorComponents{{0, 0, 1, 0.5}, false}));
   EXPECT_EQ(text(send<Object, "name">(shape)), "lit");
-  EXPECT_TRUE((send<bool, "hidden">(shape)));
+  EXPECT_TRUE((send<bool, "isHidden">(shape)));
   EXPECT_EQ((send<CGRect, "bounds">(shape)), (CGRect{{0, 0}, {7, 8}}));
   EXPECT_EQ(notation(send<Object, "valueForKey:">(shape, string("tag"))), "5");
   take("");

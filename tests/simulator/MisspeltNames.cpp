@@ -188,7 +188,7 @@ TEST(WellSpelt, WhatThePhoneLacksAndWhatIsSwitchedOffIsKnown) {
   const Outcome outcome = playWithOwnExtension(
       "missing SBMediaController pauseForEventSource:\n"
       "missing SBVolumeControl\n"
-      "missing UIView hidden\n"
+      "missing UIView isHidden\n"
       "missing PCSimpleTimer\n"
       "set enabled NO\n"
       "boot\n"

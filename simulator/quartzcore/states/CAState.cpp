@@ -11,12 +11,9 @@ void CAState::registerClass() {
       .property<"elements", &CAState::elements>()
       .property<"nextDelay", &CAState::nextDelay>()
       .property<"previousDelay", &CAState::previousDelay>()
-      .property<"enabled", &CAState::enabled>()
-      .readonlyProperty<"isEnabled", &CAState::enabled>()
-      .property<"initial", &CAState::initial>()
-      .readonlyProperty<"isInitial", &CAState::initial>()
-      .property<"locked", &CAState::locked>()
-      .readonlyProperty<"isLocked", &CAState::locked>()
+      .flag<"enabled", "isEnabled", &CAState::enabled>()
+      .flag<"initial", "isInitial", &CAState::initial>()
+      .flag<"locked", "isLocked", &CAState::locked>()
       .finish();
 }
 

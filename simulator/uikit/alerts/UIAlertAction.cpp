@@ -21,8 +21,7 @@ void UIAlertAction::registerClass() {
       .factory<"actionWithTitle:style:handler:", &UIAlertAction::make>()
       .readonlyProperty<"title", &UIAlertAction::title>()
       .readonlyProperty<"style", &UIAlertAction::style>()
-      .property<"enabled", &UIAlertAction::enabled>()
-      .readonlyProperty<"isEnabled", &UIAlertAction::enabled>()
+      .flag<"enabled", "isEnabled", &UIAlertAction::enabled>()
       .finish();
 }
 

@@ -30,8 +30,8 @@ Object hitTest(Object self, CGPoint point, Object event) {
 void addHitTesting(StandIn<UIView>& view) {
   view.method<"pointInside:withEvent:", &pointInside>()
       .method<"hitTest:withEvent:", &hitTest>()
-      .property<"userInteractionEnabled", &UIView::userInteractionEnabled>()
-      .readonlyProperty<"isUserInteractionEnabled", &UIView::userInteractionEnabled>();
+      .flag<"userInteractionEnabled", "isUserInteractionEnabled",
+            &UIView::userInteractionEnabled>();
 }
 
 }  // namespace sim

@@ -90,7 +90,6 @@ double UIView::alpha() const {
 void addViewAppearance(StandIn<UIView>& view) {
   view.partial<"alpha", &alphaOf>("keeps the precision that a layer's float would lose")
       .method<"setAlpha:", &setAlpha>()
-      .method<"hidden", &hidden>()
       .method<"isHidden", &hidden>()
       .method<"setHidden:", &setHidden>()
       .readonlyProperty<"backgroundColor", &UIView::backgroundColor>()

@@ -127,9 +127,8 @@ void MRUNowPlayingHeaderView::registerClass() {
       .property<"context", &View::context>()
       .readonlyProperty<"layout", &View::layout>()
       .partial<"setLayout:", &View::setLayout>(
-          "layouts 0 to 3 only, of which 3 is the lock screen's, 4 on later phones; another looks "
-          "like "
-          "the full player")
+          "layouts 0 to 3 only, of which 3 is the lock screen's, 4 on later phones; another "
+          "looks like the full player")
       .readonlyProperty<"showRoutingButton", &View::showRoutingButton>()
       .method<"setShowRoutingButton:", &View::setShowRoutingButton>()
       .method<"updateVisibility", &View::updateVisibility>()

@@ -25,7 +25,7 @@ struct Versions {
 // Of a class, or of a method or property (as it is registered) in the versions that have its class.
 Versions versionsOf(std::string_view cls, std::string_view member = {});
 
-// 15 of "15.4.1"; 0 of what does not begin with a number.
+// 15 of "15.4.1"; later than all where it is no number that fits.
 int majorVersion(std::string_view version);
 // Of the current phone's system.
 int systemMajor();

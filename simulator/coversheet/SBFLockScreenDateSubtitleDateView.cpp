@@ -39,8 +39,7 @@ void SBFLockScreenDateSubtitleDateView::registerClass() {
       .method<"setDate:", &View::setDate>()
       .partial<"_setDate:inTimeZone:", &View::setDate_inTimeZone>(
           "UTC in any time zone; in nine languages, English elsewhere; the Gregorian calendar, and "
-          "no "
-          "lunar date beside it")
+          "no lunar date beside it")
       .partial<"setUseCompactDateFormat:", &View::setUseCompactDateFormat>("the text is no shorter")
       .method<"_updateDateLabelForCompact", &View::updateDateLabelForCompact>()
       .finish();

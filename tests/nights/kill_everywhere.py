@@ -1,12 +1,16 @@
 """Kills the host at every line of a night's journal, one line a play.
 
-usage: kill_everywhere.py SIMULATOR EXTENSION NIGHT.phone
+usage: kill_everywhere.py SIMULATOR EXTENSION NIGHT.phone [STEP]
+
+With STEP at each line so far from the one before only; DOZEWELL_EVERY_LINE in the environment
+overrides it.
 
 The disk must then hold one of the timers that the night names (`# stored: ...`), the very one that
 was written last; the new host must go on from it; and the phone must still start and end a timer.
 """
 
 import datetime
+import os
 import plistlib
 import re
 import subprocess
@@ -143,7 +147,8 @@ def kill_at(play, count, commands, lengths, entry, state):
     return stored
 
 
-def main(simulator, extension, night):
+def main(simulator, extension, night, step="1"):
+    step = 1 if "DOZEWELL_EVERY_LINE" in os.environ else int(step)
     def play(lines):
         return Played([simulator, "play", "--tweak", extension], lines)
 
@@ -152,14 +157,15 @@ def main(simulator, extension, night):
     commands = [line for line in lines if line and not line.startswith(("#", "expect"))]
     lengths = lines_after(play, commands)
     named, seen = named_states(lines), set()
-    for count, state in enumerate(written(journal), start=1):
+    for count, state in list(enumerate(written(journal), start=1))[::step]:
         try:
             seen.add(kill_at(play, count, commands, lengths, journal[count - 1], state))
         except Failure as failure:
             sys.exit(f"{night}: killed at line {count}, {' '.join(journal[count - 1])}: {failure}")
-    if seen != named:
+    if not seen <= named or (step == 1 and seen != named):
         sys.exit(f"{night}: stored at some death is {seen}, the night names {named}")
-    print(f"{night}: killed at each of {len(journal)} lines, {len(seen)} stored states")
+    print(f"{night}: killed at {len(journal[::step])} of {len(journal)} lines, "
+          f"{len(seen)} stored states")
 
 
 if __name__ == "__main__":

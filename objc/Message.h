@@ -21,21 +21,37 @@ namespace objc {
 template <class T>
 class Strong;  // objc/Ownership.h
 
+#if defined(__aarch64__) && !defined(__APPLE__)
+// Compilers for phones take it that whoever passes a number of less than 32 bits has widened it;
+// those for this system leave that to whoever reads it. Here one may call the other.
+template <class T>
+inline constexpr bool isWidened = (std::is_integral_v<T> || std::is_enum_v<T>)&&sizeof(T) <
+                                  sizeof(int);
+#else
+template <class T>
+inline constexpr bool isWidened = false;
+#endif
+
 // What crosses the call: views travel as the pointer they are.
 template <class T>
-using Wire = std::conditional_t<std::is_base_of_v<Object, T>, id, T>;
+using Wire =
+    std::conditional_t<std::is_base_of_v<Object, T>, id, std::conditional_t<isWidened<T>, int, T>>;
 
 template <class T>
 constexpr Wire<T> toWire(T value) {
   if constexpr (std::is_base_of_v<Object, T>)
     return value.get();
   else
-    return value;
+    return static_cast<Wire<T>>(value);
 }
 
 template <class T>
 constexpr T fromWire(Wire<T> value) {
-  return static_cast<T>(value);
+  // Written as a BOOL by whoever does not widen, the rest of the register says nothing.
+  if constexpr (std::is_same_v<T, bool> && isWidened<T>)
+    return static_cast<unsigned char>(value) != 0;
+  else
+    return static_cast<T>(value);
 }
 
 // nil and literals of class type name no wire type of their own.

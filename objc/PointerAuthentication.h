@@ -15,6 +15,16 @@
 #endif
 #endif
 
+#if defined(__aarch64__) && !defined(__APPLE__)
+// Whether pointers are signed is known there only when the program runs, and its runtime knows how.
+#define OBJC_RUNTIME_SIGNS 1
+extern "C" {
+void* objc_simulatorSignedIsa(void* cls, const void* slot);
+void* objc_simulatorSignedFunction(void* plain, const void* slot);
+void* objc_simulatorAuthenticatedFunction(void* given, const void* slot);
+}
+#endif
+
 namespace objc {
 
 inline void storeBlockClass(void** slot, void* cls) {
@@ -22,6 +32,8 @@ inline void storeBlockClass(void** slot, void* cls) {
   constexpr int dataKeyA = 2;
   *slot = __builtin_ptrauth_sign_unauthenticated(
       cls, dataKeyA, __builtin_ptrauth_blend_discriminator(slot, 0x6AE1));
+#elif defined(OBJC_RUNTIME_SIGNS)
+  *slot = objc_simulatorSignedIsa(cls, slot);
 #else
   *slot = cls;
 #endif
@@ -32,6 +44,8 @@ template <class Function>
 void storeBlockFunction(void** slot, Function function) {
 #ifdef OBJC_POINTER_AUTHENTICATION
   *slot = __builtin_ptrauth_auth_and_resign(reinterpret_cast<void*>(function), 0, 0, 0, slot);
+#elif defined(OBJC_RUNTIME_SIGNS)
+  *slot = objc_simulatorSignedFunction(reinterpret_cast<void*>(function), slot);
 #else
   *slot = reinterpret_cast<void*>(function);
 #endif
@@ -41,6 +55,8 @@ template <class Function>
 Function loadBlockFunction(void* const* slot) {
 #ifdef OBJC_POINTER_AUTHENTICATION
   return reinterpret_cast<Function>(__builtin_ptrauth_auth_and_resign(*slot, 0, slot, 0, 0));
+#elif defined(OBJC_RUNTIME_SIGNS)
+  return reinterpret_cast<Function>(objc_simulatorAuthenticatedFunction(*slot, slot));
 #else
   return reinterpret_cast<Function>(*slot);
 #endif

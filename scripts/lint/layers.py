@@ -28,6 +28,7 @@ ORDER = [
     "mediaremote", "services", "cephei", "radios", "donotdisturb", "runwright", "backboard",
     "springboard", "mediacontrols", "coversheet", "controlcenter", "preferences",
     "drawing",
+    "macho",  # extensions built for phones
     "launch", "libraries",  # all frameworks, and the extensions
     "script", "host", "serve", "program",
 ]

@@ -46,13 +46,10 @@ Elements elementsFrom(const id* objects, unsigned long count) {
 Object makeWithObjects(id cls, const id* objects, unsigned long count) {
   return makeArray(cls, elementsFrom(objects, count));
 }
-id makeWithList(id cls, SEL, id first, ...) {
+id makeWithList(id cls, SEL, id first, std::va_list rest) {
   Elements elements;
-  std::va_list rest;
-  va_start(rest, first);
   for (id next = first; next != nullptr; next = va_arg(rest, id))
     addElement(elements, Object(next));
-  va_end(rest);
   return makeArray(cls, std::move(elements)).get();
 }
 Object makeWithContentsOfFile(id cls, Object path) {
@@ -133,7 +130,7 @@ void addFactories(StandIn<NSArray>& standIn) {
       .factory<"arrayWithContentsOfFile:", &makeWithContentsOfFile>()
       .method<"initWithArray:", &initWithArray>()
       .method<"initWithObjects:count:", &initWithObjects>();
-  addVariadic({NSArray::cls(), '+', "arrayWithObjects:", "@@:@"}, &makeWithList);
+  addVariadic<&makeWithList>({NSArray::cls(), '+', "arrayWithObjects:", "@@:@"});
 }
 
 void addReading(StandIn<NSArray>& standIn) {

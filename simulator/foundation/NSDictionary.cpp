@@ -74,14 +74,11 @@ Object makeWithArrays(id cls, Object objects, Object keys) {
     addFirst(dictionary, names->elements[i], values->elements[i], i);
   return dictionary;
 }
-id makeWithList(id cls, SEL, id first, ...) {
+id makeWithList(id cls, SEL, id first, std::va_list rest) {
   const Object dictionary = autorelease(makeOf(cls));
-  std::va_list rest;
-  va_start(rest, first);
   unsigned long index = 0;
   for (id value = first; value != nullptr; value = va_arg(rest, id))
     addFirst(dictionary, Object(va_arg(rest, id)), Object(value), index++);
-  va_end(rest);
   return dictionary.get();
 }
 Object makeEmpty(id cls) {
@@ -161,7 +158,7 @@ void addFactories(StandIn<NSDictionary>& standIn) {
       .method<"initWithDictionary:", &initWithDictionary>()
       .method<"initWithObjects:forKeys:count:", &initWithObjects>()
       .method<"initWithContentsOfFile:", &initWithContentsOfFile>();
-  addVariadic({NSDictionary::cls(), '+', "dictionaryWithObjectsAndKeys:", "@@:@"}, &makeWithList);
+  addVariadic<&makeWithList>({NSDictionary::cls(), '+', "dictionaryWithObjectsAndKeys:", "@@:@"});
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "simulator/foundation/NSString.h"
 #include "simulator/foundation/Unicode.h"
 #include "simulator/machine/Phone.h"
+#include "simulator/runtime/Variadics.h"
 #include "simulator/standin/Fidelity.h"
 
 void NSLogv(id format, std::va_list arguments) {
@@ -25,6 +26,7 @@ namespace sim {
 void recordLogFunctions() {
   recordFunction("Foundation", "NSLog", {Grade::real, ""});
   recordFunction("Foundation", "NSLogv", {Grade::real, ""});
+  sim::runtime::addVariadicFunction(reinterpret_cast<void*>(&NSLog), &NSLogv);
 }
 
 }  // namespace sim

@@ -23,11 +23,8 @@ Object makeWithCapacity(id cls, unsigned long) {
   return autorelease(makeOf(cls));
 }
 
-void appendFormat(id self, SEL, id format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
+void appendFormat(id self, SEL, id format, std::va_list arguments) {
   const std::u16string added = formatted(Object(format), arguments);
-  va_end(arguments);
   NSString::of(self).units += added;
 }
 
@@ -80,7 +77,7 @@ void NSMutableString::registerClass() {
       .method<"deleteCharactersInRange:", &NSMutableString::deleteCharactersInRange>()
       .method<"copyWithZone:", &NSMutableString::copyWithZone>()
       .finish();
-  addVariadic({NSMutableString::cls(), '-', "appendFormat:", "v@:@"}, &appendFormat);
+  addVariadic<&appendFormat>({NSMutableString::cls(), '-', "appendFormat:", "v@:@"});
 }
 
 }  // namespace sim

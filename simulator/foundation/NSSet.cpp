@@ -56,12 +56,9 @@ Object makeWithSet(id cls, Object other) {
   if (const NSSet* state = stateOf<NSSet>(other)) table(set) = state->table;
   return set;
 }
-id makeWithList(id cls, SEL, id first, ...) {
+id makeWithList(id cls, SEL, id first, std::va_list rest) {
   const Object set = makeEmpty(cls);
-  std::va_list rest;
-  va_start(rest, first);
   for (id member = first; member != nullptr; member = va_arg(rest, id)) add(set, Object(member), 0);
-  va_end(rest);
   return set.get();
 }
 
@@ -115,7 +112,7 @@ void NSSet::registerClass() {
       .method<"mutableCopyWithZone:", &copyAs<NSMutableSet, NSSet, &NSSet::table>>()
       .method<"description", &collectionDescription>()
       .finish();
-  addVariadic({NSSet::cls(), '+', "setWithObjects:", "@@:@"}, &makeWithList);
+  addVariadic<&makeWithList>({NSSet::cls(), '+', "setWithObjects:", "@@:@"});
 }
 
 }  // namespace sim

@@ -45,20 +45,14 @@ Object makeFromString(id cls, Object other) {
   return autorelease(std::move(made));
 }
 
-id makeFromFormat(id cls, SEL, id format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
+id makeFromFormat(id cls, SEL, id format, std::va_list arguments) {
   objc::Strong<Object> made = makeOf(cls);
   NSString::of(made.get()).units = formatted(Object(format), arguments);
-  va_end(arguments);
   return autorelease(std::move(made)).get();
 }
 
-id initWithFormat(id self, SEL, id format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
+id initWithFormat(id self, SEL, id format, std::va_list arguments) {
   NSString::of(self).units = formatted(Object(format), arguments);
-  va_end(arguments);
   return self;
 }
 
@@ -208,8 +202,8 @@ void NSString::registerClass() {
   addNumberMethods(standIn);
   addPathMethods(standIn);
   standIn.finish();
-  addVariadic({NSString::cls(), '+', "stringWithFormat:", "@@:@"}, &makeFromFormat);
-  addVariadic({NSString::cls(), '-', "initWithFormat:", "@@:@"}, &initWithFormat);
+  addVariadic<&makeFromFormat>({NSString::cls(), '+', "stringWithFormat:", "@@:@"});
+  addVariadic<&initWithFormat>({NSString::cls(), '-', "initWithFormat:", "@@:@"});
 }
 
 }  // namespace sim

@@ -84,11 +84,8 @@ Object stringByAppendingString(Object self, Object other) {
   return stringOf(units(self) + argument(self, "stringByAppendingString:", other));
 }
 
-id stringByAppendingFormat(id self, SEL, id format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
+id stringByAppendingFormat(id self, SEL, id format, std::va_list arguments) {
   std::u16string joined = units(Object(self)) + formatted(Object(format), arguments);
-  va_end(arguments);
   return stringOf(std::move(joined)).get();
 }
 
@@ -159,7 +156,7 @@ void addContentMethods(StandIn<NSString>& standIn) {
       .partial<"stringByTrimmingCharactersInSet:", &trimmed>("UTF-16 units")
       .partial<"uppercaseString", &uppercaseString>(simpleCase)
       .partial<"lowercaseString", &lowercaseString>(simpleCase);
-  addVariadic({NSString::cls(), '-', "stringByAppendingFormat:", "@@:@"}, &stringByAppendingFormat);
+  addVariadic<&stringByAppendingFormat>({NSString::cls(), '-', "stringByAppendingFormat:", "@@:@"});
 }
 
 }  // namespace sim

@@ -3,12 +3,18 @@
 #include <dlfcn.h>
 #include <link.h>
 
+#include <algorithm>
+
 #include "objc/Ownership.h"
 #include "simulator/launch/AbsentNames.h"
 #include "simulator/launch/ClassJournal.h"
 #include "simulator/launch/Frameworks.h"
+#include "simulator/launch/Loading.h"
 #include "simulator/launch/Tracing.h"
 #include "simulator/machine/Phone.h"
+#include "simulator/macho/Image.h"
+#include "simulator/macho/Imports.h"
+#include "simulator/runtime/Signing.h"
 #include "simulator/standin/ExtensionTexts.h"
 #include "simulator/standin/Registration.h"
 
@@ -37,6 +43,26 @@ Host::Symbol described(void* address) {
   return {address, type == STT_OBJECT ? Kind::variable : Kind::other, symbol->st_size};
 }
 
+std::optional<Host::Symbol> exported(void* handle, const char* name) {
+  void* found = dlsym(handle, name);
+  if (found == nullptr || !isHeldBy(handle, found)) return std::nullopt;
+  return described(found);
+}
+
+std::optional<Host::Symbol> exported(const macho::Image* image, const char* name) {
+  const auto found = image->symbol(name);
+  if (!found) return std::nullopt;
+  using Kind = Host::Symbol::Kind;
+  return Host::Symbol{found->address, found->isCode ? Kind::function : Kind::variable, found->size};
+}
+
+// The system's libraries are part of the host; the others' classes come with whoever names them.
+bool loadLibrary(const std::string& name) {
+  if (!macho::hasLibrary(name)) return false;
+  if (name == "Cephei") dozewell_simulator_library_is_loaded(name.c_str());
+  return true;
+}
+
 void registerForeignClass(const std::string& name) {
   Class made = objc_allocateClassPair(objc_getClass("NSObject"), name.c_str(), 0);
   if (made == nullptr) throw HostError("there is a class named " + name + " already");
@@ -44,6 +70,10 @@ void registerForeignClass(const std::string& name) {
 }
 
 }  // namespace
+
+void Host::prepare(const std::vector<std::filesystem::path>& extensions) {
+  if (std::ranges::any_of(extensions, macho::wantsSignedPointers)) sim::runtime::beginSigning();
+}
 
 void Host::registerClasses() {
   if (registered_) return;
@@ -72,17 +102,36 @@ void Host::loadExtensions() {
 }
 
 void Host::load(const std::filesystem::path& extension) {
+  if (macho::isMachO(extension))
+    loadForPhones(extension);
+  else
+    loadSharedObject(extension);
+}
+
+void Host::loadForPhones(const std::filesystem::path& extension) {
+  try {
+    const macho::Image& image = macho::Image::load(extension, loadLibrary);
+    loaded_.emplace_back(&image);
+    for (const std::string_view constants : image.constants())
+      ExtensionTexts::current().add(constants);
+  } catch (const macho::Error& error) {
+    throw HostError("the extension does not load: " + extension.string() + ' ' + error.what());
+  }
+}
+
+void Host::loadSharedObject(const std::filesystem::path& extension) {
   // Now and local, as the injection platform loads them: a missing symbol is an error here.
   void* handle = dlopen(std::filesystem::absolute(extension).c_str(), RTLD_NOW | RTLD_LOCAL);
   if (handle == nullptr) throw HostError(std::string("the extension does not load: ") + dlerror());
-  handles_.push_back(handle);
+  loaded_.emplace_back(handle);
   ExtensionTexts::current().add(handle);
 }
 
 std::optional<Host::Symbol> Host::symbol(const char* name) const {
-  for (void* handle : handles_) {
-    void* found = dlsym(handle, name);
-    if (found != nullptr && isHeldBy(handle, found)) return described(found);
+  for (const auto& each : loaded_) {
+    const auto found =
+        std::visit([name](auto* extension) { return exported(extension, name); }, each);
+    if (found) return found;
   }
   return std::nullopt;
 }

@@ -5,11 +5,16 @@
 #include <filesystem>
 #include <optional>
 #include <stdexcept>
+#include <variant>
 #include <vector>
 
 #include "simulator/machine/Clock.h"
 
 namespace sim {
+
+namespace macho {
+class Image;
+}
 
 class HostError : public std::runtime_error {
  public:
@@ -21,6 +26,10 @@ class Host {
   // Paths of the extensions, in loading order; none are loaded yet.
   explicit Host(std::vector<std::filesystem::path> extensions)
       : extensions_(std::move(extensions)) {}
+
+  // What the process must know of its extensions before anything of a phone is made in it: whether
+  // they sign their pointers. Extensions that nobody named here cannot.
+  static void prepare(const std::vector<std::filesystem::path>& extensions);
 
   // The classes and functions of the frameworks, as the phone's set-up has them. Once a process.
   void registerClasses();
@@ -50,9 +59,12 @@ class Host {
  private:
   void loadExtensions();
   void load(const std::filesystem::path& extension);
+  void loadSharedObject(const std::filesystem::path& extension);
+  void loadForPhones(const std::filesystem::path& extension);
 
   std::vector<std::filesystem::path> extensions_;
-  std::vector<void*> handles_;  // never closed: classes and hooks point into them
+  // What dlopen gave for each, or a phone's image; never closed: classes and hooks point into them.
+  std::vector<std::variant<void*, const macho::Image*>> loaded_;
   bool registered_ = false;
   bool launched_ = false;
   Nanoseconds launchedAt_ = 0;

@@ -180,7 +180,7 @@ void MRMediaRemoteGetNowPlayingInfo(dispatch_queue_t queue, id block) {
                             .get());
 }
 
-bool MRMediaRemoteSendCommand(int command, id) {
+objc::Wire<bool> MRMediaRemoteSendCommand(int command, id) {
   sim::Phone::current().journal.record("MRMediaRemoteSendCommand(" + std::to_string(command) + ')');
   return sim::perform(sim::Player::current(), command);
 }

@@ -2,7 +2,7 @@
 // registerMediaRemote().
 #pragma once
 
-#include "objc/Object.h"
+#include "objc/Message.h"
 #include "simulator/dispatch/Dispatch.h"
 
 extern "C" {
@@ -27,7 +27,7 @@ void MRMediaRemoteGetNowPlayingInfo(dispatch_queue_t queue, id block);
 
 // 0 play, 1 pause, 2 toggle, 3 stop, 4 next track, 5 previous track. `options` is ignored.
 // NO for another command.
-bool MRMediaRemoteSendCommand(int command, id options);
+objc::Wire<bool> MRMediaRemoteSendCommand(int command, id options);
 
 }  // extern "C"
 

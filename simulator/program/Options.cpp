@@ -61,6 +61,8 @@ class Parser {
       withoutExtension_ = true;
     else if (word == "--tweak")
       options_.extensions.emplace_back(valueOf(word));
+    else if (word == "--slice")
+      options_.slice = sliceFrom(valueOf(word));
     else if (word == "--package")
       options_.package = folderFrom(word, valueOf(word));
     else if (word == "--folder")
@@ -116,6 +118,12 @@ class Parser {
     if (result.ec != std::errc() || result.ptr != end || !(seconds >= 0 && seconds <= 1e9))
       throw UsageError("--limit needs a number of seconds, found " + word);
     return seconds;
+  }
+
+  static macho::Architecture sliceFrom(const std::string& word) {
+    for (const macho::Architecture& each : {macho::arm64, macho::arm64e})
+      if (each.name() == word) return each;
+    throw UsageError("--slice needs arm64 or arm64e, found " + word);
   }
 
   static std::filesystem::path folderFrom(const std::string& option, const std::string& word) {
@@ -200,12 +208,15 @@ fidelity  prints how faithful the simulated phone is, as Markdown
 commands  prints the reference of the script language, as Markdown
 
   --tweak PATH     the extension to load (repeatable, in order); without it, Dozewell2.so
-                   beside this program
+                   beside this program. Where the processor is aarch64 it may be a library for
+                   phones (arm64, arm64e or both), as its package brings it
+  --slice NAME     arm64 or arm64e, which of a library for phones to load; without it, arm64e where
+                   the processor can authenticate pointers
   --no-tweak       a phone without extensions
   --package DIR    the files to install on the phone, as they lie there, for example what a phone's
                    package was unpacked to; without it, and without the options above, the
-                   extension's own. A library for phones among them is not loaded: what plays is
-                   the one for this machine that --tweak names
+                   extension's own. A library for phones among them is loaded only if --tweak names
+                   it
   --folder DIR     scripts read and write files below this folder only; without it, `play` takes
                    any file, relative to the script, and `serve` a folder that is gone at the end
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "simulator/macho/FatFile.h"
+
 namespace sim {
 
 class UsageError : public std::runtime_error {
@@ -27,6 +29,7 @@ struct Options {
   Action action = Action::help;
   std::vector<std::filesystem::path> files;
   std::vector<std::filesystem::path> extensions;
+  std::optional<macho::Architecture> slice;      // of files for phones; none: the processor's
   std::optional<std::filesystem::path> package;  // what is installed on the phone, as it lies there
   std::optional<std::filesystem::path> root;     // none: a temporary folder
   std::optional<std::filesystem::path> playlist;  // instead of the scripts' own

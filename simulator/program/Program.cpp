@@ -5,6 +5,8 @@
 #include <iostream>
 
 #include "simulator/host/Output.h"
+#include "simulator/launch/Host.h"
+#include "simulator/macho/Image.h"
 #include "simulator/program/FidelityCommand.h"
 #include "simulator/program/Options.h"
 #include "simulator/program/PlayCommand.h"
@@ -16,6 +18,8 @@ namespace sim {
 namespace {
 
 int run(const Options& options) {
+  if (options.slice) macho::preferSlice(*options.slice);
+  Host::prepare(options.extensions);
   switch (options.action) {
     case Action::help:
       std::cout << usageText();

@@ -8,6 +8,7 @@
 #include "simulator/runtime/Instances.h"
 #include "simulator/runtime/LiveObjects.h"
 #include "simulator/runtime/ShownAddresses.h"
+#include "simulator/runtime/Signing.h"
 
 namespace sim::runtime {
 namespace {
@@ -28,6 +29,13 @@ const BlockHelpers* helpersOf(const BlockLayout& block) {
   return (block.flags & BlockFlag::hasCopyDispose) != 0
              ? reinterpret_cast<const BlockHelpers*>(block.descriptor + 1)
              : nullptr;
+}
+
+// To be called: what lies in the descriptor may be signed over where it lies.
+template <class Function>
+Function* helper(Function* const& slot, const char* what) {
+  return reinterpret_cast<Function*>(
+      authenticatedFunction(reinterpret_cast<void*>(slot), what, &slot));
 }
 
 // A full count stays full: such a block is never freed.
@@ -61,8 +69,12 @@ void* copyToHeap(const BlockLayout& source) {
   auto* copy = static_cast<BlockLayout*>(memory);
   copy->flags &= ~(BlockFlag::referenceMask | BlockFlag::deallocating);
   copy->flags |= BlockFlag::needsFree | BlockFlag::oneCount;
-  if (const BlockHelpers* helpers = helpersOf(*copy)) helpers->copy(copy, &source);
-  copy->isa = _NSConcreteMallocBlock;
+  void* invoke = reinterpret_cast<void*>(source.invoke);
+  invoke = authenticatedFunction(invoke, "a block's function", &source.invoke);
+  copy->invoke = reinterpret_cast<void (*)()>(signedFunction(invoke, &copy->invoke));
+  if (const BlockHelpers* helpers = helpersOf(source))
+    helper(helpers->copy, "a block's copy helper")(copy, &source);
+  storeIsa(copy->isa, static_cast<void*>(_NSConcreteMallocBlock));
   copy->traces = countedBlock;
   countLiveBlocks(1);
   return copy;
@@ -120,7 +132,8 @@ void _Block_release(const void* block) {
   if (block == nullptr || (flagsOf(block).load() & BlockFlag::isGlobal) != 0 ||
       (flagsOf(block).load() & BlockFlag::needsFree) == 0 || !releaseHeapBlock(block))
     return;
-  if (const BlockHelpers* helpers = helpersOf(*layoutOf(block))) helpers->dispose(block);
+  if (const BlockHelpers* helpers = helpersOf(*layoutOf(block)))
+    helper(helpers->dispose, "a block's dispose helper")(block);
   const std::uint32_t traces = tracesOf(block).load(std::memory_order_acquire);
   clearTraces(reinterpret_cast<id>(layoutOf(block)), traces);
   if ((traces & countedBlock) != 0) countLiveBlocks(-1);

@@ -14,6 +14,7 @@
 
 #include "objc/runtime.h"
 #include "simulator/runtime/AssemblyOffsets.h"
+#include "simulator/runtime/Signing.h"
 
 namespace sim::runtime {
 struct ClassData;
@@ -33,12 +34,13 @@ struct ClassFlag {
 
 // Small, because block classes must fit into the 32 pointers of _NSConcreteStackBlock and its kin.
 struct objc_class {
-  Class isa;
+  Class isa;  // its metaclass, possibly signed; like that of every object
   Class superclass;
   std::atomic<sim::runtime::MethodCache*> cache;  // never null; probed by the assembly
   std::atomic<std::uint32_t> flags;
   sim::runtime::ClassData* data;  // owned
 
+  Class metaclass() { return sim::runtime::loadIsa(isa); }
   bool has(sim::runtime::ClassFlag::Value flag) const {
     return (flags.load(std::memory_order_acquire) & flag) != 0;
   }

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "simulator/runtime/Absences.h"
@@ -48,7 +49,7 @@ Class allocateClassMemory(std::size_t extraBytes) {
 }
 
 void initClass(Class cls, Class isa, Class superclass, std::uint32_t flags) {
-  cls->isa = isa;
+  storeIsa(cls->isa, isa);
   cls->superclass = superclass;
   cls->cache.store(&emptyMethodCache, std::memory_order_relaxed);
   cls->data = new ClassData;
@@ -69,8 +70,8 @@ void construct(Class cls, Class superclass, const char* name, std::size_t extraB
   initClass(cls, metaclass, superclass, 0);
   // Every metaclass is an instance of the root's metaclass, which is an instance of itself and
   // inherits from the root class: so class objects answer to the root's instance methods.
-  Class rootMetaclass = superclass != nullptr ? superclass->isa->isa : metaclass;
-  initClass(metaclass, rootMetaclass, superclass != nullptr ? superclass->isa : cls,
+  Class rootMetaclass = superclass != nullptr ? superclass->metaclass()->metaclass() : metaclass;
+  initClass(metaclass, rootMetaclass, superclass != nullptr ? superclass->metaclass() : cls,
             ClassFlag::metaclass);
   metaclass->data->instanceSize = sizeof(objc_class);
   for (Class one : {cls, metaclass}) {
@@ -99,6 +100,15 @@ void constructClassPair(Class cls, Class superclass, const char* name, std::size
   construct(cls, superclass, name, extraBytes);
 }
 
+void signClasses(void (*begin)()) {
+  const std::lock_guard guard(runtimeLock());
+  std::vector<std::pair<Class, Class>> isas;
+  for (const auto& [name, cls] : registry().byName)
+    for (Class one : {cls, cls->metaclass()}) isas.emplace_back(one, one->metaclass());
+  begin();
+  for (const auto& [cls, isa] : isas) storeIsa(cls->isa, isa);
+}
+
 }  // namespace sim::runtime
 
 using namespace sim::runtime;
@@ -118,7 +128,7 @@ Class objc_getClass(const char* name) {
 
 Class objc_getMetaClass(const char* name) {
   Class cls = objc_lookUpClass(name);
-  return cls != nullptr ? cls->isa : nullptr;
+  return cls != nullptr ? cls->metaclass() : nullptr;
 }
 
 int objc_getClassList(Class* buffer, int count) {
@@ -149,7 +159,7 @@ void objc_registerClassPair(Class cls) {
       fatal("objc_registerClassPair: %s %s", cls->data->name.c_str(),
             cls->has(ClassFlag::metaclass) ? "is a metaclass" : "is registered already");
     }
-    cls->isa->flags.fetch_or(ClassFlag::registered, std::memory_order_release);
+    cls->metaclass()->flags.fetch_or(ClassFlag::registered, std::memory_order_release);
     cls->flags.fetch_or(ClassFlag::registered, std::memory_order_release);
     registry().registered.push_back(cls);
   }
@@ -163,7 +173,7 @@ void objc_disposeClassPair(Class cls) {
     fatal("objc_disposeClassPair: %s is a metaclass", cls->data->name.c_str());
   registry().byName.erase(cls->data->name);
   std::erase(registry().registered, cls);
-  Class metaclass = cls->isa;
+  Class metaclass = cls->metaclass();
   if (cls->superclass == nullptr) {
     std::erase(cls->data->subclasses, metaclass);
     metaclass->superclass = nullptr;

@@ -16,6 +16,9 @@ std::mutex& runtimeLock();
 // matters.
 void ensureBootstrapped();
 
+// Stores the isa of each class again when `begin` has decided how.
+void signClasses(void (*begin)());
+
 // Makes a class and its metaclass in memory the caller gives: `cls` is zeroed or holds nothing.
 // For the block classes, whose addresses are symbols.
 void constructClassPair(Class cls, Class superclass, const char* name, std::size_t extraBytes);

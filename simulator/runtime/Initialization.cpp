@@ -36,7 +36,7 @@ bool begin(Class cls) {
 // Called with the monitor's lock held.
 void openToAll(Class cls) {
   cls->data->initializing = false;
-  cls->isa->flags.fetch_or(ClassFlag::initialized, std::memory_order_release);
+  cls->metaclass()->flags.fetch_or(ClassFlag::initialized, std::memory_order_release);
   cls->flags.fetch_or(ClassFlag::initialized, std::memory_order_release);
   for (Class subclass : std::exchange(cls->data->initializedEarly, {})) openToAll(subclass);
 }
@@ -63,7 +63,7 @@ void initializeIfNeeded(Class cls) {
   if (!begin(target)) return;
   static const SEL initialize = sel_registerName("initialize");
   // A root class of its own may have none.
-  if (hasMethod(target->isa, initialize)) send<void>(asObject(target), initialize);
+  if (hasMethod(target->metaclass(), initialize)) send<void>(asObject(target), initialize);
   finish(target);
 }
 

@@ -11,6 +11,7 @@
 #include "simulator/runtime/ReferenceCounting.h"
 #include "simulator/runtime/Send.h"
 #include "simulator/runtime/ShownAddresses.h"
+#include "simulator/runtime/Signing.h"
 #include "simulator/runtime/WeakReferences.h"
 
 namespace sim::runtime {
@@ -78,7 +79,7 @@ id class_createInstance(Class cls, std::size_t extraBytes) {
   auto* header = new (memory) InstanceHeader{};
   header->references.store(oneReference, std::memory_order_relaxed);
   id object = objectOf(header);
-  object->isa = cls;
+  storeIsa(object->isa, cls);
   addLiveObject(*header);
   return object;
 }
@@ -94,7 +95,7 @@ id object_dispose(id object) {
 }
 
 Class object_getClass(id object) {
-  return object != nullptr ? std::atomic_ref(object->isa).load(std::memory_order_relaxed) : nullptr;
+  return object != nullptr ? loadIsa(object->isa) : nullptr;
 }
 
 const char* object_getClassName(id object) {
@@ -106,7 +107,7 @@ bool object_isClass(id object) {
 }
 
 Class object_setClass(id object, Class cls) {
-  return object != nullptr ? std::atomic_ref(object->isa).exchange(cls) : nullptr;
+  return object != nullptr ? exchangeIsa(object->isa, cls) : nullptr;
 }
 
 id objc_alloc(Class cls) {

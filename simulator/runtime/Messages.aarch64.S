@@ -8,7 +8,10 @@
 #define TO_SUPER 1   // a struct objc_super: the class to search
 #define TO_SUPER2 2  // a struct objc_super: the class whose superclass to search
 
+    .arch armv8.3-a  // only where pointers are signed
     .hidden simulatorRuntimeLookUp
+    .hidden simulatorRuntimeSigns
+    .hidden simulatorRuntimeWrongIsa
     .hidden simulatorRuntimeForwardingTarget
 
 // x8 is where a structure in memory goes.
@@ -57,6 +60,10 @@
 .if \target == TO_OBJECT
     cbz x0, 4f
     ldr x9, [x0]
+    adrp x10, simulatorRuntimeSigns
+    ldrb w10, [x10, #:lo12:simulatorRuntimeSigns]
+    cbnz w10, 5f
+6:  // x9: the class
 .else
     ldr x9, [x0, #8]
 .if \target == TO_SUPER2
@@ -108,6 +115,18 @@
     movi d2, #0
     movi d3, #0
     ret
+5:  // x9: the class signed over its place, as simulator/runtime/Signing.h says
+    mov x10, x0
+    movk x10, #0x6ae1, lsl #48
+    mov x11, x9
+    xpacd x11
+    mov x12, x11
+    pacda x12, x10
+    cmp x12, x9
+    mov x9, x11
+    b.eq 6b
+    SAVE_ARGUMENTS  // for whoever looks at the stack
+    bl simulatorRuntimeWrongIsa
 .endif
     .cfi_endproc
     .size \name, . - \name

@@ -13,7 +13,7 @@ namespace {
 // A root class of its own may have no resolver. The answer counts for nothing: what matters is
 // whether the method is there afterwards.
 void ask(Class cls, SEL resolver, SEL wanted) {
-  if (hasMethod(cls->isa, resolver)) send<bool>(asObject(cls), resolver, wanted);
+  if (hasMethod(cls->metaclass(), resolver)) send<bool>(asObject(cls), resolver, wanted);
 }
 
 void askResolvers(Class cls, SEL wanted) {

@@ -108,7 +108,7 @@ Method class_getInstanceMethod(Class cls, SEL selector) {
 
 Method class_getClassMethod(Class cls, SEL selector) {
   return cls != nullptr
-             ? class_getInstanceMethod(cls->has(ClassFlag::metaclass) ? cls : cls->isa, selector)
+             ? class_getInstanceMethod(cls->has(ClassFlag::metaclass) ? cls : cls->metaclass(), selector)
              : nullptr;
 }
 

@@ -82,7 +82,7 @@ void registerProtocolClass() {
   addMethod(cls, "release", &ignore, "v@:");
   addMethod(cls, "autorelease", &keep, "@@:");
   // Only objc_allocateProtocol knows how large one is.
-  addMethod(cls->isa, "allocWithZone:", &makeNone, "@@:^{_NSZone=}");
+  addMethod(cls->metaclass(), "allocWithZone:", &makeNone, "@@:^{_NSZone=}");
   objc_registerClassPair(cls);
   Protocol* ofRoot = objc_allocateProtocol("NSObject");
   objc_registerProtocol(ofRoot);

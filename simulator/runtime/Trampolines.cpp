@@ -12,12 +12,15 @@
 #include "simulator/runtime/AssemblyOffsets.h"
 #include "simulator/runtime/Blocks.h"
 #include "simulator/runtime/Fatal.h"
+#include "simulator/runtime/Signing.h"
 
 // The templates, in assembly; TRAMPOLINE_SIZE bytes each.
 extern "C" {
 [[gnu::visibility("hidden")]] extern const char simulatorRuntimeTrampoline[];
 #if defined(__x86_64__)
 [[gnu::visibility("hidden")]] extern const char simulatorRuntimeTrampoline_stret[];
+#elif defined(__aarch64__)
+[[gnu::visibility("hidden")]] extern const char simulatorRuntimeTrampoline_signed[];
 #endif
 }
 
@@ -40,6 +43,8 @@ TrampolineTable& table() {
 const char* templateOf([[maybe_unused]] TrampolineKind kind) {
 #if defined(__x86_64__)
   if (kind == TrampolineKind::stret) return simulatorRuntimeTrampoline_stret;
+#elif defined(__aarch64__)
+  if (signs()) return simulatorRuntimeTrampoline_signed;
 #endif
   return simulatorRuntimeTrampoline;
 }

@@ -15,6 +15,8 @@ class ExtensionTexts {
 
   // Those of a library, which stays loaded. `handle` is what dlopen gave.
   void add(void* handle);
+  // Those among bytes which stay where they are.
+  void add(std::string_view constants) { constants_.push_back(constants); }
   bool contain(std::string_view name) const;
   // At the end of another is enough: linkers keep "ends" within "weekends", and what lies before a
   // text need not be one.

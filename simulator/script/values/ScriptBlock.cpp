@@ -61,10 +61,10 @@ objc::Object scriptBlock(const std::string& name, const Signature& signature) {
   block.name = name;
   block.signature = signature;
   block.descriptor.size = sizeof(objc::BlockHeader);
-  block.header.isa = static_cast<void*>(_NSConcreteGlobalBlock);
+  objc::storeBlockClass(&block.header.isa, _NSConcreteGlobalBlock);
   block.header.flags = isGlobal;
   block.header.descriptor = &block.descriptor;
-  block.header.invoke = makeEntry(block);
+  objc::storeBlockFunction(&block.header.invoke, makeEntry(block));
   return objc::Object(reinterpret_cast<id>(&block.header));
 }
 

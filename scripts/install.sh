@@ -6,15 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/quietly.sh
-
-wanted() {
-    local section
-    for section; do
-        awk -v section="[$section]" '
-            /^\[/ { current = $1; next }
-            NF && !/^#/ && current == section { print $1 }' scripts/packages.txt
-    done
-}
+source scripts/wanted.sh
 
 # Node.js from elsewhere brings its npm along, and cannot be there together with the package of it.
 installed() {

@@ -25,8 +25,14 @@ class Strong;  // objc/Ownership.h
 // Compilers for phones take it that whoever passes a number of less than 32 bits has widened it;
 // those for this system leave that to whoever reads it. Here one may call the other.
 template <class T>
-inline constexpr bool isWidened = (std::is_integral_v<T> || std::is_enum_v<T>)&&sizeof(T) <
-                                  sizeof(int);
+constexpr bool isNarrow() {
+  if constexpr (std::is_integral_v<T> || std::is_enum_v<T>)
+    return sizeof(T) < sizeof(int);
+  else
+    return false;
+}
+template <class T>
+inline constexpr bool isWidened = isNarrow<T>();
 #else
 template <class T>
 inline constexpr bool isWidened = false;

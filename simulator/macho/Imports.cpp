@@ -177,13 +177,13 @@ const Symbol cpp[] = {
     symbol("__ZdaPvm", static_cast<void (*)(void*, std::size_t)>(&::operator delete[])),
 };
 
-struct Library {
+struct ServedLibrary {
   std::string_view name;
   const Symbol* symbols;
   std::size_t count;
 };
 
-const Library libraries[] = {
+const ServedLibrary libraries[] = {
     {"CydiaSubstrate", substrate, std::size(substrate)},
     {"libobjc.A.dylib", runtime, std::size(runtime)},
     {"libSystem.B.dylib", system, std::size(system)},
@@ -191,8 +191,8 @@ const Library libraries[] = {
     {"Cephei", nullptr, 0},  // its classes are found by name
 };
 
-const Library* find(std::string_view name) {
-  for (const Library& each : libraries)
+const ServedLibrary* find(std::string_view name) {
+  for (const ServedLibrary& each : libraries)
     if (each.name == name) return &each;
   return nullptr;
 }
@@ -204,7 +204,7 @@ bool hasLibrary(std::string_view name) {
 }
 
 void* importedAddress(std::string_view library, std::string_view wanted) {
-  const Library* in = find(library);
+  const ServedLibrary* in = find(library);
   if (in == nullptr) return nullptr;
   for (const Symbol* each = in->symbols; each != in->symbols + in->count; ++each)
     if (each->name == wanted) return each->address;

@@ -1,4 +1,5 @@
 // Puts the page together.
+import "./ui/language.js"; // first: all others speak by it
 import { takeParameter } from "./server/address.js";
 import { Connection } from "./server/connection.js";
 import { pageId } from "./server/page.js";

@@ -101,8 +101,12 @@ std::string unitOf(Object wheel) {
 
 scene::Accessibility wheelOf(Object view) {
   const Object given = objc::send<Object, "accessibilityLabel">(UIView::of(view).parent);
-  return {scene::Accessibility::Role::picker, given ? text(given) : unitOf(view),
-          textIn(UIPickerColumnView::of(view).selectedCell())};
+  const UIPickerColumnView& column = UIPickerColumnView::of(view);
+  scene::Accessibility made{scene::Accessibility::Role::picker, given ? text(given) : unitOf(view),
+                            textIn(column.selectedCell())};
+  made.row = column.selectedRow;
+  made.rows = column.numberOfRows;
+  return made;
 }
 
 bool holdsControls(Object view) {

@@ -86,6 +86,8 @@ struct Accessibility {
   std::string value;  // may be empty
   bool isEnabled = true;
   bool isSelected = false;
+  long row = 0;   // of a picker: the one it is on, from 0
+  long rows = 0;  // of a picker: how many there are
   bool operator==(const Accessibility&) const = default;
 };
 

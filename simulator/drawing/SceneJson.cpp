@@ -99,6 +99,10 @@ void addAccessibility(json& made, const scene::Accessibility& its) {
   if (!its.value.empty()) made["value"] = its.value;
   if (!its.isEnabled) made["enabled"] = false;
   if (its.isSelected) made["selected"] = true;
+  if (its.role == scene::Accessibility::Role::picker) {
+    made["row"] = its.row;
+    made["rows"] = its.rows;
+  }
 }
 
 void addLooks(json& made, const scene::Attributes& attributes) {

@@ -3,6 +3,7 @@ import { byId, h } from "../ui/dom.js";
 import { uptime } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
 import { paced } from "../ui/paced.js";
+import { Roving } from "../ui/roving.js";
 import { toast } from "../ui/toast.js";
 import { explain, kinds } from "./meaning.js";
 import { Timeline } from "./timeline.js";
@@ -43,6 +44,7 @@ export class JournalPanel {
       this.#empty,
       this.#list,
     );
+    new Roving(this.#list, ".entry-line");
     this.#list.addEventListener("scroll", () => (this.#follows = this.#isAtEnd()));
     new ResizeObserver(() => this.#follow()).observe(this.#list);
     this.#list.addEventListener("click", (event) => this.#toggle(event.target.closest("li")));

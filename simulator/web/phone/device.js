@@ -3,6 +3,7 @@ import { perform, run } from "../server/commands.js";
 import { read } from "../server/requests.js";
 import { h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
 
 const nextTurn = {
@@ -20,9 +21,9 @@ export class Device {
   constructor(state, screen, place) {
     this.#state = state;
     this.keys = [
-      this.#key("lock-key", "Lock", () => this.#lock()),
-      this.#key("up-key", "Volume up", () => perform("volume-up")),
-      this.#key("down-key", "Volume down", () => perform("volume-down")),
+      this.#key("lock-key", say("Lock"), () => this.#lock()),
+      this.#key("up-key", say("Volume up"), () => perform("volume-up")),
+      this.#key("down-key", say("Volume down"), () => perform("volume-down")),
     ];
     place.append(...this.#makeButtons(), this.#makeMore());
     for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());
@@ -69,27 +70,31 @@ export class Device {
 
   #makeButtons() {
     return [
-      this.#button("controls", "Control Center", "control-center", () => this.#controlCenter()),
-      this.#button("lock", "Lock", "lock", () => this.#lock()),
-      this.#button("home", "Home", "control-center", () => this.home()),
-      this.#button("screen", "Screen", "screen", () =>
+      this.#button("controls", say("Control Center"), "control-center", () =>
+        this.#controlCenter(),
+      ),
+      this.#button("lock", say("Lock"), "lock", () => this.#lock()),
+      this.#button("home", say("Home"), "control-center", () => this.home()),
+      this.#button("screen", say("Screen"), "screen", () =>
         perform(`screen ${this.#state.phone.screenOn ? "off" : "on"}`),
       ),
-      this.#button("shake", "Shake", "shake", () => this.#shake()),
-      this.#button("rotate", "Rotate", "rotate", () =>
+      this.#button("shake", say("Shake"), "shake", () => this.#shake()),
+      this.#button("rotate", say("Rotate"), "rotate", () =>
         perform(`rotate ${nextTurn[this.#state.phone.orientation] ?? "portrait"}`),
       ),
-      this.#button("headphones", "Headphones away", "bluetooth", () => perform("bluetooth none")),
+      this.#button("headphones", say("Headphones away"), "bluetooth", () =>
+        perform("bluetooth none"),
+      ),
     ];
   }
 
   #makeMore() {
-    const respring = this.#button("respring", "Respring", "respring", () =>
+    const respring = this.#button("respring", say("Respring"), "respring", () =>
       perform(this.#state.phone.host === "off" ? "boot" : "respring"),
     );
-    const kill = this.#button("kill", "Kill", "kill", () => perform("kill"));
-    respring.title = "Restarts the home screen in order";
-    kill.title = "The home screen dies at once, without an orderly end";
+    const kill = this.#button("kill", say("Kill"), "kill", () => perform("kill"));
+    respring.title = say("Restarts the home screen in order");
+    kill.title = say("The home screen dies at once, without an orderly end");
     return h("div", { class: "device-rare" }, respring, kill);
   }
 
@@ -102,6 +107,13 @@ export class Device {
     if (this.controlCenterIsOpen) perform("control-center close");
     else if (this.#state.phone.locked) perform("unlock");
     else if (this.#state.phone.settings) perform("settings close");
+  }
+
+  // One level back, where no button of the screen leads there.
+  back() {
+    if (this.controlCenterIsOpen) perform("control-center close");
+    else if (this.#state.phone.settings) perform("settings back");
+    else if (!this.#state.phone.locked) this.home();
   }
 
   #controlCenter() {
@@ -129,9 +141,14 @@ export class Device {
 
   #show() {
     const { locked, screenOn, host } = this.#state.phone;
-    this.#rename("lock", locked ? "Unlock" : "Lock", locked ? "unlock" : "lock");
-    this.#rename("screen", screenOn ? "Screen off" : "Screen on");
-    this.#rename("respring", { running: "Respring", dead: "Start again", off: "Switch on" }[host]);
+    this.#rename("lock", locked ? say("Unlock") : say("Lock"), locked ? "unlock" : "lock");
+    this.#rename("screen", screenOn ? say("Screen off") : say("Screen on"));
+    const starts = {
+      running: say("Respring"),
+      dead: say("Start again"),
+      off: say("Switch on"),
+    };
+    this.#rename("respring", starts[host]);
     for (const [name, { button }] of this.#buttons)
       button.disabled = host !== "running" && !["respring", "headphones"].includes(name);
     this.#buttons

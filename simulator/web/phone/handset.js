@@ -24,7 +24,7 @@ export class Handset {
     this.#screen = screen;
     this.glass = h(
       "div",
-      { class: "glass", id: "glass" },
+      { class: "glass", id: "glass", dir: "ltr" },
       screen.element,
       h("div", { class: "island", "aria-hidden": "true" }),
       h("div", { class: "dark", "aria-hidden": "true" }),
@@ -39,6 +39,7 @@ export class Handset {
     stand.append(h("div", { class: "handset-box" }, this.#body));
     new ResizeObserver(() => this.#fit()).observe(stand);
     for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());
+    for (const name of ["setup", "snapshot"]) state.on(name, () => this.#speak());
     screen.addEventListener("change", () => this.#turnContent());
     this.#show();
   }
@@ -53,6 +54,13 @@ export class Handset {
     this.#body.classList.toggle("off", !screenOn || host !== "running");
     this.#fit();
     this.#turnContent();
+  }
+
+  // The phone's language is not the page's.
+  #speak() {
+    const words = this.#state.setup.lines.map((line) => line.split(" "));
+    const spoken = words.find(([command]) => command === "locale")?.[1] ?? "en_US";
+    this.glass.lang = spoken.replaceAll('"', "").replace("_", "-");
   }
 
   #fit() {

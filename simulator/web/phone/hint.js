@@ -2,6 +2,7 @@
 // timer has been set that is over for good, and it only says what the phone waits for.
 import { announce } from "../ui/toast.js";
 import { byId } from "../ui/dom.js";
+import { say } from "../ui/language.js";
 
 const key = "dozewell.found";
 const started = 'post "DozewellDidStartNotification"';
@@ -12,6 +13,7 @@ export class Hint {
   #state;
   #screen;
   #place = byId("hint");
+  #hasStopped = false;
   #news = ""; // of the timer that was set while this page was open
 
   constructor(state, screen) {
@@ -25,10 +27,15 @@ export class Hint {
   #hear(entries) {
     for (const { text } of entries) {
       if (text.startsWith(started)) this.#timerWasSet();
-      else if (text.startsWith(paused)) this.#tell("The music has stopped. Good night.");
-      else if (text.startsWith(stopped) && !this.#news.startsWith("The music")) this.#news = "";
+      else if (text.startsWith(paused)) this.#musicHasStopped();
+      else if (text.startsWith(stopped) && !this.#hasStopped) this.#news = "";
     }
     this.#show();
+  }
+
+  #musicHasStopped() {
+    this.#tell(say("The music has stopped. Good night."));
+    this.#hasStopped = true;
   }
 
   #timerWasSet() {
@@ -36,13 +43,14 @@ export class Hint {
     localStorage.setItem(key, "yes");
     this.#tell(
       first
-        ? "The timer is set. Move time forward and listen: the music fades, then stops."
-        : "The timer is set.",
+        ? say("The timer is set. Move time forward and listen: the music fades, then stops.")
+        : say("The timer is set."),
     );
   }
 
   #tell(news) {
     this.#news = news;
+    this.#hasStopped = false;
     announce(news);
   }
 
@@ -50,19 +58,21 @@ export class Hint {
     const { host, screenOn, locked } = this.#state.phone;
     if (host === "off")
       return this.#state.script
-        ? "This phone waits for its script: play a line, or all."
-        : "This phone is off. Switch it on.";
-    if (host === "dead") return "The home screen has died. Start it again.";
-    if (!screenOn) return "Tap the phone to light its screen.";
+        ? say("This phone waits for its script: play a line, or all.")
+        : say("This phone is off. Switch it on.");
+    if (host === "dead") return say("The home screen has died. Start it again.");
+    if (!screenOn) return say("Tap the phone to light its screen.");
     if (this.#news || localStorage.getItem(key)) return this.#news;
-    if (locked) return "Unlock the phone: press its side key.";
+    if (locked) return say("Unlock the phone: press its side key.");
     if (this.#screen.shows("ChooseSnoozeTimeView"))
-      return "Choose how long the music may play, then confirm.";
+      return say("Choose how long the music may play, then confirm.");
     if (this.#screen.shows("OnTimerEndsSettingsView"))
-      return "Choose what else happens. The hourglass turns from the timer's start to its end.";
+      return say(
+        "Choose what else happens. The hourglass turns from the timer's start to its end.",
+      );
     if (this.#screen.shows("DozewellButton"))
-      return "The moon beside the song is the sleep timer. Tap it.";
-    return "Open Control Center to find the moon: pull down from the upper right corner.";
+      return say("The moon beside the song is the sleep timer. Tap it.");
+    return say("Open Control Center to find the moon: pull down from the upper right corner.");
   }
 
   #show() {

@@ -3,18 +3,20 @@
 import { perform } from "../server/commands.js";
 import { h } from "../ui/dom.js";
 import { presses, turns } from "./accessibility.js";
-
-const steps = { ArrowUp: -1, ArrowLeft: -1, ArrowDown: 1, ArrowRight: 1, PageUp: -5, PageDown: 5 };
-const sliderSteps = { ...steps, ArrowLeft: 1, ArrowRight: -1 }; // down is less
+import { Focus } from "./focus.js";
+import { Levels } from "./levels.js";
+import { Wheel } from "./wheel.js";
 
 export class Keyboard {
   #handset;
-  #device;
+  #levels;
+  #wheel = new Wheel();
   #ring = h("div", { class: "focus-ring", hidden: true });
 
   constructor(handset, screen, device) {
     this.#handset = handset;
-    this.#device = device;
+    this.#levels = new Levels(handset, device, (element) => this.#press(element));
+    new Focus(handset.glass, screen);
     handset.glass.append(this.#ring);
     handset.glass.addEventListener("keydown", (event) => this.#key(event));
     handset.glass.addEventListener("click", (event) => this.#click(event));
@@ -35,15 +37,23 @@ export class Keyboard {
   }
 
   #key(event) {
-    if (event.key === "Escape") return this.#device.home();
+    if (event.key === "Escape") return this.#levels.back();
     const element = this.#focused;
     if (!element || event.ctrlKey || event.metaKey || event.altKey) return;
     const { role } = element.dataset;
-    const step = (role === "slider" ? sliderSteps : steps)[event.key];
-    if (presses(role) && (event.key === "Enter" || event.key === " ")) this.#press(element);
-    else if (turns(role) && step !== undefined) perform(`scroll ${this.#centre(element)} ${step}`);
-    else return;
+    if (turns(role)) return this.#turn(element, event);
+    if (!presses(role) || (event.key !== "Enter" && event.key !== " ")) return;
     event.preventDefault();
+    if (!event.repeat) this.#press(element);
+  }
+
+  #turn(element, event) {
+    const rows = this.#wheel.rows(element, event);
+    if (rows === undefined) return;
+    event.preventDefault();
+    // A slider is turned by twentieths, and down is less.
+    const way = element.dataset.role === "slider" ? -1 : 1;
+    if (rows !== 0) perform(`scroll ${this.#centre(element)} ${way * rows}`);
   }
 
   // Screen readers click without a pointer.

@@ -4,6 +4,7 @@ import { perform } from "../server/commands.js";
 import { post } from "../server/requests.js";
 import { h } from "../ui/dom.js";
 import { duration } from "../ui/format.js";
+import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
 
 const ask = (what) =>
@@ -19,7 +20,12 @@ const list = (label, lines) =>
 
 export class Life {
   #state;
-  #card = h("section", { class: "life", id: "life", role: "status", "aria-label": "The host" });
+  #card = h("section", {
+    class: "life",
+    id: "life",
+    role: "status",
+    "aria-label": say("The host"),
+  });
 
   constructor(state, place) {
     this.#state = state;
@@ -31,40 +37,56 @@ export class Life {
     const answer = await ask("sample");
     if (!answer) return;
     this.#card.querySelector("details")?.remove();
-    this.#card.append(list("What it is doing", answer.stack));
+    this.#card.append(list(say("What it is doing"), answer.stack));
     this.#card.querySelector("details").open = true;
   }
 
   #hanging(doing) {
     return [
-      h("p", { class: "life-title", text: "The home screen does not answer" }),
-      h("p", { text: doing ? `It is at “${doing}”. Wait, or end it.` : "Wait, or end it." }),
+      h("p", { class: "life-title", text: say("The home screen does not answer") }),
+      h("p", {
+        text: doing
+          ? say("It is at “{doing}”. Wait, or end it.", { doing })
+          : say("Wait, or end it."),
+      }),
       h(
         "div",
         { class: "life-choices" },
-        button("Kill it", () => ask("kill")),
-        button("What is it doing?", () => this.#whereIsIt()),
+        button(say("Kill it"), () => ask("kill")),
+        button(say("What is it doing?"), () => this.#whereIsIt()),
       ),
     ];
   }
 
   #busy({ doing, uptime }) {
-    const reached = uptime === null ? "" : ` It is ${duration(uptime)} on the phone.`;
+    const reached =
+      uptime === null ? "" : say("It is {time} on the phone.", { time: duration(uptime) });
     return [
-      h("p", { class: "life-title", text: "At work" }),
-      h("p", { text: `“${doing}” takes its time.${reached}` }),
-      h("div", { class: "life-choices" }, button("Stop it", () => ask("interrupt"))),
+      h("p", { class: "life-title", text: say("At work") }),
+      h("p", { text: `${say("“{doing}” takes its time.", { doing })} ${reached}` }),
+      h(
+        "div",
+        { class: "life-choices" },
+        button(say("Stop it"), () => ask("interrupt")),
+      ),
     ];
   }
 
   #crashed({ what, where, ran, stack, journal }) {
-    const place = where ? ` in ${where}` : "";
+    const values = { what, where, time: duration(ran) };
+    const told = where
+      ? say("{what} in {where}, after it had run for {time}.", values)
+      : say("{what}, after it had run for {time}.", values);
     return [
-      h("p", { class: "life-title", text: "The home screen crashed" }),
-      h("p", { text: `${what}${place}, after it had run for ${duration(ran)}.` }),
-      list("Stack", stack),
-      list("The journal's last lines", journal),
-      h("div", { class: "life-choices" }, button("Close", () => ask("forget"))),
+      h("p", { class: "life-title", text: say("The home screen crashed") }),
+      h("p", { text: told }),
+      list(say("Stack"), stack),
+      list(say("The journal's last lines"), journal),
+      h(
+        "div",
+        { class: "life-choices" },
+        button(say("Close"), () => ask("forget")),
+      ),
     ];
   }
 
@@ -72,11 +94,11 @@ export class Life {
     const { life } = this.#state;
     if (life.state === "hanging") return this.#hanging(life.doing);
     if (life.state === "busy") return this.#busy(life);
-    const again = button("Try again", () => perform("respring"));
+    const again = button(say("Try again"), () => perform("respring"));
     const safe = life.safeMode
       ? [
-          h("p", { class: "life-title", text: "Safe mode: without extensions" }),
-          h("p", { text: "The home screen died again within ten seconds." }),
+          h("p", { class: "life-title", text: say("Safe mode: without extensions") }),
+          h("p", { text: say("The home screen died again within ten seconds.") }),
           h("div", { class: "life-choices" }, again),
         ]
       : [];

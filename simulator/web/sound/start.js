@@ -1,16 +1,19 @@
 // "Start listening": browsers make no sound before a person's first gesture. Until then a friendly
-// button says so; any click or key on the page does as well.
+// button says so; a click anywhere on the page does as well, but no key: those that look around by
+// the keyboard have not asked for sound.
 import { post } from "../server/requests.js";
 import { perform } from "../server/commands.js";
 import { h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
+import { cover } from "../ui/veil.js";
 
 const explanations = {
-  elsewhere: "Another page plays the sound.",
-  locked: "Sound is off until you start it.",
-  paused: "Time stands still, and so does the sound.",
-  fast: "No sound while time runs faster than life.",
+  elsewhere: say("Another page plays the sound."),
+  locked: say("Sound is off until you start it."),
+  paused: say("Time stands still, and so does the sound."),
+  fast: say("No sound while time runs faster than life."),
 };
 
 export class SoundStart {
@@ -18,6 +21,7 @@ export class SoundStart {
   #page;
   #output;
   #follower;
+  #place;
   #veil;
   #chip;
   #silent = false; // asked for
@@ -34,10 +38,11 @@ export class SoundStart {
       type: "button",
       onclick: () => this.#press(),
     });
+    this.#place = place;
     place.append(this.#veil);
+    cover(place);
     chipPlace.prepend(this.#chip);
-    for (const gesture of ["pointerup", "keydown"])
-      document.addEventListener(gesture, (event) => this.#allow(event), { capture: true });
+    document.addEventListener("pointerup", (event) => this.#allow(event), { capture: true });
     follower.addEventListener("change", () => this.#show());
     this.#show();
   }
@@ -55,14 +60,14 @@ export class SoundStart {
           onclick: () => this.#start(),
         },
         icon("sound"),
-        h("span", { text: "Start listening" }),
+        h("span", { text: say("Start listening") }),
       ),
-      h("p", { text: "Your browser asks for one click before it makes a sound." }),
+      h("p", { text: say("Your browser asks for one click before it makes a sound.") }),
       h("button", {
         class: "quiet",
         id: "start-silent",
         type: "button",
-        text: "Stay silent",
+        text: say("Stay silent"),
         onclick: () => this.#staySilent(),
       }),
     );
@@ -91,7 +96,10 @@ export class SoundStart {
   }
 
   #hide() {
+    const hadFocus = this.#veil.contains(document.activeElement);
     this.#veil.hidden = true;
+    cover(this.#place);
+    if (hadFocus) this.#place.focus({ preventScroll: true });
   }
 
   async #own(take) {
@@ -116,9 +124,9 @@ export class SoundStart {
     if (this.#output.allowed && this.#follower.owner) this.#hide();
     const heard = why === null;
     const label = !this.#follower.owner
-      ? "Play sound here"
+      ? say("Play sound here")
       : heard
-        ? "Sound is here"
+        ? say("Sound is here")
         : explanations[why];
     if (this.#chip.dataset.label === label) return;
     this.#chip.dataset.label = label;
@@ -126,7 +134,7 @@ export class SoundStart {
     this.#chip.setAttribute("aria-pressed", String(this.#follower.owner));
     this.#chip.replaceChildren(icon(heard ? "sound" : "mute"), h("span", { text: label }));
     this.#chip.title = this.#follower.owner
-      ? "Press to give the sound up"
-      : "This page takes the sound";
+      ? say("Press to give the sound up")
+      : say("This page takes the sound");
   }
 }

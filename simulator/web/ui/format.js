@@ -1,4 +1,5 @@
 // How times are written for people.
+import { locale } from "./language.js";
 
 const two = (number) => String(number).padStart(2, "0");
 
@@ -24,7 +25,7 @@ export function clockTime(wall) {
 export const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
 
 export function clockDate(wall) {
-  return new Intl.DateTimeFormat("en-GB", {
+  return new Intl.DateTimeFormat(locale, {
     weekday: "long",
     day: "numeric",
     month: "long",

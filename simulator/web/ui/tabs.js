@@ -2,15 +2,16 @@
 // tab.
 import { byId, h } from "./dom.js";
 import { icon } from "./icons.js";
+import { isRightToLeft, say } from "./language.js";
 
 const tabs = [
-  { name: "phone", label: "Phone", narrow: true },
-  { name: "music", label: "Music", narrow: true },
-  { name: "time", label: "Time", narrow: true },
-  { name: "journal", label: "Journal" },
-  { name: "settings", label: "Settings" },
-  { name: "setup", label: "Set-up" },
-  { name: "script", label: "Script" },
+  { name: "phone", label: say("Phone"), narrow: true },
+  { name: "music", label: say("Music"), narrow: true },
+  { name: "time", label: say("Time"), narrow: true },
+  { name: "journal", label: say("Journal") },
+  { name: "settings", label: say("Settings") },
+  { name: "setup", label: say("Set-up") },
+  { name: "script", label: say("Script") },
 ];
 const narrow = matchMedia("(max-width: 819px)");
 const key = "dozewell.tab";
@@ -61,7 +62,8 @@ export class Tabs {
   }
 
   #arrow(event) {
-    const move = { ArrowRight: 1, ArrowLeft: -1 }[event.key];
+    const onward = isRightToLeft ? -1 : 1;
+    const move = { ArrowRight: onward, ArrowLeft: -onward }[event.key];
     if (move === undefined) return;
     const names = this.#visible();
     const next =

@@ -1,23 +1,31 @@
 // A calm veil over the phone while its host restarts, or the server is gone or does not let this
 // page in.
 import { h } from "./dom.js";
+import { say } from "./language.js";
+
+// While something lies over the phone's screen nothing on it can be reached.
+export function cover(glass) {
+  const veils = [...glass.querySelectorAll(".veil, .start-veil")];
+  glass.querySelector(".screen-content").inert = veils.some((veil) => !veil.hidden);
+}
 
 const words = {
-  connecting: ["Waking the phone…", ""],
-  restarting: ["Restarting…", "The home screen begins anew."],
+  connecting: [say("Waking the phone…"), ""],
+  restarting: [say("Restarting…"), say("The home screen begins anew.")],
   gone: [
-    "The simulator is not there",
-    "Start it again with ./run and open the address that it prints.",
+    say("The simulator is not there"),
+    say("Start it again with ./run and open the address that it prints."),
   ],
   refused: [
-    "This phone has another secret now",
-    "Open the address that the simulator printed when it started.",
+    say("This phone has another secret now"),
+    say("Open the address that the simulator printed when it started."),
   ],
 };
 
 export class Veil {
   #state;
   #connection;
+  #place;
   #title = h("p", { class: "veil-title" });
   #more = h("p", { class: "veil-more" });
   #element = h(
@@ -31,6 +39,7 @@ export class Veil {
   constructor(state, connection, place) {
     this.#state = state;
     this.#connection = connection;
+    this.#place = place;
     place.append(this.#element);
     connection.addEventListener("status", () => this.#show());
     for (const name of ["life", "snapshot"]) state.on(name, () => this.#show());
@@ -42,6 +51,7 @@ export class Veil {
     const status =
       this.#connection.status === "open" && isStarting ? "restarting" : this.#connection.status;
     this.#element.hidden = status === "open";
+    cover(this.#place);
     document.body.dataset.server = status;
     [this.#title.textContent, this.#more.textContent] = words[status] ?? ["", ""];
   }

@@ -1,4 +1,5 @@
 // The road of one timer with a finger on a phone-sized screen.
+import assert from "node:assert/strict";
 import { andCommand, journalHas, onScreen, pass, phoneTest } from "./harness.mjs";
 
 const small = { page: { viewport: { width: 375, height: 740 }, hasTouch: true, isMobile: true } };
@@ -48,3 +49,13 @@ phoneTest(
     await page.locator('#glass [aria-label="hour"][aria-valuetext="1"]').waitFor();
   },
 );
+
+phoneTest("a tap on the dark screen wakes the phone, and that is all", {}, async (served, page) => {
+  await served.run("screen off");
+  await page.locator("#handset.off").waitFor();
+  await andCommand(page, "screen on", () => page.locator("#glass").click());
+  await page.locator("#handset:not(.off)").waitFor();
+  // Lines are answered in their order: what else the tap has sent has been, too.
+  await andCommand(page, "volume-up", () => page.locator(".up-key").click());
+  assert.equal(await page.locator(".toast.problem").count(), 0);
+});

@@ -65,6 +65,17 @@ class OpenFile {
         pread(descriptor_, piece.data(), std::min(length, piece.size()), off_t(offset));
     return count > 0 && sink.write(piece.data(), std::size_t(count));
   }
+  std::string content() const {
+    std::string all(size(), '\0');
+    std::size_t had = 0;
+    while (had < all.size()) {
+      const ssize_t count = pread(descriptor_, &all[had], all.size() - had, off_t(had));
+      if (count <= 0) break;  // it has become shorter
+      had += std::size_t(count);
+    }
+    all.resize(had);
+    return all;
+  }
 
  private:
   int descriptor_;
@@ -99,16 +110,33 @@ std::optional<ByteRange> requestedRange(const httplib::Request& request, const O
   return ByteRange{first, std::min(last, size - 1) - first + 1};
 }
 
+// Whether the asker has that very file.
+bool isKnown(const httplib::Request& request, httplib::Response& response, const OpenFile& file) {
+  response.set_header("ETag", file.tag());
+  if (request.get_header_value("If-None-Match") != file.tag()) return false;
+  response.status = 304;
+  return true;
+}
+
+// What the library packs on its way, if the asker unpacks it: a whole text, and nothing else.
+bool isPackable(const std::string& mimeType) {
+  return mimeType.starts_with("text/") || mimeType == "application/json" ||
+         mimeType == "image/svg+xml";
+}
+
+void answerText(const httplib::Request& request, httplib::Response& response,
+                const files::path& file, const std::string& mimeType) {
+  const OpenFile open(file);
+  response.set_header("Vary", "Accept-Encoding");
+  if (!isKnown(request, response, open)) response.set_content(open.content(), mimeType);
+}
+
 }  // namespace
 
 void answerFile(const httplib::Request& request, httplib::Response& response,
                 const files::path& file, const std::string& mimeType) {
   const auto open = std::make_shared<OpenFile>(file);
-  response.set_header("ETag", open->tag());
-  if (request.get_header_value("If-None-Match") == open->tag()) {
-    response.status = 304;
-    return;
-  }
+  if (isKnown(request, response, *open)) return;
   response.set_header("Accept-Ranges", "bytes");
   const auto range = requestedRange(request, *open);
   if (range) {
@@ -133,7 +161,8 @@ void answerFileOf(const files::path& folder, const std::string& name,
   if (missing || name.find('\0') != std::string::npos || !liesIn(root, path) ||
       type == mimeTypes.end())
     failToFind('/' + name);
-  answerFile(request, response, path, type->second);
+  const bool isPacked = isPackable(type->second) && !request.has_header("Range");
+  (isPacked ? answerText : answerFile)(request, response, path, type->second);
 }
 
 }  // namespace sim

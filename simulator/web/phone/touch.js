@@ -12,8 +12,6 @@ export class Touch {
   #edges;
   #finger = null; // the pointer's id
   #place = null; // where it was last told to be
-  #next = null; // where it has moved since
-  #frame = 0;
   #turned = 0; // pixels of the wheel that are less than a row
 
   constructor(state, handset, device) {
@@ -36,42 +34,38 @@ export class Touch {
   #down(event) {
     if (this.#finger !== null || event.button !== 0 || event.target.closest(".veil, .start-veil"))
       return;
+    // A tap on the dark glass wakes the phone, and is none of the host's.
+    if (!this.#state.phone.screenOn) return perform("screen on");
     this.#finger = event.pointerId;
     this.#handset.glass.setPointerCapture(event.pointerId);
     this.#place = this.#point(event);
-    this.#next = null;
-    if (!this.#state.phone.screenOn) return perform("screen on").then(() => (this.#finger = null));
     if (this.#edges.began(this.#place, this.#handset.size)) return;
     perform(`touch began ${at(this.#place)}`);
   }
 
   #move(event) {
     if (event.pointerId !== this.#finger || this.#edges.swiping) return;
-    this.#next = this.#point(event);
-    this.#frame ||= requestAnimationFrame(() => this.#flush());
+    this.#go(this.#point(event));
   }
 
-  #flush() {
-    cancelAnimationFrame(this.#frame);
-    this.#frame = 0;
-    if (this.#next === null || at(this.#next) === at(this.#place)) return;
-    this.#place = this.#next;
-    this.#next = null;
-    perform(`touch moved ${at(this.#place)}`);
+  // At once: the browser tells of movements once a frame, and what waits to be sent is overtaken.
+  #go(place) {
+    if (at(place) === at(this.#place)) return;
+    this.#place = place;
+    perform(`touch moved ${at(place)}`);
   }
 
   #up(event) {
     if (event.pointerId !== this.#finger) return;
     this.#finger = null;
     if (this.#edges.swiping) return this.#edges.ended(this.#point(event));
-    this.#flush();
+    this.#go(this.#point(event));
     perform(`touch ended ${at(this.#point(event))}`);
   }
 
   #cancel(event) {
     if (event.pointerId !== this.#finger) return;
     this.#finger = null;
-    this.#next = null;
     if (this.#edges.swiping) return this.#edges.cancelled();
     perform("touch cancelled");
   }

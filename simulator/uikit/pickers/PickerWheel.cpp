@@ -11,8 +11,9 @@ constexpr double stillFinger = 0.1;      // seconds without a move: no swing is 
 constexpr double coasting = 0.25;        // seconds: how far a speed carries
 constexpr double gentle = 1 / coasting;  // stiffness after a swing: speed runs out by itself
 constexpr double firm = 14;              // stiffness towards a chosen row
-constexpr double atRest = 0.004;         // rows
-constexpr double slow = 0.2;             // rows a second
+constexpr double atRest = 0.015;         // rows: half a point, which nobody sees
+constexpr double slow = 0.3;             // rows a second
+constexpr double fallsIntoPlace = 0.4;   // rows that are left of a swing
 constexpr double swing = 1;              // rows a second: what is slower only falls into place
 
 }  // namespace
@@ -71,6 +72,9 @@ bool PickerWheel::advance(Nanoseconds now) {
   const double away = (run_->offset + lead * time) * faded;
   const double speed = lead * faded - run_->stiffness * away;
   position_ = run_->target + away;
+  // A swing would creep to its end: what looks still is to be still.
+  if (run_->stiffness < firm && std::abs(away) < fallsIntoPlace)
+    run(run_->target, speed, firm, now);
   if (std::abs(away) > atRest || std::abs(speed) > slow) return false;
   position_ = run_->target;
   run_.reset();

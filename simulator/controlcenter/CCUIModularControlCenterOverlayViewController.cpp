@@ -1,9 +1,12 @@
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
 
+#include <utility>
+
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
 #include "simulator/controlcenter/ControlCenter.h"
-#include "simulator/controlcenter/ModuleSymbols.h"
+#include "simulator/controlcenter/Switches.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -31,56 +34,6 @@ objc::Strong<Object> makeContainer() {
       module.get()));
 }
 
-void addCircle(Object tile, CGPoint origin, Object color, ModuleSymbol symbol) {
-  constexpr double size = 54;
-  const auto circle = addView(tile, "UIView");
-  setFrame(circle, {origin, {size, size}});
-  fill(circle, color, size / 2);
-  addModuleSymbol(circle, symbol, {size / 2, size / 2}, whiteColor(1));
-}
-
-void addRadios(Object tile) {
-  constexpr double left = 15, right = 84;
-  addCircle(tile, {left, left}, whiteColor(0.15), ModuleSymbol::airplane);
-  addCircle(tile, {right, left}, rgbColor(0.2, 0.78, 0.35), ModuleSymbol::mobileData);
-  addCircle(tile, {left, right}, rgbColor(0.04, 0.52, 1), ModuleSymbol::wifi);
-  addCircle(tile, {right, right}, rgbColor(0.04, 0.52, 1), ModuleSymbol::bluetooth);
-}
-
-void addLevel(Object tile, ModuleSymbol symbol, CGSize size) {
-  const auto level = addView(tile, "UIView");
-  setFrame(level, {{0, size.height / 2}, {size.width, size.height / 2}});
-  fill(level, whiteColor(0.9));
-  addModuleSymbol(tile, symbol, {size.width / 2, size.height - 30}, rgbColor(0.4, 0.4, 0.43));
-}
-
-void addFocus(Object tile, CGSize size) {
-  const double middle = size.height / 2;
-  const auto circle = addView(tile, "UIView");
-  setFrame(circle, {{15, middle - 20}, {40, 40}});
-  fill(circle, whiteColor(0.15), 20);
-  addModuleSymbol(circle, ModuleSymbol::focus, {20, 20}, whiteColor(1));
-  const auto title = addLabel(tile, {.points = 15, .isBold = true});
-  setText(title, string("Focus"));
-  setFrame(title, {{65, middle - 10}, {size.width - 75, 20}});
-}
-
-void decorate(Object tile, const ModulePlace& place, CGSize size) {
-  const auto symbol = ModuleSymbol(&place - modulePlaces().data());
-  switch (place.kind) {
-    case ModuleKind::connectivity:
-      return addRadios(tile);
-    case ModuleKind::slider:
-      return addLevel(tile, symbol, size);
-    case ModuleKind::wide:
-      return addFocus(tile, size);
-    case ModuleKind::button:
-      return addModuleSymbol(tile, symbol, {size.width / 2, size.height / 2}, whiteColor(1));
-    case ModuleKind::media:
-      return;
-  }
-}
-
 }  // namespace
 
 void Overlay::viewDidLoad() {
@@ -90,6 +43,7 @@ void Overlay::viewDidLoad() {
   addTapTarget(backgroundView, Object(self()), objc::selector<"_didTapBackground:">());
   for (const ModulePlace& place : modulePlaces())
     if (place.kind != ModuleKind::media) addTile(place);
+  refreshTiles(controls);
   mediaContainer = makeContainer();
   addChildController(Object(self()), mediaContainer);
 }
@@ -99,8 +53,32 @@ void Overlay::addTile(const ModulePlace& place) {
   const ModuleGrid grid(sizeOf(viewOf(Object(self()))));
   fill(tile, tileColor(), tileRadius);
   objc::send<void, "setClipsToBounds:">(tile.get(), true);
-  decorate(tile, place, grid.frame(place).size);
+  fillTile(tile, place, grid.frame(place).size, controls);
   tiles.push_back(std::move(tile));
+}
+
+void Overlay::viewWillAppear(bool animated) {
+  super<void, "viewWillAppear:">(animated);
+  if (volumeObserver == 0)
+    volumeObserver = AudioSystem::current().observe([this] { showVolume(); });
+  showVolume();
+}
+
+void Overlay::viewDidDisappear(bool animated) {
+  super<void, "viewDidDisappear:">(animated);
+  if (volumeObserver != 0) AudioSystem::current().forget(std::exchange(volumeObserver, 0));
+}
+
+void Overlay::showVolume() {
+  objc::send<void, "setValue:">(controls.volume, AudioSystem::current().volume());
+}
+
+void Overlay::volumeDidSlide(Object slider) {
+  AudioSystem::current().slideVolume(objc::send<float, "value">(slider));
+}
+
+void Overlay::brightnessDidSlide(Object slider) {
+  setBrightness(objc::send<float, "value">(slider));
 }
 
 bool Overlay::isExpanded() const {
@@ -155,7 +133,13 @@ void Overlay::registerClass() {
       .readonlyProperty<"backgroundView", &Overlay::backgroundView>()
       .partial<"tiles", &Overlay::tileViews>("the simulator's own")
       .readonlyProperty<"mediaContainer", &Overlay::mediaContainer>()
-      .partial<"viewDidLoad", &Overlay::viewDidLoad>("only the music's module works")
+      .partial<"viewDidLoad", &Overlay::viewDidLoad>(
+          "the modules have no controllers of their own, and only the music's expands; Bluetooth "
+          "and Wi-Fi go off, where a phone ends their connections until the next day")
+      .method<"viewWillAppear:", &Overlay::viewWillAppear>()
+      .method<"viewDidDisappear:", &Overlay::viewDidDisappear>()
+      .method<"_volumeDidSlide:", &Overlay::volumeDidSlide>()
+      .partial<"_brightnessDidSlide:", &Overlay::brightnessDidSlide>("the screen stays as bright")
       .method<"viewWillLayoutSubviews", &Overlay::viewWillLayoutSubviews>()
       .method<"_didTapBackground:", &Overlay::didTapBackground>()
       .finish();

@@ -8,12 +8,15 @@
 #include "simulator/controlcenter/CCUICAPackageDescription.h"
 #include "simulator/controlcenter/CCUICAPackageView.h"
 #include "simulator/controlcenter/CCUIContentModuleContainerViewController.h"
+#include "simulator/controlcenter/CCUIContinuousSliderView.h"
 #include "simulator/controlcenter/CCUIModularControlCenterOverlayViewController.h"
+#include "simulator/controlcenter/CCUIRoundButton.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/standin/Registration.h"
 #include "simulator/uikit/animation/Animation.h"
+#include "simulator/uikit/application/PreRender.h"
 #include "simulator/uikit/application/UIWindow.h"
 #include "simulator/uikit/views/ViewLayout.h"
 
@@ -41,8 +44,14 @@ void registerControlCenter() {
   CCUICAPackageDescription::registerClass();
   CCUICAPackageView::registerClass();
   CCUIContentModuleContainerViewController::registerClass();
+  CCUIRoundButton::registerClass();
+  CCUIContinuousSliderView::registerClass();
   CCUIModularControlCenterOverlayViewController::registerClass();
   LockScreen::current().onLock(closeControlCenter);
+  addPreRenderHook([] {
+    if (const Object overlay = openedControlCenter())
+      refreshTiles(CCUIModularControlCenterOverlayViewController::of(overlay).controls);
+  });
 }
 
 void openControlCenter() {

@@ -52,9 +52,10 @@ constexpr std::array<Drawing, 15> drawings = {{
 
 }  // namespace
 
-void addModuleSymbol(Object view, ModuleSymbol symbol, CGPoint centre, Object color) {
+objc::Strong<Object> addModuleSymbol(Object view, ModuleSymbol symbol, CGPoint centre,
+                                     Object color) {
   constexpr double lineWidth = 2;
-  const auto place = addView(view, "UIView");
+  auto place = addView(view, "UIView");
   setFrame(place, {{centre.x - side / 2, centre.y - side / 2}, {side, side}});
   objc::send<void, "setUserInteractionEnabled:">(place.get(), false);
   const Drawing& drawing = drawings.at(std::size_t(symbol));
@@ -62,6 +63,7 @@ void addModuleSymbol(Object view, ModuleSymbol symbol, CGPoint centre, Object co
   const Object ink = objc::send<Object, "CGColor">(color);
   if (*drawing.filled != '\0') addShapeLayer(layer, drawing.filled, {ink, nullptr});
   if (*drawing.lines != '\0') addShapeLayer(layer, drawing.lines, {nullptr, ink, lineWidth});
+  return place;
 }
 
 }  // namespace sim

@@ -25,7 +25,8 @@ enum class ModuleSymbol {
   bluetooth,
 };
 
-// Around that point of the view.
-void addModuleSymbol(objc::Object view, ModuleSymbol symbol, CGPoint centre, objc::Object color);
+// Around that point of the view; the view that draws it.
+objc::Strong<objc::Object> addModuleSymbol(objc::Object view, ModuleSymbol symbol, CGPoint centre,
+                                           objc::Object color);
 
 }  // namespace sim

@@ -4,6 +4,7 @@
 
 #include "simulator/donotdisturb/DNDModeAssertion.h"
 #include "simulator/donotdisturb/DNDModeAssertionDetails.h"
+#include "simulator/donotdisturb/Focus.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
@@ -32,7 +33,15 @@ objc::Object DNDModeAssertionService::takeModeAssertionWithDetails_error(objc::O
   Phone::current().journal.record(
       "-[DNDModeAssertionService takeModeAssertionWithDetails:" + shown(details) + ']');
   if (error != nullptr) *error = nullptr;
-  return details ? DNDModeAssertion::withDetails(details) : nullptr;
+  if (!details) return nullptr;
+  Focus::current().setOn(true);
+  return DNDModeAssertion::withDetails(details);
+}
+
+void DNDModeAssertionService::invalidateAllActiveModeAssertions(id* error) {
+  Phone::current().journal.record("-[DNDModeAssertionService invalidateAllActiveModeAssertions]");
+  if (error != nullptr) *error = nullptr;
+  Focus::current().setOn(false);
 }
 
 void DNDModeAssertionService::registerClass() {
@@ -43,7 +52,10 @@ void DNDModeAssertionService::registerClass() {
       .readonlyProperty<"clientIdentifier", &DNDModeAssertionService::clientIdentifier>()
       .partial<"takeModeAssertionWithDetails:error:",
                &DNDModeAssertionService::takeModeAssertionWithDetails_error>(
-          "no mode begins; refused, without an error, is nothing but nil")
+          "whatever is asked for is shown as Do Not Disturb until it is switched off, and silences "
+          "nothing; refused, without an error, is nothing but nil")
+      .partial<"invalidateAllActiveModeAssertionsWithError:",
+               &DNDModeAssertionService::invalidateAllActiveModeAssertions>("those of every client")
       .finish();
 }
 

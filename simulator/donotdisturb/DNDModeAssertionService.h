@@ -12,6 +12,8 @@ struct DNDModeAssertionService : objc::Implementation<DNDModeAssertionService> {
 
   // The assertion, autoreleased; nil when it is refused. `error` may be null.
   objc::Object takeModeAssertionWithDetails_error(objc::Object details, id* error);
+  // Ends what Control Center's toggle, or whoever takes its name, has begun.
+  void invalidateAllActiveModeAssertions(id* error);
 
   static void registerClass();
 };

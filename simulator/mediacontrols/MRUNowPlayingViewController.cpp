@@ -57,13 +57,8 @@ void nextTrack(Object, Object) {
   Player::current().nextTrack();
 }
 
-// Whoever drags the slider sees the volume there and needs no indicator.
 void changeVolume(Object, Object slider) {
-  AudioSystem& sound = AudioSystem::current();
-  const bool wasSuppressed = sound.isIndicatorSuppressed();
-  sound.setIndicatorSuppressed(true);
-  sound.setVolume(objc::send<float, "value">(slider));
-  sound.setIndicatorSuppressed(wasSuppressed);
+  AudioSystem::current().slideVolume(objc::send<float, "value">(slider));
 }
 
 void nowPlayingInfoDidChange(Object self, Object) {

@@ -43,6 +43,12 @@ void AudioSystem::setVolume(float level, std::string_view category) {
   if (store(level, category)) announce(category);
 }
 
+void AudioSystem::slideVolume(float level) {
+  const bool wasSuppressed = std::exchange(indicatorSuppressed_, true);
+  setVolume(level);
+  indicatorSuppressed_ = wasSuppressed;
+}
+
 void AudioSystem::write(float level, std::string_view category) {
   if (!store(level, category)) return;
   phone_.queue.addNow([this, category = std::string(category)] { announce(category); });

@@ -35,6 +35,8 @@ class AudioSystem {
   // Held to 0..1; not-a-number counts as 0. The media volume goes to the nearest step of the route.
   // A change shows the indicator unless suppressed.
   void setVolume(float level, std::string_view category = mediaCategory);
+  // By a slider: whoever drags it sees the volume there and needs no indicator.
+  void slideVolume(float level);
   // As the host's own writes, which a queue of the sound's process carries out one after the other:
   // a volume read afterwards waits for them, and so sees them at once, but the host hears of a
   // change only when its main queue comes to it.

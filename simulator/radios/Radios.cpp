@@ -35,6 +35,11 @@ void Radios::waitForWatch() {
   clock.advanceTo(clock.uptime() + nanoseconds(longestWait));
 }
 
+void Radios::setAirplaneMode(bool on) {
+  if (on != airplaneMode_) wifiInAirplaneMode_ = false;
+  airplaneMode_ = on;
+}
+
 void Radios::setBluetooth(bool on) {
   bluetoothOn_ = on;
   if (on || peers_.empty()) return;
@@ -69,6 +74,9 @@ nlohmann::json Radios::save() const {
   auto peers = nlohmann::json::array();
   for (const Peer& peer : peers_) peers.push_back({{"name", peer.name}, {"address", peer.address}});
   return {{"airplaneMode", airplaneMode_},
+          {"wifiOn", wifiOn_},
+          {"wifiInAirplaneMode", wifiInAirplaneMode_},
+          {"mobileDataOn", mobileDataOn_},
           {"hasPairedWatch", hasPairedWatch_},
           {"bluetoothOn", bluetoothOn_},
           {"peers", std::move(peers)},
@@ -77,6 +85,9 @@ nlohmann::json Radios::save() const {
 
 void Radios::restore(const nlohmann::json& saved) {
   airplaneMode_ = saved.at("airplaneMode").get<bool>();
+  wifiOn_ = saved.at("wifiOn").get<bool>();
+  wifiInAirplaneMode_ = saved.at("wifiInAirplaneMode").get<bool>();
+  mobileDataOn_ = saved.at("mobileDataOn").get<bool>();
   hasPairedWatch_ = saved.at("hasPairedWatch").get<bool>();
   bluetoothOn_ = saved.at("bluetoothOn").get<bool>();
   lastAddress_ = saved.at("lastAddress").get<long>();

@@ -1,4 +1,4 @@
-// The phone's radios: airplane mode, and what Bluetooth is connected to.
+// The phone's radios: airplane mode, what is on, and what Bluetooth is connected to.
 #pragma once
 
 #include <functional>
@@ -29,7 +29,14 @@ class Radios {
 
   bool isAirplaneModeOn() const { return airplaneMode_; }
   // Leaves Bluetooth as it is, as phones do whose owner has once kept it on in airplane mode.
-  void setAirplaneMode(bool on) { airplaneMode_ = on; }
+  void setAirplaneMode(bool on);
+
+  // Airplane mode switches both off. Wi-Fi can be switched on again meanwhile; afterwards each is
+  // as it was before.
+  bool isWifiOn() const { return airplaneMode_ ? wifiInAirplaneMode_ : wifiOn_; }
+  void setWifi(bool on) { (airplaneMode_ ? wifiInAirplaneMode_ : wifiOn_) = on; }
+  bool isMobileDataOn() const { return mobileDataOn_ && !airplaneMode_; }
+  void setMobileData(bool on) { mobileDataOn_ = on; }
 
   // A watch that takes airplane mode over, and is out of reach.
   void setHasPairedWatch(bool has) { hasPairedWatch_ = has; }
@@ -59,6 +66,9 @@ class Radios {
 
   Phone& phone_;
   bool airplaneMode_ = false;
+  bool wifiOn_ = true;
+  bool wifiInAirplaneMode_ = false;
+  bool mobileDataOn_ = true;
   bool hasPairedWatch_ = false;
   bool bluetoothOn_ = true;
   std::vector<Peer> peers_;  // connected, in order of connection

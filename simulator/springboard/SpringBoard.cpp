@@ -6,6 +6,7 @@
 #include "simulator/machine/Phone.h"
 #include "simulator/springboard/HomeScreen.h"
 #include "simulator/springboard/StatusBar.h"
+#include "simulator/springboard/VolumeDisplay.h"
 #include "simulator/standin/Registration.h"
 #include "simulator/standin/StandIn.h"
 
@@ -39,6 +40,7 @@ void launchSpringBoard() {
   const auto application = SpringBoard::make();  // becomes the shared application, which lives on
   showHomeScreen();
   showStatusBar();
+  followVolume();
   objc::send<void, "applicationDidFinishLaunching:">(application.get(), application.get());
 }
 

@@ -40,7 +40,10 @@ void showStatusBar() {
   objc::send<void, "setWindowLevel:">(window.get(), windowLevel);
   objc::send<void, "setHidden:">(window.get(), false);
   statusBar() = {window.detach(), view.get()};
-  addPreRenderHook([] { shown()->showTime(); });
+  addPreRenderHook([] {
+    shown()->showTime();
+    shown()->showState();
+  });
 }
 
 void setStatusBarShowsTime(bool shows) {

@@ -1,8 +1,10 @@
 #include "simulator/springboard/StatusBarView.h"
 
+#include "simulator/donotdisturb/Focus.h"
 #include "simulator/foundation/LocaleText.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
+#include "simulator/radios/Radios.h"
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/application/UIScreen.h"
@@ -17,11 +19,16 @@ using objc::Object;
 constexpr CGSize symbolsSize = {70, 14}, timeSize = {96, 21};
 constexpr double symbolsRight = 27, timeLeft = 8, top = 14;
 
-constexpr const char* bars = "R 0 8 3 4 1 R 5 6 3 6 1 R 10 3 3 9 1 R 15 0 3 12 1";
-constexpr const char* waves =
+constexpr const char* barsText = "R 0 8 3 4 1 R 5 6 3 6 1 R 10 3 3 9 1 R 15 0 3 12 1";
+constexpr const char* wavesText =
     "M 23.6 4.2 C 27.8 0.3 34.2 0.3 38.4 4.2 L 36.9 5.8 C 33.5 2.7 28.5 2.7 25.1 5.8 Z "
     "M 26.2 7 C 28.9 4.5 33.1 4.5 35.8 7 L 34.3 8.6 C 32.5 6.9 29.5 6.9 27.7 8.6 Z "
     "M 28.7 9.7 C 30 8.5 32 8.5 33.3 9.7 L 31 12 Z";
+constexpr const char* planeText =
+    "M 9.5 -1 C 10.3 -1 10.6 0 10.6 1 L 10.6 4 L 17 8 L 17 9.6 L 10.6 7.6 L 10.6 11 L 12.4 12.6 "
+    "L 12.4 13.8 L 9.5 13 L 6.6 13.8 L 6.6 12.6 L 8.4 11 L 8.4 7.6 L 2 9.6 L 2 8 L 8.4 4 L 8.4 1 "
+    "C 8.4 0 8.7 -1 9.5 -1 Z";
+constexpr const char* moonText = "M 5 1 C 0 3 0 10 5 12 C 8 13 11 12 12.4 9.4 C 7 10 3.6 6 5 1 Z";
 constexpr const char* battery = "R 44.5 0.5 22 11 3.2";
 constexpr const char* batteryEnd = "M 68 4.2 C 69.4 4.7 69.4 7.3 68 7.8 Z";
 constexpr const char* charge = "R 46.3 2.3 18.4 7.4 1.8";
@@ -37,9 +44,14 @@ Object StatusBarView::initWithFrame(CGRect frame) {
   const Object layer = objc::send<Object, "layer">(symbols.get());
   const Object white = coreColor({255, 255, 255});
   const Object faint = coreColor({255, 255, 255}, 0.4);
-  for (const char* filled : {bars, waves, charge}) addShapeLayer(layer, filled, {white, nullptr});
+  bars = addShapeLayer(layer, barsText, {white, nullptr});
+  waves = addShapeLayer(layer, wavesText, {white, nullptr});
+  addShapeLayer(layer, charge, {white, nullptr});
   addShapeLayer(layer, battery, {nullptr, faint});
   addShapeLayer(layer, batteryEnd, {faint, nullptr});
+  plane = addShapeLayer(layer, planeText, {white, nullptr});
+  moon = addShapeLayer(objc::send<Object, "layer">(made), moonText, {white, nullptr});
+  showState();
   return made;
 }
 
@@ -50,6 +62,21 @@ void StatusBarView::layoutSubviews() {
   setAlpha(Object(self()), width > UIScreen::mainSize.width ? 0 : 1);
   setFrame(time, {{timeLeft, top}, timeSize});
   setFrame(symbols, {{width - symbolsRight - symbolsSize.width, top + 4}, symbolsSize});
+  constexpr double moonLeft = 88;
+  objc::send<void, "setAffineTransform:">(moon.get(),
+                                          CGAffineTransform{1, 0, 0, 1, moonLeft, top + 4});
+}
+
+void StatusBarView::showState() {
+  const Radios& radios = Radios::current();
+  const auto show = [](const objc::Strong<Object>& layer, bool isSeen) {
+    if (objc::send<bool, "isHidden">(layer.get()) == isSeen)
+      objc::send<void, "setHidden:">(layer.get(), !isSeen);
+  };
+  show(bars, !radios.isAirplaneModeOn());
+  show(plane, radios.isAirplaneModeOn());
+  show(waves, radios.isWifiOn());
+  show(moon, Focus::current().isOn());
 }
 
 void StatusBarView::showTime() {
@@ -61,7 +88,7 @@ void StatusBarView::registerClass() {
   StandIn<StatusBarView>("UIKit", "_UIStatusBar", "UIView")
       .method<"initWithFrame:", &StatusBarView::initWithFrame>()
       .partial<"layoutSubviews", &StatusBarView::layoutSubviews>(
-          "networks and battery are always full")
+          "networks and battery are always full, and nobody sees what mobile data does")
       .finish();
 }
 

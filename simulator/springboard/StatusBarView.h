@@ -10,10 +10,16 @@ struct StatusBarView : objc::Implementation<StatusBarView> {
 
   objc::Strong<objc::Object> time;     // UILabel
   objc::Strong<objc::Object> symbols;  // UIView
+  objc::Strong<objc::Object> bars;     // CAShapeLayer: the mobile network
+  objc::Strong<objc::Object> plane;    // and what stands there in airplane mode
+  objc::Strong<objc::Object> waves;    // Wi-Fi
+  objc::Strong<objc::Object> moon;     // Do Not Disturb, beside the time
 
   objc::Object initWithFrame(CGRect frame);
   void layoutSubviews();
+  // Both of this moment; they ask for no layout.
   void showTime();
+  void showState();
 
   static void registerClass();
 };

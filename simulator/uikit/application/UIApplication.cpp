@@ -50,6 +50,7 @@ void UIApplication::openURL(Object url, Object, objc::Block<void(bool)> completi
 }
 
 void UIApplication::rotate(long to) {
+  if (isRotationLocked) return;
   const CGSize before = UIScreen::size();
   orientation = to;
   const CGSize now = UIScreen::size();

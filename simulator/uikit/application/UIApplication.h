@@ -9,7 +9,8 @@ namespace sim {
 struct UIApplication : objc::Implementation<UIApplication> {
   static constexpr long portrait = 1, upsideDown = 2, landscapeRight = 3, landscapeLeft = 4;
 
-  long orientation = portrait;  // of the interface
+  long orientation = portrait;    // of the interface
+  bool isRotationLocked = false;  // by the user: the interface stays as the phone is turned
 
   // nil before the process has launched.
   static objc::Object sharedApplication();

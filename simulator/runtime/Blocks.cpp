@@ -69,6 +69,8 @@ void* copyToHeap(const BlockLayout& source) {
   auto* copy = static_cast<BlockLayout*>(memory);
   copy->flags &= ~(BlockFlag::referenceMask | BlockFlag::deallocating);
   copy->flags |= BlockFlag::needsFree | BlockFlag::oneCount;
+  // Nobody asks for the class of a block on the stack, except for whoever sends it a message.
+  if (signs()) authenticatedIsa(source.isa, &source.isa);
   void* invoke = reinterpret_cast<void*>(source.invoke);
   invoke = authenticatedFunction(invoke, "a block's function", &source.invoke);
   copy->invoke = reinterpret_cast<void (*)()>(signedFunction(invoke, &copy->invoke));

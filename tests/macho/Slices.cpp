@@ -1,7 +1,9 @@
 // What the loader reads of a slice, and what it refuses.
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
+#include <iterator>
 
 #include "simulator/macho/Slice.h"
 #include "tests/macho/SampleSlice.h"
@@ -129,6 +131,13 @@ TEST(Slices, areDamagedWhereTheyLeadOut) {
             "is damaged: a segment ends too early");
   EXPECT_EQ(refusal([](Sample& s) { s.put(20, 0x100000); }),
             "is damaged: the list of load commands ends too early");
+}
+
+// The fuzzer begins with it.
+TEST(Slices, areKeptAsASample) {
+  std::ifstream stream(SOURCES "/tests/fuzz/corpus/slices/sample.dylib", std::ios::binary);
+  const std::string kept(std::istreambuf_iterator<char>(stream), {});
+  EXPECT_EQ(kept, SampleSlice().bytes());
 }
 
 // Whatever is missing or wrong, reading ends with an error or with a slice.

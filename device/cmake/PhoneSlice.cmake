@@ -78,7 +78,8 @@ function(phone_assembly name list)
 endfunction()
 
 # phone_slice(DIRECTORY ARCH OBJECTS [STUBS stubs...] [FIXUP_FLAGS flags...]): links the object library OBJECTS
-# and finishes DIRECTORY/Dozewell2.dylib. The linker's own output stays in DIRECTORY/linked.
+# and finishes DIRECTORY/Dozewell2.dylib. The linker's own output stays in DIRECTORY/linked, with a list
+# of what lies where.
 function(phone_slice directory arch objects)
   cmake_parse_arguments(PARSE_ARGV 3 ARG "" "" "STUBS;FIXUP_FLAGS")
   if(NOT ARG_FIXUP_FLAGS)
@@ -91,7 +92,7 @@ function(phone_slice directory arch objects)
   add_custom_command(
     OUTPUT ${finished} ${linked}
     COMMAND ${PHONE_LINKER} ${PHONE_LINK_FLAGS} ${ARG_FIXUP_FLAGS} $<TARGET_OBJECTS:${objects}>
-            ${PHONE_STUBS} ${ARG_STUBS} -o ${linked}
+            ${PHONE_STUBS} ${ARG_STUBS} -map ${linked}.map -o ${linked}
     COMMAND ${PHONE_PYTHON} ${PHONE_DIR}finish_slice.py ${linked} ${arch} ${finished}
     DEPENDS $<TARGET_OBJECTS:${objects}> ${PHONE_STUBS} ${ARG_STUBS} ${PHONE_TOOLS}
     COMMENT "Linking ${finished}"

@@ -54,6 +54,7 @@ ServeState stateFrom(const Options& options) {
   ServeState state;
   state.paused = options.paused;
   if (options.script) {
+    state.paused = true;  // time passes by the script's lines
     state.script.emplace();
     state.script->name = options.script->filename().string();
     state.script->text = contentOf(*options.script);

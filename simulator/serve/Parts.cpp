@@ -62,6 +62,7 @@ void ServedPhone::addParts() {
   report_.addPart("script", [this] { return scriptPart(); });
   report_.addPart("pictures", [this] { return asJson(state_.pictures); });
   report_.addPart("setup", [this] { return setup(); });
+  report_.addPart("timer", [this] { return timer_.now(settings_.values()); });
   report_.addMemberwisePart("settings", [this] { return settings_.values(); });
 }
 

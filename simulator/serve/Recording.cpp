@@ -8,16 +8,10 @@
 #include <system_error>
 #include <utility>
 
-#include "simulator/machine/Journal.h"
-
 namespace sim {
 namespace {
 
 constexpr const char* endOfSetup = "boot";
-
-std::string advanceLine(Nanoseconds uptime) {
-  return "advance-to " + secondsText(uptime);
-}
 
 // As one of the commands of a `repeat`.
 bool canBeOneOfSeveral(const std::string& line) {

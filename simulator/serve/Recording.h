@@ -7,8 +7,14 @@
 #include <vector>
 
 #include "simulator/machine/Clock.h"
+#include "simulator/machine/Journal.h"
 
 namespace sim {
+
+// A line of a script.
+inline std::string advanceLine(Nanoseconds uptime) {
+  return "advance-to " + secondsText(uptime);
+}
 
 // The main thread only.
 class Recording {

@@ -4,7 +4,6 @@
 
 #include "simulator/script/Interrupted.h"
 #include "simulator/script/commands/HostCommands.h"
-#include "simulator/script/values/Target.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/ServedPhone.h"
 #include "simulator/serve/Subscribers.h"
@@ -53,10 +52,6 @@ const char* nameOf(Stage stage) {
   return "any";
 }
 
-Value valueAt(const char* target) {
-  return evaluateTarget(Word{target, false, 1});
-}
-
 }  // namespace
 
 json ServedPhone::answer(const json& request) {
@@ -75,6 +70,7 @@ json ServedPhone::answer(const json& request) {
   if (what == "heritage")
     return {{"settings",
              session_.state == HostState::running ? settings_.changedLines() : job_.settings},
+            {"uptime", session_.phone.clock.uptime()},
             {"serve", asJson(state_)}};
   if (what == "script") return script();
   if (what == "step script") {
@@ -96,6 +92,7 @@ json ServedPhone::answer(const json& request) {
 
 json ServedPhone::command(const std::vector<std::string>& lines) {
   catchUp();
+  leaveScript();
   const PrintedText printed(printed_);
   const auto refuse = [this](const std::exception& error, std::size_t column) {
     return RequestError(400, error.what(), {{"line", ran_ + 1}, {"column", column}, {"ran", ran_}});
@@ -143,7 +140,7 @@ json ServedPhone::changeTime(const TimeChange& change) {
   return clockPart();
 }
 
-Nanoseconds ServedPhone::destination(const TimeChange& change) const {
+Nanoseconds ServedPhone::destination(const TimeChange& change) {
   const Nanoseconds now = session_.phone.clock.uptime();
   const bool jumps = change.step || change.advance || change.to || change.beforeEnd;
   if (!jumps) return now;
@@ -159,20 +156,13 @@ Nanoseconds ServedPhone::destination(const TimeChange& change) const {
     if (!due) throw RequestError(409, "nothing is due");
     return *due;
   }
-  const objc::AutoreleasePool pool;
-  try {
-    if (valueAt("Dozewell2Manager.sharedInstance.timerModeIsRunning").boolean() == true) {
-      const auto left = valueAt("Dozewell2Manager.sharedInstance.getTimerRemainingTime").number();
-      return deadline(now,
-                      nanoseconds(std::max(double(left.value_or(0)) - *change.beforeEnd, 0.0)));
-    }
-  } catch (const ScriptError&) {
-    // A phone without the extension, or a dead one: there is no timer.
-  }
+  if (const json end = timer_.now(settings_.values()).at("endsAt"); !end.is_null())
+    return std::max(now, nanoseconds(end.get<double>() - *change.beforeEnd));
   throw RequestError(409, "no timer runs that ends at a certain time");
 }
 
 void ServedPhone::jumpTo(Nanoseconds uptime) {
+  leaveScript();
   ran_ = 0;
   changed_ = mustSave_ = true;
   progressed_ = steady_clock::now();

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t longestName = 200;
 constexpr double mostSteps = 10'000;
+constexpr double mostEntries = 1e9;  // or lines
 
 // Nothing: to the end.
 std::optional<long> stepsFrom(const std::string& text) {
@@ -19,6 +20,20 @@ std::optional<long> stepsFrom(const std::string& text) {
   const bool runs = body.flag("run").value_or(false);
   if (lines.has_value() == runs) throw RequestError(400, "expected either lines or run");
   return lines ? std::optional<long>(long(*lines)) : std::nullopt;
+}
+
+OpenScript::Goal goalFrom(const std::string& text) {
+  const JsonBody body(text, {"line", "uptime", "entry"});
+  const auto whole = [&body](const char* name) -> std::optional<std::size_t> {
+    const auto value = body.number(name, 1, mostEntries);
+    return value ? std::optional(std::size_t(*value)) : std::nullopt;
+  };
+  OpenScript::Goal goal{whole("line"), std::nullopt, whole("entry")};
+  if (const auto uptime = body.number("uptime", 0, seconds(latestUptime)))
+    goal.uptime = nanoseconds(*uptime);
+  if (goal.line.has_value() + goal.uptime.has_value() + goal.entry.has_value() != 1)
+    throw RequestError(400, "expected one of line, uptime and entry");
+  return goal;
 }
 
 }  // namespace
@@ -42,6 +57,12 @@ void addScriptRoutes(Router& router, const ApiParts& parts) {
     inbox.askHost("check script", {{"text", text}});
     return inbox.ask([&](Supervisor& supervisor, const Inbox::Promise& promise) {
       supervisor.openScript(name, text, promise);
+    });
+  });
+  router.addText("POST", "/api/moment", [&inbox](const Router::Visit& visit) {
+    const OpenScript::Goal goal = goalFrom(visit.request.body);
+    return inbox.ask([&goal](Supervisor& supervisor, const Inbox::Promise& promise) {
+      supervisor.goTo(goal, promise);
     });
   });
   router.addText("DELETE", "/api/script", [&inbox](const Router::Visit&) {

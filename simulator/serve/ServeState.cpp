@@ -17,10 +17,37 @@ NLOHMANN_JSON_SERIALIZE_ENUM(OpenScript::State, {{OpenScript::State::ready, "rea
 
 namespace {
 
+template <class T>
+json orNull(const std::optional<T>& value) {
+  return value ? json(*value) : json();
+}
+
+template <class T>
+std::optional<T> optionalFrom(const json& saved) {
+  return saved.is_null() ? std::nullopt : std::optional(saved.get<T>());
+}
+
+json asJson(const std::optional<OpenScript::Goal>& goal) {
+  if (!goal) return nullptr;
+  return {orNull(goal->line), orNull(goal->uptime), orNull(goal->entry)};
+}
+
+std::optional<OpenScript::Goal> goalFrom(const json& saved) {
+  if (saved.is_null()) return std::nullopt;
+  return OpenScript::Goal{optionalFrom<std::size_t>(saved.at(0)),
+                          optionalFrom<Nanoseconds>(saved.at(1)),
+                          optionalFrom<std::size_t>(saved.at(2))};
+}
+
 json asJson(const std::optional<OpenScript>& script) {
   if (!script) return nullptr;
   json saved = overview(*script);
   saved["text"] = script->text;
+  saved["remainder"] = script->remainder;
+  saved["goal"] = asJson(script->goal);
+  saved["end"] = script->end;
+  saved["leftAt"] = orNull(script->leftAt);
+  saved["leftEntries"] = script->leftEntries;
   return saved;
 }
 
@@ -35,6 +62,11 @@ std::optional<OpenScript> scriptFrom(const json& saved) {
     script.failure = {failure.at("line").get<std::size_t>(),
                       failure.at("column").get<std::size_t>(),
                       failure.at("error").get<std::string>()};
+  saved.at("remainder").get_to(script.remainder);
+  script.goal = goalFrom(saved.at("goal"));
+  saved.at("end").get_to(script.end);
+  script.leftAt = optionalFrom<Nanoseconds>(saved.at("leftAt"));
+  saved.at("leftEntries").get_to(script.leftEntries);
   return script;
 }
 
@@ -61,6 +93,7 @@ json overview(const OpenScript& script) {
   return {{"name", script.name},
           {"line", script.line},
           {"state", json(script.state)},
+          {"end", seconds(script.end)},
           {"error", std::move(failure)}};
 }
 

@@ -144,6 +144,7 @@ void ServedPhone::run() {
     resume();
   }
   if (state_.script) scriptLines_ = linesOf(state_.script->text);
+  reachGoal();
   pace_.setSpeed(state_.speed, steady_clock::now());
   pace_.setPaused(state_.paused, steady_clock::now());
   rebase();
@@ -166,6 +167,7 @@ bool ServedPhone::catchUp() {
   if (session_.state == HostState::off) return true;
   const Moment start = steady_clock::now();
   const Nanoseconds target = pace_.uptimeAt(start);
+  if (target > session_.phone.clock.uptime()) leaveScript();
   MainQueue& queue = session_.phone.queue;
   for (auto due = queue.nextDue(); due && *due <= target; due = queue.nextDue()) {
     queue.runUntil(*due);

@@ -17,6 +17,7 @@
 #include "simulator/serve/Report.h"
 #include "simulator/serve/ServeState.h"
 #include "simulator/serve/Settings.h"
+#include "simulator/serve/TimerView.h"
 #include "simulator/serve/music/MusicLibrary.h"
 
 namespace sim {
@@ -24,6 +25,7 @@ namespace sim {
 // Says of itself, in the head of messages to the supervisor:
 //
 //   ready                  it has begun
+//   again                  it has come past the moment it was made for: how the next is to begin
 //   failed, index, column  what was wrong with which of the first lines
 //   event                  what pages are told, with the event's text as the body
 //   answer, status         of the request with that number; the body is JSON
@@ -74,9 +76,15 @@ class ServedPhone {
 
   void play(const std::string& text);
   void playScriptLine();
+  void playScriptLineAt(std::size_t number, const std::string& text);
   bool isScriptRunning() const;
+  void leaveScript();
+  void reachGoal();
+  bool isAtGoal(std::size_t number);
+  void tryAgain(std::size_t number);
+  std::optional<Nanoseconds> endOfAdvance(const std::string& text) const;
   void jumpTo(Nanoseconds uptime);
-  Nanoseconds destination(const TimeChange& change) const;
+  Nanoseconds destination(const TimeChange& change);
   void notePicture(const std::string& name);
 
   bool catchUp();
@@ -102,6 +110,7 @@ class ServedPhone {
   std::optional<Interpreter> interpreter_;
   Pace pace_;
   PlayerView player_;
+  TimerView timer_;
   Settings settings_;
   Report report_;
 

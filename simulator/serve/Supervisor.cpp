@@ -135,7 +135,7 @@ void Supervisor::take(Life& life, const Message& message) {
     hasProgress_ = true;
   } else if (head.contains("ready")) {
     hostReady(life);
-  } else if (head.contains("restart") || head.contains("failed")) {
+  } else if (head.contains("restart") || head.contains("failed") || head.contains("again")) {
     life.last = head;
   } else {
     takeRecording(*life.recording, head);
@@ -189,7 +189,8 @@ void Supervisor::hostEnded(Life& life) {
   life.host.reset();
   life.isReady = false;
   life.journal.refresh();
-  if (&life == candidate_.get()) {
+  if (&life == candidate_.get() && !life.last.contains("restart")) {
+    if (life.last.contains("again")) return repeatCandidate();
     if (life.last.contains("failed")) return dropCandidate(refusalFrom(life.last));
     const CrashReport report = reportOf(result.status, result.crash, life.journal);
     return dropCandidate({400, "this phone does not boot: " + journalLine(report)});

@@ -18,6 +18,7 @@
 #include "simulator/serve/PhoneJob.h"
 #include "simulator/serve/Recording.h"
 #include "simulator/serve/RequestError.h"
+#include "simulator/serve/ServeState.h"
 #include "simulator/serve/Subscribers.h"
 
 namespace sim {
@@ -52,6 +53,9 @@ class Supervisor {
   // A fresh phone of these lines, in place of this one if it boots.
   void makePhone(const std::vector<std::string>& setup, bool keepsSettings, const Promise& promise);
   void openScript(const std::string& name, const std::string& text, const Promise& promise);
+  // A fresh phone on which all is done again up to there: by the open script, or, where it knows
+  // nothing of that moment, by what was recorded, which is the open script from then on.
+  void goTo(const OpenScript::Goal& goal, const Promise& promise);
 
   // For a host that does not do as it should.
   enum class Help { kill, sample, interrupt, forget };
@@ -116,6 +120,8 @@ class Supervisor {
   void propose(std::unique_ptr<Life> life, const Promise& promise);
   void withHeritage(std::function<void(const Json&)> use);
   void dropCandidate(const RequestError& why);
+  void repeatCandidate();
+  OpenScript scriptFor(const OpenScript::Goal& goal, const Json& heritage) const;
   RequestError refusalFrom(const Json& failed) const;
 
   void lookAfterHost();

@@ -91,6 +91,7 @@ void Supervisor::refuseFirst(const std::string& why) {
 void Supervisor::withHeritage(std::function<void(const Json&)> use) {
   if (!life_->isReady || isHanging())
     return use({{"settings", life_->settings},
+                {"uptime", life_->uptime},
                 {"serve", life_->state.is_null() ? life_->serve
                                                  : life_->state.at("survivors").at("serve")}});
   ask({{"ask", "heritage"}}, [use = std::move(use)](int status, const std::string& body) {
@@ -118,7 +119,10 @@ void Supervisor::openScript(const std::string& name, const std::string& text,
                             const Promise& promise) {
   withHeritage([this, name, text, promise](const Json& heritage) {
     ServeState serve = serveStateFrom(heritage.at("serve"));
-    serve.script = OpenScript{name, text, 1, OpenScript::State::ready, {}};
+    serve.script.emplace();
+    serve.script->name = name;
+    serve.script->text = text;
+    serve.paused = true;  // time passes by the script's lines
     propose(newLife(asJson(serve)), promise);
   });
 }

@@ -1,11 +1,13 @@
 #include "simulator/services/PCSimpleTimer.h"
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 #include <vector>
 
 #include "simulator/foundation/Deadline.h"
 #include "simulator/foundation/Exception.h"
+#include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/machine/WallClock.h"
@@ -111,6 +113,15 @@ void PCSimpleTimer::wallClockMoved(double distance) {
     timer->due_ = distance < tooFarBack ? clock.uptime() : uptimeAt(clock, timer->moment_);
     timer->arm();
   }
+}
+
+std::optional<Nanoseconds> PCSimpleTimer::firstDue(std::string_view service) {
+  std::optional<Nanoseconds> first;
+  for (const PCSimpleTimer* timer : scheduledTimers())
+    if (isKindOf(timer->serviceIdentifier.get(), "NSString") &&
+        text(timer->serviceIdentifier.get()) == service)
+      first = std::min(timer->due_, first.value_or(timer->due_));
+  return first;
 }
 
 void PCSimpleTimer::registerClass() {

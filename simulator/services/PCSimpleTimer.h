@@ -2,6 +2,9 @@
 // the wall clock: its moment is fixed when it is made.
 #pragma once
 
+#include <optional>
+#include <string_view>
+
 #include "objc/Class.h"
 #include "simulator/machine/MainQueue.h"
 
@@ -23,6 +26,9 @@ struct PCSimpleTimer : objc::Implementation<PCSimpleTimer> {
   // still fires. Raises for one that has.
   void scheduleInRunLoop(objc::Object runLoop);
   void invalidate();
+
+  // When the next one of that service fires; nothing when none is scheduled.
+  static std::optional<Nanoseconds> firstDue(std::string_view service);
 
   static void registerClass();
 

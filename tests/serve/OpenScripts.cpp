@@ -33,6 +33,7 @@ TEST(OpenScripts, ArePlayedLineByLine) {
                                    {"text", night},
                                    {"line", 1},
                                    {"state", "ready"},
+                                   {"end", 0.0},
                                    {"error", nullptr}}));
   EXPECT_EQ(program.post("/api/script/step", {{"lines", 1}}).asJson().at("line"), 3);
   EXPECT_EQ(program.post("/api/script/step", {{"lines", 2}}).asJson().at("line"), 6);
@@ -65,6 +66,25 @@ TEST(OpenScripts, StopWhereAnExpectationFails) {
   EXPECT_EQ(failed.at("line"), 2);
   EXPECT_EQ(failed.at("error"),
             (json{{"line", 2}, {"column", 1}, {"error", "playing: expected YES, found NO"}}));
+}
+
+TEST(OpenScripts, GoOnBehindALineThatFailed) {
+  const ServedProgram program;
+  open(program, "boot\nexpect-playing YES\nlock\nexpect-playing YES\n");
+  program.post("/api/script/step", {{"lines", 2}});
+  EXPECT_EQ(program.post("/api/script/step", {{"lines", 1}}).asJson().at("line"), 4);
+  EXPECT_EQ(program.post("/api/script/step", {{"lines", 1}}).asJson().at("state"), "failed");
+  EXPECT_NE(program.journal().find("user lock"), std::string::npos);
+}
+
+TEST(OpenScripts, HaveTimeStandStillBetweenTheirLines) {
+  const ServedProgram program;
+  program.post("/api/time", {{"paused", false}, {"speed", 3600}});
+  open(program, "boot\nadvance-to 5\nadvance-to 6\n");
+  EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("paused"), true);
+  program.post("/api/script/step", {{"lines", 2}});
+  EXPECT_EQ(program.post("/api/script/step", {{"lines", 1}}).asJson().at("state"), "finished");
+  EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 6.0);
 }
 
 TEST(OpenScripts, AreReadBeforeThePhoneIsGivenUp) {

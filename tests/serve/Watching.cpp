@@ -49,6 +49,34 @@ TEST(Watching, TellsWhatChanges) {
   EXPECT_EQ(page.next("settings").data, (json{{"volumeFadeOutTime", 15}}));
 }
 
+TEST(Watching, TellsOfTheTimerWhatIsSoAndWillBe) {
+  const ServedProgram program({"--no-music"});
+  EventReader page(program);
+  const json none = page.next("snapshot").data.at("timer");
+  EXPECT_TRUE(none.at("mode").is_null());
+  program.command({"playlist \"A\" 600", "bluetooth \"Pillow\"", "set onTimerEndsAirplane YES",
+                   "set onTimerEndsBluetooth YES", "set onTimerEndsRunShortcut YES",
+                   timerOfOneMinute});
+  const auto next = [&page] { return page.next("timer").data; };
+  const json set = next();
+  EXPECT_EQ(set.at("mode"), "duration");
+  EXPECT_EQ(set.at("endsAt"), 60.0);
+  // No shortcut: there is no runner.
+  EXPECT_EQ(set.at("atEnd"), (json{{{"do", "fade"}, {"seconds", 15}},
+                                   {{"do", "pause"}},
+                                   {{"do", "airplane"}},
+                                   {{"do", "disconnect"}, {"names", {"Pillow"}}}}));
+  program.command("bluetooth none");
+  EXPECT_EQ(next().at("atEnd").size(), 3u);
+  program.command("advance 61s");
+  EXPECT_EQ(next().at("fades"), true);
+  program.command("advance 60s");
+  EXPECT_EQ(next(), none);
+  program.command(
+      {"play", "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue: 1 2"});
+  EXPECT_EQ(next().at("songsLeft"), 2);
+}
+
 TEST(Watching, TellsNewJournalEntriesOnce) {
   const ServedProgram program;
   EventReader page(program);

@@ -18,12 +18,19 @@ async function open(served, page, text) {
 phoneTest("a script is played line by line up to the line that fails", {}, async (served, page) => {
   await open(served, page, script);
   await page.locator("#script-text .next").waitFor();
+  await page.locator("#panel-time.stands").waitFor();
   await page.locator("#hint", { hasText: "waits for its script" }).waitFor();
   await page.click("#script-step");
   await page.locator("#script-text li:nth-child(3).next").waitFor();
   await page.click("#script-run");
   await page.locator("#script-text li:nth-child(5).failed").waitFor();
   await page.locator("#panel-script .form-problem", { hasText: "Line 5" }).waitFor();
+  await page.click("#script-step"); // a failure is not the end
+  await page.locator(".script-status", { hasText: "to its end" }).waitFor();
+  await page.click("#script-back");
+  await page.locator("#script-text li:nth-child(5).next").waitFor();
+  await page.locator("#script-text li:nth-child(3)").click();
+  await page.locator("#script-text li:nth-child(3).next").waitFor();
   await page.click("#script-close");
   await page.locator(".script-empty").waitFor();
 });

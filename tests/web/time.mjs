@@ -31,17 +31,71 @@ phoneTest("ten seconds before the end, then event by event", {}, async (served, 
   const { uptime } = await timeAnswer(page, () => page.click("#time-end"));
   assert.ok(Math.abs(uptime - (2 + 301 - 10)) < 0.5, `at ${uptime}`);
   for (let events = 0; events < 60; ++events) {
-    if (await page.locator("#entries code", { hasText: "setSuppressHUD:YES" }).count()) return;
+    if (await page.locator("#hint", { hasText: "fades:" }).count()) return;
     await timeAnswer(page, () => page.click("#time-step"));
   }
   assert.fail("the fade did not begin");
 });
 
+const hint = (page, text) => page.locator("#hint", { hasText: text }).waitFor();
+const reason = (page, text) => page.locator("#time-end-reason", { hasText: text }).waitFor();
+const start = "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue:";
+
 phoneTest(
-  "there is no end to go to without a timer, and the page says so",
+  "the page tells when the music stops and what happens then, and that it fades",
   {},
   async (served, page) => {
+    await page.locator("#time-end:disabled").waitFor();
+    await reason(page, "No timer runs");
+    await served.run("set onTimerEndsAirplane YES", `${start} 0 300`, "advance 100s");
+    await hint(page, "In 3:20 the music fades, then stops.");
+    await hint(page, "The fade takes 15 seconds. Then airplane mode goes on.");
+    await served.run("set onTimerEndsAirplane NO", "set volumeFadeOutEnabled NO");
+    await hint(page, "The music stops in 3:20.");
+    assert.ok(!(await page.locator("#hint").textContent()).includes("airplane"));
+    await served.run("set volumeFadeOutEnabled YES", "advance 205s");
+    await hint(page, /The music fades: 3\d % are left/);
+    await reason(page, "The music fades already.");
+    await served.run("advance 20s");
+    await hint(page, "The music has stopped. Good night.");
+    await served.post("/api/setup", { lines: [] });
+    await page.locator("#hint", { hasNotText: "Good night" }).waitFor();
+    await served.run(`${start} 1 2`);
+    await hint(page, "The music stops after 2 songs, this one included.");
+    assert.equal(await page.textContent("#time-end"), "To the end of this song");
     await timeAnswer(page, () => page.click("#time-end"));
-    await page.locator(".toast.problem").waitFor();
+    await hint(page, "The music stops at the end of this song.");
+    await timeAnswer(page, () => page.click("#time-end"));
+    await hint(page, "The music has stopped.");
   },
 );
+
+phoneTest("no message lies over what the page tells", {}, async (served, page) => {
+  await served.run(`${start} 0 300`);
+  await page.evaluate(async () => {
+    const { toast } = await import(new URL("ui/toast.js", document.baseURI));
+    for (let count = 0; count < 3; ++count) toast("A message that is not short at all.", "problem");
+  });
+  const told = await page.locator("#hint").boundingBox();
+  const toasts = await page.locator("#toasts").boundingBox();
+  assert.ok(toasts.y + toasts.height < told.y);
+});
+
+phoneTest("the slider leads back to any moment of the night", {}, async (served, page) => {
+  await served.run(`${start} 0 300`, "advance 100s", "volume 0.25", "advance 500s");
+  await page.locator("#hint", { hasText: "Good night" }).waitFor();
+  const slide = (uptime) =>
+    page.locator("#night").evaluate((night, value) => {
+      night.value = value;
+      night.dispatchEvent(new Event("input"));
+      night.dispatchEvent(new Event("change"));
+    }, uptime);
+  await slide(200);
+  await hint(page, "In 1:40 the music fades");
+  await page.locator(".night-line output", { hasText: "3:20 of 10:00" }).waitFor();
+  assert.equal(await page.inputValue("#volume"), "0.25");
+  await slide(50);
+  await hint(page, "In 4:10 the music fades");
+  await slide(600);
+  await page.locator(".night-line output", { hasText: "10:00 of 10:00" }).waitFor();
+});

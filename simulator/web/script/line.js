@@ -2,6 +2,7 @@
 import { run } from "../server/commands.js";
 import { read } from "../server/requests.js";
 import { h } from "../ui/dom.js";
+import { say } from "../ui/language.js";
 
 export class CommandLine {
   #input = h("input", {
@@ -11,8 +12,8 @@ export class CommandLine {
     autocomplete: "off",
     spellcheck: "false",
     autocapitalize: "none",
-    placeholder: "A command, such as: advance 10m",
-    "aria-label": "A command of the script language",
+    placeholder: say("A command, such as: {example}", { example: "advance 10m" }),
+    "aria-label": say("A command of the script language"),
   });
   #names = h("datalist", { id: "command-names" });
   #help = h("p", { class: "command-help" });
@@ -26,7 +27,7 @@ export class CommandLine {
       "form",
       { class: "command-line", onsubmit: (event) => this.#run(event) },
       this.#input,
-      h("button", { class: "primary", type: "submit", text: "Do" }),
+      h("button", { class: "primary", type: "submit", text: say("Do") }),
       this.#names,
       this.#help,
       this.#output,
@@ -63,7 +64,7 @@ export class CommandLine {
     this.#past.push(line);
     this.#place = this.#past.length;
     try {
-      this.#say((await run(line)).output || "Done.", false);
+      this.#say((await run(line)).output || say("Done."), false);
       this.#input.value = "";
       this.#explain();
     } catch (error) {

@@ -3,6 +3,8 @@ import { below, takeParameter } from "../server/address.js";
 import { forget, post, read } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
+import { goTo } from "../time/slider.js";
 import { toast } from "../ui/toast.js";
 import { ScriptText } from "./text.js";
 import { CommandLine } from "./line.js";
@@ -11,15 +13,15 @@ import { Pictures } from "./pictures.js";
 const largest = 1024 * 1024; // bytes
 
 const states = {
-  ready: "Ready",
-  running: "Playing",
-  finished: "Played to its end",
-  failed: "Stopped at a failure",
+  ready: say("Ready"),
+  running: say("Playing"),
+  finished: say("Played to its end"),
+  failed: say("Stopped at a failure"),
 };
 
 export class ScriptPanel {
   #state;
-  #text = new ScriptText();
+  #text = new ScriptText((line) => goTo({ line }));
   #status = h("p", { class: "script-status", role: "status" });
   #problem = h("p", { class: "form-problem", role: "alert", hidden: true });
   #file = h("input", {
@@ -27,7 +29,7 @@ export class ScriptPanel {
     accept: ".phone,text/plain",
     class: "visually-hidden",
     id: "script-file",
-    "aria-label": "Script file",
+    "aria-label": say("Script file"),
     onchange: () => this.#openFile(this.#file.files[0]),
   });
   #buttons = {};
@@ -36,7 +38,7 @@ export class ScriptPanel {
   constructor(state) {
     this.#state = state;
     byId("panel-script").append(
-      h("div", { class: "panel-head" }, h("h2", { text: "Script" }), this.#makeTools()),
+      h("div", { class: "panel-head" }, h("h2", { text: say("Script") }), this.#makeTools()),
       new CommandLine().element,
       new Pictures(state).element,
       h("hr", {}),
@@ -72,12 +74,19 @@ export class ScriptPanel {
       "div",
       { class: "tools" },
       this.#file,
-      this.#button("open", "open", "Open", "Opens a phone script from a file", () =>
+      this.#button("open", "open", say("Open"), say("Opens a phone script from a file"), () =>
         this.#file.click(),
       ),
-      this.#button("step", "step", "Line", "Plays the next line", () => this.#play({ lines: 1 })),
-      this.#button("run", "play", "All", "Plays what is left", () => this.#play({ run: true })),
-      this.#button("close", "close", "", "Close the script", () => this.#close()),
+      this.#button("back", "back", "", say("Back to before the line played last"), () =>
+        goTo({ line: this.#text.lineBefore(this.#state.script.line) }),
+      ),
+      this.#button("step", "step", say("Line"), say("Plays the next line"), () =>
+        this.#play({ lines: 1 }),
+      ),
+      this.#button("run", "play", say("All"), say("Plays what is left"), () =>
+        this.#play({ run: true }),
+      ),
+      this.#button("close", "close", "", say("Close the script"), () => this.#close()),
     );
   }
 
@@ -86,15 +95,16 @@ export class ScriptPanel {
       "div",
       { class: "empty script-empty" },
       h("p", {
-        text:
+        text: say(
           "Open a phone script, or drop its file anywhere on this page. It gets a fresh phone, " +
-          "and waits before its first line.",
+            "and waits before its first line.",
+        ),
       }),
       h("button", {
         class: "soft",
         id: "script-replay",
         type: "button",
-        text: "Play again what was done so far",
+        text: say("Play again what was done so far"),
         onclick: () => this.#openFrom(below("api/recording.phone")),
       }),
     );
@@ -123,7 +133,7 @@ export class ScriptPanel {
     if (!file) return;
     this.#file.value = "";
     if (file.size > largest)
-      return toast(`${file.name} is too large for a phone script.`, "problem");
+      return toast(say("{name} is too large for a phone script.", { name: file.name }), "problem");
     await this.#open(file.name, await file.text());
     byId("tab-script").click();
   }
@@ -134,7 +144,7 @@ export class ScriptPanel {
     if (address === null) return;
     const url = below(address);
     if (url.origin !== location.origin)
-      return toast("A script is opened from this server only.", "problem");
+      return toast(say("A script is opened from this server only."), "problem");
     await this.#openFrom(url);
   }
 
@@ -142,7 +152,7 @@ export class ScriptPanel {
     const name = url.pathname.split("/").at(-1);
     try {
       const response = await fetch(url);
-      if (!response.ok) throw new Error(`The server has no ${name}.`);
+      if (!response.ok) throw new Error(say("The server has no {name}.", { name }));
       await this.#open(name, await response.text());
       byId("tab-script").click();
     } catch (error) {
@@ -155,7 +165,13 @@ export class ScriptPanel {
       await post("api/script", { name, text });
     } catch (error) {
       toast(
-        error.body?.line ? `${name}, line ${error.body.line}: ${error.message}` : error.message,
+        error.body?.line
+          ? say("{name}, line {line}: {message}", {
+              name,
+              line: error.body.line,
+              message: error.message,
+            })
+          : error.message,
         "problem",
       );
     }
@@ -181,15 +197,19 @@ export class ScriptPanel {
     const open = script !== null && script !== undefined;
     byId("panel-script").classList.toggle("has-script", open);
     for (const name of ["step", "run"])
-      this.#buttons[name].disabled = !open || !["ready", "running"].includes(script.state);
-    this.#buttons.close.hidden = !open;
+      this.#buttons[name].disabled = !open || script.state === "finished";
+    for (const name of ["close", "back"]) this.#buttons[name].hidden = !open;
     this.#status.textContent = open ? `${script.name}: ${states[script.state]}` : "";
     this.#problem.hidden = !script?.error;
     if (script?.error)
-      this.#problem.textContent = `Line ${script.error.line}: ${script.error.error}`;
+      this.#problem.textContent = say("Line {line}: {message}", {
+        line: script.error.line,
+        message: script.error.error,
+      });
     if (!open) return this.#forget();
     await this.#loadText(script);
     this.#text.mark(script.line, script.state, script.error?.line);
+    this.#buttons.back.disabled = this.#text.lineBefore(script.line) === null;
   }
 
   #forget() {

@@ -1,6 +1,7 @@
 // The pictures that commands such as `snapshot` have written at the server, to be saved from there.
 import { h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
 
 export class Pictures {
   #list = h("ol", { id: "script-pictures", "aria-labelledby": "script-pictures-name" });
@@ -10,7 +11,7 @@ export class Pictures {
     this.element = h(
       "div",
       { class: "pictures", hidden: true },
-      h("h3", { id: "script-pictures-name", text: "Pictures" }),
+      h("h3", { id: "script-pictures-name", text: say("Pictures") }),
       this.#list,
     );
     state.on("pictures", (event) => this.#show(event.detail));
@@ -35,7 +36,7 @@ export class Pictures {
     if (this.#links.has(name)) return this.#links.get(name);
     const link = h(
       "a",
-      { class: "soft", download: name.split("/").at(-1), title: `Save ${name}` },
+      { class: "soft", download: name.split("/").at(-1), title: say("Save {name}", { name }) },
       icon("download"),
       h("span", { text: name }),
     );

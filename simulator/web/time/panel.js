@@ -3,10 +3,17 @@ import { post } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
 import { clockDate, clockSeconds, clockTime, duration } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
+import { wayToEnd } from "./night.js";
+import { NightSlider } from "./slider.js";
 
 const speeds = [1, 2, 5, 10, 30, 60, 120, 300, 600, 1800, 3600];
-const words = { 1: "as in life", 60: "a minute in a second", 3600: "an hour in a second" };
+const words = {
+  1: say("as in life"),
+  60: say("a minute in a second"),
+  3600: say("an hour in a second"),
+};
 
 const speedIndex = (speed) => {
   let nearest = 0;
@@ -20,11 +27,19 @@ const speedIndex = (speed) => {
 export class TimePanel {
   #state;
   #parts = {};
+  #night;
 
   constructor(state) {
     this.#state = state;
-    byId("panel-time").append(this.#makeClock(), this.#makeSpeed(), this.#makeJumps());
-    for (const name of ["clock", "snapshot"]) state.on(name, () => this.#show());
+    this.#night = new NightSlider(state);
+    byId("panel-time").append(
+      this.#makeClock(),
+      this.#makeSpeed(),
+      this.#makeJumps(),
+      this.#night.element,
+    );
+    for (const name of ["clock", "timer", "phone", "player", "snapshot"])
+      state.on(name, () => this.#show());
     setInterval(() => this.#tick(), 200);
     this.#show();
   }
@@ -67,14 +82,14 @@ export class TimePanel {
       max: speeds.length - 1,
       step: 1,
       value: 0,
-      "aria-label": "Speed of time",
+      "aria-label": say("Speed of time"),
       oninput: () => this.#ask({ speed: speeds[Number(p.speed.value)] }),
     });
     p.name = h("output", { class: "speed-name", for: "speed" });
     return h(
       "div",
       { class: "speed-line" },
-      h("div", { class: "speed-words" }, h("span", { text: "Speed" }), p.name),
+      h("div", { class: "speed-words" }, h("span", { text: say("Speed") }), p.name),
       p.speed,
       h(
         "div",
@@ -85,34 +100,38 @@ export class TimePanel {
   }
 
   #makeJumps() {
-    return h(
-      "div",
-      { class: "jumps" },
-      this.#jump(
-        "time-step",
-        "step",
-        "Next event",
-        { step: true },
-        "Goes to the next thing that is due, and no further",
-      ),
-      this.#jump("time-minute", "time", "+1 min", { advance: 60 }, "Lets a minute pass at once"),
-      this.#jump(
-        "time-end",
-        "end",
-        "10 s before the end",
-        { beforeEnd: 10 },
-        "Goes to ten seconds before the timer runs out",
-      ),
-    );
+    const p = this.#parts;
+    p.step = this.#jump("time-step", "step", say("Next event"), () => ({ step: true }));
+    p.step.title = say("Goes to the next thing that is due, and no further");
+    p.minute = this.#jump("time-minute", "time", say("+1 min"), () => ({ advance: 60 }));
+    p.minute.title = say("Lets a minute pass at once");
+    p.end = this.#jump("time-end", "end", "", () => wayToEnd(this.#state).wish);
+    p.end.setAttribute("aria-describedby", "time-end-reason");
+    p.reason = h("p", { class: "jump-reason", id: "time-end-reason" });
+    return h("div", { class: "jumps" }, p.step, p.minute, p.end, p.reason);
   }
 
-  #jump(id, name, text, wish, title) {
+  #jump(id, name, text, wish) {
     return h(
       "button",
-      { class: "soft", id, type: "button", title, onclick: () => this.#ask(wish) },
+      { class: "soft", id, type: "button", onclick: () => this.#ask(wish()) },
       icon(name),
       h("span", { text }),
     );
+  }
+
+  // Who cannot press it reads why.
+  #showWayToEnd() {
+    const p = this.#parts;
+    const isOff = this.#state.phone.host === "off";
+    const { label, reason } = wayToEnd(this.#state);
+    const why = isOff ? say("Time passes once the phone is on.") : (reason ?? "");
+    p.step.disabled = p.minute.disabled = isOff;
+    p.end.disabled = why !== "";
+    p.end.title = why || say("Goes to shortly before the music stops");
+    const words = p.end.querySelector("span");
+    if (words.textContent !== label) words.textContent = label;
+    if (p.reason.textContent !== why) p.reason.textContent = why;
   }
 
   #show() {
@@ -121,10 +140,10 @@ export class TimePanel {
     const index = speedIndex(speed);
     if (!p.speed.matches(":active")) p.speed.value = index;
     p.speed.style.setProperty("--part", index / (speeds.length - 1));
-    p.speed.setAttribute("aria-valuetext", `${speed} times`);
+    p.speed.setAttribute("aria-valuetext", say("{speed} times", { speed }));
     p.name.textContent = [`${speed}×`, words[speed]].filter(Boolean).join(" · ");
     p.pause.replaceChildren(icon(paused ? "play" : "pause"));
-    p.pause.setAttribute("aria-label", paused ? "Let time run" : "Stop time");
+    p.pause.setAttribute("aria-label", paused ? say("Let time run") : say("Stop time"));
     byId("panel-time").classList.toggle("stands", paused);
     this.#tick();
   }
@@ -136,7 +155,9 @@ export class TimePanel {
     p.seconds.textContent = clockSeconds(wall);
     p.date.textContent = clockDate(wall);
     p.uptime.textContent = this.#state.clock.paused
-      ? "Time stands still"
-      : `Running for ${duration(this.#state.uptime())}`;
+      ? say("Time stands still")
+      : say("Running for {time}", { time: duration(this.#state.uptime()) });
+    this.#showWayToEnd();
+    this.#night.show();
   }
 }

@@ -21,10 +21,11 @@ phoneTest(
 
 phoneTest("every entry of the journal can be looked at", {}, async (served, page) => {
   await served.run("volume 0.8");
-  await journalHas(page, "user volume 0.8");
-  await page.locator("#entries .entry-line", { hasText: "user volume 0.8" }).click();
+  await page.locator("#entries .entry-line", { hasText: "You set the volume to 80 %" }).click();
   await page.locator(".entry-details", { hasText: "You set the volume to 80 %." }).waitFor();
+  await page.locator(".entry-details pre", { hasText: "user volume 0.8" }).waitFor();
   await page.fill("#journal-filter", "volume");
+  await page.locator("#entries code", { hasText: "user volume 0.8" }).waitFor();
   assert.ok(
     (await page.locator("#entries code").allTextContents()).every((text) =>
       text.toLowerCase().includes("volume"),

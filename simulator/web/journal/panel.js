@@ -1,35 +1,51 @@
-// The journal, as it is written: filtered, each entry open to a closer look.
+// The journal: the story first, each piece of it open to its lines; or the lines alone, filtered.
+import { goTo } from "../time/slider.js";
 import { byId, h } from "../ui/dom.js";
-import { uptime } from "../ui/format.js";
+import { clockSeconds, clockTime, uptime } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
 import { paced } from "../ui/paced.js";
 import { Roving } from "../ui/roving.js";
 import { toast } from "../ui/toast.js";
 import { explain, kinds } from "./meaning.js";
+import { Story } from "./story.js";
 import { Timeline } from "./timeline.js";
 
 const shownAtMost = 600; // rows; earlier ones are in the recording
+const linesAtMost = 200; // of one piece
 const nearEnd = 40; // pixels: who reads further up is left there
 const addedEvery = 100; // milliseconds: in an hour per second hundreds of entries are written
+const wideKey = "dozewell.wide";
 
 export class JournalPanel {
   #state;
-  #list = h("ol", { class: "entries", id: "entries", "aria-label": "Entries of the journal" });
+  #list = h("ol", {
+    class: "entries",
+    id: "entries",
+    "aria-label": say("Entries of the journal"),
+  });
   #filter = h("input", {
     type: "search",
     id: "journal-filter",
-    placeholder: "Filter",
-    "aria-label": "Filter the journal",
+    placeholder: say("Filter"),
+    "aria-label": say("Filter the journal"),
     oninput: () => this.#rebuild(),
   });
   #kind = h(
     "select",
-    { "aria-label": "Kind of entry", onchange: () => this.#rebuild() },
-    h("option", { value: "", text: "Everything" }),
+    {
+      id: "journal-kind",
+      "aria-label": say("What of the journal is shown"),
+      onchange: () => this.#rebuild(),
+    },
+    h("option", { value: "", text: say("The story") }),
+    h("option", { value: "all", text: say("Every line") }),
     ...Object.entries(kinds).map(([value, text]) => h("option", { value, text })),
   );
-  #empty = h("p", { class: "empty", text: "What the phone does is written down here." });
+  #empty = h("p", { class: "empty", text: say("What the phone does is written down here.") });
   #timeline;
+  #story = new Story();
+  #rows = new Map(); // piece or entry's number -> row
   #follows = true; // shows what comes; not while somebody reads further up
   #coming = []; // entries that have no row yet
   #addSoon = paced(addedEvery, () => this.#addRows());
@@ -38,7 +54,7 @@ export class JournalPanel {
     this.#state = state;
     this.#timeline = new Timeline(state, (n) => this.reveal(n));
     byId("panel-journal").append(
-      h("div", { class: "panel-head" }, h("h2", { text: "Journal" }), this.#tools()),
+      h("div", { class: "panel-head" }, h("h2", { text: say("Journal") }), this.#tools()),
       this.#timeline.element,
       h("div", { class: "filter-line" }, this.#filter, this.#kind),
       this.#empty,
@@ -47,8 +63,12 @@ export class JournalPanel {
     new Roving(this.#list, ".entry-line");
     this.#list.addEventListener("scroll", () => (this.#follows = this.#isAtEnd()));
     new ResizeObserver(() => this.#follow()).observe(this.#list);
-    this.#list.addEventListener("click", (event) => this.#toggle(event.target.closest("li")));
+    this.#list.addEventListener("click", ({ target }) => {
+      const line = target.closest(".entry-line");
+      if (line) this.#toggle(line.parentElement);
+    });
     state.on("journal", (event) => (event.whole ? this.#rebuild() : this.#add(event.detail)));
+    this.#widen(localStorage.getItem(wideKey) === "yes");
   }
 
   #tools() {
@@ -58,14 +78,24 @@ export class JournalPanel {
       h(
         "button",
         {
+          class: "soft wide-only",
+          id: "journal-wide",
+          type: "button",
+          onclick: () => this.#widen(!document.body.classList.contains("wide-side")),
+        },
+        icon("wide"),
+      ),
+      h(
+        "button",
+        {
           class: "soft",
           id: "copy-recording",
           type: "button",
-          title: "Copies what was done, as a phone script",
+          title: say("Copies what was done, as a phone script"),
           onclick: () => this.#copy(),
         },
         icon("copy"),
-        h("span", { text: "Copy" }),
+        h("span", { text: say("Copy") }),
       ),
       h(
         "a",
@@ -74,12 +104,21 @@ export class JournalPanel {
           id: "download-recording",
           href: "api/recording.phone",
           download: "recording.phone",
-          title: "The same as a file: dozewell-simulator play FILE",
+          title: say("The same as a file: dozewell-simulator play FILE"),
         },
         icon("download"),
-        h("span", { text: "Save" }),
+        h("span", { text: say("Save") }),
       ),
     );
+  }
+
+  #widen(isWide) {
+    document.body.classList.toggle("wide-side", isWide);
+    localStorage.setItem(wideKey, isWide ? "yes" : "no");
+    const button = byId("journal-wide");
+    button.title = isWide ? say("Narrower") : say("Wider");
+    button.setAttribute("aria-label", button.title);
+    button.setAttribute("aria-pressed", String(isWide));
   }
 
   async #copy() {
@@ -87,39 +126,93 @@ export class JournalPanel {
       const response = await fetch("api/recording.phone");
       if (!response.ok) throw new Error((await response.json()).error);
       await navigator.clipboard.writeText(await response.text());
-      toast("Copied: what was done, as a phone script.");
+      toast(say("Copied: what was done, as a phone script."));
     } catch (error) {
-      toast(`Not copied: ${error.message}`, "problem");
+      toast(say("Not copied: {message}", { message: error.message }), "problem");
     }
+  }
+
+  get #isStory() {
+    return this.#kind.value === "" && this.#filter.value.trim() === "";
   }
 
   #fits(entry) {
     const words = this.#filter.value.trim().toLowerCase();
-    if (this.#kind.value && explain(entry.text).kind !== this.#kind.value) return false;
+    const kind = this.#kind.value === "all" ? "" : this.#kind.value;
+    if (kind && explain(entry.text).kind !== kind) return false;
     return words === "" || entry.text.toLowerCase().includes(words);
   }
 
-  #row(entry) {
-    const { kind } = explain(entry.text);
+  // Of the phone's clock, as far as nobody has set it since.
+  #clock(time) {
+    const wall = this.#state.wall() - this.#state.uptime() + time;
+    return `${clockTime(wall)}:${clockSeconds(wall)}`;
+  }
+
+  #rowOf(kind, time, content) {
     return h(
       "li",
-      { "data-n": entry.n, class: `entry ${kind}` },
+      { class: `entry ${kind}` },
       h(
         "button",
         { class: "entry-line", type: "button", "aria-expanded": "false" },
-        h("time", { text: uptime(entry.time) }),
-        h("code", { text: entry.text }),
+        h("time", { text: time }),
+        ...content,
       ),
     );
   }
 
+  #lineRow(entry) {
+    const { kind } = explain(entry.text);
+    const row = this.#rowOf(kind, uptime(entry.time), [h("code", { text: entry.text })]);
+    row.entries = [entry];
+    this.#rows.set(entry.n, row);
+    return row;
+  }
+
+  #showPiece(piece) {
+    let row = this.#rows.get(piece);
+    const isNew = row === undefined;
+    if (isNew) {
+      row = this.#rowOf(piece.kind, this.#clock(piece.entries[0].time), [
+        h("span", { class: "piece" }),
+        h("small", { class: "count" }),
+      ]);
+      row.entries = piece.entries;
+      this.#rows.set(piece, row);
+      this.#list.append(row);
+    }
+    row.className = `entry ${piece.kind}${piece.key === null ? " quiet-piece" : ""}`;
+    row.querySelector(".piece").textContent = piece.text;
+    row.querySelector(".count").textContent = piece.entries.length > 1 ? piece.entries.length : "";
+    const details = row.querySelector(".entry-details");
+    if (details && details.children.length < linesAtMost)
+      details.append(
+        ...piece.entries.slice(details.children.length).map((entry) => this.#detail(entry)),
+      );
+  }
+
   #rebuild() {
     this.#coming = [];
-    const rows = this.#state.journal.filter((entry) => this.#fits(entry)).slice(-shownAtMost);
-    this.#list.replaceChildren(...rows.map((entry) => this.#row(entry)));
+    this.#rows.clear();
+    this.#list.replaceChildren();
+    this.#story = new Story();
+    if (this.#isStory) this.#tell(this.#state.journal);
+    else {
+      const fitting = this.#state.journal.filter((entry) => this.#fits(entry));
+      this.#list.append(...fitting.slice(-shownAtMost).map((entry) => this.#lineRow(entry)));
+    }
     this.#empty.hidden = this.#state.journal.length > 0;
     this.#follows = true;
     this.#follow();
+  }
+
+  #tell(entries) {
+    for (const piece of this.#story.add(entries)) this.#showPiece(piece);
+    for (const piece of this.#story.pieces.splice(0, this.#story.pieces.length - shownAtMost)) {
+      this.#rows.get(piece)?.remove();
+      this.#rows.delete(piece);
+    }
   }
 
   #isAtEnd() {
@@ -132,64 +225,82 @@ export class JournalPanel {
   }
 
   #add(entries) {
-    this.#coming.push(...entries.filter((entry) => this.#fits(entry)));
-    this.#coming.splice(0, this.#coming.length - shownAtMost);
+    this.#coming.push(...entries);
     this.#addSoon();
   }
 
   #addRows() {
     const list = this.#list;
     const follows = this.#follows;
-    list.append(...this.#coming.splice(0).map((entry) => this.#row(entry)));
-    while (list.children.length > shownAtMost) list.firstElementChild.remove();
-    this.#empty.hidden = true;
+    const entries = this.#coming.splice(0);
+    if (this.#isStory) this.#tell(entries);
+    else {
+      const fitting = entries.filter((entry) => this.#fits(entry)).slice(-shownAtMost);
+      list.append(...fitting.map((entry) => this.#lineRow(entry)));
+      while (list.children.length > shownAtMost) list.firstElementChild.remove();
+    }
+    this.#empty.hidden = this.#state.journal.length > 0;
     this.#follows = follows;
     this.#follow();
   }
 
   #toggle(row) {
-    if (!row) return;
     const details = row.querySelector(".entry-details");
-    row.firstElementChild.setAttribute("aria-expanded", String(!details));
+    row.querySelector(".entry-line").setAttribute("aria-expanded", String(!details));
     if (details) return details.remove();
-    row.append(this.#details(Number(row.dataset.n)));
-    this.#timeline.mark(Number(row.dataset.n));
+    this.#follows = false;
+    row.append(
+      h(
+        "ol",
+        { class: "entry-details" },
+        ...row.entries.slice(0, linesAtMost).map((entry) => this.#detail(entry)),
+      ),
+    );
+    const isTall = row.offsetHeight > this.#list.clientHeight;
+    row.scrollIntoView({ block: isTall ? "start" : "nearest" });
+    this.#timeline.mark(row.entries[0].n);
   }
 
-  #details(n) {
-    const entry = this.#state.journal.find((each) => each.n === n);
+  #detail(entry) {
     const { kind, meaning } = explain(entry.text);
-    const wall = new Date((this.#state.wall() - this.#state.uptime() + entry.time) * 1000);
     return h(
-      "div",
-      { class: "entry-details" },
+      "li",
+      { class: `detail ${kind}`, "data-n": entry.n },
+      h("pre", { text: entry.text }),
       meaning ? h("p", { text: meaning }) : null,
       h(
-        "dl",
-        {},
-        h("dt", { text: "Kind" }),
-        h("dd", { text: kinds[kind] }),
-        h("dt", { text: "On the phone's clock" }),
-        h("dd", { text: wall.toISOString().replace("T", " ").replace("Z", "") }),
-        h("dt", { text: "Line" }),
-        h("dd", { text: `${n}` }),
+        "div",
+        { class: "detail-foot" },
+        h("span", { text: `${this.#clock(entry.time)} · ${uptime(entry.time)} · ${kinds[kind]}` }),
+        h("button", {
+          class: "quiet",
+          type: "button",
+          text: say("Go to just before it"),
+          onclick: () => goTo({ entry: entry.n }),
+        }),
       ),
-      h("pre", { text: entry.text }),
     );
   }
 
-  // Opens that entry, whatever the filter is.
+  #rowWith(n) {
+    const holds = (row) => row.entries.some((entry) => entry.n === n);
+    return [...this.#list.children].find(holds);
+  }
+
+  // Opens what that entry is in, whatever the filter is.
   reveal(n) {
-    let row = this.#list.querySelector(`[data-n="${n}"]`);
+    let row = this.#rowWith(n);
     if (!row) {
       this.#filter.value = "";
       this.#kind.value = "";
       this.#rebuild();
-      row = this.#list.querySelector(`[data-n="${n}"]`);
+      row = this.#rowWith(n);
     }
     if (!row) return;
     if (!row.querySelector(".entry-details")) this.#toggle(row);
-    row.scrollIntoView({ block: "nearest" });
-    row.firstElementChild.focus({ preventScroll: true });
+    row.scrollIntoView({ block: "start" });
+    row.querySelector(`[data-n="${n}"]`)?.scrollIntoView({ block: "nearest" });
+    row.querySelector(".entry-line").focus({ preventScroll: true });
+    this.#timeline.mark(n);
   }
 }

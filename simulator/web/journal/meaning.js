@@ -20,7 +20,8 @@ const handDone = {
 
 // [pattern, kind, meaning, story]. The first that matches counts; both get the groups of the
 // pattern. A story is {key, text}: lines of the same key soon after each other are one piece, told by
-// the last text. Without a story: null.
+// the last text, or by `often` where they are many. Soon after a piece of a key in `isPartOf` it is a
+// detail of that.
 const known = [
   [
     /^player (?:play|track) (.*)$/,
@@ -159,7 +160,11 @@ const known = [
     /^post "DozewellDidStopNotification"/,
     "timer",
     () => say("The extension tells everyone: the sleep timer is over."),
-    () => ({ key: "over", text: say("The sleep timer is over") }),
+    () => ({
+      key: "over",
+      text: say("The sleep timer is over"),
+      isPartOf: ["fire", "fade", "pause"],
+    }),
   ],
   [
     /^-\[CSTimerViewController setEndDate:nil/,
@@ -245,6 +250,12 @@ const known = [
     /^-\[RadiosPreferences synchronize\]/,
     "radio",
     () => say("The radios' settings are written and read again."),
+  ],
+  [
+    /^-\[(?:DNDModeAssertionService takeMode\w+:"|BBSettingsGateway setBehaviorOverrideStatus:1)/,
+    "radio",
+    () => say("Do Not Disturb goes on."),
+    () => ({ key: "focus", text: say("Do Not Disturb goes on") }),
   ],
   [
     /^-\[(?:DNDModeAssertionService|BBSettingsGateway) /,

@@ -18,7 +18,8 @@ export class Story {
     const { kind, story } = explain(entry.text);
     const last = this.pieces.at(-1);
     const since = last ? entry.time - last.entries.at(-1).time : Infinity;
-    if (story === null && since <= detailWithin) return this.#extend(last, entry);
+    const isDetail = story === null || story.isPartOf?.includes(last?.key);
+    if (isDetail && since <= detailWithin) return this.#extend(last, entry);
     if (story !== null && last?.key === story.key && since <= sameWithin)
       return this.#extend(last, entry, story);
     // What is told takes along what was noted at the same moment.

@@ -116,7 +116,14 @@ export class Timeline {
     this.#draw();
   }
 
-  #zoom(factor, around = (this.#drawn.first + this.#drawn.last) / 2) {
+  // What has been chosen, as long as it is seen.
+  get #middle() {
+    const { first, last } = this.#drawn;
+    const chosen = this.#state.journal.find((entry) => entry.n === this.#marked);
+    return chosen && chosen.time >= first && chosen.time <= last ? chosen.time : (first + last) / 2;
+  }
+
+  #zoom(factor, around = this.#middle) {
     const { first, last } = this.#drawn;
     this.#look({
       first: around - (around - first) * factor,

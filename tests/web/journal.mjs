@@ -1,0 +1,148 @@
+// The journal: a story, the lines it consists of, and what they mean.
+import assert from "node:assert/strict";
+import { execFileSync } from "node:child_process";
+import { phoneTest, simulator } from "./harness.mjs";
+
+phoneTest("every entry of the journal can be looked at", {}, async (served, page) => {
+  await served.run("volume 0.8");
+  await page.locator("#entries .entry-line", { hasText: "You set the volume to 80 %" }).click();
+  await page.locator(".entry-details", { hasText: "You set the volume to 80 %." }).waitFor();
+  await page.locator(".entry-details pre", { hasText: "user volume 0.8" }).waitFor();
+  await page.fill("#journal-filter", "volume");
+  await page.locator("#entries code", { hasText: "user volume 0.8" }).waitFor();
+  assert.ok(
+    (await page.locator("#entries code").allTextContents()).every((text) =>
+      text.toLowerCase().includes("volume"),
+    ),
+  );
+});
+
+const start = "send Dozewell2Manager.sharedInstance startTimerWithMode:andValue:";
+const night = [
+  'bluetooth "Pillow"',
+  ...["onTimerEndsAirplane", "onTimerEndsDND", "onTimerEndsBluetooth"].map(
+    (name) => `set ${name} YES`,
+  ),
+  `${start} 0 60`,
+  "advance 100s",
+];
+
+const told = (page) => page.locator("#entries .piece").allTextContents();
+
+phoneTest("the night is told as a person would", {}, async (served, page) => {
+  await served.run(...night);
+  await page.locator("#entries .piece", { hasText: "“Pillow” is disconnected" }).waitFor();
+  const story = await told(page);
+  const from = story.indexOf("The sleep timer is set");
+  assert.deepEqual(
+    story.slice(from).filter((text) => !text.endsWith(" plays")),
+    [
+      "The sleep timer is set",
+      "The timer runs out",
+      "The volume fades to 0 %",
+      "The music pauses",
+      "Airplane mode goes on",
+      "Do Not Disturb goes on",
+      "“Pillow” is disconnected",
+      "The volume goes to 50 %",
+    ],
+  );
+});
+
+// A line that the phone has really written, and what must be said of it.
+const lines = [
+  [/^-\[CSTimerViewController setEndDate:nil/, /no longer/],
+  [/^-\[CSTimerViewController setEndDate:2/, /counts down to the timer's end/],
+  [/setObject:2 forKey:.*persistedNbTracksLeft/, /The songs left, 2, are written down/],
+  [/setObject:.*persistedTimerDate/, /The timer's end is written down/],
+  [/^MRMediaRemoteSendCommand/, /skips to the next song/],
+  [/^-\[SBVolumeControl setVolume:-/, /sets the volume to 0 %/],
+  [/^player track "B"/, /“B” begins/],
+  [/^player stop/, /Nothing plays/],
+  [/^-\[DNDModeAssertionService/, /Do Not Disturb goes on/],
+  [/^-\[BluetoothManager disconnect/, /The connection to “Pillow” is ended/],
+  [/^-\[RunwrightManager run/, /“Dozewell End” is run/],
+  [/^BKSTerminate/, /is closed/],
+  [/^HUD volume/, /display is shown/],
+  [/^user lock$/, /Done by hand: lock/],
+  [/^-\[HBPreferences setBool:NO/, /becomes NO/],
+  [/^the host crashed/, /has died/],
+];
+const script = `shortcuts "Dozewell End"
+bluetooth "Pillow"
+set onTimerEndsDND YES
+set onTimerEndsBluetooth YES
+set onTimerEndsRunShortcut YES
+set onTimerEndsKillNowPlayingApp YES
+boot
+playlist "A" 300 "B" 300 "C" 300
+lock
+volume 0.55
+volume-up
+${start} 0 60
+advance 100s
+playlist "A" 300 "B" 300 "C" 300
+${start} 1 2
+send Dozewell2Manager.sharedInstance reinit
+send SpecialTasksHelper.getInstance skipSong
+unlock
+control-center open
+module expand
+tap $header.dozewellButton
+advance 1s
+let panel Dozewell2Manager.sharedInstance.dozewell2VC
+tap $panel.chooseSnoozeTimeView.rightButton
+advance 10s
+expect-crash send NSArray.array objectAtIndex: 5
+`;
+
+phoneTest("what is said of a line is true of the lines there are", {}, async (served, page) => {
+  const file = served.write("lines.phone", script);
+  const journal = execFileSync(simulator, ["play", file], { encoding: "utf8" })
+    .trimEnd()
+    .split("\n")
+    .map((line) => line.replace(/^ *[\d.]+ {2}/, ""));
+  const said = await page.evaluate(async (texts) => {
+    const { explain } = await import(new URL("journal/meaning.js", document.baseURI));
+    return texts.map((text) => explain(text).meaning);
+  }, journal);
+  for (const [line, meaning] of lines) {
+    const found = journal.map((text, n) => [text, said[n]]).filter(([text]) => line.test(text));
+    assert.ok(found.length > 0, `no line ${line}`);
+    for (const [text, words] of found) assert.match(words ?? "", meaning, text);
+  }
+  assert.deepEqual(
+    journal.filter((_, n) => said[n] === null),
+    [],
+  );
+});
+
+phoneTest("a piece leads to the moment before it", {}, async (served, page) => {
+  await served.run(...night);
+  await page.locator("#entries .entry-line", { hasText: "The music pauses" }).click();
+  const before = page.locator(".detail", { hasText: "pauseForEventSource" }).getByRole("button");
+  await before.click();
+  await page.locator("#hint", { hasText: "The music fades: 0 %" }).waitFor();
+});
+
+phoneTest("the timeline shows the end of a long night", {}, async (served, page) => {
+  await served.run("advance 8h", "volume 0.8", "lock", "advance 20s", "unlock");
+  const marks = page.locator("#timeline .mark.user");
+  const spread = () =>
+    marks.evaluateAll((all) => {
+      const places = all.map((mark) => mark.x1.baseVal.value).filter((x) => x > 500);
+      return Math.max(...places) - Math.min(...places);
+    });
+  await page.locator("#entries .piece", { hasText: "You unlock" }).nth(1).waitFor();
+  await page.getByRole("button", { name: "The night's end" }).click();
+  const far = await spread();
+  const place = await marks.last().boundingBox();
+  await page.mouse.move(place.x + place.width / 2, place.y);
+  for (let times = 0; times < 6; ++times) await page.mouse.wheel(0, -100);
+  while ((await spread()) === far) await page.mouse.wheel(0, -100);
+  assert.ok((await spread()) > far);
+  await page.getByRole("button", { name: "The night's end" }).click();
+  const box = await marks.last().boundingBox();
+  await page.mouse.click(box.x + box.width / 2, box.y + 2);
+  await page.locator("#entries .entry-details").waitFor();
+});

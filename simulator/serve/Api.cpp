@@ -7,6 +7,7 @@ void addApi(Router& router, const ApiParts& parts) {
   addScriptRoutes(router, parts);
   addEventRoutes(router, parts);
   addImageRoutes(router, parts);
+  addViewRoutes(router, parts);
   addFileRoutes(router, parts);
 }
 

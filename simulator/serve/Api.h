@@ -28,6 +28,7 @@ void addPhoneRoutes(Router& router, const ApiParts& parts);   // command, time, 
 void addScriptRoutes(Router& router, const ApiParts& parts);  // recording, script
 void addEventRoutes(Router& router, const ApiParts& parts);   // events, audio-owner
 void addImageRoutes(Router& router, const ApiParts& parts);   // image, picture, fonts
+void addViewRoutes(Router& router, const ApiParts& parts);    // views
 void addFileRoutes(Router& router, const ApiParts& parts);    // music, cover, page
 
 }  // namespace sim

@@ -5,6 +5,7 @@
 #include "simulator/script/Interrupted.h"
 #include "simulator/script/commands/HostCommands.h"
 #include "simulator/serve/RequestError.h"
+#include "simulator/serve/ScreenViews.h"
 #include "simulator/serve/ServedPhone.h"
 #include "simulator/serve/Subscribers.h"
 
@@ -81,6 +82,11 @@ json ServedPhone::answer(const json& request) {
   if (what == "check script") {
     requireCommands(request.at("text").get<std::string>());
     return nullptr;
+  }
+  if (what == "views") {
+    catchUp();
+    const auto x = number("x"), y = number("y");
+    return viewsOnScreen(x && y ? std::optional(CGPoint{*x, *y}) : std::nullopt);
   }
   if (what != "time") throw RequestError(400, "the phone knows no " + what);
   TimeChange change{number("speed"),   std::nullopt, request.value("step", false),

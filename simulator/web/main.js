@@ -11,6 +11,7 @@ import { Hint } from "./phone/hint.js";
 import { Keyboard } from "./phone/keyboard.js";
 import { Life } from "./phone/life.js";
 import { Screen } from "./phone/screen.js";
+import { PhoneTools } from "./phone/tools.js";
 import { Touch } from "./phone/touch.js";
 import { JournalPanel } from "./journal/panel.js";
 import { MusicPanel } from "./player/panel.js";
@@ -39,6 +40,7 @@ new Keyboard(handset, screen, device);
 new Hint(state, screen);
 new Life(state, byId("life-place"));
 new Alerts(screen);
+byId("top-state").append(new PhoneTools(handset).element);
 
 new TimePanel(state);
 new MusicPanel(state);
@@ -46,7 +48,12 @@ new JournalPanel(state);
 new SettingsPanel(state);
 new SetupPanel(state);
 new ScriptPanel(state);
-new Tabs();
+new Tabs({
+  inside: async () => {
+    const { InsidePanel } = await import("./inspect/panel.js");
+    new InsidePanel(screen, handset);
+  },
+});
 
 export const output = new SoundOutput();
 const follower = new SoundFollower(state, page, output);

@@ -17,6 +17,7 @@ export class Handset {
   #screen;
   glass;
   turn = 0; // degrees
+  #zoom = null; // null: as large as there is room for
 
   constructor(state, stand, screen, device) {
     this.#state = state;
@@ -51,6 +52,7 @@ export class Handset {
   #show() {
     const { orientation, screenOn, host } = this.#state.phone;
     this.turn = turns[orientation] ?? 0;
+    document.body.classList.toggle("sideways", this.#sideways);
     this.#body.classList.toggle("off", !screenOn || host !== "running");
     this.#fit();
     this.#turnContent();
@@ -63,11 +65,19 @@ export class Handset {
     this.glass.lang = spoken.replaceAll('"', "").replace("_", "-");
   }
 
+  // How many pixels a point is; null: as many as fit.
+  set zoom(scale) {
+    this.#zoom = scale;
+    this.#stand.classList.toggle("zoomed", scale !== null);
+    this.#fit();
+  }
+
   #fit() {
     const width = this.#sideways ? upright.height : upright.width;
     const height = this.#sideways ? upright.width : upright.height;
     const room = this.#stand.getBoundingClientRect();
-    const scale = Math.max(0.2, Math.min(1.15, room.width / width, room.height / height));
+    const fitting = Math.max(0.2, Math.min(1.15, room.width / width, room.height / height));
+    const scale = this.#zoom ?? fitting;
     this.#body.style.setProperty("--scale", scale);
     this.#body.style.setProperty("--turn", `${this.turn}deg`);
     const box = this.#body.parentElement.style;

@@ -1,23 +1,23 @@
 // The phone's screen by keyboard: Enter and the space bar press what has the focus, arrow keys turn
 // it, and a ring above everything shows where the focus is.
 import { perform } from "../server/commands.js";
-import { h } from "../ui/dom.js";
 import { presses, turns } from "./accessibility.js";
 import { Focus } from "./focus.js";
 import { Levels } from "./levels.js";
+import { Ring } from "./ring.js";
 import { Wheel } from "./wheel.js";
 
 export class Keyboard {
   #handset;
   #levels;
   #wheel = new Wheel();
-  #ring = h("div", { class: "focus-ring", hidden: true });
+  #ring;
 
   constructor(handset, screen, device) {
     this.#handset = handset;
     this.#levels = new Levels(handset, device, (element) => this.#press(element));
     new Focus(handset.glass, screen);
-    handset.glass.append(this.#ring);
+    this.#ring = new Ring(handset, "focus-ring", 4);
     handset.glass.addEventListener("keydown", (event) => this.#key(event));
     handset.glass.addEventListener("click", (event) => this.#click(event));
     handset.glass.addEventListener("focusin", () => this.#place());
@@ -70,20 +70,6 @@ export class Keyboard {
 
   #place() {
     const element = this.#focused;
-    this.#ring.hidden = !element || !element.matches(":focus-visible");
-    if (this.#ring.hidden) return;
-    const { glass } = this.#handset;
-    const scale = glass.getBoundingClientRect().width / glass.offsetWidth || 1;
-    const sideways = Math.abs(this.#handset.turn) === 90;
-    const ratio = sideways ? glass.getBoundingClientRect().width / glass.offsetHeight : scale;
-    const box = element.getBoundingClientRect();
-    const mid = glass.getBoundingClientRect();
-    const dx = (box.left + box.width / 2 - mid.left - mid.width / 2) / ratio;
-    const dy = (box.top + box.height / 2 - mid.top - mid.height / 2) / ratio;
-    const { style } = this.#ring;
-    style.width = `${box.width / ratio + 8}px`;
-    style.height = `${box.height / ratio + 8}px`;
-    const upright = `rotate(${-this.#handset.turn}deg)`;
-    style.transform = `${upright} translate(${dx}px, ${dy}px) translate(-50%, -50%)`;
+    this.#ring.place(element?.matches(":focus-visible") ? element : null);
   }
 }

@@ -34,13 +34,13 @@ export class Roving {
     element.tabIndex = 0;
   }
 
-  // What came last is where one begins, as long as nobody has been anywhere.
+  // One begins at what is chosen, else at what came last.
   #settle() {
     const isKept = this.#current?.isConnected && this.#current === document.activeElement;
     for (const element of this.#list.querySelectorAll(`${this.#selector}:not([tabindex])`))
       element.tabIndex = -1;
-    const last = this.#all.at(-1);
-    if (last && !isKept) this.#stopAt(last);
+    const chosen = this.#list.querySelector('[aria-current="true"]') ?? this.#all.at(-1);
+    if (chosen && !isKept) this.#stopAt(chosen);
   }
 
   #key(event) {

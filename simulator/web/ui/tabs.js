@@ -12,14 +12,18 @@ const tabs = [
   { name: "settings", label: say("Settings") },
   { name: "setup", label: say("Set-up") },
   { name: "script", label: say("Script") },
+  { name: "inside", label: say("Inside") },
 ];
-const narrow = matchMedia("(max-width: 819px)");
+const narrow = matchMedia("(max-width: 819px), (max-height: 559px)");
 const key = "dozewell.tab";
 
 export class Tabs {
   #buttons = new Map();
+  #begin;
 
-  constructor() {
+  // `begin` has a function for each panel that is made when it is first shown, by its name.
+  constructor(begin = {}) {
+    this.#begin = begin;
     for (const { name, label, narrow: only } of tabs) {
       const button = h(
         "button",
@@ -54,6 +58,8 @@ export class Tabs {
 
   show(name) {
     sessionStorage.setItem(key, name);
+    this.#begin[name]?.();
+    delete this.#begin[name];
     document.body.dataset.view = name;
     for (const [each, button] of this.#buttons) {
       button.setAttribute("aria-selected", String(each === name));

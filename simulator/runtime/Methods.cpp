@@ -107,9 +107,9 @@ Method class_getInstanceMethod(Class cls, SEL selector) {
 }
 
 Method class_getClassMethod(Class cls, SEL selector) {
-  return cls != nullptr
-             ? class_getInstanceMethod(cls->has(ClassFlag::metaclass) ? cls : cls->metaclass(), selector)
-             : nullptr;
+  return cls != nullptr ? class_getInstanceMethod(
+                              cls->has(ClassFlag::metaclass) ? cls : cls->metaclass(), selector)
+                        : nullptr;
 }
 
 IMP class_getMethodImplementation(Class cls, SEL selector) {

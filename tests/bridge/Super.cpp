@@ -26,7 +26,7 @@ struct Heir : objc::Implementation<Heir<T, level>> {
   }
 
   static Class registerClass(Class superclass) {
-    const std::string name = bridge::classNameFor<T>("Heir") + std::to_string(level);
+    const std::string name = bridge::classNameFor<T>("Heir") + char('0' + level);
     Class cls = objc::ClassBuilder<Heir>(name.c_str(), superclass)
                     .template method<"value", &Heir::value>()
                     .template method<"one:two:three:four:five:six:last:", &Heir::last>()

@@ -18,3 +18,14 @@ phoneTest(
     assert.equal(await page.inputValue("#setting-volumeFadeOutTime"), "15");
   },
 );
+
+phoneTest("a number out of its range is not set, and says why", {}, async (served, page) => {
+  await page.click("#tab-settings");
+  await page.fill("#setting-volumeFadeOutTime", "-5");
+  await page.locator("#setting-volumeFadeOutTime-problem", { hasText: "0" }).waitFor();
+  await page.keyboard.press("Enter");
+  await page.fill("#setting-volumeFadeOutTime", "20");
+  await andCommand(page, "set volumeFadeOutTime 20", () => page.keyboard.press("Enter"));
+  assert.equal(await page.textContent("#setting-volumeFadeOutTime-problem"), "");
+  assert.ok(!(await served.read("api/recording.phone")).includes("-5"));
+});

@@ -1,5 +1,6 @@
 // A control for each type of setting: {element, input, show(value)}.
 import { h } from "../ui/dom.js";
+import { say } from "../ui/language.js";
 
 function toggle(id, setting, change) {
   const input = h("input", {
@@ -29,19 +30,39 @@ function choice(id, { choices }, change) {
   return { input, element: input, show: (value) => (input.value = String(value)) };
 }
 
+// Why that number is none that can be set; empty when it can.
+function problemOf({ validity, min, max }, unit) {
+  if (validity.valid && !validity.valueMissing) return "";
+  if (validity.rangeUnderflow || validity.rangeOverflow)
+    return max === ""
+      ? say("At least {min} {unit}.", { min, unit })
+      : say("From {min} to {max} {unit}.", { min, max, unit });
+  return validity.stepMismatch ? say("A whole number.") : say("A number.");
+}
+
 function amount(id, setting, change) {
-  const { min, max, step, unit } = setting;
+  const { min, max, step, unit = "" } = setting;
+  const problem = h("small", {
+    class: "field-problem",
+    id: `${id}-problem`,
+    role: "alert",
+  });
+  const check = () => {
+    problem.textContent = problemOf(input, unit).replace(" .", ".");
+    input.ariaInvalid = String(problem.textContent !== "");
+    return problem.textContent === "";
+  };
   const input = h("input", {
     type: "number",
     id,
     min,
     max,
     step: step ?? (setting.type === "integer" ? 1 : "any"),
+    required: true,
     inputmode: "decimal",
-    onchange: () =>
-      input.value === "" || !input.checkValidity()
-        ? input.reportValidity()
-        : change(Number(input.value)),
+    "aria-describedby": problem.id,
+    oninput: check,
+    onchange: () => check() && change(Number(input.value)),
   });
   return {
     input,
@@ -50,9 +71,12 @@ function amount(id, setting, change) {
       { class: "amount" },
       input,
       unit ? h("span", { class: "unit", text: unit }) : null,
+      problem,
     ),
     show: (value) => {
-      if (document.activeElement !== input) input.value = value ?? "";
+      if (document.activeElement === input) return;
+      input.value = value ?? "";
+      check();
     },
   };
 }

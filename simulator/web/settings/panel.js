@@ -4,6 +4,7 @@ import { perform, quoted } from "../server/commands.js";
 import { read } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
 import { makeField } from "./fields.js";
 
@@ -27,12 +28,12 @@ export class SettingsPanel {
       h(
         "div",
         { class: "panel-head" },
-        h("h2", { text: "Settings" }),
+        h("h2", { text: say("Settings") }),
         h(
           "button",
           { class: "soft", id: "settings-reset", type: "button", onclick: () => this.#resetAll() },
           icon("reset"),
-          h("span", { text: "Defaults" }),
+          h("span", { text: say("Defaults") }),
         ),
       ),
       this.#place,
@@ -79,8 +80,8 @@ export class SettingsPanel {
       {
         class: "reset",
         type: "button",
-        title: "Back to the default",
-        "aria-label": `${setting.label}: back to the default`,
+        title: say("Back to the default"),
+        "aria-label": say("{setting}: back to the default", { setting: setting.label }),
         hidden: true,
         onclick: () => perform(`set ${setting.key} none`),
       },
@@ -104,7 +105,7 @@ export class SettingsPanel {
       .filter(({ setting }) => this.#differs(setting))
       .map(({ setting }) => `set ${setting.key} none`);
     if (changed.length > 0) perform(...changed);
-    else toast("All settings are as they come.");
+    else toast(say("All settings are as they come."));
   }
 
   #differs({ key, default: standard }) {

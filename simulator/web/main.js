@@ -1,10 +1,12 @@
 // Puts the page together.
 import "./ui/language.js"; // first: all others speak by it
 import { takeParameter } from "./server/address.js";
+import { Away } from "./server/away.js";
 import { Connection } from "./server/connection.js";
 import { pageId } from "./server/page.js";
 import { PhoneState } from "./server/state.js";
 import { Alerts } from "./phone/alerts.js";
+import { Boot } from "./phone/boot.js";
 import { Device } from "./phone/device.js";
 import { Handset } from "./phone/handset.js";
 import { Hint } from "./phone/hint.js";
@@ -60,4 +62,6 @@ const follower = new SoundFollower(state, page, output);
 new SoundStart(state, page, output, follower, handset.glass, byId("top-state"));
 
 const connection = new Connection(state, page);
+new Away(connection);
 new Veil(state, connection, handset.glass);
+new Boot(state, handset.glass);

@@ -14,12 +14,16 @@ phoneTest(
   { serve: ["--paused", "--token", "the.same_as~before-1"] },
   async (served, page) => {
     const { port } = served;
+    await served.post("/api/time", { paused: false });
+    await page.locator("#panel-time:not(.stands)").waitFor();
     await served.stop();
     await page.locator('body[data-server="gone"]').waitFor();
     await page.locator("#veil", { hasText: "not there" }).waitFor();
+    await page.locator("#panel-time.stands[inert]").waitFor(); // nothing goes on without it
     await served.start("--port", port);
     await isOpen(page);
     await page.locator("#veil").waitFor({ state: "hidden" });
+    await page.locator("#panel-time:not([inert])").waitFor();
   },
 );
 

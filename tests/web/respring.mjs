@@ -24,6 +24,7 @@ phoneTest(
   async (served, page) => {
     await startTimer(served, page);
     await andRestart(page, () => page.click("#device-respring"));
+    await page.locator("#glass .boot.seen").waitFor({ state: "attached" });
     await page.locator("#device-controls:not([aria-pressed=true])").waitFor();
     await pass(served, 400);
     await journalHas(page, "-[SBMediaController pauseForEventSource:0]");

@@ -142,3 +142,29 @@ phoneTest.withoutPhone("one of two pages makes the sound, the one that was asked
     await first.context().close();
   }),
 );
+
+phoneTest(
+  "music that is brought along is heard, and stays in the page",
+  { serve: ["--no-music"], page: { silent: false } },
+  async (served, page) => {
+    await page.locator("#panel-music .inviting", { hasText: "never leave it" }).waitFor();
+    assert.ok(await page.isDisabled("#play-pause"));
+    await page.click("#start-listening");
+    const sent = [];
+    page.on("request", (request) => sent.push(request.postData() ?? ""));
+    await page.setInputFiles("#choose-music", [
+      { name: "Corvane - Low Tide.wav", mimeType: "audio/wav", buffer: tone(30) },
+      { name: "broken.mp3", mimeType: "audio/mpeg", buffer: Buffer.from("no music") },
+    ]);
+    await page.locator(".toast.problem", { hasText: "broken.mp3" }).waitFor();
+    await page.locator("#tracks .track", { hasText: "Low Tide" }).click();
+    await served.post("/api/time", { paused: false });
+    await until(
+      page,
+      "heard",
+      ({ file, paused, at }) => file?.startsWith("blob:") && !paused && at > 0.2,
+    );
+    assert.ok(sent.every((body) => !body.includes("RIFF")));
+    assert.ok((await served.read("api/recording.phone")).includes('"Low Tide" 30 by "Corvane"'));
+  },
+);

@@ -83,7 +83,7 @@ void guard(HttpServer& server, int port, const Access& access) {
   server.set_default_headers({
       {"Content-Security-Policy",
        "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data: blob:; "
-       "media-src 'self'; font-src 'self'; connect-src 'self'; base-uri 'none'; "
+       "media-src 'self' blob:; font-src 'self'; connect-src 'self'; base-uri 'none'; "
        "form-action 'none'; frame-ancestors 'none'"},
       {"Cross-Origin-Resource-Policy", "same-origin"},
       {"Referrer-Policy", "no-referrer"},

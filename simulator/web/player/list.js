@@ -2,6 +2,7 @@
 import { perform, quoted } from "../server/commands.js";
 import { h } from "../ui/dom.js";
 import { duration } from "../ui/format.js";
+import { localMusic } from "./local.js";
 
 const words = ({ title, artist, length }) =>
   `${quoted(title)} ${length}${artist ? ` by ${quoted(artist)}` : ""}`;
@@ -34,7 +35,7 @@ export class MusicList {
       {},
       h(
         "button",
-        { class: "track", type: "button", onclick: () => this.#play(index) },
+        { class: "track", type: "button", onclick: () => this.play(index) },
         h(
           "span",
           { class: "track-name" },
@@ -46,14 +47,19 @@ export class MusicList {
     );
   }
 
+  get isEmpty() {
+    return this.#tracks.length === 0;
+  }
+
   // The list from that track on, and then what stands before it.
-  #play(index) {
+  play(index) {
     const order = [...this.#tracks.slice(index), ...this.#tracks.slice(0, index)];
     perform(`playlist ${order.map(words).join(" ")}`);
   }
 
   show() {
-    const file = this.#state.player?.file ?? null;
+    const { player } = this.#state;
+    const file = player?.file ?? localMusic.idOf(player);
     this.#rows.forEach((row, index) => {
       const current = this.#tracks[index].id === file;
       row.classList.toggle("current", current);

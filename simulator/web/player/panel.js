@@ -4,30 +4,43 @@ import { perform } from "../server/commands.js";
 import { byId, h } from "../ui/dom.js";
 import { duration } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
+import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
+import { Invitation } from "./invitation.js";
 import { MusicList } from "./list.js";
+import { localMusic } from "./local.js";
 
 export class MusicPanel {
   #state;
   #parts = {};
   #list;
+  #served = []; // tracks of the server's folder
+  #invitation = new Invitation();
 
   constructor(state) {
     this.#state = state;
     byId("panel-music").append(this.#makePlayer(), this.#makeListPlace());
     this.#list = new MusicList(state, byId("tracks"));
-    for (const name of ["player", "snapshot"]) state.on(name, () => this.#show());
+    for (const name of ["player", "phone", "snapshot"]) state.on(name, () => this.#show());
     state.on("clock", () => this.#showPosition()); // jumps
+    localMusic.addEventListener("change", () => this.#fill());
     this.#load();
     setInterval(() => this.#showPosition(), 250);
   }
 
   async #load() {
     try {
-      this.#list.fill(await read("music"));
+      this.#served = await read("music");
+      this.#fill();
     } catch (error) {
       toast(error.message, "problem");
     }
+  }
+
+  #fill() {
+    this.#list.fill([...this.#served, ...localMusic.tracks]);
+    this.#invitation.show(this.#list.isEmpty);
+    this.#show();
   }
 
   #button(name, label, line) {
@@ -55,7 +68,7 @@ export class MusicPanel {
       max: 1,
       step: 1,
       value: 0,
-      "aria-label": "Position in the track",
+      "aria-label": say("Position in the track"),
       onchange: () => perform(`seek ${p.seek.value}`),
     });
     p.at = h("span", { class: "at" });
@@ -64,7 +77,7 @@ export class MusicPanel {
       class: "round toggle",
       id: "play-pause",
       type: "button",
-      onclick: () => perform(this.#state.player?.playing ? "pause" : "play"),
+      onclick: () => this.#togglePlaying(),
     });
     p.volume = h("input", {
       type: "range",
@@ -74,7 +87,7 @@ export class MusicPanel {
       max: 1,
       step: 0.01,
       value: 0,
-      "aria-label": "Volume",
+      "aria-label": say("Volume"),
       oninput: () => this.#turn(p.volume.value),
     });
     return h(
@@ -85,20 +98,43 @@ export class MusicPanel {
       h(
         "div",
         { class: "transport" },
-        this.#button("previous", "Previous track", () => "previous-track"),
+        (p.previous = this.#button("previous", say("Previous track"), () => "previous-track")),
         p.toggle,
-        this.#button("next", "Next track", () => "next-track"),
+        (p.next = this.#button("next", say("Next track"), () => "next-track")),
       ),
       h("label", { class: "volume-line" }, icon("sound"), p.volume),
     );
+  }
+
+  #togglePlaying() {
+    const { player } = this.#state;
+    if (player?.playing) perform("pause");
+    else if (player?.title === null && !this.#list.isEmpty) this.#list.play(0);
+    else perform("play");
+  }
+
+  // Who cannot press them reads why.
+  #showTransport(player) {
+    const p = this.#parts;
+    const isOff = this.#state.phone.host === "off";
+    const isIdle = !player || player.title === null;
+    const why = isOff ? say("The phone is off.") : isIdle ? say("Nothing is playing") : "";
+    for (const button of [p.previous, p.next]) {
+      button.disabled = why !== "";
+      button.title = why || button.ariaLabel;
+    }
+    p.toggle.disabled = isOff || (isIdle && this.#list.isEmpty);
+    p.toggle.title = p.toggle.disabled ? why : p.toggle.ariaLabel;
+    p.volume.disabled = isOff;
   }
 
   #makeListPlace() {
     return h(
       "div",
       { class: "track-list" },
-      h("h2", { text: "Music" }),
+      h("h2", { text: say("Music") }),
       h("ol", { id: "tracks", class: "tracks" }),
+      this.#invitation.element,
     );
   }
 
@@ -116,17 +152,18 @@ export class MusicPanel {
   #show() {
     const { player } = this.#state;
     const p = this.#parts;
-    p.title.textContent = player?.title ?? "Nothing is playing";
+    p.title.textContent = player?.title ?? say("Nothing is playing");
     p.artist.textContent = [player?.artist, player?.album].filter(Boolean).join(" — ");
     p.toggle.replaceChildren(icon(player?.playing ? "pause" : "play"));
-    p.toggle.setAttribute("aria-label", player?.playing ? "Pause" : "Play");
+    p.toggle.setAttribute("aria-label", player?.playing ? say("Pause") : say("Play"));
     p.seek.max = Math.max(1, Math.floor(player?.length ?? 1));
     p.seek.disabled = !player?.length;
     if (!p.volume.matches(":active")) p.volume.value = player?.volume ?? 0;
     p.volume.style.setProperty("--part", player?.volume ?? 0);
-    p.volume.title = player ? `The sound goes to ${player.route}` : "";
+    p.volume.title = player ? say("The sound goes to {route}", { route: player.route }) : "";
     this.#showCover(player?.file ?? null);
     this.#list.show();
+    this.#showTransport(player);
     this.#showPosition();
   }
 

@@ -4,6 +4,8 @@ import { forget, post, read } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
 import { say } from "../ui/language.js";
+import { takeMusic } from "../player/invitation.js";
+import { filesOf } from "../player/local.js";
 import { goTo } from "../time/slider.js";
 import { toast } from "../ui/toast.js";
 import { ScriptText } from "./text.js";
@@ -112,6 +114,7 @@ export class ScriptPanel {
 
   #acceptDrops() {
     const files = (event) => event.dataTransfer?.types.includes("Files");
+    document.body.dataset.drop = say("Drop a phone script, or music");
     addEventListener("dragover", (event) => {
       if (!files(event)) return;
       event.preventDefault();
@@ -125,8 +128,13 @@ export class ScriptPanel {
       if (!files(event)) return;
       event.preventDefault();
       document.body.classList.remove("dropping");
-      this.#openFile(event.dataTransfer.files[0]);
+      this.#takeDropped(event.dataTransfer);
     });
+  }
+
+  async #takeDropped(transfer) {
+    const files = await filesOf(transfer);
+    if (!(await takeMusic(files))) await this.#openFile(files[0]);
   }
 
   async #openFile(file) {

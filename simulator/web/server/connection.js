@@ -48,6 +48,7 @@ export class Connection extends EventTarget {
     // The browser has given up: what was answered is no stream. It does not say what it is.
     const isAnswered = source.readyState === EventSource.CLOSED;
     source.close(); // the browser would try again by itself, but only after seconds
+    this.#state.standStill();
     if (this.status === "open") this.#become("connecting");
     this.#gone ??= setTimeout(() => this.#become("gone"), goneAfter);
     if (isAnswered && (await isRefused())) this.#refuse();

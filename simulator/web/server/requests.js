@@ -1,10 +1,12 @@
 // What the page asks of the server. A refusal is an Error with the server's own words.
 
+import { say } from "../ui/language.js";
+
 const patience = 2500; // milliseconds, when only asking whether the server lets this page in
 
 export class Refusal extends Error {
   constructor(status, body) {
-    super(body.error ?? `The server answered ${status}.`);
+    super(body.error ?? say("The server answered {status}.", { status }));
     this.status = status;
     this.body = body;
   }
@@ -20,7 +22,7 @@ async function reach(path, options) {
   try {
     return await fetch(path, options);
   } catch {
-    throw new Error("The simulator does not answer.");
+    throw new Error(say("The simulator does not answer."));
   }
 }
 

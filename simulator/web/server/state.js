@@ -67,6 +67,17 @@ export class PhoneState extends EventTarget {
     this.#tell("snapshot", snapshot, fresh);
   }
 
+  // Nobody says how it goes on: until somebody does, nothing does.
+  standStill() {
+    if (this.clock.paused) return;
+    this.take("clock", {
+      ...this.clock,
+      uptime: this.uptime(),
+      wall: this.wall(),
+      paused: true,
+    });
+  }
+
   // Seconds since the phone's start, now.
   uptime() {
     const { uptime, speed, paused } = this.clock;

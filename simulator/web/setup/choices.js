@@ -1,13 +1,15 @@
 // What the set-up offers to choose from.
 
+import { say } from "../ui/language.js";
+
 export const systems = ["12.5", "13.7", "14.8", "15.0", "15.4", "16.1.2", "16.7", "17.0"];
 
 // From which major version on.
 const expectations = [
-  [16, "No moon: Control Center's player was built anew. A timer that a script starts still ends."],
-  [15, "What the extension is made for: a moon beside the song, and the panel below it."],
-  [13, "Like 15, as far as is known; alerts come in a window of their own."],
-  [0, "Like 13, as far as is known; the volume goes through the media controller."],
+  [16, say("No moon: Control Center's player was built anew. A timer that a script starts still ends.")],
+  [15, say("What the extension is made for: a moon beside the song, and the panel below it.")],
+  [13, say("Like 15, as far as is known; alerts come in a window of their own.")],
+  [0, say("Like 13, as far as is known; the volume goes through the media controller.")],
 ];
 
 // What to expect of the extension there, in a line.
@@ -15,9 +17,9 @@ export const expectation = (version) =>
   expectations.find(([major]) => parseInt(version, 10) >= major)[1];
 
 export const haptics = [
-  ["2", "Every kind of feedback"],
-  ["1", "System sounds only"],
-  ["0", "Nothing"],
+  ["2", say("Every kind of feedback")],
+  ["1", say("System sounds only")],
+  ["0", say("Nothing")],
 ];
 
 export const languages = [

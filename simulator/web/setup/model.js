@@ -1,5 +1,7 @@
 // The set-up of a phone: lines of the script language, and what a form says of them.
 
+import { say } from "../ui/language.js";
+
 export const words = (line) =>
   [...line.matchAll(/"((?:\\.|[^"\\])*)"|(\S+)/g)].map((found) =>
     found[1] === undefined
@@ -16,7 +18,7 @@ const record = (name) => `file "/var/jb/var/lib/dpkg/info/${name}.list" ""`;
 // Each with the lines that make it count as installed.
 export const companions = {
   grupi: {
-    label: "Grupi, with its small music controller",
+    label: say("Grupi, with its small music controller"),
     lines: [
       record("com.zentrik.grupi"),
       `file "/var/jb/var/mobile/Library/Preferences/com.zentrik.grupi.plist" ` +

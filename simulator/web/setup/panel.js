@@ -1,6 +1,7 @@
 // What kind of phone it is. Applying makes a fresh one, and keeps the extension's settings.
 import { post } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
+import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
 import { expectation, haptics, languages, systems } from "./choices.js";
 import { companions, fromLines, standard, toLines } from "./model.js";
@@ -20,23 +21,23 @@ export class SetupPanel {
   constructor(state) {
     this.#state = state;
     this.#form = this.#makeForm();
-    this.#parts.ios.addEventListener("change", () => this.#say());
+    this.#parts.ios.addEventListener("change", () => this.#expect());
     byId("panel-setup").append(
       h(
         "div",
         { class: "panel-head" },
-        h("h2", { text: "Set-up" }),
+        h("h2", { text: say("Set-up") }),
         h("button", {
           class: "soft",
           id: "setup-standard",
           type: "button",
-          text: "Standard phone",
+          text: say("Standard phone"),
           onclick: () => this.#show(standard()),
         }),
       ),
       h("p", {
         class: "lead",
-        text: "What kind of phone this is. Applying makes a fresh phone; the settings stay.",
+        text: say("What kind of phone this is. Applying makes a fresh phone; the settings stay."),
       }),
       this.#form,
       h("p", { class: "form-problem", id: "setup-problem", role: "alert", hidden: true }),
@@ -45,7 +46,7 @@ export class SetupPanel {
         id: "setup-apply",
         type: "submit",
         form: "setup-form",
-        text: "Make this phone",
+        text: say("Make this phone"),
       }),
     );
     for (const name of ["setup", "snapshot"]) state.on(name, () => this.#reset());
@@ -106,41 +107,41 @@ export class SetupPanel {
       h(
         "fieldset",
         { class: "group" },
-        h("legend", { text: "System" }),
+        h("legend", { text: say("System") }),
         this.#row(
           "ios",
-          "Version of the system",
+          say("Version of the system"),
           this.#expectation,
           this.#select(
             "ios",
             systems.map((each) => [each, `iOS ${each}`]),
           ),
         ),
-        this.#row("locale", "Language and region", null, this.#select("locale", languages)),
-        this.#row("haptics", "What can be felt", null, this.#select("haptics", haptics)),
+        this.#row("locale", say("Language and region"), null, this.#select("locale", languages)),
+        this.#row("haptics", say("What can be felt"), null, this.#select("haptics", haptics)),
       ),
       h(
         "fieldset",
         { class: "group" },
-        h("legend", { text: "Around it" }),
+        h("legend", { text: say("Around it") }),
         this.#row(
           "bluetooth",
-          "Connected Bluetooth devices",
-          "One in each line.",
+          say("Connected Bluetooth devices"),
+          say("One in each line."),
           this.#lines("bluetooth", "Pillow Speaker"),
         ),
-        this.#check("runner", "The shortcut runner is installed"),
+        this.#check("runner", say("The shortcut runner is installed")),
         this.#row(
           "shortcuts",
-          "The owner's shortcuts",
-          "One in each line. The extension looks for these two.",
+          say("The owner's shortcuts"),
+          say("One in each line. The extension looks for these two."),
           this.#lines("shortcuts", "Dozewell Start\nDozewell End"),
         ),
       ),
       h(
         "fieldset",
         { class: "group" },
-        h("legend", { text: "Other extensions" }),
+        h("legend", { text: say("Other extensions") }),
         ...Object.entries(companions).map(([name, { label }]) =>
           this.#check(`companion-${name}`, label),
         ),
@@ -148,24 +149,24 @@ export class SetupPanel {
       h(
         "details",
         { class: "group" },
-        h("summary", { text: "For developers" }),
+        h("summary", { text: say("For developers") }),
         this.#row(
           "missing",
-          "Absent classes or methods",
-          "One in each line: CLASS, or CLASS SELECTOR.",
+          say("Absent classes or methods"),
+          say("One in each line: CLASS, or CLASS SELECTOR."),
           this.#lines("missing", "DNDModeAssertionService"),
         ),
         this.#row(
           "others",
-          "More lines of the script language",
-          "As they may stand before boot.",
+          say("More lines of the script language"),
+          say("As they may stand before boot."),
           this.#lines("others", 'default "some.key" 3'),
         ),
       ),
     );
   }
 
-  #say() {
+  #expect() {
     this.#expectation.textContent = expectation(this.#parts.ios.value);
   }
 
@@ -182,7 +183,7 @@ export class SetupPanel {
   #show(model) {
     const p = this.#parts;
     for (const name of ["ios", "locale", "haptics"]) this.#choose(p[name], model[name]);
-    this.#say();
+    this.#expect();
     for (const name of ["bluetooth", "shortcuts", "missing", "others"])
       p[name].value = model[name].join("\n");
     p.runner.checked = model.runner;
@@ -213,7 +214,7 @@ export class SetupPanel {
     const lines = toLines(this.#model());
     try {
       await post("api/setup", { lines });
-      toast("A fresh phone.");
+      toast(say("A fresh phone."));
     } catch (error) {
       const line = lines[(error.body?.line ?? 0) - 1];
       problem.textContent = line ? `${line} — ${error.message}` : error.message;

@@ -1,5 +1,7 @@
 // Keeps the audio element where the host's player is. The host decides; this only follows.
 
+import { localMusic } from "../player/local.js";
+
 const tolerance = 0.35; // seconds that the element may be off before it is moved
 const checkEvery = 1000; // milliseconds
 
@@ -37,9 +39,10 @@ export class SoundFollower extends EventTarget {
 
   follow() {
     const { player } = this.#state;
-    this.#load(player?.file ?? null);
+    const file = player?.file ?? localMusic.idOf(player);
+    this.#load(file);
     if (player) this.#output.setLevel(player.volume);
-    const heard = player?.playing && player.file !== null && this.silence === null;
+    const heard = player?.playing && file !== null && this.silence === null;
     if (heard) this.#play();
     else this.#output.element.pause();
     this.dispatchEvent(new Event("change"));
@@ -52,7 +55,7 @@ export class SoundFollower extends EventTarget {
     if (file === null || !this.owner) {
       element.removeAttribute("src");
       element.dataset.file = "";
-    } else element.src = `music/${encodeURIComponent(file)}`;
+    } else element.src = localMusic.urlOf(file) ?? `music/${encodeURIComponent(file)}`;
   }
 
   #play() {

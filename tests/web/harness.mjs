@@ -208,8 +208,11 @@ export const pass = (served, seconds) => served.post("/api/time", { advance: sec
 export const journalHas = (page, text) =>
   page.evaluate(async (wanted) => {
     const { state } = await import(new URL("main.js", document.baseURI)); // the page's own
-    const has = () => state.journal.some((entry) => entry.text.includes(wanted));
-    while (!has()) await new Promise((come) => state.addEventListener("journal", come, { once: true }));
+    const comes = () =>
+      new Promise((come) => {
+        state.addEventListener("journal", come, { once: true });
+      });
+    while (!state.journal.some((entry) => entry.text.includes(wanted))) await comes();
   }, text);
 
 // Does something on the page, and waits until the server has answered a command that has that text.

@@ -19,9 +19,9 @@ const handDone = {
 };
 
 // [pattern, kind, meaning, story]. The first that matches counts; both get the groups of the
-// pattern. A story is {key, text}: lines of the same key soon after each other are one piece, told by
-// the last text, or by `often` where they are many. Soon after a piece of a key in `isPartOf` it is a
-// detail of that.
+// pattern. A story is {key, text}: lines of the same key soon after each other are one piece, told
+// by the last text, or by `often` where they are many. Soon after a piece of a key in `isPartOf` it
+// is a detail of that.
 const known = [
   [
     /^player (?:play|track) (.*)$/,

@@ -35,7 +35,8 @@ export class Hint {
     const { journal } = this.#state;
     const last = journal.findLast(({ text }) => stops.test(text) || goesOn.test(text));
     const hasStopped = last !== undefined && stops.test(last.text);
-    if (hasStopped && !this.#hasStopped && !whole) announce(say("The music has stopped. Good night."));
+    if (hasStopped && !this.#hasStopped && !whole)
+      announce(say("The music has stopped. Good night."));
     this.#hasStopped = hasStopped;
     if (!whole && detail.some(({ text }) => text.startsWith(started))) this.#timerWasSet();
     this.#show();
@@ -72,7 +73,9 @@ export class Hint {
     if (this.#screen.shows("ChooseSnoozeTimeView"))
       return say("Choose how long the music may play, then confirm.");
     if (this.#screen.shows("OnTimerEndsSettingsView"))
-      return say("Choose what else happens. The hourglass turns from the timer's start to its end.");
+      return say(
+        "Choose what else happens. The hourglass turns from the timer's start to its end.",
+      );
     if (this.#screen.shows("DozewellButton"))
       return say("The moon beside the song is the sleep timer. Tap it.");
     return say("Open Control Center to find the moon: pull down from the upper right corner.");

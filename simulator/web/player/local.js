@@ -9,7 +9,8 @@ export const isMusic = (file) => file.type.startsWith("audio/") || endings.test(
 // "Corvane - Low Tide.mp3" names both.
 function wordsOf(name) {
   const [first, ...rest] = name.replace(/\.[^.]*$/, "").split(" - ");
-  return rest.length > 0 ? { artist: first, title: rest.join(" - ") } : { artist: "", title: first };
+  if (rest.length === 0) return { artist: "", title: first };
+  return { artist: first, title: rest.join(" - ") };
 }
 
 // Seconds; 0 when the browser cannot play it.
@@ -24,21 +25,29 @@ function lengthOf(url) {
   });
 }
 
+const fileOf = (entry) =>
+  new Promise((known, failed) => {
+    entry.file(known, failed);
+  });
+const someOf = (reader) =>
+  new Promise((known, failed) => {
+    reader.readEntries(known, failed);
+  });
+
+async function filesWithin(entry) {
+  if (entry.isFile) return [await fileOf(entry)];
+  const reader = entry.createReader();
+  const all = [];
+  for (let some = await someOf(reader); some.length > 0; some = await someOf(reader))
+    all.push(...some);
+  return (await Promise.all(all.map(filesWithin))).flat();
+}
+
 // All files in what was dropped, also in folders.
 export async function filesOf(transfer) {
   const entries = [...transfer.items].map((item) => item.webkitGetAsEntry?.()).filter(Boolean);
-  return entries.length > 0
-    ? (await Promise.all(entries.map(filesWithin))).flat()
-    : [...transfer.files];
-}
-
-async function filesWithin(entry) {
-  if (entry.isFile) return [await new Promise((known, failed) => entry.file(known, failed))];
-  const reader = entry.createReader();
-  const read = () => new Promise((known, failed) => reader.readEntries(known, failed));
-  const all = [];
-  for (let some = await read(); some.length > 0; some = await read()) all.push(...some);
-  return (await Promise.all(all.map(filesWithin))).flat();
+  if (entries.length === 0) return [...transfer.files];
+  return (await Promise.all(entries.map(filesWithin))).flat();
 }
 
 class LocalMusic extends EventTarget {

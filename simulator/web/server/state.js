@@ -26,7 +26,7 @@ export class PhoneState extends EventTarget {
   life = { state: "running", doing: null, safeMode: false, report: null };
   phone = { host: "off", screenOn: true, locked: false, orientation: "portrait" };
   player = null;
-  timer = { mode: null, endsAt: null, songsLeft: null, endsWithSong: false, fades: false, atEnd: [] };
+  timer = { mode: null, endsAt: null, songsLeft: null, fades: false, atEnd: [] };
   setup = { lines: [] };
   settings = {};
   audio = { page: null };

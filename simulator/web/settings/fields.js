@@ -47,7 +47,7 @@ function amount(id, setting, change) {
     id: `${id}-problem`,
     role: "alert",
   });
-  const check = () => {
+  const check = (input) => {
     problem.textContent = problemOf(input, unit).replace(" .", ".");
     input.ariaInvalid = String(problem.textContent !== "");
     return problem.textContent === "";
@@ -61,8 +61,8 @@ function amount(id, setting, change) {
     required: true,
     inputmode: "decimal",
     "aria-describedby": problem.id,
-    oninput: check,
-    onchange: () => check() && change(Number(input.value)),
+    oninput: ({ target }) => check(target),
+    onchange: ({ target }) => check(target) && change(Number(target.value)),
   });
   return {
     input,
@@ -76,7 +76,7 @@ function amount(id, setting, change) {
     show: (value) => {
       if (document.activeElement === input) return;
       input.value = value ?? "";
-      check();
+      check(input);
     },
   };
 }

@@ -6,7 +6,12 @@ export const systems = ["12.5", "13.7", "14.8", "15.0", "15.4", "16.1.2", "16.7"
 
 // From which major version on.
 const expectations = [
-  [16, say("No moon: Control Center's player was built anew. A timer that a script starts still ends.")],
+  [
+    16,
+    say(
+      "No moon: Control Center's player was built anew. A timer that a script starts still ends.",
+    ),
+  ],
   [15, say("What the extension is made for: a moon beside the song, and the panel below it.")],
   [13, say("Like 15, as far as is known; alerts come in a window of their own.")],
   [0, say("Like 13, as far as is known; the volume goes through the media controller.")],

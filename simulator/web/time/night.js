@@ -28,7 +28,8 @@ function ending(timer, state) {
     );
   if (timer.endsAt === null) return say("The music stops at the end of this song.");
   const time = duration(Math.ceil(timer.endsAt - state.uptime()));
-  if (timer.endsWithSong) return say("The music stops with the song that plays in {time}.", { time });
+  if (timer.endsWithSong)
+    return say("The music stops with the song that plays in {time}.", { time });
   if (!plays) return say("The timer ends in {time}. Nothing plays now.", { time });
   return timer.atEnd.some((each) => each.do === "fade")
     ? say("In {time} the music fades, then stops.", { time })
@@ -64,7 +65,8 @@ export function wayToEnd(state) {
   const endsWithSong = timer.mode !== null && timer.endsAt === null;
   const label = endsWithSong ? say("To the end of this song") : say("10 s before the end");
   if (timer.fades) return { label, reason: say("The music fades already.") };
-  if (timer.mode === null) return { label, reason: say("No timer runs, so there is no end to go to.") };
+  if (timer.mode === null)
+    return { label, reason: say("No timer runs, so there is no end to go to.") };
   if (!endsWithSong) {
     const near = timer.endsAt - state.uptime() <= 10;
     return near

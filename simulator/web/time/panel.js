@@ -129,8 +129,8 @@ export class TimePanel {
     p.step.disabled = p.minute.disabled = isOff;
     p.end.disabled = why !== "";
     p.end.title = why || say("Goes to shortly before the music stops");
-    const words = p.end.querySelector("span");
-    if (words.textContent !== label) words.textContent = label;
+    const text = p.end.querySelector("span");
+    if (text.textContent !== label) text.textContent = label;
     if (p.reason.textContent !== why) p.reason.textContent = why;
   }
 

@@ -43,13 +43,9 @@ export class NightSlider {
     this.element = h(
       "div",
       { class: "night-line" },
-      h(
-        "div",
-        { class: "speed-words" },
-        h("span", { text: say("The night so far") }),
-        this.#where,
-      ),
+      h("span", { text: say("The night"), "aria-hidden": "true" }),
       this.#input,
+      this.#where,
     );
   }
 

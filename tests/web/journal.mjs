@@ -6,7 +6,7 @@ import { phoneTest, simulator } from "./harness.mjs";
 phoneTest("every entry of the journal can be looked at", {}, async (served, page) => {
   await served.run("volume 0.8");
   await page.locator("#entries .entry-line", { hasText: "You set the volume to 80 %" }).click();
-  await page.locator(".entry-details", { hasText: "You set the volume to 80 %." }).waitFor();
+  await page.locator(".entry-details", { hasText: "You set the volume to 80 %" }).waitFor();
   await page.locator(".entry-details pre", { hasText: "user volume 0.8" }).waitFor();
   await page.fill("#journal-filter", "volume");
   await page.locator("#entries code", { hasText: "user volume 0.8" }).waitFor();

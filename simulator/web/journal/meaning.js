@@ -38,7 +38,7 @@ const known = [
   [
     /^player stop/,
     "music",
-    () => say("Nothing plays any more."),
+    () => say("Nothing plays any more"),
     () => ({ key: "stop", text: say("Nothing plays any more") }),
   ],
   [
@@ -59,7 +59,7 @@ const known = [
   [
     /^user volume ([\d.eE-]+)/,
     "user",
-    (level) => say("You set the volume to {level}.", { level: percent(level) }),
+    (level) => say("You set the volume to {level}", { level: percent(level) }),
     (level) => ({
       key: "hand volume",
       text: say("You set the volume to {level}", { level: percent(level) }),
@@ -224,7 +224,7 @@ const known = [
   [
     /^-\[HBPreferences set\w+:(.*) forKey:"(.*)"/,
     "storage",
-    (value, key) => say("The setting {key} becomes {value}.", { key, value }),
+    (value, key) => say("The setting {key} becomes {value}", { key, value }),
     (value, key) => ({
       key: "settings",
       text: say("The setting {key} becomes {value}", { key, value }),
@@ -234,13 +234,13 @@ const known = [
   [
     /^-\[HBPreferences /,
     "storage",
-    () => say("A setting goes back to its default."),
+    () => say("A setting goes back to its default"),
     () => ({ key: "settings", text: say("A setting goes back to its default") }),
   ],
   [
     /setAirplaneMode:(YES|NO)/,
     "radio",
-    (on) => (on === "YES" ? say("Airplane mode goes on.") : say("Airplane mode goes off.")),
+    (on) => (on === "YES" ? say("Airplane mode goes on") : say("Airplane mode goes off")),
     (on) => ({
       key: "airplane",
       text: on === "YES" ? say("Airplane mode goes on") : say("Airplane mode goes off"),
@@ -254,19 +254,19 @@ const known = [
   [
     /^-\[(?:DNDModeAssertionService takeMode\w+:"|BBSettingsGateway setBehaviorOverrideStatus:1)/,
     "radio",
-    () => say("Do Not Disturb goes on."),
+    () => say("Do Not Disturb goes on"),
     () => ({ key: "focus", text: say("Do Not Disturb goes on") }),
   ],
   [
     /^-\[(?:DNDModeAssertionService|BBSettingsGateway) /,
     "radio",
-    () => say("Do Not Disturb changes."),
+    () => say("Do Not Disturb changes"),
     () => ({ key: "focus", text: say("Do Not Disturb changes") }),
   ],
   [
     /^-\[BluetoothManager setEnabled:(YES|NO)/,
     "radio",
-    (on) => (on === "YES" ? say("Bluetooth goes on.") : say("Bluetooth goes off.")),
+    (on) => (on === "YES" ? say("Bluetooth goes on") : say("Bluetooth goes off")),
     (on) => ({
       key: "bluetooth",
       text: on === "YES" ? say("Bluetooth goes on") : say("Bluetooth goes off"),

@@ -12,6 +12,7 @@
 #include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/controls/UISlider.h"
+#include "simulator/uikit/views/LayoutDirection.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
@@ -86,11 +87,13 @@ void addSlider(Object tile, ModuleSymbol symbol, CGSize size, TileControls& cont
 void addFocus(Object tile, CGSize size, TileControls& controls) {
   constexpr double diameter = 40, left = 15;  // points
   const double middle = size.height / 2;
+  const bool isRightToLeft = interfaceIsRightToLeft();
   const Switch its = focusSwitch();
   addSwitch(tile, {{}, size},
             {systemName("Do Not Disturb"),
              ModuleSymbol::focus,
-             {{left, middle - diameter / 2}, {diameter, diameter}},
+             {{isRightToLeft ? size.width - left - diameter : left, middle - diameter / 2},
+              {diameter, diameter}},
              diameter / 2,
              rgbColor(0.37, 0.36, 0.9),
              whiteColor(1),
@@ -98,9 +101,12 @@ void addFocus(Object tile, CGSize size, TileControls& controls) {
              its.isOn,
              its.turn},
             controls);
-  const auto title = addLabel(tile, {.points = 15, .isBold = true, .lines = 2});
-  setFrame(title,
-           {{left + diameter + 10, middle - 20}, {size.width - diameter - left - 20, diameter}});
+  constexpr long toTheRight = 2;
+  const auto title = addLabel(
+      tile,
+      {.points = 15, .isBold = true, .alignment = isRightToLeft ? toTheRight : 0, .lines = 2});
+  const double x = isRightToLeft ? 10 : left + diameter + 10;
+  setFrame(title, {{x, middle - 20}, {size.width - diameter - left - 20, diameter}});
   controls.focusLabel = title.get();
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "simulator/coversheet/CSMediaControlsViewController.h"
+#include "simulator/coversheet/CountdownText.h"
 #include "simulator/foundation/LocaleText.h"
 #include "simulator/foundation/NSNotificationCenter.h"
 #include "simulator/foundation/Values.h"
@@ -40,15 +41,6 @@ void drawPadlock(Object layer) {
 Object light(double points) {
   constexpr double weight = -0.4;
   return objc::send<Object, "systemFontOfSize:weight:">(objc_getClass("UIFont"), points, weight);
-}
-
-// "1:05:09", or "5:09" for less than an hour.
-std::string countdownText(double secondsLeft) {
-  const long left = std::lround(std::ceil(secondsLeft));
-  const auto twoDigits = [](long value) { return (value < 10 ? "0" : "") + std::to_string(value); };
-  const std::string seconds = twoDigits(left % 60);
-  if (left < 3600) return std::to_string(left / 60) + ':' + seconds;
-  return std::to_string(left / 3600) + ':' + twoDigits(left / 60 % 60) + ':' + seconds;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "simulator/coversheet/CSMediaControlsViewController.h"
 #include "simulator/coversheet/CSProminentSubtitleDateView.h"
 #include "simulator/coversheet/CSTimerViewController.h"
+#include "simulator/coversheet/ClockView.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/coversheet/SBFLockScreenDateSubtitleDateView.h"
 #include "simulator/coversheet/SBFLockScreenDateSubtitleView.h"
@@ -24,6 +25,8 @@ void registerCoverSheet() {
   CSMediaControlsViewController::registerClass();
   CSCoverSheetViewController::registerClass();
   SBLockScreenManager::registerClass();
+  ClockView::registerClass();
+  addClockApplication();
   addLaunchTask([] { LockScreen::current().makeTimerController(); });
 }
 

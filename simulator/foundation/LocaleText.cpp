@@ -183,6 +183,16 @@ std::string numberText(std::string_view decimal, std::string_view locale) {
       }));
 }
 
+std::string withLocaleDigits(std::string_view western, std::string_view locale) {
+  std::string made;
+  for (const char character : western)
+    if (character >= '0' && character <= '9')
+      made += numberText({&character, 1}, locale);
+    else
+      made += character;
+  return made;
+}
+
 std::string unitText(const char* unit, long count, UnitWidth width, std::string_view locale) {
   static auto* known = new std::map<std::string, UNumberFormatter*>;
   const std::string used = icuLocale(locale);

@@ -23,6 +23,9 @@ std::string clockText(double secondsSinceReferenceDate, std::string_view locale)
 // written with Western digits, as std::to_string does.
 std::string numberText(std::string_view decimal, std::string_view locale);
 
+// The same text with the locale's digits in place of Western ones.
+std::string withLocaleDigits(std::string_view western, std::string_view locale);
+
 enum class UnitWidth { full, abbreviated };
 // What stands beside a number of "hour" or "minute": "hours", "Std."; by the plural rules of the
 // locale.

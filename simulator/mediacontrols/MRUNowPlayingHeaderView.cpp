@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "simulator/foundation/Kind.h"
-#include "simulator/mediacontrols/Glyphs.h"
 #include "simulator/mediacontrols/MRULayout.h"
 #include "simulator/mediacontrols/MRUNowPlayingLabelView.h"
 #include "simulator/mediacontrols/MRUTransportButton.h"
@@ -39,12 +38,7 @@ void passOn(Object self, Object touches, Object event) {
 
 Object MRUNowPlayingHeaderView::initWithFrame(CGRect frame) {
   const auto made = super<Object, "initWithFrame:">(frame);
-  artworkView = addView(made, "UIView");
-  fill(artworkView, whiteColor(0.12), 6);
-  const auto note = addShape(artworkView, notePath());
-  tint(note, whiteColor(0.4));
-  constexpr double inset = (artwork - glyphSize) / 2;
-  objc::send<void, "setFrame:">(note.get(), CGRect{{inset, inset}, {glyphSize, glyphSize}});
+  artworkView = addView(made, "MRUArtworkView");
   labelView = addView(made, "MRUNowPlayingLabelView");
   routingButton = objc::retain(makeRoutingButton(made));
   if (isModuleOf16()) {

@@ -4,7 +4,9 @@
 #include <cmath>
 #include <cstdio>
 
+#include "simulator/foundation/LocaleText.h"
 #include "simulator/foundation/Values.h"
+#include "simulator/machine/Phone.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -19,7 +21,7 @@ Object clockTime(const char* sign, double seconds) {
   const long whole = std::lround(std::floor(seconds));
   std::array<char, 32> text;
   std::snprintf(text.data(), text.size(), "%s%ld:%02ld", sign, whole / 60, whole % 60);
-  return string(text.data());
+  return string(withLocaleDigits(text.data(), Phone::current().setup.locale));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // What the Now Playing module is made of.
 #include "simulator/mediacontrols/MPButton.h"
 #include "simulator/mediacontrols/MPMediaControls.h"
+#include "simulator/mediacontrols/MRUArtworkView.h"
 #include "simulator/mediacontrols/MRUControlCenterView.h"
 #include "simulator/mediacontrols/MRUControlCenterViewController.h"
 #include "simulator/mediacontrols/MRUEmbeddingView.h"
@@ -15,6 +16,7 @@
 #include "simulator/mediacontrols/MRUNowPlayingViewController.h"
 #include "simulator/mediacontrols/MRURoutingViewController.h"
 #include "simulator/mediacontrols/MRUTransportButton.h"
+#include "simulator/mediacontrols/MusicView.h"
 #include "simulator/standin/Registration.h"
 
 namespace sim {
@@ -24,6 +26,7 @@ void registerMediaControls() {
   MPMediaControls::registerClass();
   MRUNowPlayingRoutingButton::registerClass();
   MRUNowPlayingLabelView::registerClass();
+  MRUArtworkView::registerClass();
   MRUNowPlayingHeaderView::registerClass();
   MRUNowPlayingTimeControl::registerClass();
   MRUTransportButton::registerClass();
@@ -36,6 +39,8 @@ void registerMediaControls() {
   MRUControlCenterView::registerClass();
   MRUControlCenterViewController::registerClass();
   MRUMediaControlsModule::registerClass();
+  MusicView::registerClass();
+  addMusicApplication();
 }
 
 }  // namespace sim

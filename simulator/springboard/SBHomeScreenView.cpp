@@ -5,8 +5,10 @@
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/Values.h"
 #include "simulator/springboard/HomeIcons.h"
+#include "simulator/springboard/SystemNames.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/controls/UIControl.h"
+#include "simulator/uikit/views/LayoutDirection.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
@@ -28,7 +30,7 @@ double columnX(std::size_t column, double width) {
 }  // namespace
 
 Object SBHomeScreenView::initWithFrame(CGRect frame) {
-  constexpr double points = 12;
+  constexpr double points = 12, ofWhatDoesNotOpen = 0.45;
   constexpr long center = 1;
   const Object made = super<Object, "initWithFrame:">(frame);
   if (!made) return nullptr;
@@ -40,12 +42,18 @@ Object SBHomeScreenView::initWithFrame(CGRect frame) {
     objc::send<void, "addSubview:">(made, icons.back().get());
     if (isA<UIControl>(icons.back().get())) {
       addTapTarget(icons.back().get(), made, objc::selector<"_open:">());
-      objc::send<void, "setAccessibilityLabel:">(icons.back().get(), string(homeIconTitle(i)));
+      objc::send<void, "setAccessibilityLabel:">(icons.back().get(),
+                                                 string(systemName(homeIconTitle(i))));
+    } else {
+      setAlpha(icons.back(), ofWhatDoesNotOpen);
     }
     if (i >= homeIconCount) continue;
     titles.push_back(addLabel(made, {.points = points, .alignment = center}));
-    setText(titles.back(), string(homeIconTitle(i)));
+    setText(titles.back(), string(systemName(homeIconTitle(i))));
+    if (!isA<UIControl>(icons.back().get())) setAlpha(titles.back(), ofWhatDoesNotOpen);
   }
+  note = addLabel(made, {.points = points, .alpha = 0.6, .alignment = center});
+  setText(note, string(systemName("Only Settings, Clock and Music open here")));
   return made;
 }
 
@@ -60,8 +68,11 @@ void SBHomeScreenView::layoutSubviews() {
   setFrame(wallpaper, {{}, size});
   const double dockTop = size.height - dockHeight - dockMargin;
   setFrame(dock, {{dockMargin, dockTop}, {size.width - 2 * dockMargin, dockHeight}});
+  setFrame(note, {{0, dockTop - 2 * titleHeight}, {size.width, titleHeight}});
+  const bool isRightToLeft = viewIsRightToLeft(Object(self()));
   for (std::size_t i = 0; i < icons.size(); ++i) {
-    const double x = columnX(i % columns, size.width);
+    const std::size_t column = i % columns;
+    const double x = columnX(isRightToLeft ? columns - 1 - column : column, size.width);
     const bool isInDock = i >= homeIconCount;
     const std::size_t row = i / columns;
     const double y = isInDock ? dockTop + (dockHeight - iconSize) / 2

@@ -13,6 +13,7 @@ struct SBHomeScreenView : objc::Implementation<SBHomeScreenView> {
   objc::Strong<objc::Object> dock;                 // UIView
   std::vector<objc::Strong<objc::Object>> icons;   // UIView, those of the dock last
   std::vector<objc::Strong<objc::Object>> titles;  // UILabel, of the icons before the dock's
+  objc::Strong<objc::Object> note;                 // UILabel: why the others are dim
 
   objc::Object initWithFrame(CGRect frame);
   // The application of an icon that was tapped.

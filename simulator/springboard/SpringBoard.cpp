@@ -31,7 +31,7 @@ void SpringBoard::applicationDidFinishLaunching(objc::Object) {
 void SpringBoard::registerClass() {
   StandIn<SpringBoard>("SpringBoard", "SpringBoard", "UIApplication")
       .partial<"applicationDidFinishLaunching:", &SpringBoard::applicationDidFinishLaunching>(
-          "of all applications only Settings can be opened")
+          "of all applications only Settings, Clock and Music can be opened")
       .finish();
 }
 

@@ -2,6 +2,7 @@
 #include "simulator/springboard/SBApplication.h"
 #include "simulator/springboard/SBBacklightController.h"
 #include "simulator/springboard/SBFWallpaperView.h"
+#include "simulator/springboard/SBHomeBar.h"
 #include "simulator/springboard/SBHomeScreenView.h"
 #include "simulator/springboard/SBMediaController.h"
 #include "simulator/springboard/SBVolumeControl.h"
@@ -17,6 +18,7 @@ void registerSpringBoard() {
   SBVolumeControl::registerClass();
   SBMediaController::registerClass();
   SBFWallpaperView::registerClass();
+  SBHomeBar::registerClass();
   SBHomeScreenView::registerClass();
   StatusBarView::registerClass();
   SpringBoard::registerClass();

@@ -8,6 +8,7 @@
 #include "simulator/springboard/Shapes.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/application/UIScreen.h"
+#include "simulator/uikit/views/LayoutDirection.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
@@ -29,9 +30,13 @@ constexpr const char* planeText =
     "L 12.4 13.8 L 9.5 13 L 6.6 13.8 L 6.6 12.6 L 8.4 11 L 8.4 7.6 L 2 9.6 L 2 8 L 8.4 4 L 8.4 1 "
     "C 8.4 0 8.7 -1 9.5 -1 Z";
 constexpr const char* moonText = "M 5 1 C 0 3 0 10 5 12 C 8 13 11 12 12.4 9.4 C 7 10 3.6 6 5 1 Z";
-constexpr const char* battery = "R 44.5 0.5 22 11 3.2";
+constexpr const char* batteryCase = "R 44.5 0.5 22 11 3.2";
 constexpr const char* batteryEnd = "M 68 4.2 C 69.4 4.7 69.4 7.3 68 7.8 Z";
 constexpr const char* charge = "R 46.3 2.3 18.4 7.4 1.8";
+
+void move(Object layer, CGPoint by) {
+  objc::send<void, "setAffineTransform:">(layer, CGAffineTransform{1, 0, 0, 1, by.x, by.y});
+}
 
 }  // namespace
 
@@ -46,9 +51,9 @@ Object StatusBarView::initWithFrame(CGRect frame) {
   const Object faint = coreColor({255, 255, 255}, 0.4);
   bars = addShapeLayer(layer, barsText, {white, nullptr});
   waves = addShapeLayer(layer, wavesText, {white, nullptr});
-  addShapeLayer(layer, charge, {white, nullptr});
-  addShapeLayer(layer, battery, {nullptr, faint});
-  addShapeLayer(layer, batteryEnd, {faint, nullptr});
+  battery.push_back(addShapeLayer(layer, charge, {white, nullptr}));
+  battery.push_back(addShapeLayer(layer, batteryCase, {nullptr, faint}));
+  battery.push_back(addShapeLayer(layer, batteryEnd, {faint, nullptr}));
   plane = addShapeLayer(layer, planeText, {white, nullptr});
   moon = addShapeLayer(objc::send<Object, "layer">(made), moonText, {white, nullptr});
   showState();
@@ -60,11 +65,22 @@ void StatusBarView::layoutSubviews() {
   const double width = sizeOf(Object(self())).width;
   // A phone that lies on its side has none.
   setAlpha(Object(self()), width > UIScreen::mainSize.width ? 0 : 1);
-  setFrame(time, {{timeLeft, top}, timeSize});
-  setFrame(symbols, {{width - symbolsRight - symbolsSize.width, top + 4}, symbolsSize});
-  constexpr double moonLeft = 88;
-  objc::send<void, "setAffineTransform:">(moon.get(),
-                                          CGAffineTransform{1, 0, 0, 1, moonLeft, top + 4});
+  constexpr double moonLeft = 88, moonWidth = 13;
+  const bool isRightToLeft = viewIsRightToLeft(Object(self()));
+  const auto x = [&](double left, double its) { return isRightToLeft ? width - left - its : left; };
+  setFrame(time, {{x(timeLeft, timeSize.width), top}, timeSize});
+  setFrame(symbols, {{x(width - symbolsRight - symbolsSize.width, symbolsSize.width), top + 4},
+                     symbolsSize});
+  move(moon, {x(moonLeft, moonWidth), top + 4});
+  if (isRightToLeft) turnSymbolsRound();
+}
+
+// None of them is mirrored itself: only their order is the other one.
+void StatusBarView::turnSymbolsRound() {
+  constexpr double barsWay = 52, wavesWay = 4.5, batteryWay = -44;
+  for (const auto& each : {bars, plane}) move(each, {barsWay, 0});
+  move(waves, {wavesWay, 0});
+  for (const auto& each : battery) move(each, {batteryWay, 0});
 }
 
 void StatusBarView::showState() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "objc/Class.h"
 #include "simulator/coregraphics/Geometry.h"
 
@@ -8,12 +10,13 @@ namespace sim {
 struct StatusBarView : objc::Implementation<StatusBarView> {
   static constexpr double height = 47;  // points, as the camera's notch wants it
 
-  objc::Strong<objc::Object> time;     // UILabel
-  objc::Strong<objc::Object> symbols;  // UIView
-  objc::Strong<objc::Object> bars;     // CAShapeLayer: the mobile network
-  objc::Strong<objc::Object> plane;    // and what stands there in airplane mode
-  objc::Strong<objc::Object> waves;    // Wi-Fi
-  objc::Strong<objc::Object> moon;     // Do Not Disturb, beside the time
+  objc::Strong<objc::Object> time;                  // UILabel
+  objc::Strong<objc::Object> symbols;               // UIView
+  objc::Strong<objc::Object> bars;                  // CAShapeLayer: the mobile network
+  objc::Strong<objc::Object> plane;                 // and what stands there in airplane mode
+  objc::Strong<objc::Object> waves;                 // Wi-Fi
+  std::vector<objc::Strong<objc::Object>> battery;  // CAShapeLayer
+  objc::Strong<objc::Object> moon;                  // Do Not Disturb, beside the time
 
   objc::Object initWithFrame(CGRect frame);
   void layoutSubviews();
@@ -22,6 +25,9 @@ struct StatusBarView : objc::Implementation<StatusBarView> {
   void showState();
 
   static void registerClass();
+
+ private:
+  void turnSymbolsRound();
 };
 
 }  // namespace sim

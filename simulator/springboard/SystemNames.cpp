@@ -12,7 +12,7 @@ struct Name {
   std::string_view english, arabic, german, japanese;
 };
 
-constexpr std::array<Name, 14> names = {{
+constexpr std::array<Name, 22> names = {{
     {"Airplane Mode", "نمط الطيران", "Flugmodus", "機内モード"},
     {"Mobile Data", "البيانات الخلوية", "Mobile Daten", "モバイルデータ通信"},
     {"Wi-Fi", "شبكة Wi-Fi", "WLAN", "Wi-Fi"},
@@ -23,12 +23,20 @@ constexpr std::array<Name, 14> names = {{
     {"Brightness", "الإضاءة", "Helligkeit", "明るさ"},
     {"Rotation Lock", "قفل الاتجاه", "Ausrichtungssperre", "画面の向きのロック"},
     {"Flashlight", "المصباح اليدوي", "Taschenlampe", "フラッシュライト"},
+    {"Calendar", "التقويم", "Kalender", "カレンダー"},
+    {"Photos", "الصور", "Fotos", "写真"},
+    {"Camera", "الكاميرا", "Kamera", "カメラ"},
+    {"Clock", "الساعة", "Uhr", "時計"},
+    {"Weather", "الطقس", "Wetter", "天気"},
+    {"Notes", "الملاحظات", "Notizen", "メモ"},
+    {"Reminders", "التذكيرات", "Erinnerungen", "リマインダー"},
+    {"Settings", "الإعدادات", "Einstellungen", "設定"},
+    {"Music", "الموسيقى", "Musik", "ミュージック"},
     {"Timer", "المؤقت", "Timer", "タイマー"},
-    {"Start", "بدء", "Start", "開始"},
     {"Cancel", "إلغاء", "Abbrechen", "キャンセル"},
     {"Only Settings, Clock and Music open here", "هنا تُفتح الإعدادات والساعة والموسيقى فقط",
-     "Hier öffnen sich nur Settings, Clock und Music",
-     "ここで開くのはSettings、Clock、Musicだけです"},
+     "Hier öffnen sich nur Einstellungen, Uhr und Musik",
+     "ここで開くのは設定、時計、ミュージックだけです"},
 }};
 
 }  // namespace

@@ -15,11 +15,13 @@ const nextTurn = {
 
 export class Device {
   #state;
+  #screen;
   keys = [];
   #buttons = new Map(); // name -> {button, command}
 
   constructor(state, screen, place) {
     this.#state = state;
+    this.#screen = screen;
     this.keys = [
       this.#key("lock-key", say("Lock"), () => this.#lock()),
       this.#key("up-key", say("Volume up"), () => perform("volume-up")),
@@ -107,6 +109,7 @@ export class Device {
     if (this.controlCenterIsOpen) perform("control-center close");
     else if (this.#state.phone.locked) perform("unlock");
     else if (this.#state.phone.settings) perform("settings close");
+    else if (this.#screen.shows("_SBHomeBar")) this.#tapHomeBar();
   }
 
   // One level back, where no button of the screen leads there.
@@ -114,6 +117,12 @@ export class Device {
     if (this.controlCenterIsOpen) perform("control-center close");
     else if (this.#state.phone.settings) perform("settings back");
     else if (!this.#state.phone.locked) this.home();
+  }
+
+  #tapHomeBar() {
+    const { width, height } = this.#screen.size;
+    const place = `${width / 2} ${height - 12}`;
+    perform(`touch began ${place}`, `touch ended ${place}`);
   }
 
   #controlCenter() {

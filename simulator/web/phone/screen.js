@@ -1,6 +1,7 @@
 // The screen: the scene's nodes as elements, patched by id. Nothing is drawn again that did not
 // change; an element stays the same as long as its node lives, and so does the focus in it.
 import { h } from "../ui/dom.js";
+import { Artwork } from "./artwork.js";
 import { NodeElement } from "./node.js";
 
 export class Screen extends EventTarget {
@@ -11,6 +12,7 @@ export class Screen extends EventTarget {
 
   constructor(state) {
     super();
+    new Artwork(state, this.element);
     state.on("scene", (event) =>
       event.whole ? this.#replace(event.detail) : this.#change(event.detail),
     );

@@ -13,7 +13,7 @@ namespace sim::macho {
 struct Segment;
 
 struct Import {
-  // Which library: from 1 in the order of Slice::libraries(); others are its own kinds of search.
+  // Which library: from 1 in the order of Slice::libraries(); below it, whichever has it.
   int library;
   bool isWeak;  // the slice does without it
   std::string name;

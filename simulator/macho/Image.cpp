@@ -113,25 +113,43 @@ void Image::map() {
 }
 
 std::vector<void*> Image::importedAddresses(LibraryLoader loadLibrary) const {
-  std::vector<bool> isThere;
   for (const Library& library : slice_.libraries()) {
-    isThere.push_back(loadLibrary(library.name()));
-    if (!isThere.back() && !library.isWeak)
+    if (!loadLibrary(library.name()) && !library.isWeak)
       throw Error("needs the library " + library.path + ", which the simulator does not have");
   }
   std::vector<void*> addresses;
   for (const Import& import : slice_.fixups().imports) {
-    const auto index = static_cast<std::size_t>(import.library) - 1;
-    if (import.library < 1 || index >= isThere.size())
-      throw Error("looks for " + import.name + " in all libraries at once");
-    const Library& library = slice_.libraries()[index];
-    void* address = isThere[index] ? importedAddress(library.name(), import.name) : nullptr;
-    if (address == nullptr && !import.isWeak)
-      throw Error("needs " + import.name + " of " + library.path +
+    addresses.push_back(import.library > 0 ? ofLibrary(import) : ofAny(import));
+    if (addresses.back() == nullptr && !import.isWeak)
+      throw Error("needs " + import.name + whereFrom(import) +
                   ", which the simulator does not have");
-    addresses.push_back(address);
   }
   return addresses;
+}
+
+// " of /usr/lib/libobjc.A.dylib"
+std::string Image::whereFrom(const Import& import) const {
+  return import.library > 0 ? " of " + libraryOf(import).path : "";
+}
+
+const Library& Image::libraryOf(const Import& import) const {
+  const auto index = static_cast<std::size_t>(import.library) - 1;
+  if (index >= slice_.libraries().size())
+    throw Error("is damaged: " + import.name + " is of a library that it does not name");
+  return slice_.libraries()[index];
+}
+
+void* Image::ofLibrary(const Import& import) const {
+  return importedAddress(libraryOf(import).name(), import.name);
+}
+
+// What several may define, the slice itself, too: one is as good as another.
+void* Image::ofAny(const Import& import) const {
+  const auto own = slice_.exports().find(import.name);
+  if (own != slice_.exports().end()) return base_ + own->second;
+  for (const Library& library : slice_.libraries())
+    if (void* address = importedAddress(library.name(), import.name)) return address;
+  return nullptr;
 }
 
 void Image::bind(LibraryLoader loadLibrary) {

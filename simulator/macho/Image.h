@@ -51,6 +51,10 @@ class Image {
   void map();
   void bind(LibraryLoader loadLibrary);
   std::vector<void*> importedAddresses(LibraryLoader loadLibrary) const;
+  void* ofLibrary(const Import& import) const;
+  void* ofAny(const Import& import) const;
+  const Library& libraryOf(const Import& import) const;
+  std::string whereFrom(const Import& import) const;
   void protect() const;
   void runInitialisers() const;
   char* at(std::uint64_t address) const { return base_ + (address - slice_.begin()); }

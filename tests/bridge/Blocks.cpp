@@ -72,7 +72,7 @@ TEST(Blocks, AreCalledLikeThePlatformCallsThem) {
   auto half = objc::block<double(long)>([](long number) { return double(number) / 2; });
   auto* header = reinterpret_cast<objc::BlockHeader*>(half.get().get());
   // The literal itself is the first argument, and there is no selector.
-  auto invoke = reinterpret_cast<double (*)(objc::BlockHeader*, long)>(header->invoke);
+  auto invoke = objc::loadBlockFunction<double (*)(objc::BlockHeader*, long)>(&header->invoke);
   EXPECT_EQ(invoke(header, 5), 2.5);
 }
 

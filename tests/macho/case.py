@@ -9,7 +9,7 @@ import unittest
 
 HERE = pathlib.Path(__file__).parent
 SLICES = pathlib.Path(os.environ["SLICES"])
-EMULATOR = os.environ["EMULATOR"].split(";") if os.environ["EMULATOR"] else []
+EMULATOR = os.environ["EMULATOR"].split("|") if os.environ["EMULATOR"] else []
 WITHOUT_SIGNATURES = ["max,pauth=off" if word.startswith("max") else word for word in EMULATOR]
 
 

@@ -14,22 +14,7 @@ root=$PWD/build/aarch64-libraries
 mapfile -t packages < <(wanted aarch64)
 [ "$(cat "$root/packages" 2>/dev/null)" != "${packages[*]}" ] || exit 0
 
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-mkdir -p "$work"/{state/lists/partial,cache/archives/partial,packages}
-: >"$work/status"
-# The system's own sources, but neither its lists nor its records.
-cat >"$work/apt.conf" <<END
-APT::Architecture "arm64";
-APT::Architectures { "arm64"; };
-APT::Sandbox::User "";
-Acquire::Languages "none";
-Dir::State "$work/state";
-Dir::State::status "$work/status";
-Dir::Cache "$work/cache";
-END
-export APT_CONFIG=$work/apt.conf
-
+source scripts/apt-for-aarch64.sh
 echo "Downloading libraries for aarch64 ..."
 quietly build/logs/aarch64-update.log apt-get update
 quietly build/logs/aarch64-download.log \

@@ -140,7 +140,16 @@ export class Timeline {
   #wheel(event) {
     event.preventDefault();
     if (Math.abs(event.deltaX) > Math.abs(event.deltaY)) return this.#shift(event.deltaX);
-    this.#zoom(event.deltaY > 0 ? 1.25 : 0.8, this.#timeAt(event.clientX));
+    this.#zoom(event.deltaY > 0 ? 1.25 : 0.8, this.#aimedAt(event.clientX));
+  }
+
+  // Who points near an end means the end.
+  #aimedAt(clientX) {
+    const { first, last } = this.#drawn;
+    const time = this.#timeAt(clientX);
+    const near = (last - first) * 0.03;
+    if (last - time < near) return last;
+    return time - first < near ? first : time;
   }
 
   #shift(pixels, view = this.#drawn) {

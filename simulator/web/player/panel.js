@@ -132,9 +132,8 @@ export class MusicPanel {
     return h(
       "div",
       { class: "track-list" },
-      h("h2", { text: say("Music") }),
+      h("div", { class: "list-head" }, h("h2", { text: say("Music") }), this.#invitation.element),
       h("ol", { id: "tracks", class: "tracks" }),
-      this.#invitation.element,
     );
   }
 

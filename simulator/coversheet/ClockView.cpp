@@ -20,7 +20,7 @@ namespace {
 using objc::Object;
 using objc::Strong;
 
-constexpr long centred = 1;
+constexpr long middleOfLine = 1;
 constexpr CGSize pill = {150, 48};  // points
 
 struct ClockApplication {
@@ -53,9 +53,9 @@ Object ClockView::initWithFrame(CGRect frame) {
   const Object made = super<Object, "initWithFrame:">(frame);
   if (!made) return nullptr;
   fill(made, blackColor(1));
-  title = addLabel(made, {.points = 28, .isBold = true, .alignment = centred});
+  title = addLabel(made, {.points = 28, .isBold = true, .alignment = middleOfLine});
   setText(title, string(systemName("Timer")));
-  left = addLabel(made, {.points = 72, .alignment = centred});
+  left = addLabel(made, {.points = 72, .alignment = middleOfLine});
   for (const int minutes : {1, 5, 15, 60})
     starts.emplace_back(
         addPill(made, minutesText(minutes), rgbColor(0.1, 0.35, 0.18), objc::selector<"_start:">()),

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "objc/Ownership.h"
+#include "simulator/drawing/Covered.h"
 #include "simulator/drawing/SceneBuilder.h"
 #include "simulator/drawing/SceneJson.h"
 #include "simulator/drawing/ScreenMotion.h"
@@ -14,7 +15,9 @@ namespace sim {
 FlatScene SceneSource::look() {
   const objc::AutoreleasePool pool;
   moves_ = screenMoves(Phone::current().clock.uptime());
-  return flattened(screenScene());
+  scene::Node screen = screenScene();
+  dropCoveredWindows(screen);
+  return flattened(screen);
 }
 
 nlohmann::json SceneSource::whole() {

@@ -95,9 +95,8 @@ std::vector<std::string> ServedPhone::firstLines() const {
     lines.push_back(music);
     lines.emplace_back("repeat-all YES");  // music that ends by itself would need no timer
   }
-  // Whoever holds a phone has unlocked it. The host makes its lock screen when it is first locked,
-  // and a timer that is set before is never seen there.
-  for (const char* line : {"boot", "lock", "unlock"}) lines.emplace_back(line);
+  // A phone comes up on its lock screen.
+  for (const char* line : {"boot", "lock"}) lines.emplace_back(line);
   return lines;
 }
 
@@ -130,6 +129,8 @@ void ServedPhone::resume() {
   linesPlayed_ = long(saved.lineNumber);
   interpreter_.emplace(session_, table_, std::move(lines));
   interpreter_->resume(saved);
+  // A script says itself when the phone is locked.
+  if (!state_.script && session_.state == HostState::running) play("lock");
 }
 
 void ServedPhone::rebase() {

@@ -19,7 +19,7 @@ TEST(Recordings, HoldWhatWasDoneAndWhen) {
   program.post("/api/time", {{"advance", 0.5}});
   program.command("next-track");
   EXPECT_EQ(program.get("/api/recording.phone").body,
-            "boot\nlock\nunlock\nplaylist \"A\" 180\nadvance 10s\nvolume 0.25\nadvance-to "
+            "boot\nlock\nplaylist \"A\" 180\nadvance 10s\nvolume 0.25\nadvance-to "
             "10.5\nnext-track\n");
 }
 
@@ -100,7 +100,7 @@ TEST(Recordings, RepeatALookThatTheJournalShows) {
   program.command({"lock", "get NSObject.new.description", "get NSObject.new.hash"});
   program.command({"get UIDevice.currentDevice.systemVersion", "control-center open"});
   EXPECT_EQ(recordingOf(program),
-            "boot\nlock\nunlock\nlock\nget NSObject.new.description\nget NSObject.new.hash\n"
+            "boot\nlock\nlock\nget NSObject.new.description\nget NSObject.new.hash\n"
             "control-center open\n");
 }
 
@@ -146,7 +146,7 @@ TEST(Recordings, GoOnAfterACrashAsTimePassed) {
 // The haptic of the extension's icon buttons is an action's.
 TEST(Recordings, HoldTapsOfAPageAndOfAScriptAlike) {
   const ServedProgram program;
-  program.command({"let b ButtonWithIncreasedTouchArea alloc",
+  program.command({"unlock", "let b ButtonWithIncreasedTouchArea alloc",
                    "send $b initWithFrame: {{100, 200}, {40, 40}}",
                    "send UIApplication.sharedApplication.keyWindow addSubview: $b",
                    "send $b addTarget:action:forControlEvents: $b selector setNeedsLayout 64"});

@@ -59,6 +59,20 @@ TEST(Restarts, BringADeadHostBack) {
   EXPECT_EQ(program.command("lock").status, 200);
 }
 
+TEST(Restarts, ComeUpOnTheLockScreen) {
+  const ServedProgram program;
+  const auto isLocked = [&program] {
+    EventReader page(program);
+    return page.next("snapshot").data.at("phone").at("locked") == true;
+  };
+  EXPECT_TRUE(isLocked());
+  program.command("unlock");
+  EXPECT_FALSE(isLocked());
+  program.command("respring");
+  EXPECT_TRUE(isLocked());
+  EXPECT_EQ(program.get("/api/recording.phone").body, "boot\nlock\nunlock\nrespring\nlock\n");
+}
+
 TEST(Restarts, HappenWhereTheHostIsToDie) {
   const ServedProgram program;
   program.command({"set volumeFadeOutEnabled NO",
@@ -95,9 +109,9 @@ TEST(SetUp, MakesAFreshPhone) {
   EXPECT_EQ(setup.at("lines"), (json{"ios 16.1", "locale ar_SA"}));
   EXPECT_EQ(program.post("/api/time", json::object()).asJson().at("uptime"), 0.0);
   const std::string recording = program.get("/api/recording.phone").body;
-  EXPECT_EQ(recording, "set volumeFadeOutTime 7\nios 16.1\nlocale ar_SA\nboot\nlock\nunlock\n");
+  EXPECT_EQ(recording, "set volumeFadeOutTime 7\nios 16.1\nlocale ar_SA\nboot\nlock\n");
   program.post("/api/setup", {{"lines", json::array()}, {"settings", "default"}});
-  EXPECT_EQ(program.get("/api/recording.phone").body, "boot\nlock\nunlock\n");
+  EXPECT_EQ(program.get("/api/recording.phone").body, "boot\nlock\n");
 }
 
 TEST(SetUp, WithAMisspeltNameIsRefused) {

@@ -44,6 +44,9 @@ TEST(Timing, GoesByItself) {
 
 TEST(Timing, StepsToWhatIsDueNext) {
   const ServedProgram program({"--no-tweak"});
+  // The lock screen's player shows the time, second by second.
+  EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 1.0);
+  program.command("unlock");
   EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 45.0);
   program.command({"repeat-all NO", "playlist \"A\" 10.25 \"B\" 20"});
   EXPECT_EQ(program.post("/api/time", {{"step", true}}).asJson().at("uptime"), 55.25);

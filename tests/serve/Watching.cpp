@@ -25,7 +25,7 @@ TEST(Watching, BeginsWithEverything) {
   EXPECT_EQ(all.at("clock").at("paused"), true);
   EXPECT_EQ(all.at("phone"), (json{{"host", "running"},
                                    {"screenOn", true},
-                                   {"locked", false},
+                                   {"locked", true},
                                    {"controlCenter", false},
                                    {"settings", false},
                                    {"orientation", "portrait"}}));
@@ -39,8 +39,8 @@ TEST(Watching, TellsWhatChanges) {
   page.next("snapshot");
   program.command("volume 0.25");
   EXPECT_EQ(page.next("player").data.at("volume"), 0.25);
-  program.command("lock");
-  EXPECT_EQ(page.next("phone").data.at("locked"), true);
+  program.command("unlock");
+  EXPECT_EQ(page.next("phone").data.at("locked"), false);
   program.command("screen off");
   EXPECT_EQ(page.next("phone").data.at("screenOn"), false);
   program.command("set volumeFadeOutTime 7");
@@ -108,6 +108,7 @@ TEST(Watching, TellsOfTheClockOnlyWhenItLeavesItsCourse) {
 
 TEST(Watching, SendsThoseNodesOfTheSceneThatChange) {
   const ServedProgram program;
+  program.command("unlock");
   EventReader page(program);
   const auto known = page.next("snapshot").data.at("scene").at("nodes").size();
   program.command({"let window UIApplication.sharedApplication.keyWindow", "let view UIView.new",

@@ -42,7 +42,8 @@ const widths = (page, scene) =>
 for (const locale of ["en_US", "ar_SA", "ru_RU", "hi_IN"])
   phoneTest(`text in ${locale} is as wide as measured`, {}, async (served, page) => {
     await andRestart(page, () => served.post("/api/setup", { lines: [`locale ${locale}`] }));
-    await served.run("settings open", "advance 5s", 'settings tap "Dozewell2"', "advance 5s");
+    await served.run("unlock", "settings open", "advance 5s");
+    await served.run('settings tap "Dozewell2"', "advance 5s");
     const lines = await widths(page, await sceneOf(served));
     assert.ok(lines.length > 20, `there are ${lines.length} lines`);
     // The browser does not kern with blanks, nor quotes with the letters of another script.

@@ -23,6 +23,7 @@ async function drag(page, from, to, command) {
 }
 
 async function openPane(page) {
+  await andCommand(page, "unlock", () => page.click("#device-home"));
   await tap(page, "Settings");
   await tap(page, "Dozewell2");
   await onScreen(page, "button", "Timer offers").waitFor();
@@ -70,6 +71,7 @@ phoneTest("the page's own settings follow the pane", {}, async (served, page) =>
   await page.click("#tab-settings");
   await page.locator("#setting-letTheSongFinishEnabled:not(:checked)").waitFor();
   await served.run(
+    "unlock",
     "settings open",
     'settings tap "Dozewell2"',
     'settings tap "Let the song finish"',

@@ -1,4 +1,5 @@
-// The picture of what plays, wherever the phone has a place for it: the scene itself does not know it.
+// The picture of what plays, wherever the phone has a place for it: the scene itself does not know
+// it.
 import { below } from "../server/address.js";
 import { read } from "../server/requests.js";
 
@@ -14,10 +15,15 @@ export class Artwork {
     this.#learn();
   }
 
+  // Without the list there are no pictures.
   async #learn() {
-    const tracks = await read("music").catch(() => []);
-    this.#covers = new Set(tracks.filter(({ cover }) => cover).map(({ id }) => id));
-    this.#show();
+    try {
+      const tracks = await read("music");
+      this.#covers = new Set(tracks.filter(({ cover }) => cover).map(({ id }) => id));
+      this.#show();
+    } catch {
+      this.#covers.clear();
+    }
   }
 
   #show() {

@@ -126,7 +126,7 @@ phoneTest("a piece leads to the moment before it", {}, async (served, page) => {
 });
 
 phoneTest("the timeline shows the end of a long night", {}, async (served, page) => {
-  await served.run("advance 8h", "volume 0.8", "lock", "advance 20s", "unlock");
+  await served.run("unlock", "advance 8h", "volume 0.8", "lock", "advance 20s", "unlock");
   const marks = page.locator("#timeline .mark.user");
   const spread = () =>
     marks.evaluateAll((all) => {

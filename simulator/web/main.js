@@ -42,7 +42,7 @@ new Keyboard(handset, screen, device);
 new Hint(state, screen);
 new Life(state, byId("life-place"));
 new Alerts(screen);
-byId("top-state").append(new PhoneTools(handset).element);
+byId("top-state").append(new PhoneTools(handset, state).element);
 
 new TimePanel(state);
 new MusicPanel(state);

@@ -36,7 +36,7 @@ phoneTest("an audit finds nothing", { page: closed }, async (served, page) => {
   await pass(served, 2);
   found.push(...(await audit(page, "an alert")));
   await page.locator("#entries .entry-line").first().click();
-  for (const name of ["journal", "settings", "setup", "script"]) {
+  for (const name of ["journal", "settings", "setup", "script", "inside"]) {
     await page.click(`#tab-${name}`);
     for (const colorScheme of ["light", "dark"]) {
       await page.emulateMedia({ colorScheme });

@@ -1,7 +1,8 @@
 // In windows of all sizes, light and dark, with the phone upright and on its side, every control
 // can be pressed: none is outside, none under another.
 import assert from "node:assert/strict";
-import { andCommand, phoneTest } from "./harness.mjs";
+import { readFileSync } from "node:fs";
+import { andCommand, onScreen, pass, phoneTest } from "./harness.mjs";
 
 const sizes = [
   [1400, 900],
@@ -134,4 +135,33 @@ phoneTest("a picture of the phone is saved", {}, async (served, page) => {
     page.click("#phone-picture"),
   ]);
   assert.match(download.suggestedFilename(), /^phone-\d{8}-\d{6}\.png$/);
+});
+
+phoneTest("a film of the last half minute is saved", {}, async (served, page) => {
+  await served.run("control-center open");
+  await pass(served, 1);
+  await onScreen(page, "button", "Sleep timer").waitFor();
+  const [download] = await Promise.all([page.waitForEvent("download"), page.click("#phone-film")]);
+  assert.match(download.suggestedFilename(), /^phone-\d{8}-\d{6}\.apng$/);
+  const file = readFileSync(await download.path());
+  const frames = file.readUInt32BE(file.indexOf("acTL") + 4);
+  assert.ok(frames >= 2, `${frames} frames`);
+  // The browser takes it for a picture, and its frames differ.
+  const [count, differ] = await page.evaluate(async (base64) => {
+    const data = Uint8Array.from(atob(base64), (letter) => letter.charCodeAt(0));
+    const decoder = new ImageDecoder({ data, type: "image/png" });
+    await decoder.tracks.ready;
+    await decoder.completed;
+    const total = decoder.tracks.selectedTrack.frameCount;
+    const pixels = async (frameIndex) => {
+      const { image } = await decoder.decode({ frameIndex });
+      const bytes = new Uint8Array(image.allocationSize());
+      await image.copyTo(bytes);
+      return bytes;
+    };
+    const [first, last] = [await pixels(0), await pixels(total - 1)];
+    return [total, first.filter((byte, index) => byte !== last[index]).length];
+  }, file.toString("base64"));
+  assert.equal(count, frames);
+  assert.ok(differ > 10_000, `${differ} bytes differ`);
 });

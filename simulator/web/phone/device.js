@@ -1,6 +1,5 @@
 // What a hand does to the phone: the side keys, and a bar of everything else.
 import { perform, run } from "../server/commands.js";
-import { read } from "../server/requests.js";
 import { h } from "../ui/dom.js";
 import { icon } from "../ui/icons.js";
 import { say } from "../ui/language.js";
@@ -17,7 +16,7 @@ export class Device {
   #state;
   #screen;
   keys = [];
-  #buttons = new Map(); // name -> {button, command}
+  #buttons = new Map(); // by name
 
   constructor(state, screen, place) {
     this.#state = state;
@@ -30,17 +29,6 @@ export class Device {
     place.append(...this.#makeButtons(), this.#makeMore());
     for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());
     screen.addEventListener("change", () => this.#show());
-    this.#learn();
-  }
-
-  // Leaves out what this phone's language has no word for.
-  async #learn() {
-    try {
-      const known = new Set((await read("api/commands")).map((command) => command.name));
-      for (const { button, command } of this.#buttons.values()) button.hidden = !known.has(command);
-    } catch (error) {
-      toast(error.message, "problem");
-    }
   }
 
   #key(name, label, press) {
@@ -53,7 +41,7 @@ export class Device {
     });
   }
 
-  #button(name, label, command, press) {
+  #button(name, label, press) {
     const button = h(
       "button",
       {
@@ -66,35 +54,31 @@ export class Device {
       icon(name),
       h("span", { text: label }),
     );
-    this.#buttons.set(name, { button, command });
+    this.#buttons.set(name, button);
     return button;
   }
 
   #makeButtons() {
     return [
-      this.#button("controls", say("Control Center"), "control-center", () =>
-        this.#controlCenter(),
-      ),
-      this.#button("lock", say("Lock"), "lock", () => this.#lock()),
-      this.#button("home", say("Home"), "control-center", () => this.home()),
-      this.#button("screen", say("Screen"), "screen", () =>
+      this.#button("controls", say("Control Center"), () => this.#controlCenter()),
+      this.#button("lock", say("Lock"), () => this.#lock()),
+      this.#button("home", say("Home"), () => this.home()),
+      this.#button("screen", say("Screen"), () =>
         perform(`screen ${this.#state.phone.screenOn ? "off" : "on"}`),
       ),
-      this.#button("shake", say("Shake"), "shake", () => this.#shake()),
-      this.#button("rotate", say("Rotate"), "rotate", () =>
+      this.#button("shake", say("Shake"), () => this.#shake()),
+      this.#button("rotate", say("Rotate"), () =>
         perform(`rotate ${nextTurn[this.#state.phone.orientation] ?? "portrait"}`),
       ),
-      this.#button("headphones", say("Headphones away"), "bluetooth", () =>
-        perform("bluetooth none"),
-      ),
+      this.#button("headphones", say("Headphones away"), () => perform("bluetooth none")),
     ];
   }
 
   #makeMore() {
-    const respring = this.#button("respring", say("Respring"), "respring", () =>
+    const respring = this.#button("respring", say("Respring"), () =>
       perform(this.#state.phone.host === "off" ? "boot" : "respring"),
     );
-    const kill = this.#button("kill", say("Kill"), "kill", () => perform("kill"));
+    const kill = this.#button("kill", say("Kill"), () => perform("kill"));
     respring.title = say("Restarts the home screen in order");
     kill.title = say("The home screen dies at once, without an orderly end");
     return h("div", { class: "device-rare" }, respring, kill);
@@ -141,7 +125,7 @@ export class Device {
   }
 
   #rename(name, label, picture = name) {
-    const { button } = this.#buttons.get(name);
+    const button = this.#buttons.get(name);
     if (button.dataset.label === label) return;
     button.dataset.label = label;
     button.title = label;
@@ -158,10 +142,8 @@ export class Device {
       off: say("Switch on"),
     };
     this.#rename("respring", starts[host]);
-    for (const [name, { button }] of this.#buttons)
+    for (const [name, button] of this.#buttons)
       button.disabled = host !== "running" && !["respring", "headphones"].includes(name);
-    this.#buttons
-      .get("controls")
-      .button.setAttribute("aria-pressed", String(this.controlCenterIsOpen));
+    this.#buttons.get("controls").setAttribute("aria-pressed", String(this.controlCenterIsOpen));
   }
 }

@@ -38,8 +38,9 @@ export class Levels {
   #button() {
     const alert = this.#seen(alertKind);
     if (alert) return buttonsIn(alert).length > 0 ? cancels(alert) : null;
-    const page = pages.map((kind) => this.#seen(kind)).find((each) => each);
-    return page?.querySelector('[data-kind="UIButton"][data-role="button"]');
+    // A page that is leaving has none any more.
+    const back = '[data-kind="UIButton"][data-role="button"]';
+    return pages.map((kind) => this.#seen(kind)?.querySelector(back)).find((each) => each);
   }
 
   #moduleIsOpen() {

@@ -111,8 +111,10 @@ phoneTest("escape goes back one level at a time", {}, async (served, page) => {
     await seen.waitFor();
     assert.equal(await focusIsOn(page), "glass");
   }
+  await onScreen(page, "spinbutton", "min").waitFor({ state: "detached" });
   await key(page, "touch ended", "Escape"); // the module becomes small
   await pass(served, 2);
+  await onScreen(page, "button", "previous track").waitFor();
   await key(page, "control-center close", "Escape");
 });
 

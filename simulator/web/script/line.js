@@ -34,7 +34,7 @@ export class CommandLine {
     );
     this.#input.addEventListener("input", () => this.#explain());
     this.#input.addEventListener("keydown", (event) => this.#recall(event));
-    this.#learn();
+    this.#input.addEventListener("focus", () => this.#learn(), { once: true });
   }
 
   async #learn() {

@@ -43,14 +43,14 @@ def untouched(code, run, signing):
 
 def read_kept(file):
     """Names of functions, each with the reason why no script enters it: the comment above it."""
-    kept, reason, after = {}, "", False
+    kept, reason = {}, ""
     for line in file.read_text(encoding="utf-8").splitlines():
         if line.startswith("#"):
-            reason = f"{reason} {line[1:].strip()}" if not after else line[1:].strip()
-            after = False
+            reason = f"{reason} {line[1:].strip()}".strip()
         elif line.strip():
             kept[line.strip()] = reason
-            after = True
+        else:
+            reason = ""
     return kept
 
 

@@ -133,7 +133,8 @@ phoneTest("the timeline shows the end of a long night", {}, async (served, page)
       const places = all.map((mark) => mark.x1.baseVal.value).filter((x) => x > 500);
       return Math.max(...places) - Math.min(...places);
     });
-  await page.locator("#entries .piece", { hasText: "You unlock" }).nth(1).waitFor();
+  const later = '#entries .entry:has-text("You set the volume") ~ .entry .piece';
+  await page.locator(later, { hasText: "You unlock" }).waitFor();
   await page.getByRole("button", { name: "The night's end" }).click();
   const far = await spread();
   const place = await marks.last().boundingBox();

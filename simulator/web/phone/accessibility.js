@@ -24,9 +24,9 @@ function set(element, name, value) {
 function describeAmount(element, role, value) {
   const amount = turns(role) ? numberIn(value?.replace(/[%٪\s]/g, "")) : NaN;
   set(element, "aria-valuenow", Number.isNaN(amount) ? null : amount);
-  if (role !== "slider") return;
-  set(element, "aria-valuemin", 0);
-  set(element, "aria-valuemax", 100);
+  const isSlider = role === "slider";
+  set(element, "aria-valuemin", isSlider ? 0 : null);
+  set(element, "aria-valuemax", isSlider ? 100 : null);
 }
 
 export function describe(element, { kind, role, label, value, enabled, selected, row, rows }) {

@@ -69,7 +69,6 @@ export class Hint {
       return say("The music has stopped. Good night.");
     if (!screenOn) return say("Tap the phone to light its screen.");
     if (localStorage.getItem(key)) return "";
-    if (locked) return say("Unlock the phone: press its side key.");
     if (this.#screen.shows("ChooseSnoozeTimeView"))
       return say("Choose how long the music may play, then confirm.");
     if (this.#screen.shows("OnTimerEndsSettingsView"))
@@ -78,6 +77,7 @@ export class Hint {
       );
     if (this.#screen.shows("DozewellButton"))
       return say("The moon beside the song is the sleep timer. Tap it.");
+    if (locked) return say("Unlock the phone: press its side key.");
     return say("Open Control Center to find the moon: pull down from the upper right corner.");
   }
 

@@ -1,7 +1,7 @@
 // The phone's clock and how fast it goes: from life's own pace to an hour in a second.
 import { post } from "../server/requests.js";
 import { byId, h } from "../ui/dom.js";
-import { clockDate, clockSeconds, clockTime, duration } from "../ui/format.js";
+import { clockAsIn, clockDate, duration } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
 import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
@@ -151,8 +151,7 @@ export class TimePanel {
   #tick() {
     const wall = this.#state.wall();
     const p = this.#parts;
-    p.time.textContent = clockTime(wall);
-    p.seconds.textContent = clockSeconds(wall);
+    [p.time.textContent, p.seconds.textContent] = clockAsIn(this.#state.setup.locale, wall);
     p.date.textContent = clockDate(wall);
     p.uptime.textContent = this.#state.clock.paused
       ? say("Time stands still")

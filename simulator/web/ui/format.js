@@ -22,6 +22,16 @@ export function clockTime(wall) {
   return `${two(date.getUTCHours())}:${two(date.getUTCMinutes())}`;
 }
 
+// As the phone's region has it, which may count to twelve: ["10:15", "07 PM"]
+export function clockAsIn(region, wall) {
+  const options = { hour: "numeric", minute: "2-digit", timeZone: "UTC", numberingSystem: "latn" };
+  const parts = new Intl.DateTimeFormat(region?.replaceAll("_", "-") || "en-US", options)
+    .formatToParts(new Date(wall * 1000))
+    .reduce((all, { type, value }) => ({ ...all, [type]: value }), {});
+  const seconds = [clockSeconds(wall), parts.dayPeriod].filter(Boolean).join(" ");
+  return [`${parts.hour}:${parts.minute}`, seconds];
+}
+
 export const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
 
 export function clockDate(wall) {

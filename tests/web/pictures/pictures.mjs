@@ -1,5 +1,6 @@
 // usage: pictures.mjs FOLDER, with the environment of the browser tests: takes the README's
 // pictures.
+import { readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
 import {
   andCommand,
@@ -37,6 +38,7 @@ async function withPhone(context, body) {
   await served.start();
   try {
     const page = await openPage(served, context);
+    await served.run("unlock");
     await pass(served, 12);
     await body(served, page);
     await page.context().close();
@@ -48,7 +50,7 @@ async function withPhone(context, body) {
 async function turnMinutes(served, page, rows) {
   await onScreen(page, "spinbutton", "min").focus();
   for (let row = 0; row < rows; ++row)
-    await andCommand(page, "scroll", () => page.keyboard.press("ArrowDown"));
+    await andCommand(page, "scroll", () => page.keyboard.press("ArrowUp"));
   await page.evaluate(() => document.activeElement.blur());
   await pass(served, 1);
 }
@@ -89,5 +91,52 @@ await withPhone(
     await take(page, "narrow");
   },
 );
+
+// On the page, which can read and write animated pictures: every third frame at half the width.
+async function smaller(base64) {
+  const { animated } = await import(new URL("film/apng.js", document.baseURI));
+  const data = Uint8Array.from(atob(base64), (letter) => letter.charCodeAt(0));
+  const decoder = new ImageDecoder({ data, type: "image/png" });
+  await decoder.tracks.ready;
+  await decoder.completed;
+  const frames = [];
+  for (let frameIndex = 0; frameIndex < decoder.tracks.selectedTrack.frameCount; frameIndex += 3) {
+    const { image } = await decoder.decode({ frameIndex });
+    const canvas = new OffscreenCanvas(image.displayWidth / 2, image.displayHeight / 2);
+    canvas.getContext("2d").drawImage(image, 0, 0, canvas.width, canvas.height);
+    const blob = await canvas.convertToBlob({ type: "image/png" });
+    frames.push({
+      png: new Uint8Array(await blob.arrayBuffer()),
+      lasts: (3 * image.duration) / 1000,
+    });
+  }
+  const bytes = new Uint8Array(await animated(frames).arrayBuffer());
+  return btoa(bytes.reduce((text, byte) => text + String.fromCharCode(byte), ""));
+}
+
+// A night in half a minute, filmed by the page itself.
+await withPhone({ viewport: { width: 1000, height: 700 } }, async (served, page) => {
+  const seconds = (count) => page.waitForTimeout(count * 1000);
+  const run = (speed) => served.post("/api/time", { speed, paused: false });
+  await run(1);
+  await andCommand(page, "control-center open", () => page.click("#device-controls"));
+  await seconds(2);
+  await press(page, onScreen(page, "button", "Sleep timer"));
+  await seconds(2);
+  await onScreen(page, "spinbutton", "min").focus();
+  await andCommand(page, "scroll", () => page.keyboard.press("ArrowUp"));
+  await seconds(2);
+  await press(page, onScreen(page, "button", "Confirm"));
+  await seconds(3);
+  await run(60);
+  await seconds(9);
+  await run(4);
+  await journalHas(page, "SBMediaController pause");
+  await run(1);
+  await seconds(2);
+  const [film] = await Promise.all([page.waitForEvent("download"), page.click("#phone-film")]);
+  const bytes = readFileSync(await film.path()).toString("base64");
+  writeFileSync(join(folder, "night.png"), await page.evaluate(smaller, bytes), "base64");
+});
 
 await closeBrowser();

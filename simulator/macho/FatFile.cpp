@@ -12,9 +12,22 @@ constexpr std::uint32_t mostSlices = 30;
 
 Architecture architectureOf(const Bytes& slice) {
   const auto magic = slice.read<std::uint32_t>(0);
-  if (magic == thin32Magic) throw Error("is for processors of 32 bits");
-  if (magic != thinMagic) throw Error("is damaged: a slice does not begin as one");
-  return {slice.read<std::uint32_t>(4), slice.read<std::uint32_t>(8)};
+  const Architecture found{slice.read<std::uint32_t>(4), slice.read<std::uint32_t>(8)};
+  // One of 32 bits is never chosen, but older libraries have it beside the others.
+  const bool is32Bits = magic == thin32Magic && found.cpu != arm64.cpu;
+  if (magic != thinMagic && !is32Bits) throw Error("is damaged: a slice does not begin as one");
+  return found;
+}
+
+// The phones' loader takes no file in which two slices share bytes.
+void requireApart(const std::vector<SliceBytes>& slices) {
+  const auto overlap = [](const Bytes& one, const Bytes& other) {
+    return one.data() < other.data() + other.size() && other.data() < one.data() + one.size();
+  };
+  for (const SliceBytes& slice : slices)
+    for (const SliceBytes& other : slices)
+      if (&slice != &other && overlap(slice.bytes, other.bytes))
+        throw Error("is damaged: two slices overlap");
 }
 
 const SliceBytes* find(const std::vector<SliceBytes>& slices, const Architecture& wanted) {
@@ -56,6 +69,7 @@ std::vector<SliceBytes> slicesOf(const Bytes& file) {
   if (magic != fatMagic) return {{architectureOf(file), file}};
   constexpr std::uint64_t headerSize = 8, entrySize = 20;
   const std::uint32_t count = file.readBigEndian(4);
+  if (count == 0) throw Error("is damaged: it has no slices");
   if (count > mostSlices) throw Error("is damaged: too many slices");
   std::vector<SliceBytes> slices;
   for (std::uint32_t index = 0; index < count; ++index) {
@@ -64,6 +78,7 @@ std::vector<SliceBytes> slicesOf(const Bytes& file) {
         file.part(file.readBigEndian(entry + 8), file.readBigEndian(entry + 12), "a slice");
     slices.push_back({architectureOf(slice), slice});
   }
+  requireApart(slices);
   return slices;
 }
 

@@ -70,7 +70,18 @@ TEST(FatFiles, areRefusedWithoutASliceForTheProcessor) {
             "has only code that signs its pointers (arm64e), and this processor cannot");
   EXPECT_EQ(chosen(fat({intel, old}), true),
             "has no code for arm64 or arm64e, only for: x86_64, arm64e.old");
-  EXPECT_EQ(chosen(fat({}), true), "has no code for arm64 or arm64e, only for: ");
+}
+
+TEST(FatFiles, mayHaveASliceOf32Bits) {
+  const auto of32Bits = [](std::string file, std::size_t slice) {
+    file[slice] = '\xCE';
+    return file;
+  };
+  const Architecture old32{12, 9};
+  const std::size_t first = 8 + 20 * 2;
+  EXPECT_EQ(chosen(of32Bits(fat({old32, arm64}), first), true), "arm64");
+  EXPECT_EQ(chosen(of32Bits(slice(old32), 0), true),
+            "has no code for arm64 or arm64e, only for: arm");
 }
 
 TEST(FatFiles, areDamagedWhereASliceIsNotThere) {
@@ -80,6 +91,14 @@ TEST(FatFiles, areDamagedWhereASliceIsNotThere) {
   std::string wrong = both;
   wrong[48] = 'x';
   EXPECT_EQ(chosen(wrong, true), "is damaged: a slice does not begin as one");
+  EXPECT_EQ(chosen(fat({}), true), "is damaged: it has no slices");
+}
+
+TEST(FatFiles, areDamagedWhereSlicesOverlap) {
+  std::string both = fat({arm64, arm64e});
+  const std::size_t offset = 8 + 8, entry = 20;
+  both.replace(offset + entry, 4, both.substr(offset, 4));
+  EXPECT_EQ(chosen(both, true), "is damaged: two slices overlap");
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <memory>
 #include <vector>
 
 #include "objc/Block.h"
@@ -118,9 +120,12 @@ TEST(Signing, isOfBlocksThatOwn) {
 }
 
 TEST(SigningDeathTest, isAskedOfBlocks) {
+  using Literal = objc::BlockLiteral<void(), void (*)()>;
   const auto copyWith = [](void (*change)(objc::BlockHeader&)) {
+    // All at once: in one place each would have the same signature.
+    std::vector<std::unique_ptr<Literal>> literals;
     for (int count = 0; count < severalTimes; ++count) {
-      objc::BlockLiteral<void(), void (*)()> literal([] {});
+      Literal& literal = *literals.emplace_back(std::make_unique<Literal>([] {}));
       change(literal.header);
       _Block_copy(&literal);
     }
@@ -219,6 +224,82 @@ TEST(Signing, isOfFunctionsFoundByName) {
   EXPECT_EQ(entries::dlsym(everywhere, "_dispatch_main_q"), &_dispatch_main_q);
   EXPECT_EQ(entries::dlsym(everywhere, "nobodyHasThis"), nullptr);
   EXPECT_EQ(entries::dlsym(nullptr, "objc_getClass"), nullptr);
+}
+
+// Stripping a signature would do for what is signed well, so each place is given what is not.
+TEST(SigningDeathTest, isAskedWhereverFunctionsAreTaken) {
+  using Take = void (*)(Class, SEL, void*);
+  const auto takeEach = [](Take take) {
+    Class cls = makeClass("TakesUnsigned");
+    const SEL name = sel_registerName("number");
+    class_addMethod(cls, name, reinterpret_cast<IMP>(&seven), "q@:");
+    for (void* each : {reinterpret_cast<void*>(&seven), reinterpret_cast<void*>(&eight),
+                       reinterpret_cast<void*>(&makeClass), reinterpret_cast<void*>(&bits),
+                       reinterpret_cast<void*>(&answer)})
+      take(cls, name, each);
+    // Whatever was taken is not to be run: a test that fails does not crash.
+    std::_Exit(0);
+  };
+  const char* const refused = "is not signed as it must be";
+  EXPECT_DEATH(takeEach([](Class cls, SEL name, void* each) {
+                 entries::class_replaceMethod(cls, name, reinterpret_cast<IMP>(each), "q@:");
+               }),
+               refused);
+  EXPECT_DEATH(takeEach([](Class cls, SEL name, void* each) {
+                 entries::method_setImplementation(class_getInstanceMethod(cls, name),
+                                                   reinterpret_cast<IMP>(each));
+               }),
+               refused);
+  EXPECT_DEATH(takeEach([](Class cls, SEL name, void* each) {
+                 IMP previous = nullptr;
+                 entries::MSHookMessageEx(cls, name, reinterpret_cast<IMP>(each), &previous);
+               }),
+               refused);
+  EXPECT_DEATH(takeEach([](Class, SEL, void* each) {
+                 dispatch_once_t predicate = ~dispatch_once_t{0};  // done
+                 entries::dispatch_once_f(&predicate, nullptr,
+                                          reinterpret_cast<dispatch_function_t>(each));
+               }),
+               refused);
+  EXPECT_DEATH(takeEach([](Class, SEL, void* each) {
+                 entries::dispatch_async_f(&_dispatch_main_q, nullptr,
+                                           reinterpret_cast<dispatch_function_t>(each));
+               }),
+               refused);
+  EXPECT_DEATH(takeEach([](Class, SEL, void* each) {
+                 entries::dispatch_after_f(DISPATCH_TIME_FOREVER, &_dispatch_main_q, nullptr,
+                                           reinterpret_cast<dispatch_function_t>(each));
+               }),
+               refused);
+}
+
+struct Owning {
+  objc::Strong<objc::Object> owned;
+  void operator()() const {}
+};
+
+TEST(SigningDeathTest, isAskedOfTheHelpersOfBlocks) {
+  using Literal = objc::BlockLiteral<void(), Owning>;
+  const auto useWith = [](void (*change)(Literal & literal)) {
+    std::vector<std::unique_ptr<Literal>> literals;
+    for (int count = 0; count < severalTimes; ++count) {
+      change(*literals.emplace_back(std::make_unique<Literal>(Owning{})));
+    }
+    std::_Exit(0);
+  };
+  EXPECT_DEATH(useWith([](Literal& literal) {
+                 void*& helper = literal.descriptor.copy;
+                 helper = authenticatedFunction(helper, "the sample", &helper);
+                 _Block_copy(&literal);
+               }),
+               "a block's copy helper is not signed as it must be");
+  EXPECT_DEATH(useWith([](Literal& literal) {
+                 auto* copied = static_cast<Literal*>(_Block_copy(&literal));
+                 void*& helper = copied->descriptor.dispose;
+                 helper = authenticatedFunction(helper, "the sample", &helper);
+                 _Block_release(copied);
+               }),
+               "a block's dispose helper is not signed as it must be");
 }
 
 }  // namespace

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <cstddef>
+#include <new>
+#include <type_traits>
 
 #include "objc/Class.h"
 
@@ -14,14 +16,39 @@ struct ProbeView : objc::Object {
   unsigned long retainCount() const { return objc::send<unsigned long, "retainCount">(*this); }
 };
 
+// A function with what it has captured. Phones run it, too, where std::function cannot be had: the
+// compiler for arm64e leaves its static table of functions unsigned.
+class DeallocAction {
+ public:
+  template <class Function>
+  DeallocAction& operator=(Function function) {
+    static_assert(std::is_trivially_destructible_v<Function> &&
+                  sizeof function <= sizeof captured_);
+    new (captured_) Function(function);
+    call_ = [](void* captured, ProbeView probe) { (*static_cast<Function*>(captured))(probe); };
+    return *this;
+  }
+  DeallocAction& operator=(std::nullptr_t) {
+    call_ = nullptr;
+    return *this;
+  }
+  void operator()(ProbeView probe) {
+    if (call_ != nullptr) call_(captured_, probe);
+  }
+
+ private:
+  alignas(void*) std::byte captured_[4 * sizeof(void*)];
+  void (*call_)(void*, ProbeView) = nullptr;
+};
+
 struct Probe : objc::Implementation<Probe> {
   static inline int allocations, retains, releases, autoreleases, deallocations;
   // Runs at the beginning of each dealloc.
-  static inline std::function<void(ProbeView)> onDealloc;
+  static inline DeallocAction onDealloc;
 
   ~Probe() {
     ++deallocations;
-    if (onDealloc) onDealloc(ProbeView(self()));
+    onDealloc(ProbeView(self()));
   }
 
   id retain() {

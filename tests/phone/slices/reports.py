@@ -58,6 +58,8 @@ def differences(code, run, kept):
     """Complaints: the functions that are never entered must be those of the kept list."""
     names = {function.name for function in code.functions}
     never = {function.name for function in functions_never_entered(code, run)}
+    for name in sorted(name for name, reason in kept.items() if not reason):
+        yield f"in the list of those that are never entered without the reason: {name}"
     for name in sorted(never - kept.keys()):
         yield f"never entered, and not in the list with the reason: {name}"
     for name in sorted(kept.keys() & names - never):

@@ -158,6 +158,7 @@ TEST(Watching, SuitsAHundredPages) {
 
 TEST(Watching, DoesNotWaitForAPageThatDoesNotRead) {
   const ServedProgram program;
+  program.command("unlock");  // the lock screen would draw the titles
   RawConnection slow(program, RawConnection::Reads::slowly);
   slow.send("GET /api/events HTTP/1.1\r\nHost: " + program.host() + "\r\nAuthorization: Bearer " +
             program.token() + "\r\n\r\n");

@@ -22,6 +22,8 @@ export function clockTime(wall) {
   return `${two(date.getUTCHours())}:${two(date.getUTCMinutes())}`;
 }
 
+export const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
+
 // As the phone's region has it, which may count to twelve: ["10:15", "07 PM"]
 export function clockAsIn(region, wall) {
   const options = { hour: "numeric", minute: "2-digit", timeZone: "UTC", numberingSystem: "latn" };
@@ -31,8 +33,6 @@ export function clockAsIn(region, wall) {
   const seconds = [clockSeconds(wall), parts.dayPeriod].filter(Boolean).join(" ");
   return [`${parts.hour}:${parts.minute}`, seconds];
 }
-
-export const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
 
 export function clockDate(wall) {
   return new Intl.DateTimeFormat(locale, {

@@ -65,6 +65,7 @@ const lines = [
   [/^BKSTerminate/, /is closed/],
   [/^HUD volume/, /display is shown/],
   [/^user lock$/, /Done by hand: lock/],
+  [/^Clock timer starts/, /Done by hand: Clock timer starts/],
   [/^-\[HBPreferences setBool:NO/, /becomes NO/],
   [/^the host crashed/, /has died/],
 ];
@@ -86,6 +87,14 @@ ${start} 1 2
 send Dozewell2Manager.sharedInstance reinit
 send SpecialTasksHelper.getInstance skipSong
 unlock
+let home UIApplication.sharedApplication.keyWindow.rootViewController.view
+tap $home.subviews.8
+advance 1s
+touch began 110 247
+touch ended 110 247
+touch began 195 832
+touch ended 195 832
+advance 1s
 control-center open
 module expand
 tap $header.dozewellButton

@@ -95,11 +95,15 @@ const known = [
     (what) => say("Done by hand: {what}.", { what }),
     (what) => ({ key: what, text: handDone[what]() }),
   ],
+  // The latter in Control Center and in Clock.
   [
-    /^user (.*)$/,
+    /^(?:user (.*)|(?=Wi-Fi |mobile data |rotation lock |torch |Clock timer st)(.*))$/,
     "user",
-    (what) => say("Done by hand: {what}.", { what }),
-    (what) => ({ key: `hand ${what}`, text: say("By hand: {what}", { what }) }),
+    (what, inside) => say("Done by hand: {what}.", { what: what ?? inside }),
+    (what, inside) => ({
+      key: `hand ${what ?? inside}`,
+      text: say("By hand: {what}", { what: what ?? inside }),
+    }),
   ],
   [
     /^-\[SBMediaController pause(?:\]|ForEventSource)/,

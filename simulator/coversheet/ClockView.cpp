@@ -38,7 +38,7 @@ std::string minutesText(int minutes) {
 }
 
 Strong<Object> addPill(Object view, const std::string& title, Object color, SEL action) {
-  const Strong<Object> button =
+  Strong<Object> button =
       objc::retain(objc::send<Object, "buttonWithType:">(objc_getClass("UIButton"), 0L));
   objc::send<void, "setTitle:forState:">(button.get(), string(title), 0UL);
   fill(button, color, pill.height / 2);

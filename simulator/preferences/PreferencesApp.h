@@ -10,6 +10,7 @@
 #include "objc/Ownership.h"
 #include "simulator/preferences/PageView.h"
 #include "simulator/preferences/PaneFolder.h"
+#include "simulator/springboard/AppWindow.h"
 
 namespace sim {
 
@@ -24,7 +25,7 @@ class PreferencesApp {
   // no windows.
   void open();
   void close();
-  bool isOpen() const { return bool(window_); }
+  bool isOpen() const { return window_.isOpen(); }
   // Of the panes that cannot be read.
   const std::vector<std::string>& problems() const { return folder_.problems; }
 
@@ -55,12 +56,11 @@ class PreferencesApp {
 
   void show(Level& level);
   void showTop();
-  void addHomeBar(objc::Object root);
   void type(const std::string& key);
   void showKeyboard();
 
   PaneFolder folder_;
-  objc::Strong<objc::Object> window_;    // UIWindow; nil while it is closed
+  AppWindow window_;
   objc::Strong<objc::Object> keyboard_;  // Keyboard; nil while nothing is typed
   std::vector<Level> levels_;
   std::optional<Editing> editing_;

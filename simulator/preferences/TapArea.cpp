@@ -12,9 +12,7 @@ namespace {
 
 using objc::Object;
 
-// Points.
-constexpr double tapWay = 8;     // that a finger may tremble in a tap
-constexpr double swipeWay = 24;  // that a swipe takes at least
+constexpr double tapWay = 8;  // points that a finger may tremble in a tap
 
 double heightOnScreen(Object touch) {
   return UITouch::of(touch).locationInView(nullptr).y;
@@ -27,13 +25,6 @@ void TapArea::onTap(std::function<void()> does) {
   if (isFirst)
     UIControl::of(self()).addTarget(Object(self()), objc::selector<"_tap">(),
                                     UIControl::touchUpInside);
-}
-
-void TapArea::onSwipe(std::function<void()> does) {
-  const bool isFirst = !std::exchange(swiped_, std::move(does));
-  if (isFirst)
-    UIControl::of(self()).addTarget(Object(self()), objc::selector<"_release">(),
-                                    UIControl::touchUpInside | UIControl::touchUpOutside);
 }
 
 bool TapArea::beginTracking(Object touch, Object) {
@@ -58,18 +49,11 @@ void TapArea::tap() {
   if (does) does();
 }
 
-void TapArea::release() {
-  const bool isSwipe = std::exchange(way_, 0) < -swipeWay;
-  const auto does = swiped_;
-  if (isSwipe && does) does();
-}
-
 void TapArea::registerClass() {
   StandIn<TapArea>("Preferences", "_SettingsTapArea", "UIControl")
       .method<"beginTrackingWithTouch:withEvent:", &TapArea::beginTracking>()
       .method<"continueTrackingWithTouch:withEvent:", &TapArea::continueTracking>()
       .method<"_tap", &TapArea::tap>()
-      .method<"_release", &TapArea::release>()
       .finish();
 }
 

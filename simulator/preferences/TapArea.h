@@ -13,8 +13,6 @@ struct TapArea : objc::Implementation<TapArea> {
 
   // A finger that drags does not tap.
   void onTap(std::function<void()> does);
-  // The same for a finger that leaves it upwards.
-  void onSwipe(std::function<void()> does);
 
   static void registerClass();
 
@@ -22,9 +20,8 @@ struct TapArea : objc::Implementation<TapArea> {
   bool beginTracking(objc::Object touch, objc::Object event);
   bool continueTracking(objc::Object touch, objc::Object event);
   void tap();
-  void release();
 
-  std::function<void()> tapped_, swiped_;
+  std::function<void()> tapped_;
   double fingerAt_ = 0;  // y on the screen, in points
   double way_ = 0;       // of the finger, down
   bool isDrag_ = false;

@@ -2,6 +2,7 @@
 // jump to it with every argument register and the stack as the caller left them.
 #if defined(__aarch64__)
 
+#include "simulator/runtime/Assembly.aarch64.inc"
 #include "simulator/runtime/AssemblyOffsets.h"
 
 #define TO_OBJECT 0  // the first argument is the receiver
@@ -13,41 +14,6 @@
     .hidden simulatorRuntimeSigns
     .hidden simulatorRuntimeWrongIsa
     .hidden simulatorRuntimeForwardingTarget
-
-// x8 is where a structure in memory goes.
-.macro SAVE_ARGUMENTS
-    stp x29, x30, [sp, #-224]!
-    .cfi_def_cfa_offset 224
-    .cfi_offset x29, -224
-    .cfi_offset x30, -216
-    mov x29, sp
-    .cfi_def_cfa_register x29
-    stp x0, x1, [sp, #16]
-    stp x2, x3, [sp, #32]
-    stp x4, x5, [sp, #48]
-    stp x6, x7, [sp, #64]
-    str x8, [sp, #80]
-    stp q0, q1, [sp, #96]
-    stp q2, q3, [sp, #128]
-    stp q4, q5, [sp, #160]
-    stp q6, q7, [sp, #192]
-.endm
-
-.macro RESTORE_ARGUMENTS
-    ldp x0, x1, [sp, #16]
-    ldp x2, x3, [sp, #32]
-    ldp x4, x5, [sp, #48]
-    ldp x6, x7, [sp, #64]
-    ldr x8, [sp, #80]
-    ldp q0, q1, [sp, #96]
-    ldp q2, q3, [sp, #128]
-    ldp q4, q5, [sp, #160]
-    ldp q6, q7, [sp, #192]
-    ldp x29, x30, [sp], #224
-    .cfi_def_cfa sp, 0
-    .cfi_restore x29
-    .cfi_restore x30
-.endm
 
 .macro MESSAGE name, target
     .text
@@ -133,22 +99,14 @@
 .endm
 
 // Sends the message on to the object that the receiver names.
-    .text
-    .globl simulatorRuntimeForward
-    .hidden simulatorRuntimeForward
-    .type simulatorRuntimeForward, %function
-    .p2align 4
-simulatorRuntimeForward:
-    .cfi_startproc
-    hint #34  // bti c
+HIDDEN_FUNCTION simulatorRuntimeForward
     SAVE_ARGUMENTS
     bl simulatorRuntimeForwardingTarget
     mov x17, x0
     RESTORE_ARGUMENTS
     mov x0, x17
     b objc_msgSend
-    .cfi_endproc
-    .size simulatorRuntimeForward, . - simulatorRuntimeForward
+END_FUNCTION simulatorRuntimeForward
 
     MESSAGE objc_msgSend, TO_OBJECT
     MESSAGE objc_msgSendSuper, TO_SUPER

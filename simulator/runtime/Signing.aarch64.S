@@ -1,37 +1,29 @@
 // The instructions of processors that authenticate pointers, one function each.
 #if defined(__aarch64__)
 
+#include "simulator/runtime/Assembly.aarch64.inc"
+
     .arch armv8.3-a
 
-.macro SIGNING name
-    .text
-    .globl \name
-    .hidden \name
-    .type \name, %function
-    .balign 16
-\name:
-    hint #34  // bti c
-.endm
-
-    SIGNING simulatorRuntimePacia
+HIDDEN_FUNCTION simulatorRuntimePacia
     pacia x0, x1
     ret
-    .size simulatorRuntimePacia, . - simulatorRuntimePacia
+END_FUNCTION simulatorRuntimePacia
 
-    SIGNING simulatorRuntimePacda
+HIDDEN_FUNCTION simulatorRuntimePacda
     pacda x0, x1
     ret
-    .size simulatorRuntimePacda, . - simulatorRuntimePacda
+END_FUNCTION simulatorRuntimePacda
 
-    SIGNING simulatorRuntimeXpaci
+HIDDEN_FUNCTION simulatorRuntimeXpaci
     xpaci x0
     ret
-    .size simulatorRuntimeXpaci, . - simulatorRuntimeXpaci
+END_FUNCTION simulatorRuntimeXpaci
 
-    SIGNING simulatorRuntimeXpacd
+HIDDEN_FUNCTION simulatorRuntimeXpacd
     xpacd x0
     ret
-    .size simulatorRuntimeXpacd, . - simulatorRuntimeXpacd
+END_FUNCTION simulatorRuntimeXpacd
 
 #endif
 

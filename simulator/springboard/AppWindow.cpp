@@ -19,20 +19,23 @@ constexpr unsigned long widthAndHeight = 1 << 1 | 1 << 4,
 
 }  // namespace
 
-void AppWindow::open(const char* viewClass) {
-  constexpr double windowLevel = 10;  // as the settings'
-  if (window_ || UIWindow::cls() == nullptr || objc_getClass(viewClass) == nullptr) return;
+bool AppWindow::open(std::function<void()> goHome) {
+  constexpr double windowLevel = 10;  // above the home screen, below the lock screen
+  if (window_ || UIWindow::cls() == nullptr) return false;
   window_ = UIWindow::make();
   UIWindow::of(window_.get()).isOfTheSystem = true;
   const auto controller = objc::adopt(objc::send<Object, "new">(objc_getClass("UIViewController")));
   objc::send<void, "setWindowLevel:">(window_.get(), windowLevel);
   objc::send<void, "setRootViewController:">(window_.get(), controller.get());
   objc::send<void, "setHidden:">(window_.get(), false);
-  const Object root = objc::send<Object, "view">(controller.get());
-  view_ = addView(root, viewClass);
-  setFrame(view_, {{}, sizeOf(root)});
-  objc::send<void, "setAutoresizingMask:">(view_.get(), widthAndHeight);
-  addHomeBar(root);
+  addHomeBar(std::move(goHome));
+  return true;
+}
+
+void AppWindow::open(const char* viewClass) {
+  if (objc_getClass(viewClass) == nullptr || !open([this] { close(); })) return;
+  view_ = objc::adopt(objc::send<Object, "new">(objc_getClass(viewClass)));
+  insert(view_.get(), 0);
 }
 
 void AppWindow::close() {
@@ -42,11 +45,21 @@ void AppWindow::close() {
   objc::send<void, "setHidden:">(window.get(), true);
 }
 
-void AppWindow::addHomeBar(Object root) {
+Object AppWindow::root() const {
+  return objc::send<Object, "view">(objc::send<Object, "rootViewController">(window_.get()));
+}
+
+void AppWindow::insert(Object view, long index) {
+  setFrame(view, {{}, sizeOf(root())});
+  objc::send<void, "setAutoresizingMask:">(view, widthAndHeight);
+  objc::send<void, "insertSubview:atIndex:">(root(), view, index);
+}
+
+void AppWindow::addHomeBar(std::function<void()> goHome) {
   constexpr CGSize area = {200, 24}, line = {134, 5};  // points
-  const auto bar = addView(root, "_SBHomeBar");
+  const auto bar = addView(root(), "_SBHomeBar");
   if (!bar) return;
-  const CGSize size = sizeOf(root);
+  const CGSize size = sizeOf(root());
   setFrame(bar, {{(size.width - area.width) / 2, size.height - area.height}, area});
   objc::send<void, "setAutoresizingMask:">(bar.get(), middleOfTheBottom);
   const auto drawn = addView(bar.get(), "UIView");
@@ -54,7 +67,7 @@ void AppWindow::addHomeBar(Object root) {
   fill(drawn, whiteColor(1), line.height / 2);
   objc::send<void, "setUserInteractionEnabled:">(drawn.get(), false);
   objc::send<void, "setAccessibilityLabel:">(bar.get(), string("Home"));
-  SBHomeBar::of(bar.get()).goHome = [this] { close(); };
+  SBHomeBar::of(bar.get()).goHome = std::move(goHome);
 }
 
 }  // namespace sim

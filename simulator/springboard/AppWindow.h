@@ -10,15 +10,21 @@ namespace sim {
 
 class AppWindow {
  public:
-  // Shows a new view of that class, with the bar at the bottom that leads home. Nothing when it is
-  // open, or on a phone without windows.
+  // Shows it with nothing but the bar at the bottom, which leads home: it calls `goHome`, which is to
+  // close this. False when it is open, or on a phone without windows.
+  bool open(std::function<void()> goHome);
+  // With a new view of that class. Nothing when it is open, or without windows or that class.
   void open(const char* viewClass);
   void close();
   bool isOpen() const { return bool(window_); }
-  objc::Object view() const { return view_.get(); }  // nil while it is closed
+  objc::Object root() const;                         // fills it; nil while it is closed
+  objc::Object view() const { return view_.get(); }  // of the class; nil while it is closed
+
+  // Fills the root, below the bar, above the first `index` views.
+  void insert(objc::Object view, long index);
 
  private:
-  void addHomeBar(objc::Object root);
+  void addHomeBar(std::function<void()> goHome);
 
   objc::Strong<objc::Object> window_, view_;
 };

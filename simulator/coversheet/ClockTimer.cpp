@@ -24,17 +24,10 @@ void ClockTimer::stop() {
   setEndDate(std::nullopt);
 }
 
-long ClockTimer::observe(std::function<void()> observer) {
-  observers_.emplace(++lastObserver_, std::move(observer));
-  return lastObserver_;
-}
-
 void ClockTimer::setEndDate(std::optional<double> endDate) {
   endDate_ = endDate;
   scheduleEnd();
-  const auto now = observers_;  // one of them may forget another
-  for (const auto& [number, observer] : now)
-    if (observers_.contains(number)) observer();
+  tellObservers();
 }
 
 void ClockTimer::scheduleEnd() {

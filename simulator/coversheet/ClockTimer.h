@@ -1,16 +1,16 @@
 // The timer of the Clock, the system's application: the one whose countdown the lock screen is for.
 #pragma once
 
-#include <functional>
-#include <map>
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
 
+#include "simulator/machine/Observed.h"
 #include "simulator/machine/Phone.h"
 
 namespace sim {
 
-class ClockTimer {
+// Its observers are told of every start, stop and end.
+class ClockTimer : public Observed {
  public:
   explicit ClockTimer(Phone& phone);
   ClockTimer(const ClockTimer&) = delete;
@@ -26,10 +26,6 @@ class ClockTimer {
   // Seconds since the reference date; nothing while no timer runs.
   std::optional<double> endDate() const { return endDate_; }
 
-  // Called at every start, stop and end, until the observer is forgotten by its number.
-  long observe(std::function<void()> observer);
-  void forget(long number) { observers_.erase(number); }
-
  private:
   void setEndDate(std::optional<double> endDate);
   void scheduleEnd();
@@ -39,8 +35,6 @@ class ClockTimer {
   Phone& phone_;
   std::optional<double> endDate_;
   MainQueue::Ticket end_ = 0;  // the queue's entry for the end
-  std::map<long, std::function<void()>> observers_;
-  long lastObserver_ = 0;
 };
 
 }  // namespace sim

@@ -67,19 +67,12 @@ void AudioSystem::announce(std::string_view category) {
   if (!isMedia || !indicatorSuppressed_)
     phone_.journal.record("HUD volume " + notation(volume(category)));
   if (!isMedia) return;
-  const auto now = observers_;  // one of them may forget another
-  for (const auto& [number, observer] : now)
-    if (observers_.contains(number)) observer();
+  tellObservers();
 }
 
 void AudioSystem::setRoute(AudioRoute route) {
   route_ = std::move(route);
   store(volume(), mediaCategory);
-}
-
-long AudioSystem::observe(std::function<void()> observer) {
-  observers_.emplace(++lastObserver_, std::move(observer));
-  return lastObserver_;
 }
 
 nlohmann::json AudioSystem::save() const {

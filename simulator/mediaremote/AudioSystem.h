@@ -1,12 +1,12 @@
 // The phone's sound output: volumes by category, and the indicator that shows their changes.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 
+#include "simulator/machine/Observed.h"
 #include "simulator/machine/Phone.h"
 
 namespace sim {
@@ -20,7 +20,8 @@ struct AudioRoute {
   int steps = 0;  // from silent to full; a volume lies on one of them. 0: any volume
 };
 
-class AudioSystem {
+// Its observers are told of every change of the media volume.
+class AudioSystem : public Observed {
  public:
   explicit AudioSystem(Phone& phone);
   AudioSystem(const AudioSystem&) = delete;
@@ -46,10 +47,6 @@ class AudioSystem {
   // The media volume stays as near as the route allows, and nobody is told of the difference.
   void setRoute(AudioRoute route);
 
-  // Called after every change of the media volume, until the observer is forgotten by its number.
-  long observe(std::function<void()> observer);
-  void forget(long number) { observers_.erase(number); }
-
   // Of changes of the media volume.
   bool isIndicatorSuppressed() const { return indicatorSuppressed_; }
   void setIndicatorSuppressed(bool suppressed) { indicatorSuppressed_ = suppressed; }
@@ -62,8 +59,6 @@ class AudioSystem {
 
   Phone& phone_;
   std::map<std::string, float, std::less<>> volumes_;
-  std::map<long, std::function<void()>> observers_;
-  long lastObserver_ = 0;
   AudioRoute route_;
   bool indicatorSuppressed_ = false;
 };

@@ -18,14 +18,7 @@ Endpoints& Endpoints::current() {
 
 void Endpoints::find(std::vector<std::string> names) {
   names_ = std::move(names);
-  const auto now = observers_;  // one of them may forget another
-  for (const auto& [number, observer] : now)
-    if (observers_.contains(number)) observer();
-}
-
-long Endpoints::observe(std::function<void()> observer) {
-  observers_.emplace(++lastObserver_, std::move(observer));
-  return lastObserver_;
+  tellObservers();
 }
 
 }  // namespace sim

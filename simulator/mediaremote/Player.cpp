@@ -41,7 +41,7 @@ void Player::play() {
   startedAt_ = phone_.clock.uptime() - pausedAt_;
   phone_.journal.record("player play " + notation(*track()));
   scheduleEnd();
-  changed();
+  tellObservers();
 }
 
 void Player::playOnceBooted() {
@@ -66,7 +66,7 @@ void Player::pause() {
   playing_ = false;
   phone_.journal.record("player pause");
   scheduleEnd();
-  changed();
+  tellObservers();
 }
 
 void Player::togglePlayPause() {
@@ -91,7 +91,7 @@ void Player::stop() {
   pausedAt_ = 0;
   phone_.journal.record("player stop");
   scheduleEnd();
-  changed();
+  tellObservers();
 }
 
 void Player::seek(double position) {
@@ -101,7 +101,7 @@ void Player::seek(double position) {
   startedAt_ = phone_.clock.uptime() - target;
   phone_.journal.record("player seek " + notation(seconds(target)));
   scheduleEnd();
-  changed();
+  tellObservers();
 }
 
 const Track* Player::track() const {
@@ -128,7 +128,7 @@ void Player::begin(std::size_t index, Nanoseconds when) {
   pausedAt_ = 0;
   phone_.journal.record("player track " + notation(*track()));
   scheduleEnd();
-  changed();
+  tellObservers();
 }
 
 // Gapless: the next track starts where this one ended, even when the queue comes to it later,
@@ -142,10 +142,6 @@ void Player::scheduleEnd() {
   end_ = 0;
   if (playing_)
     end_ = phone_.queue.add(deadline(startedAt_, track()->length), [this] { trackDidEnd(); });
-}
-
-void Player::changed() const {
-  for (const auto& observer : observers_) observer();
 }
 
 }  // namespace sim

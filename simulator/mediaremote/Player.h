@@ -3,12 +3,12 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "simulator/machine/Observed.h"
 #include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/Track.h"
 
@@ -16,7 +16,9 @@ namespace sim {
 
 inline constexpr std::string_view musicApplication = "com.apple.Music";
 
-class Player {
+// Its observers are told of every change that a now-playing display would show: play, pause, track,
+// seek.
+class Player : public Observed {
  public:
   explicit Player(Phone& phone);
   Player(const Player&) = delete;
@@ -60,9 +62,6 @@ class Player {
   // The bundle identifier of the application whose tracks these are.
   const std::string& application() const { return application_; }
 
-  // Called after every change that a now-playing display would show: play, pause, track, seek.
-  void observe(std::function<void()> observer) { observers_.push_back(std::move(observer)); }
-
  private:
   static constexpr std::size_t nothing = std::size_t(-1);
 
@@ -73,7 +72,6 @@ class Player {
   void trackDidEnd();
   void scheduleEnd();
   Nanoseconds elapsed() const;
-  void changed() const;
 
   Phone& phone_;
   std::string application_{musicApplication};
@@ -87,7 +85,6 @@ class Player {
   Nanoseconds startedAt_ = 0;  // playing: uptime at which the track was at its start
   Nanoseconds pausedAt_ = 0;   // not playing: position within the track
   MainQueue::Ticket end_ = 0;  // the queue's entry for the end of the track
-  std::vector<std::function<void()>> observers_;
 };
 
 }  // namespace sim

@@ -59,17 +59,6 @@ void Radios::disconnect(std::string_view address) {
   if (std::erase_if(peers_, isGone) != 0) tellObservers();
 }
 
-long Radios::observe(std::function<void()> observer) {
-  observers_.emplace(++lastObserver_, std::move(observer));
-  return lastObserver_;
-}
-
-void Radios::tellObservers() const {
-  const auto now = observers_;  // one of them may forget another
-  for (const auto& [number, observer] : now)
-    if (observers_.contains(number)) observer();
-}
-
 nlohmann::json Radios::save() const {
   auto peers = nlohmann::json::array();
   for (const Peer& peer : peers_) peers.push_back({{"name", peer.name}, {"address", peer.address}});

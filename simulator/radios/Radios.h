@@ -1,18 +1,18 @@
 // The phone's radios: airplane mode, what is on, and what Bluetooth is connected to.
 #pragma once
 
-#include <functional>
-#include <map>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "simulator/machine/Observed.h"
 #include "simulator/machine/Phone.h"
 
 namespace sim {
 
-class Radios {
+// Its observers are told of every change of the connected devices.
+class Radios : public Observed {
  public:
   struct Peer {
     std::string name;
@@ -54,13 +54,7 @@ class Radios {
   void disconnect(std::string_view address);
   const std::vector<Peer>& peers() const { return peers_; }
 
-  // Called after every change of the connected devices, until the observer is forgotten by its
-  // number.
-  long observe(std::function<void()> observer);
-  void forget(long number) { observers_.erase(number); }
-
  private:
-  void tellObservers() const;
   nlohmann::json save() const;
   void restore(const nlohmann::json& saved);
 
@@ -73,8 +67,6 @@ class Radios {
   bool bluetoothOn_ = true;
   std::vector<Peer> peers_;  // connected, in order of connection
   long lastAddress_ = 0;
-  std::map<long, std::function<void()>> observers_;
-  long lastObserver_ = 0;
 };
 
 }  // namespace sim

@@ -10,8 +10,8 @@ namespace sim {
 
 class AppWindow {
  public:
-  // Shows it with nothing but the bar at the bottom, which leads home: it calls `goHome`, which is to
-  // close this. False when it is open, or on a phone without windows.
+  // Shows it with nothing but the bar at the bottom, which leads home: it calls `goHome`, which is
+  // to close this. False when it is open, or on a phone without windows.
   bool open(std::function<void()> goHome);
   // With a new view of that class. Nothing when it is open, or without windows or that class.
   void open(const char* viewClass);

@@ -1,9 +1,5 @@
 #include "simulator/quartzcore/CALayer.h"
 
-#include <algorithm>
-
-#include "simulator/coregraphics/CGColor.h"
-#include "simulator/foundation/Exception.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/foundation/NSArray.h"
 #include "simulator/foundation/Values.h"
@@ -134,24 +130,9 @@ Object presentationLayer(Object self) {
   return autorelease(std::move(made));
 }
 
-std::array<double, 4> componentsOf(Object color) {
-  const CGColor* state = stateOf<CGColor>(color);
-  return state != nullptr ? state->color.values : std::array<double, 4>{};
-}
-
 struct LayerCount {
   unsigned long made = 0;
 };
-
-void requirePlaceBelow(Object above, const char* selector, Object layer) {
-  if (!isA<CALayer>(layer)) raiseWrongClass(selector, layer, "CALayer");
-  while (above && above != layer)
-    above =
-        CALayer::of(above).superlayer ? CALayer::of(above).superlayer : CALayer::of(above).masked;
-  if (above)
-    raiseException("CALayerInvalid", std::string("layer <") + object_getClassName(layer.get()) +
-                                         "> is a part of cycle in its layer tree");
-}
 
 // The whole of what was there goes first.
 void setSublayers(Object self, Object layers) {
@@ -187,74 +168,11 @@ void setValueForKeyPath(Object self, Object value, Object path) {
 
 CALayer::CALayer() : identity(++Phone::current().state<LayerCount>().made) {}
 
-LayerValues CALayer::values() const {
-  return {{geometry.bounds, geometry.position, opacity, componentsOf(backgroundColor), cornerRadius,
-           backdropBlur},
-          geometry.transform.affine()};
-}
-
-LayerValues CALayer::presentation(Nanoseconds now) const {
-  LayerValues seen = values();
-  // The newest is the nearest to the layer: what an older one still turns, it turns as a whole.
-  for (auto each = animations.rbegin(); each != animations.rend(); ++each) each->addTo(seen, now);
-  return seen;
-}
-
-void CALayer::removeAllAnimations() {
-  const auto kept = objc::retain(Object(self()));  // who hears of it may let the layer go
-  const Nanoseconds now = Phone::current().clock.uptime();
-  std::vector<AnimationTiming> all = {std::exchange(transition, {}).timing};
-  for (const LayerAnimation& each : std::exchange(animations, {})) all.push_back(each.timing);
-  for (const AnimationTiming& each : all)
-    if (each.group && each.end() > now) each.group->interrupt(*this);
-}
-
-void CALayer::dropAnimations(const AnimationGroup& its) {
-  std::erase_if(animations, [&](const auto& each) { return each.timing.group.get() == &its; });
-  if (transition.timing.group.get() == &its) transition = {};
-}
-
-bool CALayer::ignoresTouches(Nanoseconds now) const {
-  const auto does = [now](const AnimationTiming& timing) {
-    return timing.ignoresTouches && timing.end() > now;
-  };
-  return does(transition.timing) ||
-         std::any_of(animations.begin(), animations.end(),
-                     [does](const LayerAnimation& each) { return does(each.timing); });
-}
-
 CALayer::~CALayer() {
   if (transition.timing.group) transition.timing.group->forget(*this);
   for (const LayerAnimation& each : animations) each.timing.group->forget(*this);
   for (const auto& child : children) of(child.get()).superlayer = nullptr;
   if (mask) of(mask.get()).masked = nullptr;
-}
-
-void CALayer::setMask(Object layer) {
-  if (layer) requirePlaceBelow(Object(self()), "setMask:", layer);
-  if (mask) of(mask.get()).masked = nullptr;
-  const auto kept = objc::retain(layer);  // another layer's mask until now, maybe
-  if (layer && of(layer).masked) of(of(layer).masked).mask = nullptr;
-  mask = kept;
-  if (layer) of(layer).masked = Object(self());
-}
-
-void CALayer::insertSublayer(Object layer, unsigned index) {
-  if (!layer) return;
-  requirePlaceBelow(Object(self()), "addSublayer:", layer);
-  const auto kept = objc::retain(layer);  // the superlayer it has may own it alone
-  of(layer).removeFromSuperlayer();
-  children.insert(children.begin() + std::min<long>(index, long(children.size())), kept);
-  of(layer).superlayer = Object(self());
-}
-
-void CALayer::removeFromSuperlayer() {
-  if (!superlayer) return;
-  auto& siblings = of(std::exchange(superlayer, nullptr)).children;
-  const auto isThis = [this](const auto& each) { return each.get().get() == self(); };
-  const auto found = std::find_if(siblings.begin(), siblings.end(), isThis);
-  const auto last = std::move(*found);  // this layer may end with the function
-  siblings.erase(found);
 }
 
 Object CALayer::stateWithName(Object wanted) const {

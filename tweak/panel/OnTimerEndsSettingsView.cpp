@@ -5,6 +5,7 @@
 #include "tweak/panel/CheckboxButton.h"
 #include "tweak/panel/PageLayout.h"
 #include "tweak/panel/ShortcutCheck.h"
+#include "tweak/settings/Dozewell2StorageManager.h"
 #include "tweak/support/BundleHelper.h"
 #include "tweak/support/HapticFeedbackHelper.h"
 #include "tweak/support/SpokenText.h"
@@ -108,15 +109,15 @@ void Page::setCurrentStateIsStart(bool start) {
 template <class Visit>
 void Page::forEachBox(Visit visit) {
   if (currentStateIsStart) {
-    visit(planeModeButton, "onTimerStartsAirplane");
-    visit(dndButton, "onTimerStartsDND");
-    visit(runShortcutButton, "onTimerStartsRunShortcut");
-    visit(customVolumeButton, "onTimerStartsCustomVolume");
+    visit(planeModeButton, setting_key::onTimerStartsAirplane);
+    visit(dndButton, setting_key::onTimerStartsDND);
+    visit(runShortcutButton, setting_key::onTimerStartsRunShortcut);
+    visit(customVolumeButton, setting_key::onTimerStartsCustomVolume);
   } else {
-    visit(planeModeButton, "onTimerEndsAirplane");
-    visit(dndButton, "onTimerEndsDND");
-    visit(runShortcutButton, "onTimerEndsRunShortcut");
-    visit(bluetoothButton, "onTimerEndsBluetooth");
+    visit(planeModeButton, setting_key::onTimerEndsAirplane);
+    visit(dndButton, setting_key::onTimerEndsDND);
+    visit(runShortcutButton, setting_key::onTimerEndsRunShortcut);
+    visit(bluetoothButton, setting_key::onTimerEndsBluetooth);
   }
 }
 

@@ -4,6 +4,12 @@
 #include "objc/Registration.h"
 #include "platform/Cephei.h"
 
+// The key of each setting in the domain.
+namespace setting_key {
+#define SETTING(number, T, name, otherwise) inline constexpr char name[] = #name;
+#include "tweak/settings/Settings.def"
+}  // namespace setting_key
+
 // Ask at the moment of use and do not keep the answer: it follows the preferences domain while the
 // host runs. Main thread. The store has no setters; writers write to the domain. In a process where
 // nothing was registered, and on a phone without the preferences library, everything is 0, NO and

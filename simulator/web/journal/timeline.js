@@ -211,7 +211,8 @@ export class Timeline {
     const now = this.#state.uptime();
     // The scale is drawn again only when time has left it behind.
     if (!this.#view && now > last + (last - first) * 0.02) return this.#queue();
-    const x = this.#x(this.#view ? now : Math.min(now, last));
+    const x = String(this.#x(this.#view ? now : Math.min(now, last)));
+    if (this.#now.getAttribute("x1") === x) return; // time stands still
     this.#now.setAttribute("x1", x);
     this.#now.setAttribute("x2", x);
   }

@@ -14,6 +14,7 @@ export class Handset {
   #state;
   #stand;
   #body;
+  #box;
   #screen;
   glass;
   turn = 0; // degrees
@@ -37,8 +38,10 @@ export class Handset {
       h("div", { class: "shell", "aria-hidden": "true" }),
       this.glass,
     );
-    stand.append(h("div", { class: "handset-box" }, this.#body));
+    this.#box = h("div", { class: "handset-box" }, this.#body);
+    stand.append(this.#box);
     new ResizeObserver(() => this.#fit()).observe(stand);
+    state.on("snapshot", () => requestAnimationFrame(() => this.#box.classList.add("seen")));
     for (const name of ["phone", "snapshot"]) state.on(name, () => this.#show());
     for (const name of ["setup", "snapshot"]) state.on(name, () => this.#speak());
     screen.addEventListener("change", () => this.#turnContent());
@@ -80,9 +83,8 @@ export class Handset {
     const scale = this.#zoom ?? fitting;
     this.#body.style.setProperty("--scale", scale);
     this.#body.style.setProperty("--turn", `${this.turn}deg`);
-    const box = this.#body.parentElement.style;
-    box.width = `${width * scale}px`;
-    box.height = `${height * scale}px`;
+    this.#box.style.width = `${width * scale}px`;
+    this.#box.style.height = `${height * scale}px`;
   }
 
   // The scene comes as the interface is turned, the glass is turned with the phone.

@@ -1,7 +1,7 @@
 // One sentence below the phone: what the sleep timer will do, or is doing. Whoever is here for the
 // first time is led to the moon; once a timer has been set that is over for good.
 import { night } from "../time/night.js";
-import { byId, h } from "../ui/dom.js";
+import { byId, h, setText } from "../ui/dom.js";
 import { say } from "../ui/language.js";
 import { announce } from "../ui/toast.js";
 
@@ -86,7 +86,7 @@ export class Hint {
     const { text, more } = timer ?? { text: this.#sentence(), more: "" };
     this.#place.classList.toggle("timer", timer !== null);
     this.#place.classList.toggle("done", timer === null && this.#hasStopped);
-    if (this.#text.textContent !== text) this.#text.textContent = text;
-    if (this.#more.textContent !== more) this.#more.textContent = more;
+    setText(this.#text, text);
+    setText(this.#more, more);
   }
 }

@@ -1,7 +1,7 @@
 // What plays, and the list of all that could.
 import { read } from "../server/requests.js";
 import { perform } from "../server/commands.js";
-import { byId, h } from "../ui/dom.js";
+import { byId, h, setText } from "../ui/dom.js";
 import { duration } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
 import { say } from "../ui/language.js";
@@ -182,9 +182,9 @@ export class MusicPanel {
     const known = position !== null && player?.length;
     if (!p.seek.matches(":active")) p.seek.value = known ? position : 0;
     p.seek.style.setProperty("--part", known ? position / player.length : 0);
-    p.at.textContent = known ? duration(position) : "";
+    setText(p.at, known ? duration(position) : "");
     // Of whole seconds, so that both turn at once, as on the phone.
     const left = known ? Math.floor(player.length) - Math.floor(position) : 0;
-    p.left.textContent = known ? `-${duration(left)}` : "";
+    setText(p.left, known ? `-${duration(left)}` : "");
   }
 }

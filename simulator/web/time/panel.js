@@ -1,6 +1,6 @@
 // The phone's clock and how fast it goes: from life's own pace to an hour in a second.
 import { post } from "../server/requests.js";
-import { byId, h } from "../ui/dom.js";
+import { byId, h, setText } from "../ui/dom.js";
 import { clockAsIn, clockDate, duration } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
 import { say } from "../ui/language.js";
@@ -129,9 +129,8 @@ export class TimePanel {
     p.step.disabled = p.minute.disabled = isOff;
     p.end.disabled = why !== "";
     p.end.title = why || say("Goes to shortly before the music stops");
-    const text = p.end.querySelector("span");
-    if (text.textContent !== label) text.textContent = label;
-    if (p.reason.textContent !== why) p.reason.textContent = why;
+    setText(p.end.querySelector("span"), label);
+    setText(p.reason, why);
   }
 
   #show() {
@@ -151,11 +150,16 @@ export class TimePanel {
   #tick() {
     const wall = this.#state.wall();
     const p = this.#parts;
-    [p.time.textContent, p.seconds.textContent] = clockAsIn(this.#state.setup.locale, wall);
-    p.date.textContent = clockDate(wall);
-    p.uptime.textContent = this.#state.clock.paused
-      ? say("Time stands still")
-      : say("Running for {time}", { time: duration(this.#state.uptime()) });
+    const [time, seconds] = clockAsIn(this.#state.setup.locale, wall);
+    setText(p.time, time);
+    setText(p.seconds, seconds);
+    setText(p.date, clockDate(wall));
+    setText(
+      p.uptime,
+      this.#state.clock.paused
+        ? say("Time stands still")
+        : say("Running for {time}", { time: duration(this.#state.uptime()) }),
+    );
     this.#showWayToEnd();
     this.#night.show();
   }

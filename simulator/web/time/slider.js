@@ -1,7 +1,7 @@
 // The whole night as a slider: wherever it is let go, all is done again from the start up to there,
 // which comes to the same.
 import { post } from "../server/requests.js";
-import { h } from "../ui/dom.js";
+import { h, setText } from "../ui/dom.js";
 import { clockTime, duration } from "../ui/format.js";
 import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
@@ -55,7 +55,7 @@ export class NightSlider {
 
   #say(uptime) {
     const text = say("{time} of {whole}", { time: duration(uptime), whole: duration(this.#end) });
-    if (this.#where.textContent !== text) this.#where.textContent = text;
+    setText(this.#where, text);
     this.#input.setAttribute("aria-valuetext", text);
     this.#input.style.setProperty("--part", uptime / Math.max(this.#end, 0.001));
   }
@@ -79,7 +79,8 @@ export class NightSlider {
     const isOff = this.#state.phone.host === "off";
     this.#input.disabled = this.#isGoing || (isOff && !this.#state.script?.end);
     if (this.#isHeld) return;
-    this.#input.max = Math.max(this.#end, 0.001);
+    const end = String(Math.max(this.#end, 0.001));
+    if (this.#input.max !== end) this.#input.max = end; // the same one too is laid out anew
     this.#input.value = isOff ? 0 : this.#state.uptime();
     this.#say(Number(this.#input.value));
   }

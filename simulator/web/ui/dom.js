@@ -30,6 +30,11 @@ export function svg(tag, attributes, ...children) {
   return fill(document.createElementNS(SVG, tag), attributes, children);
 }
 
+// Text that a clock sets again and again: the same words put anew are laid out and painted anew.
+export function setText(element, text) {
+  if (element.textContent !== text) element.textContent = text;
+}
+
 export const byId = (id) => document.getElementById(id);
 
 export const reducedMotion = () => matchMedia("(prefers-reduced-motion: reduce)").matches;

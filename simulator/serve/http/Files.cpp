@@ -15,6 +15,7 @@
 #include "simulator/machine/FileContent.h"
 #include "simulator/serve/RequestError.h"
 #include "simulator/serve/http/HttpServer.h"
+#include "simulator/serve/http/Packing.h"
 
 namespace sim {
 
@@ -118,7 +119,7 @@ bool isKnown(const httplib::Request& request, httplib::Response& response, const
   return true;
 }
 
-// What the library packs on its way, if the asker unpacks it: a whole text, and nothing else.
+// What is packed on its way, if the asker unpacks it: a whole text, and nothing else.
 bool isPackable(const std::string& mimeType) {
   return mimeType.starts_with("text/") || mimeType == "application/json" ||
          mimeType == "image/svg+xml";
@@ -128,7 +129,18 @@ void answerText(const httplib::Request& request, httplib::Response& response,
                 const files::path& file, const std::string& mimeType) {
   const OpenFile open(file);
   response.set_header("Vary", "Accept-Encoding");
-  if (!isKnown(request, response, open)) response.set_content(open.content(), mimeType);
+  if (isKnown(request, response, open)) return;
+  const std::string content = open.content();
+  const bool unpacks = request.get_header_value("Accept-Encoding").find("br") != std::string::npos;
+  if (content.empty() || !unpacks) return response.set_content(content, mimeType);
+  response.set_header("Content-Encoding", "br");
+  const auto sent = std::make_shared<const std::string>(packed(content));
+  // Not as content: the library would pack that once more.
+  response.set_content_provider(
+      sent->size(), mimeType,
+      [sent](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
+        return sink.write(sent->data() + offset, length);
+      });
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ async function transferred(page) {
   );
   session.on("Network.dataReceived", ({ requestId, dataLength, encodedDataLength }) => {
     const address = addresses.get(requestId);
+    if (address === undefined) return; // still for the page that is being left
     const isStream = address.includes("/api/events"); // what of it is on the wire is not told
     bytes[address.includes("/fonts/") ? "fonts" : "others"] += isStream
       ? dataLength

@@ -30,6 +30,14 @@ R valueOf(Object object) {
   return objc::send<R, Name>(object);
 }
 
+// nil until the extension has made its own: asking its class would make it.
+Object onlyOne(const char* name) {
+  const Class cls = objc_getClass(name);
+  if (cls == nullptr) return nullptr;
+  const auto all = runtime::liveInstances(cls);
+  return all.size() == 1 ? Object(all.front()) : Object();
+}
+
 bool isSet(const json& settings, const char* key) {
   const auto found = settings.find(key);
   return found != settings.end() && found->is_boolean() && found->get<bool>();
@@ -72,8 +80,9 @@ bool hasEndShortcut() {
 json actionsAtEnd(const json& settings, bool fades) {
   json actions = json::array();
   const Player& player = Player::current();
-  const bool isHeard = player.isPlaying() && AudioSystem::current().volume() > 0;
-  if (fades && isHeard && isSet(settings, "volumeFadeOutEnabled") &&
+  // Also where nothing plays just then.
+  const bool isLoud = AudioSystem::current().volume() > 0;
+  if (fades && isLoud && isSet(settings, "volumeFadeOutEnabled") &&
       numberOf(settings, "volumeFadeOutTime") > 0)
     actions.push_back({{"do", "fade"}, {"seconds", numberOf(settings, "volumeFadeOutTime")}});
   if (player.isPlaying()) actions.push_back({{"do", "pause"}});
@@ -88,10 +97,16 @@ json actionsAtEnd(const json& settings, bool fades) {
   return actions;
 }
 
-// The extension shows no volume display from a fade's first step to shortly after its last.
+// The extension shows no volume display from a fade's first step to shortly after its last. What is
+// paused meanwhile ends no fade: that one ends in silence, and then the volume is restored.
 bool isFading() {
-  return SBMediaController::cls() != nullptr && Player::current().isPlaying() &&
-         SBMediaController::of(SBMediaController::sharedInstance()).suppressHUD();
+  if (SBMediaController::cls() == nullptr ||
+      !SBMediaController::of(SBMediaController::sharedInstance()).suppressHUD())
+    return false;
+  if (Player::current().isPlaying()) return true;
+  const float volume = AudioSystem::current().volume();
+  const Object tasks = onlyOne("SpecialTasksHelper");
+  return tasks && volume > 0 && volume != float(valueOf<double, "volumeBeforeFadeOut">(tasks));
 }
 
 json endOf(Object timer, const json& settings) {
@@ -112,16 +127,11 @@ json endOf(Object timer, const json& settings) {
 
 }  // namespace
 
-// nil until the extension has made its own: asking its class would make it.
 Object TimerView::engine() {
   const std::size_t lines = Phone::current().journal.size();
   if (engine_ || lines == lookedAt_) return engine_;
   lookedAt_ = lines;
-  const Class cls = objc_getClass("Dozewell2Manager");
-  if (cls == nullptr) return nullptr;
-  const auto all = runtime::liveInstances(cls);
-  if (all.size() == 1) engine_ = Object(all.front());
-  return engine_;
+  return engine_ = onlyOne("Dozewell2Manager");
 }
 
 json TimerView::now(const json& settings) {

@@ -77,6 +77,42 @@ TEST(Watching, TellsOfTheTimerWhatIsSoAndWillBe) {
   EXPECT_EQ(next().at("songsLeft"), 2);
 }
 
+TEST(Watching, TellsOfAFadeAndWhatFollowsItAlsoWhereNothingPlays) {
+  const ServedProgram program({"--no-music"});
+  const auto timer = [&program] { return EventReader(program).next("snapshot").data.at("timer"); };
+  const json fade = {{"do", "fade"}, {"seconds", 15}}, airplane = {{"do", "airplane"}};
+  program.command({"playlist \"A\" 600", "volume 0.5", "set onTimerEndsAirplane YES",
+                   timerOfOneMinute, "pause"});
+  EXPECT_EQ(timer().at("atEnd"), (json{fade, airplane}));
+  program.command({"advance 61s", "play"});
+  EXPECT_EQ(timer().at("fades"), true);
+  program.command("pause");
+  EXPECT_EQ(timer().at("fades"), true);
+  EXPECT_EQ(timer().at("atEnd"), json{airplane});
+  program.command("advance 15s");
+  EXPECT_EQ(program.value("RadiosPreferences.new.airplaneMode"), "YES");
+  EXPECT_EQ(timer().at("fades"), false);
+  // Restored, while the display of the volume is still suppressed.
+  program.command("advance 1250ms");
+  EXPECT_EQ(program.value("SBMediaController.sharedInstance.suppressHUD"), "YES");
+  EXPECT_EQ(timer().at("fades"), false);
+}
+
+TEST(Watching, TellsThatADurationWaitsForTheEndOfItsSong) {
+  const ServedProgram program({"--no-music"});
+  program.command({"playlist \"A\" 600", "set letTheSongFinishEnabled YES", timerOfOneMinute});
+  const auto timer = [&program] { return EventReader(program).next("snapshot").data.at("timer"); };
+  const json before = timer();
+  EXPECT_EQ(before.at("endsAt"), 60.0);
+  EXPECT_EQ(before.at("endsWithSong"), true);
+  EXPECT_EQ(before.at("atEnd"), (json{{{"do", "pause"}}}));
+  program.command("advance 61s");
+  const json waits = timer();
+  EXPECT_EQ(waits.at("mode"), "duration");
+  EXPECT_EQ(waits.at("endsAt"), nullptr);
+  EXPECT_EQ(waits.at("endsWithSong"), true);
+}
+
 TEST(Watching, TellsNewJournalEntriesOnce) {
   const ServedProgram program;
   EventReader page(program);

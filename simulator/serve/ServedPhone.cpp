@@ -129,8 +129,9 @@ void ServedPhone::resume() {
   linesPlayed_ = long(saved.lineNumber);
   interpreter_.emplace(session_, table_, std::move(lines));
   interpreter_->resume(saved);
-  // A script says itself when the phone is locked.
-  if (!state_.script && session_.state == HostState::running) play("lock");
+  // A script says itself when the phone is locked, until somebody else goes on with the phone.
+  const bool isOfScript = state_.script && !state_.script->leftAt;
+  if (!isOfScript && session_.state == HostState::running) play("lock");
 }
 
 void ServedPhone::rebase() {

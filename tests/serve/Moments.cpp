@@ -91,6 +91,14 @@ TEST(Moments, LeadBackAlsoAfterSomethingElseWasDone) {
   EXPECT_EQ(reached(program), 10.0);
 }
 
+TEST(Moments, AreLeftByWhoeverRestartsTheHostThere) {
+  const ServedProgram program;
+  haveANight(program);
+  program.post("/api/moment", {{"uptime", 10}});
+  EXPECT_EQ(program.command({"unlock", "respring"}).status, 200);
+  EXPECT_EQ(program.value("SBLockScreenManager.sharedInstance.isUILocked"), "YES");
+}
+
 TEST(Moments, RefuseWhatIsNone) {
   const ServedProgram program;
   EXPECT_EQ(program.post("/api/moment", json::object()).error(),

@@ -8,6 +8,7 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/standin/StandIn.h"
+#include "simulator/uikit/views/LayoutDirection.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
 namespace sim {
@@ -50,7 +51,7 @@ void Overlay::viewDidLoad() {
 
 void Overlay::addTile(const ModulePlace& place) {
   auto tile = addView(viewOf(Object(self())), "UIView");
-  const ModuleGrid grid(sizeOf(viewOf(Object(self()))));
+  const ModuleGrid grid(sizeOf(viewOf(Object(self()))), interfaceIsRightToLeft());
   fill(tile, tileColor(), tileRadius);
   objc::send<void, "setClipsToBounds:">(tile.get(), true);
   fillTile(tile, place, grid.frame(place).size, controls);
@@ -88,7 +89,7 @@ bool Overlay::isExpanded() const {
 void Overlay::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
   const CGSize screen = sizeOf(viewOf(Object(self())));
-  const ModuleGrid grid(screen);
+  const ModuleGrid grid(screen, interfaceIsRightToLeft());
   setFrame(backgroundView, {{0, 0}, screen});
   fill(backgroundView, blackColor(isExpanded() ? 0.7 : 0.5));
   auto tile = tiles.begin();
@@ -139,7 +140,8 @@ void Overlay::registerClass() {
       .method<"viewWillAppear:", &Overlay::viewWillAppear>()
       .method<"viewDidDisappear:", &Overlay::viewDidDisappear>()
       .method<"_volumeDidSlide:", &Overlay::volumeDidSlide>()
-      .partial<"_brightnessDidSlide:", &Overlay::brightnessDidSlide>("the screen stays as bright")
+      .partial<"_brightnessDidSlide:", &Overlay::brightnessDidSlide>(
+          "pages that show the phone darken it; what is drawn stays as bright, as in a screenshot")
       .method<"viewWillLayoutSubviews", &Overlay::viewWillLayoutSubviews>()
       .method<"_didTapBackground:", &Overlay::didTapBackground>()
       .finish();

@@ -35,13 +35,17 @@ const ModulePlace& mediaPlace() {
   return places[1];
 }
 
-ModuleGrid::ModuleGrid(CGSize screen) : screen_(screen), isTurned_(screen.width > screen.height) {}
+ModuleGrid::ModuleGrid(CGSize screen, bool isRightToLeft)
+    : screen_(screen), isTurned_(screen.width > screen.height), isRightToLeft_(isRightToLeft) {}
 
 CGRect ModuleGrid::frame(const ModulePlace& place) const {
   const Cells& cells = isTurned_ ? place.turned : place.upright;
-  const double left = std::floor((screen_.width - extent(isTurned_ ? 5 : 4)) / 2);
+  const int columns = isTurned_ ? 5 : 4;
+  const int column =
+      isRightToLeft_ ? columns - cells.column - cells.columns : cells.column;  // from the left
+  const double left = std::floor((screen_.width - extent(columns)) / 2);
   const double top = isTurned_ ? std::floor((screen_.height - extent(4)) / 2) : uprightTop;
-  return {{left + cells.column * (cell + gap), top + cells.row * (cell + gap)},
+  return {{left + column * (cell + gap), top + cells.row * (cell + gap)},
           {extent(cells.columns), extent(cells.rows)}};
 }
 

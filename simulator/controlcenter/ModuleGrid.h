@@ -7,7 +7,7 @@
 
 namespace sim {
 
-// Cells of the grid, from 0.
+// Cells of the grid, from 0; columns from where reading begins.
 struct Cells {
   int column;
   int row;
@@ -27,10 +27,10 @@ struct ModulePlace {
 const std::array<ModulePlace, 11>& modulePlaces();
 const ModulePlace& mediaPlace();
 
-// The grid on a screen of that size.
+// The grid on a screen of that size; mirrored where the interface runs from right to left.
 class ModuleGrid {
  public:
-  explicit ModuleGrid(CGSize screen);
+  ModuleGrid(CGSize screen, bool isRightToLeft);
   CGRect frame(const ModulePlace& place) const;
   // As wide as four columns, in the middle of the screen.
   CGRect expandedFrame() const;
@@ -38,6 +38,7 @@ class ModuleGrid {
  private:
   CGSize screen_;
   bool isTurned_;
+  bool isRightToLeft_;
 };
 
 }  // namespace sim

@@ -36,7 +36,9 @@ void addSwitch(Object tile, CGRect frame, CCUIRoundButton::Use use, TileControls
 }
 
 void addRadios(Object tile, TileControls& controls) {
-  constexpr double size = 54, left = 15, right = 84;  // points
+  constexpr double size = 54, near = 15, far = 84;  // points
+  const bool isRightToLeft = interfaceIsRightToLeft();
+  const double first = isRightToLeft ? far : near, second = isRightToLeft ? near : far;
   const auto add = [&](CGPoint at, const char* name, ModuleSymbol symbol, Object color,
                        const Switch& its) {
     addSwitch(tile, {at, {size, size}},
@@ -51,12 +53,12 @@ void addRadios(Object tile, TileControls& controls) {
                its.turn},
               controls);
   };
-  add({left, left}, "Airplane Mode", ModuleSymbol::airplane, rgbColor(1, 0.62, 0.04),
+  add({first, near}, "Airplane Mode", ModuleSymbol::airplane, rgbColor(1, 0.62, 0.04),
       airplaneSwitch());
-  add({right, left}, "Mobile Data", ModuleSymbol::mobileData, rgbColor(0.2, 0.78, 0.35),
+  add({second, near}, "Mobile Data", ModuleSymbol::mobileData, rgbColor(0.2, 0.78, 0.35),
       mobileDataSwitch());
-  add({left, right}, "Wi-Fi", ModuleSymbol::wifi, blue(), wifiSwitch());
-  add({right, right}, "Bluetooth", ModuleSymbol::bluetooth, blue(), bluetoothSwitch());
+  add({first, far}, "Wi-Fi", ModuleSymbol::wifi, blue(), wifiSwitch());
+  add({second, far}, "Bluetooth", ModuleSymbol::bluetooth, blue(), bluetoothSwitch());
 }
 
 Object addLevel(Object tile, ModuleSymbol symbol, CGSize size, const char* name, float value) {

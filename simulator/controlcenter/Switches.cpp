@@ -1,5 +1,6 @@
 #include "simulator/controlcenter/Switches.h"
 
+#include <cmath>
 #include <string>
 
 #include "objc/Message.h"
@@ -19,7 +20,7 @@ using objc::Object;
 // Of the host: gone with it.
 struct Hardware {
   bool torch = false;
-  float brightness = 0.5F;
+  float brightness = standardBrightness;
 };
 
 Hardware& hardware() {
@@ -118,7 +119,9 @@ float brightness() {
 }
 
 void setBrightness(float level) {
+  if (level == hardware().brightness) return;
   hardware().brightness = level;
+  Phone::current().journal.record("brightness " + std::to_string(std::lround(level * 100)) + " %");
 }
 
 }  // namespace sim

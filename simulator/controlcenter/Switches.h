@@ -20,6 +20,7 @@ Switch rotationLockSwitch();
 Switch torchSwitch();
 
 // From 0 to 1.
+inline constexpr float standardBrightness = 0.5F;
 float brightness();
 void setBrightness(float level);
 

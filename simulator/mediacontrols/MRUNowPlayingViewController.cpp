@@ -15,6 +15,7 @@
 #include "simulator/mediaremote/NowPlaying.h"
 #include "simulator/mediaremote/Player.h"
 #include "simulator/radios/Radios.h"
+#include "simulator/springboard/SystemNames.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/views/ViewBuilding.h"
 
@@ -26,7 +27,7 @@ using Controller = MRUNowPlayingViewController;
 
 void showTrack(Object labels) {
   const Track* track = Player::current().track();
-  const Object title = track == nullptr ? string("Not Playing")
+  const Object title = track == nullptr ? string(systemName("Not Playing"))
                        : track->title   ? string(*track->title)
                                         : Object();
   const bool hasArtist = track != nullptr && !track->artist.empty();

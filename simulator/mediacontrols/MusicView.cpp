@@ -12,6 +12,7 @@
 #include "simulator/mediaremote/Player.h"
 #include "simulator/springboard/AppWindow.h"
 #include "simulator/springboard/HomeIcons.h"
+#include "simulator/springboard/SystemNames.h"
 #include "simulator/standin/StandIn.h"
 #include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/views/ViewBuilding.h"
@@ -107,7 +108,7 @@ void MusicView::slideVolume(Object slider) {
 void MusicView::update() {
   const Player& player = Player::current();
   const Track* track = player.track();
-  setText(title, string(track == nullptr ? "Not Playing" : track->title.value_or("")));
+  setText(title, string(track == nullptr ? systemName("Not Playing") : track->title.value_or("")));
   setText(artist, string(track == nullptr ? "" : track->artist));
   if (auto* buttons = stateOf<MRUNowPlayingTransportControlsView>(transport.get()))
     buttons->setPlaying(player.isPlaying());

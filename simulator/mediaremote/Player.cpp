@@ -108,6 +108,13 @@ const Track* Player::track() const {
   return index_ == nothing ? nullptr : &tracks_[index_];
 }
 
+const Track* Player::following() const {
+  if (track() == nullptr) return nullptr;
+  const std::size_t next = indexAfterEnd();
+  if (next < tracks_.size()) return &tracks_[next];
+  return repeatsAll_ ? &tracks_.front() : nullptr;
+}
+
 double Player::position() const {
   return track() == nullptr ? 0 : seconds(elapsed());
 }
@@ -134,7 +141,7 @@ void Player::begin(std::size_t index, Nanoseconds when) {
 // Gapless: the next track starts where this one ended, even when the queue comes to it later,
 // as after the time in which the host was gone.
 void Player::trackDidEnd() {
-  begin(repeatsOne_ ? index_ : index_ + 1, deadline(startedAt_, track()->length));
+  begin(indexAfterEnd(), deadline(startedAt_, track()->length));
 }
 
 void Player::scheduleEnd() {

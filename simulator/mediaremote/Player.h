@@ -58,6 +58,8 @@ class Player : public Observed {
   bool isPlaying() const { return playing_; }
   // nullptr when nothing plays. A paused track is still the track.
   const Track* track() const;
+  // What the end of the track begins; nullptr when that is the end of the music.
+  const Track* following() const;
   double position() const;  // seconds from the start of the track; 0 without a track
   // The bundle identifier of the application whose tracks these are.
   const std::string& application() const { return application_; }
@@ -68,6 +70,7 @@ class Player : public Observed {
   nlohmann::json save() const;
   void restore(const nlohmann::json& saved);
 
+  std::size_t indexAfterEnd() const { return repeatsOne_ ? index_ : index_ + 1; }
   void begin(std::size_t index, Nanoseconds when);
   void trackDidEnd();
   void scheduleEnd();

@@ -97,8 +97,13 @@ void ServedPhone::playScriptLineAt(std::size_t number, const std::string& text) 
   OpenScript& script = *state_.script;
   // Before it runs: after a line that ends the process, the next one goes on behind it.
   script.line = nextLine(scriptLines_, number + 1);
+  session_.expectCrash = [this](const RestartState& state) {
+    send({{"checkpoint", restartStateAsJson(state)}});
+    send({{"expectsCrash", request_.is_null() ? json() : request_.at("id")}});
+  };
   try {
     play(text);
+    session_.expectCrash = nullptr;
     if (script.line > scriptLines_.size() && !script.goal)
       script.state = OpenScript::State::finished;
     return;
@@ -107,6 +112,7 @@ void ServedPhone::playScriptLineAt(std::size_t number, const std::string& text) 
   } catch (const ScriptError& error) {
     script.failure = {number, error.column, error.what()};
   }
+  session_.expectCrash = nullptr;
   // What has failed on the way to a moment did so before, and somebody went on.
   if (script.goal) return script.failure.reset();
   script.line = number;

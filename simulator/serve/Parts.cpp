@@ -1,8 +1,10 @@
 // What pages are told of the phone.
 #include "simulator/controlcenter/ControlCenter.h"
+#include "simulator/controlcenter/Switches.h"
 #include "simulator/coversheet/LockScreen.h"
 #include "simulator/foundation/Kind.h"
 #include "simulator/preferences/PreferencesApp.h"
+#include "simulator/radios/Radios.h"
 #include "simulator/serve/ServedPhone.h"
 #include "simulator/springboard/SBBacklightController.h"
 #include "simulator/uikit/application/UIApplication.h"
@@ -84,6 +86,9 @@ json ServedPhone::phonePart() const {
           {"locked", isLocked(session_)},
           {"controlCenter", session_.state == HostState::running && bool(openedControlCenter())},
           {"settings", session_.state == HostState::running && PreferencesApp::current().isOpen()},
+          {"brightness", session_.state == HostState::running ? brightness() : standardBrightness},
+          {"peers", Radios::current().peers().size()},
+          {"due", session_.state != HostState::off && session_.phone.queue.nextDue().has_value()},
           {"orientation", session_.state == HostState::running ? orientation() : "portrait"}};
 }
 

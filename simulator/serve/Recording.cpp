@@ -12,6 +12,7 @@ namespace sim {
 namespace {
 
 constexpr const char* endOfSetup = "boot";
+constexpr const char* expectation = "expect-crash ";
 
 // As one of the commands of a `repeat`.
 bool canBeOneOfSeveral(const std::string& line) {
@@ -74,7 +75,8 @@ void Recording::crashed(Nanoseconds uptime) {
     for (std::size_t index = 1; index < unsaved_.size(); ++index) all += " then " + unsaved_[index];
     unsaved_ = {all};
   }
-  unsaved_.back().insert(0, "expect-crash ");
+  // A script may have said so itself.
+  if (!unsaved_.back().starts_with(expectation)) unsaved_.back().insert(0, expectation);
   saved(uptime);
 }
 

@@ -67,7 +67,8 @@ void Supervisor::launch(Life& life) {
   job.state = life.state;
   life.last = nullptr;
   life.isReady = life.isKilled = false;
-  life.launched = heard_ = pinged_ = steady_clock::now();
+  life.expectedCrash.reset();
+  life.launched = life.heard = heard_ = pinged_ = steady_clock::now();
   ++hosts_;
   life.host = std::make_unique<HostProcess>(zygote_, asJson(job), life.journal);
 }
@@ -121,7 +122,8 @@ void Supervisor::takeMessages(Life& life) {
 
 void Supervisor::take(Life& life, const Message& message) {
   const json& head = message.head;
-  if (&life == life_.get()) heard_ = steady_clock::now();
+  life.heard = steady_clock::now();
+  if (&life == life_.get()) heard_ = life.heard;
   if (head.contains("event")) {
     if (&life == life_.get()) subscribers_.sendText(message.body);
   } else if (head.contains("answer")) {
@@ -132,12 +134,15 @@ void Supervisor::take(Life& life, const Message& message) {
     life.recording->saved(life.uptime);
   } else if (head.contains("progress")) {
     life.uptime = head.at("progress").get<Nanoseconds>();
-    hasProgress_ = true;
+    hasProgress_ = hasProgress_ || &life == life_.get();
+  } else if (head.contains("expectsCrash")) {
+    life.expectedCrash = head.at("expectsCrash");
   } else if (head.contains("ready")) {
     hostReady(life);
   } else if (head.contains("restart") || head.contains("failed") || head.contains("again")) {
     life.last = head;
   } else {
+    life.expectedCrash.reset();  // the line is over, or it is another
     takeRecording(*life.recording, head);
   }
 }
@@ -189,6 +194,8 @@ void Supervisor::hostEnded(Life& life) {
   life.host.reset();
   life.isReady = false;
   life.journal.refresh();
+  if (life.expectedCrash && result.crash && !life.isKilled)
+    return hostCrashedAsExpected(life, result);
   if (&life == candidate_.get() && !life.last.contains("restart")) {
     if (life.last.contains("again")) return repeatCandidate();
     if (life.last.contains("failed")) return dropCandidate(refusalFrom(life.last));
@@ -197,6 +204,14 @@ void Supervisor::hostEnded(Life& life) {
   }
   if (life.last.contains("restart")) return hostRestarts(life);
   if (!life.last.contains("failed")) hostCrashed(life, result);
+}
+
+// Who has asked for what ended the host; `request` is null when nobody has.
+void Supervisor::answerRestart(const Json& request, const Json& uptime, const Json& ran) {
+  if (request.is_null()) return;
+  if (auto found = requests_.extract(request.get<long>()))
+    found.mapped().done(
+        200, json({{"ok", true}, {"restarts", true}, {"uptime", uptime}, {"ran", ran}}).dump());
 }
 
 void Supervisor::hostRestarts(Life& life) {
@@ -208,14 +223,18 @@ void Supervisor::hostRestarts(Life& life) {
   // Who has it restarted in order wants it whole.
   life.isSafe = false;
   life.crashes = 0;
-  if (const json& id = last.at("request"); !id.is_null()) {
-    if (auto found = requests_.extract(id.get<long>()))
-      found.mapped().done(200, json({{"ok", true},
-                                     {"restarts", true},
-                                     {"uptime", last.at("uptime")},
-                                     {"ran", last.at("ran")}})
-                                   .dump());
-  }
+  answerRestart(last.at("request"), last.at("uptime"), last.at("ran"));
+  launch(life);
+}
+
+// The script says so: it goes on behind the line, with the next host.
+void Supervisor::hostCrashedAsExpected(Life& life, const HostResult& result) {
+  CrashReport report = reportOf(result.status, result.crash, life.journal);
+  life.uptime = report.uptime = std::max(report.uptime, life.uptime);
+  life.journal.append({report.uptime, journalLine(report)});
+  life.recording->crashed(report.uptime);
+  relaunchAfterCrash(life.state, report.uptime, result.crash);
+  answerRestart(*life.expectedCrash, seconds(life.uptime), 0);
   launch(life);
 }
 

@@ -93,6 +93,9 @@ class Supervisor {
     int crashes = 0;  // one soon after the other
     bool isSafe = false;
     bool isKilled = false;  // by a page
+    // The script's line is to crash the host; the request that it answers, or null.
+    std::optional<Json> expectedCrash;
+    Moment heard{};  // when it said something last
   };
   struct Request {
     Json question;
@@ -111,8 +114,10 @@ class Supervisor {
   void takeAnswer(const Message& message);
   void hostReady(Life& life);
   void hostEnded(Life& life);
+  void answerRestart(const Json& request, const Json& uptime, const Json& ran);
   void hostRestarts(Life& life);
   void hostCrashed(Life& life, const HostResult& result);
+  void hostCrashedAsExpected(Life& life, const HostResult& result);
 
   void ask(Json question, Done done);
   void post(const Json& head);

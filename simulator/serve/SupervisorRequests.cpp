@@ -201,7 +201,7 @@ bool Supervisor::isHanging() const {
 
 void Supervisor::lookAfterHost() {
   const auto now = steady_clock::now();
-  if (candidate_ && now > candidate_->launched + bootPatience)
+  if (candidate_ && now > candidate_->heard + bootPatience)
     dropCandidate({400, "this phone does not boot: its host does not answer"});
   const bool isSilent = life_->isReady && requests_.empty() && now > heard_ + pingEvery;
   if (isSilent && !subscribers_.isEmpty() && pinged_ <= heard_) {

@@ -109,6 +109,13 @@ bool isFading() {
   return tasks && volume > 0 && volume != float(valueOf<double, "volumeBeforeFadeOut">(tasks));
 }
 
+// The extension counts no song that follows one of the same title, as when one song repeats.
+bool sameTitleFollows() {
+  const Track* track = Player::current().track();
+  const Track* next = Player::current().following();
+  return track != nullptr && next != nullptr && track->title == next->title;
+}
+
 json endOf(Object timer, const json& settings) {
   const bool isDuration = valueOf<bool, "timerModeIsRunning">(timer);
   const bool isOver = valueOf<bool, "shouldPauseMusicAtTheEndOfThisTrack">(timer);
@@ -121,6 +128,7 @@ json endOf(Object timer, const json& settings) {
   const auto due = PCSimpleTimer::firstDue(systemTimerName);
   if (isDuration && !isOver && due) view["endsAt"] = seconds(*due);
   if (!isDuration) view["songsLeft"] = valueOf<long, "getTimerRemainingTracks">(timer);
+  view["sameTitleFollows"] = sameTitleFollows();
   view["atEnd"] = actionsAtEnd(settings, !endsWithSong);
   return view;
 }
@@ -135,8 +143,9 @@ Object TimerView::engine() {
 }
 
 json TimerView::now(const json& settings) {
-  json view = {{"mode", nullptr},       {"endsAt", nullptr}, {"songsLeft", nullptr},
-               {"endsWithSong", false}, {"fades", false},    {"atEnd", json::array()}};
+  json view = {{"mode", nullptr},       {"endsAt", nullptr},         {"songsLeft", nullptr},
+               {"endsWithSong", false}, {"sameTitleFollows", false}, {"fades", false},
+               {"atEnd", json::array()}};
   if (Session::current().state != HostState::running) return view;
   const objc::AutoreleasePool pool;
   const Object timer = engine();

@@ -12,7 +12,7 @@ struct Name {
   std::string_view english, arabic, german, japanese;
 };
 
-constexpr std::array<Name, 22> names = {{
+constexpr std::array<Name, 23> names = {{
     {"Airplane Mode", "نمط الطيران", "Flugmodus", "機内モード"},
     {"Mobile Data", "البيانات الخلوية", "Mobile Daten", "モバイルデータ通信"},
     {"Wi-Fi", "شبكة Wi-Fi", "WLAN", "Wi-Fi"},
@@ -32,6 +32,7 @@ constexpr std::array<Name, 22> names = {{
     {"Reminders", "التذكيرات", "Erinnerungen", "リマインダー"},
     {"Settings", "الإعدادات", "Einstellungen", "設定"},
     {"Music", "الموسيقى", "Musik", "ミュージック"},
+    {"Not Playing", "ليس قيد التشغيل", "Keine Wiedergabe", "再生停止中"},
     {"Timer", "المؤقت", "Timer", "タイマー"},
     {"Cancel", "إلغاء", "Abbrechen", "キャンセル"},
     {"Only Settings, Clock and Music open here", "هنا تُفتح الإعدادات والساعة والموسيقى فقط",

@@ -18,8 +18,6 @@ import { Touch } from "./phone/touch.js";
 import { JournalPanel } from "./journal/panel.js";
 import { MusicPanel } from "./player/panel.js";
 import { ScriptPanel } from "./script/panel.js";
-import { SettingsPanel } from "./settings/panel.js";
-import { SetupPanel } from "./setup/panel.js";
 import { SoundFollower } from "./sound/follow.js";
 import { SoundOutput } from "./sound/output.js";
 import { SoundStart } from "./sound/start.js";
@@ -47,10 +45,16 @@ byId("top-state").append(new PhoneTools(handset, state).element);
 new TimePanel(state);
 new MusicPanel(state);
 new JournalPanel(state);
-new SettingsPanel(state);
-new SetupPanel(state);
 new ScriptPanel(state);
 new Tabs({
+  settings: async () => {
+    const { SettingsPanel } = await import("./settings/panel.js");
+    new SettingsPanel(state);
+  },
+  setup: async () => {
+    const { SetupPanel } = await import("./setup/panel.js");
+    new SetupPanel(state);
+  },
   inside: async () => {
     const { InsidePanel } = await import("./inspect/panel.js");
     new InsidePanel(screen, handset);

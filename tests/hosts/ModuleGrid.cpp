@@ -20,7 +20,7 @@ bool isInside(CGRect frame, CGSize screen) {
 
 class ModuleGridTest : public testing::TestWithParam<CGSize> {
  protected:
-  ModuleGrid grid{GetParam()};
+  ModuleGrid grid{GetParam(), false};
 };
 
 TEST_P(ModuleGridTest, NoModuleLiesOnAnother) {
@@ -40,6 +40,16 @@ TEST_P(ModuleGridTest, TheMusicsModuleIsTwoByTwoCells) {
   EXPECT_EQ(mediaPlace().kind, ModuleKind::media);
   EXPECT_EQ(grid.frame(mediaPlace()).size, (CGSize{153, 153}));
   EXPECT_EQ(grid.expandedFrame().size.width, 321);
+}
+
+TEST_P(ModuleGridTest, IsMirroredFromRightToLeft) {
+  const ModuleGrid mirrored(GetParam(), true);
+  for (const ModulePlace& place : modulePlaces()) {
+    const CGRect frame = grid.frame(place), other = mirrored.frame(place);
+    // The grid itself stands on a whole point.
+    EXPECT_NEAR(other.origin.x + other.size.width, GetParam().width - frame.origin.x, 1);
+    EXPECT_EQ(other.origin.y, frame.origin.y);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, ModuleGridTest, testing::Values(upright, turned),

@@ -99,6 +99,29 @@ TEST(Moments, AreLeftByWhoeverRestartsTheHostThere) {
   EXPECT_EQ(program.value("SBLockScreenManager.sharedInstance.isUILocked"), "YES");
 }
 
+const std::vector<std::string> failing = {"--no-music", "--tweak", FAILING_EXTENSION};
+
+TEST(Moments, LieAlsoBehindACrash) {
+  const ServedProgram program(failing);
+  program.command({"playlist \"A\" 180", "play", "advance 10s"});
+  EXPECT_EQ(program.command("send Failing.class readsNowhere").status, 503);
+  program.command({"advance 20s", "volume 0.25", "advance 10s"});
+  const std::string before = program.journal();
+  ASSERT_NE(before.find("crash"), std::string::npos);
+  const auto go = [&](json moment) {
+    const Answer answer = program.post("/api/moment", std::move(moment));
+    EXPECT_EQ(answer.status, 200) << answer.body;
+  };
+  go({{"uptime", 20}});
+  EXPECT_EQ(reached(program), 20.0);
+  EXPECT_TRUE(before.starts_with(program.journal())) << program.journal();
+  go({{"uptime", 5}});
+  // And on past the crash, line by line.
+  program.post("/api/script/step", {{"run", true}});
+  go({{"uptime", 40}});
+  EXPECT_EQ(program.journal(), before);
+}
+
 TEST(Moments, RefuseWhatIsNone) {
   const ServedProgram program;
   EXPECT_EQ(program.post("/api/moment", json::object()).error(),

@@ -28,6 +28,9 @@ TEST(Watching, BeginsWithEverything) {
                                    {"locked", true},
                                    {"controlCenter", false},
                                    {"settings", false},
+                                   {"brightness", 0.5},
+                                   {"peers", 0},
+                                   {"due", true},
                                    {"orientation", "portrait"}}));
   EXPECT_EQ(all.at("settings").size(), 24u);
   EXPECT_TRUE(all.at("scene").at("nodes").contains(all.at("scene").at("root")));

@@ -21,6 +21,15 @@ async function audit(page, where) {
   );
 }
 
+// By which a panel is known to be there: some are fetched when they are first shown.
+const content = {
+  journal: ".entry-line",
+  settings: ".setting",
+  setup: ".setting",
+  script: "button",
+  inside: ".view-tree button",
+};
+
 const closed = { silent: false };
 
 phoneTest("an audit finds nothing", { page: closed }, async (served, page) => {
@@ -38,6 +47,7 @@ phoneTest("an audit finds nothing", { page: closed }, async (served, page) => {
   await page.locator("#entries .entry-line").first().click();
   for (const name of ["journal", "settings", "setup", "script", "inside"]) {
     await page.click(`#tab-${name}`);
+    await page.locator(`#panel-${name}`).locator(content[name]).first().waitFor();
     for (const colorScheme of ["light", "dark"]) {
       await page.emulateMedia({ colorScheme });
       found.push(...(await audit(page, `${name}, ${colorScheme}`)));

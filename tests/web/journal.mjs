@@ -156,3 +156,21 @@ phoneTest("the timeline shows the end of a long night", {}, async (served, page)
   await page.mouse.click(box.x + box.width / 2, box.y + 2);
   await page.locator("#entries .entry-details").waitFor();
 });
+
+phoneTest("lines that a burst leaves out are counted", {}, async (served, page) => {
+  await served.run("repeat 1500 volume 0.5 then volume 0.6");
+  const gap = page.locator("#entries .gap");
+  await gap.waitFor();
+  const missing = await page.evaluate(async () => {
+    const { state } = await import(new URL("main.js", document.baseURI)); // the page's own
+    return state.journal.findLast(({ n }, at) => n - (state.journal[at - 1]?.n ?? 0) > 1).n;
+  });
+  assert.ok(missing > 1000);
+  await page.reload();
+  await page.click("#start-silent");
+  const { length } = await served.journal();
+  await page.locator("#entries .gap", { hasText: `${length - 1000} lines are left out` }).waitFor();
+  assert.equal(await gap.locator("a").getAttribute("href"), "api/journal");
+  await page.selectOption("#journal-kind", "all");
+  await page.locator("#entries .gap", { hasText: `${length - 600} lines are left out` }).waitFor();
+});

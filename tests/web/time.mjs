@@ -99,3 +99,33 @@ phoneTest("the slider leads back to any moment of the night", {}, async (served,
   await slide(600);
   await page.locator(".night-line output", { hasText: "10:00 of 10:00" }).waitFor();
 });
+
+phoneTest(
+  "a song that repeats is not promised to stop the music",
+  { serve: ["--paused", "--no-music"] },
+  async (served, page) => {
+    await served.run('playlist "A" 100 "B" 100', "play", "repeat-one YES", `${start} 1 1`);
+    await hint(page, "This title plays again, which does not count");
+    await reason(page, "This title plays again: its end stops nothing.");
+    await served.run("advance 300s");
+    assert.ok(!(await served.journal()).includes("-[SBMediaController pauseForEventSource:0]"));
+    await served.run("repeat-one NO");
+    await hint(page, "The music stops at the end of this song.");
+    await served.run("repeat-one YES", "set letTheSongFinishEnabled YES", `${start} 0 300`);
+    await hint(page, "The timer ends in 5:00, the music only when another title begins.");
+  },
+);
+
+phoneTest(
+  "times are those of the phone's region, as its clock shows them",
+  {},
+  async (served, page) => {
+    await served.run("volume 0.8");
+    const row = page.locator("#entries .entry", { hasText: "You set the volume" });
+    assert.match(await row.locator("time").first().textContent(), /^\d+:\d\d:\d\d [AP]M$/);
+    await served.post("/api/setup", { lines: ["locale de_DE"] });
+    await row.waitFor({ state: "detached" });
+    await served.run("volume 0.8");
+    assert.match(await row.locator("time").first().textContent(), /^\d\d:\d\d:\d\d$/);
+  },
+);

@@ -113,7 +113,7 @@ void expectRefused(Arguments& words) {
 void expectCrash(Arguments& words) {
   const ScriptLine line = readCommand(words);
   const Session& session = Session::current();
-  if (!session.expectCrash) throw ScriptError(0, "only a script that is played expects a crash");
+  if (!session.expectCrash) throw ScriptError(0, "only a script expects a crash");
   const ExpectingOtherEnd expecting("expected the host to crash");
   session.expectCrash(recorded(session, "as the host died at " + session.place()));
   session.runLine(line);
@@ -134,8 +134,7 @@ void addRepeatCommands(CommandTable& table) {
   table.add({"expect-crash", Stage::running, "expect-crash COMMAND…",
              "expect-crash send SBMediaController.sharedInstance fail",
              "Requires that the host crashes of a command; it is launched again at once, and the "
-             "script goes on behind this line. Only in scripts that are played, not in those that "
-             "a page has opened.",
+             "script goes on behind this line. Only in scripts.",
              expectCrash});
 }
 

@@ -26,6 +26,7 @@ export class InsidePanel {
   #details = h("div", { class: "view-details", id: "view-details", "aria-live": "polite" });
 
   constructor(screen, handset) {
+    document.head.append(h("link", { rel: "stylesheet", href: "styles/inside.css" }));
     this.#screen = screen;
     this.#handset = handset;
     this.#ring = new Ring(handset, "view-ring", 0);

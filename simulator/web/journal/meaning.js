@@ -95,6 +95,15 @@ const known = [
     (what) => say("Done by hand: {what}.", { what }),
     (what) => ({ key: what, text: handDone[what]() }),
   ],
+  [
+    /^brightness (\d+) %$/,
+    "user",
+    (level) => say("The screen is {level} bright.", { level: percent(`${level / 100}`) }),
+    (level) => ({
+      key: "brightness",
+      text: say("You set the brightness to {level}", { level: percent(`${level / 100}`) }),
+    }),
+  ],
   // The latter in Control Center and in Clock.
   [
     /^(?:user (.*)|(?=Wi-Fi |mobile data |rotation lock |torch |Clock timer st)(.*))$/,

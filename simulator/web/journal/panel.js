@@ -1,9 +1,9 @@
 // The journal: the story first, each piece of it open to its lines; or the lines alone, filtered.
 import { goTo } from "../time/slider.js";
 import { byId, h } from "../ui/dom.js";
-import { clockSeconds, clockTime, uptime } from "../ui/format.js";
+import { clockAsIn, uptime } from "../ui/format.js";
 import { icon } from "../ui/icons.js";
-import { say } from "../ui/language.js";
+import { say, sayCount } from "../ui/language.js";
 import { paced } from "../ui/paced.js";
 import { Roving } from "../ui/roving.js";
 import { toast } from "../ui/toast.js";
@@ -16,6 +16,33 @@ const linesAtMost = 200; // of one piece
 const nearEnd = 40; // pixels: who reads further up is left there
 const addedEvery = 100; // milliseconds: in an hour per second hundreds of entries are written
 const wideKey = "dozewell.wide";
+
+// Entries that follow each other, with how many are missing before them; `last` is the number of
+// the entry before.
+function runsOf(entries, last) {
+  const runs = [];
+  for (const entry of entries) {
+    const missing = entry.n - last - 1;
+    if (missing > 0 || runs.length === 0) runs.push({ missing, entries: [] });
+    runs.at(-1).entries.push(entry);
+    last = entry.n;
+  }
+  return runs;
+}
+
+// Said where the lines would stand that the page was not sent, or does not keep.
+function gapRow(count) {
+  const text = sayCount(
+    "One line is left out here. All are in the whole journal.",
+    "{count} lines are left out here. All are in the whole journal.",
+    count,
+  );
+  const whole = say("The whole journal");
+  const link = h("a", { href: "api/journal", download: "journal.json", text: whole });
+  const row = h("li", { class: "gap" }, h("span", { text }), link);
+  row.entries = [];
+  return row;
+}
 
 export class JournalPanel {
   #state;
@@ -48,6 +75,8 @@ export class JournalPanel {
   #rows = new Map(); // piece or entry's number -> row
   #follows = true; // shows what comes; not while somebody reads further up
   #coming = []; // entries that have no row yet
+  #last = 0; // number of the last entry that was looked at
+  #isCut = false; // rows are gone from its beginning
   #addSoon = paced(addedEvery, () => this.#addRows());
 
   constructor(state) {
@@ -146,7 +175,7 @@ export class JournalPanel {
   // Of the phone's clock, as far as nobody has set it since.
   #clock(time) {
     const wall = this.#state.wall() - this.#state.uptime() + time;
-    return `${clockTime(wall)}:${clockSeconds(wall)}`;
+    return clockAsIn(this.#state.setup.locale, wall).join(":");
   }
 
   #rowOf(kind, time, content) {
@@ -197,22 +226,49 @@ export class JournalPanel {
     this.#rows.clear();
     this.#list.replaceChildren();
     this.#story = new Story();
-    if (this.#isStory) this.#tell(this.#state.journal);
-    else {
-      const fitting = this.#state.journal.filter((entry) => this.#fits(entry));
-      this.#list.append(...fitting.slice(-shownAtMost).map((entry) => this.#lineRow(entry)));
-    }
+    this.#isCut = false;
+    this.#last = (this.#state.journal[0]?.n ?? 1) - 1;
+    this.#addEntries(this.#state.journal);
     this.#empty.hidden = this.#state.journal.length > 0;
     this.#follows = true;
     this.#follow();
   }
 
+  #addEntries(entries) {
+    for (const run of runsOf(entries, this.#last)) {
+      if (run.missing > 0) this.#list.append(gapRow(run.missing));
+      if (this.#isStory) this.#tell(run.entries);
+      else this.#showLines(run.entries);
+    }
+    this.#last = entries.at(-1)?.n ?? this.#last;
+    this.#sayEarlier();
+  }
+
+  #showLines(entries) {
+    const fitting = entries.filter((entry) => this.#fits(entry));
+    this.#isCut ||= fitting.length > shownAtMost;
+    this.#list.append(...fitting.slice(-shownAtMost).map((entry) => this.#lineRow(entry)));
+    while (this.#list.children.length > shownAtMost) {
+      this.#list.firstElementChild.remove();
+      this.#isCut = true;
+    }
+  }
+
   #tell(entries) {
     for (const piece of this.#story.add(entries)) this.#showPiece(piece);
-    for (const piece of this.#story.pieces.splice(0, this.#story.pieces.length - shownAtMost)) {
+    const { pieces } = this.#story;
+    for (const piece of pieces.splice(0, Math.max(0, pieces.length - shownAtMost))) {
       this.#rows.get(piece)?.remove();
       this.#rows.delete(piece);
+      this.#isCut = true;
     }
+  }
+
+  #sayEarlier() {
+    const list = this.#list;
+    while (list.firstElementChild?.matches(".gap")) list.firstElementChild.remove();
+    const first = this.#isCut ? list.firstElementChild?.entries[0] : this.#state.journal[0];
+    if (first?.n > 1) list.prepend(gapRow(first.n - 1));
   }
 
   #isAtEnd() {
@@ -230,15 +286,8 @@ export class JournalPanel {
   }
 
   #addRows() {
-    const list = this.#list;
     const follows = this.#follows;
-    const entries = this.#coming.splice(0);
-    if (this.#isStory) this.#tell(entries);
-    else {
-      const fitting = entries.filter((entry) => this.#fits(entry)).slice(-shownAtMost);
-      list.append(...fitting.map((entry) => this.#lineRow(entry)));
-      while (list.children.length > shownAtMost) list.firstElementChild.remove();
-    }
+    this.#addEntries(this.#coming.splice(0));
     this.#empty.hidden = this.#state.journal.length > 0;
     this.#follows = follows;
     this.#follow();

@@ -88,12 +88,18 @@ export class Device {
     return this.#state.phone.controlCenter === true;
   }
 
-  // Out of whatever is open, as a swipe up from the lower edge.
+  // What leads out of whatever is open, as a swipe up from the lower edge does; null where that is
+  // the home screen.
+  get #wayHome() {
+    const { locked, settings } = this.#state.phone;
+    if (this.controlCenterIsOpen) return () => perform("control-center close");
+    if (locked) return () => perform("unlock");
+    if (settings) return () => perform("settings close");
+    return this.#screen.shows("_SBHomeBar") ? () => this.#tapHomeBar() : null;
+  }
+
   home() {
-    if (this.controlCenterIsOpen) perform("control-center close");
-    else if (this.#state.phone.locked) perform("unlock");
-    else if (this.#state.phone.settings) perform("settings close");
-    else if (this.#screen.shows("_SBHomeBar")) this.#tapHomeBar();
+    this.#wayHome?.();
   }
 
   // One level back, where no button of the screen leads there.
@@ -132,8 +138,15 @@ export class Device {
     button.replaceChildren(icon(picture), h("span", { text: label }));
   }
 
+  // Who cannot press it reads why.
+  #explain(name, why) {
+    const button = this.#buttons.get(name);
+    button.disabled = why !== "";
+    button.title = why || button.textContent;
+  }
+
   #show() {
-    const { locked, screenOn, host } = this.#state.phone;
+    const { locked, screenOn, host, peers } = this.#state.phone;
     this.#rename("lock", locked ? say("Unlock") : say("Lock"), locked ? "unlock" : "lock");
     this.#rename("screen", screenOn ? say("Screen off") : say("Screen on"));
     const starts = {
@@ -144,6 +157,9 @@ export class Device {
     this.#rename("respring", starts[host]);
     for (const [name, button] of this.#buttons)
       button.disabled = host !== "running" && !["respring", "headphones"].includes(name);
+    if (host === "running")
+      this.#explain("home", this.#wayHome ? "" : say("The home screen is in front already."));
+    this.#explain("headphones", peers ? "" : say("No headphones are connected."));
     this.#buttons.get("controls").setAttribute("aria-pressed", String(this.controlCenterIsOpen));
   }
 }

@@ -4,6 +4,9 @@ import { h } from "../ui/dom.js";
 
 const bezel = 13; // points around the screen
 const key = 4; // how far keys stick out
+const standardBrightness = 0.5;
+const darkest = 0.7; // opacity of the darkness over it: what is there can still be found
+const brightest = 0.15;
 const upright = { width: 390 + 2 * bezel + 2 * key, height: 844 + 2 * bezel };
 
 // How far the phone is turned clockwise. The names say where the interface's lower edge, the
@@ -16,6 +19,7 @@ export class Handset {
   #body;
   #box;
   #screen;
+  #light = h("div", { class: "light", "aria-hidden": "true" });
   glass;
   turn = 0; // degrees
   #zoom = null; // null: as large as there is room for
@@ -29,6 +33,7 @@ export class Handset {
       { class: "glass", id: "glass", dir: "ltr" },
       screen.element,
       h("div", { class: "island", "aria-hidden": "true" }),
+      this.#light,
       h("div", { class: "dark", "aria-hidden": "true" }),
     );
     this.#body = h(
@@ -53,12 +58,21 @@ export class Handset {
   }
 
   #show() {
-    const { orientation, screenOn, host } = this.#state.phone;
+    const { orientation, screenOn, host, brightness } = this.#state.phone;
     this.turn = turns[orientation] ?? 0;
     document.body.classList.toggle("sideways", this.#sideways);
     this.#body.classList.toggle("off", !screenOn || host !== "running");
+    this.#illuminate(brightness);
     this.#fit();
     this.#turnContent();
+  }
+
+  // The screen is drawn as bright as a phone begins; a layer over it is what differs from that.
+  #illuminate(brightness) {
+    const { style } = this.#light;
+    style.background = brightness < standardBrightness ? "#000" : "#fff";
+    const difference = Math.abs(brightness - standardBrightness) / standardBrightness;
+    style.opacity = difference * (brightness < standardBrightness ? darkest : brightest);
   }
 
   // The phone's language is not the page's.

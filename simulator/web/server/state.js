@@ -24,7 +24,15 @@ export class PhoneState extends EventTarget {
   clock = { uptime: 0, wall: 0, speed: 1, paused: true };
   clockAt = performance.now();
   life = { state: "running", doing: null, safeMode: false, report: null };
-  phone = { host: "off", screenOn: true, locked: false, orientation: "portrait" };
+  phone = {
+    host: "off",
+    screenOn: true,
+    locked: false,
+    orientation: "portrait",
+    brightness: 0.5,
+    peers: 0,
+    due: false,
+  };
   player = null;
   timer = { mode: null, endsAt: null, songsLeft: null, fades: false, atEnd: [] };
   setup = { lines: [] };

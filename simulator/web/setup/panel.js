@@ -50,6 +50,7 @@ export class SetupPanel {
       }),
     );
     for (const name of ["setup", "snapshot"]) state.on(name, () => this.#reset());
+    this.#reset();
   }
 
   #select(name, choices) {

@@ -17,9 +17,22 @@ const deeds = {
   close: ({ application }) => say("{application} is closed", { application: nameOf(application) }),
 };
 
+// A song of the same title, as one that repeats, is none that the timer counts.
+function endingWithAnotherTitle(timer, time) {
+  if (timer.endsAt !== null)
+    return say("The timer ends in {time}, the music only when another title begins.", { time });
+  return sayCount(
+    "This title plays again, which does not count: the music stops when another begins.",
+    "This title plays again, which does not count: the music stops after {count} changes of title.",
+    timer.songsLeft ?? 1,
+  );
+}
+
 function ending(timer, state) {
   const songs = timer.songsLeft;
   const plays = timer.atEnd.some((each) => each.do === "pause");
+  const time = duration(Math.ceil((timer.endsAt ?? 0) - state.uptime()));
+  if (timer.endsWithSong && timer.sameTitleFollows) return endingWithAnotherTitle(timer, time);
   if (songs !== null)
     return sayCount(
       "The music stops at the end of this song.",
@@ -27,7 +40,6 @@ function ending(timer, state) {
       songs,
     );
   if (timer.endsAt === null) return say("The music stops at the end of this song.");
-  const time = duration(Math.ceil(timer.endsAt - state.uptime()));
   if (timer.endsWithSong)
     return say("The music stops with the song that plays in {time}.", { time });
   if (!plays) return say("The timer ends in {time}. Nothing plays now.", { time });
@@ -75,6 +87,8 @@ export function wayToEnd(state) {
   }
   if (!player?.playing || !player.length)
     return { label, reason: say("No song plays that could come to its end.") };
+  if (timer.sameTitleFollows)
+    return { label, reason: say("This title plays again: its end stops nothing.") };
   const end = player.at + player.length - player.position;
   return { label, wish: { to: Math.max(end, state.uptime()) + 0.001 } };
 }

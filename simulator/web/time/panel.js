@@ -102,7 +102,7 @@ export class TimePanel {
   #makeJumps() {
     const p = this.#parts;
     p.step = this.#jump("time-step", "step", say("Next event"), () => ({ step: true }));
-    p.step.title = say("Goes to the next thing that is due, and no further");
+    p.step.setAttribute("aria-describedby", "time-end-reason");
     p.minute = this.#jump("time-minute", "time", say("+1 min"), () => ({ advance: 60 }));
     p.minute.title = say("Lets a minute pass at once");
     p.end = this.#jump("time-end", "end", "", () => wayToEnd(this.#state).wish);
@@ -123,14 +123,22 @@ export class TimePanel {
   // Who cannot press it reads why.
   #showWayToEnd() {
     const p = this.#parts;
-    const isOff = this.#state.phone.host === "off";
+    const { host, due } = this.#state.phone;
+    const isOff = host === "off";
     const { label, reason } = wayToEnd(this.#state);
     const why = isOff ? say("Time passes once the phone is on.") : (reason ?? "");
-    p.step.disabled = p.minute.disabled = isOff;
+    p.minute.disabled = isOff;
+    p.step.disabled = isOff || !due;
+    p.step.title = p.step.disabled
+      ? isOff
+        ? why
+        : say("Nothing is due.")
+      : say("Goes to the next thing that is due, and no further");
     p.end.disabled = why !== "";
     p.end.title = why || say("Goes to shortly before the music stops");
+    const reasons = [why, isOff || due ? "" : say("Nothing is due.")].filter(Boolean).join(" ");
     setText(p.end.querySelector("span"), label);
-    setText(p.reason, why);
+    setText(p.reason, reasons);
   }
 
   #show() {

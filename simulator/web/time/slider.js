@@ -2,7 +2,7 @@
 // which comes to the same.
 import { post } from "../server/requests.js";
 import { h, setText } from "../ui/dom.js";
-import { clockTime, duration } from "../ui/format.js";
+import { clockAsIn, duration } from "../ui/format.js";
 import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
 
@@ -64,8 +64,9 @@ export class NightSlider {
     this.#isHeld = true;
     const uptime = Number(this.#input.value);
     this.#say(uptime);
-    const wall = clockTime(this.#state.wall() - this.#state.uptime() + uptime);
-    this.#where.textContent = say("to {clock}", { clock: wall });
+    const wall = this.#state.wall() - this.#state.uptime() + uptime;
+    const clock = clockAsIn(this.#state.setup.locale, wall).join(":");
+    this.#where.textContent = say("to {clock}", { clock });
   }
 
   async #go() {

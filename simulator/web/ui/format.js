@@ -17,17 +17,20 @@ export function duration(seconds) {
 export const uptime = (seconds) => seconds.toFixed(3);
 
 // The phone's clock counts in its own date; it is shown in UTC, as the phone has it.
-export function clockTime(wall) {
-  const date = new Date(wall * 1000);
-  return `${two(date.getUTCHours())}:${two(date.getUTCMinutes())}`;
-}
+const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
 
-export const clockSeconds = (wall) => two(new Date(wall * 1000).getUTCSeconds());
+const clocks = new Map(); // by region: one takes longer to make than to use
+
+function clockOf(region) {
+  const options = { hour: "numeric", minute: "2-digit", timeZone: "UTC", numberingSystem: "latn" };
+  const tag = region?.replaceAll("_", "-") || "en-US";
+  if (!clocks.has(tag)) clocks.set(tag, new Intl.DateTimeFormat(tag, options));
+  return clocks.get(tag);
+}
 
 // As the phone's region has it, which may count to twelve: ["10:15", "07 PM"]
 export function clockAsIn(region, wall) {
-  const options = { hour: "numeric", minute: "2-digit", timeZone: "UTC", numberingSystem: "latn" };
-  const parts = new Intl.DateTimeFormat(region?.replaceAll("_", "-") || "en-US", options)
+  const parts = clockOf(region)
     .formatToParts(new Date(wall * 1000))
     .reduce((all, { type, value }) => ({ ...all, [type]: value }), {});
   const seconds = [clockSeconds(wall), parts.dayPeriod].filter(Boolean).join(" ");

@@ -3,6 +3,7 @@
 import { byId, h } from "./dom.js";
 import { icon } from "./icons.js";
 import { isRightToLeft, say } from "./language.js";
+import { toast } from "./toast.js";
 
 const tabs = [
   { name: "phone", label: say("Phone"), narrow: true },
@@ -56,10 +57,21 @@ export class Tabs {
     this.show(names.includes(kept) ? kept : narrow.matches ? "phone" : "journal");
   }
 
+  // What could not be fetched is fetched when it is asked for again.
+  async #make(name) {
+    const begin = this.#begin[name];
+    delete this.#begin[name];
+    try {
+      await begin?.();
+    } catch (error) {
+      this.#begin[name] = begin;
+      toast(error.message, "problem");
+    }
+  }
+
   show(name) {
     sessionStorage.setItem(key, name);
-    this.#begin[name]?.();
-    delete this.#begin[name];
+    this.#make(name);
     document.body.dataset.view = name;
     for (const [each, button] of this.#buttons) {
       button.setAttribute("aria-selected", String(each === name));

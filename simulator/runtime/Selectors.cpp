@@ -19,6 +19,10 @@ SEL intern(std::string_view name) {
 }
 
 struct SelectorTable {
+  // A forked host adds its extension's selectors. Were the table to grow there, every entry would
+  // be written to, and with it all the memory copied that the host shares.
+  SelectorTable() { byName.reserve(4096); }  // the phone has a thousand
+
   std::mutex lock;
   std::unordered_map<std::string_view, SEL> byName;  // views into the selectors
 };

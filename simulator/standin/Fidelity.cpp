@@ -9,23 +9,24 @@
 namespace sim {
 namespace {
 
-// Function-local, because stand-ins of C functions record themselves before main.
+// Function-local, because stand-ins of C functions record themselves before main. None of these is
+// destroyed: each host would copy the memory that it shares with all others, to free it.
 std::vector<FidelityRecord>& records() {
-  static std::vector<FidelityRecord> all;
-  return all;
+  static auto* all = new std::vector<FidelityRecord>;
+  return *all;
 }
 
 StandIns& allStandIns() {
-  static StandIns all;
-  return all;
+  static auto* all = new StandIns;
+  return *all;
 }
 
 bool namesOnly = false;
 
 // Classes that were registered by name alone, and the library of each.
 std::map<std::string, std::string>& classesToLoad() {
-  static std::map<std::string, std::string> all;
-  return all;
+  static auto* all = new std::map<std::string, std::string>;
+  return *all;
 }
 
 const char* gradeName(Grade grade) {

@@ -86,8 +86,9 @@ std::string BundleFiles::preferredLocalization() const {
   return best.empty() && !available.empty() ? available.front() : best;
 }
 
-std::vector<std::string> BundleFiles::searchList() const {
-  std::vector<std::string> folders;
+const std::vector<std::string>& BundleFiles::searchList() const {
+  if (searchList_) return *searchList_;
+  std::vector<std::string>& folders = searchList_.emplace();
   const std::string preferred = preferredLocalization();
   if (!preferred.empty()) folders.push_back(preferred);
   folders.push_back("Base");

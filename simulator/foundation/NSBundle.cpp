@@ -100,12 +100,15 @@ Object NSBundle::infoDictionary() {
   return info;
 }
 
-BundleFiles NSBundle::files() {
-  const Object region =
-      NSDictionary::of(infoDictionary()).value(string("CFBundleDevelopmentRegion"));
+const BundleFiles& NSBundle::files() {
   const Phone& phone = Phone::current();
-  return BundleFiles(phone.file(path), phone.setup.locale,
-                     isKindOf(region, "NSString") ? text(region) : "");
+  if (!content || content->locale() != phone.setup.locale) {
+    const Object region =
+        NSDictionary::of(infoDictionary()).value(string("CFBundleDevelopmentRegion"));
+    content.emplace(phone.file(path), phone.setup.locale,
+                    isKindOf(region, "NSString") ? text(region) : "");
+  }
+  return *content;
 }
 
 Object NSBundle::pathForResource(Object name, Object type) {

@@ -86,6 +86,14 @@ json asJson(const ScriptJob& job, const json& state) {
           {"state", state}};
 }
 
+void playBeginning(Session& session, const CommandTable& commands, const ScriptJob& beginning) {
+  if (beginning.isSilent) silence();
+  session.choose(beginning.options);
+  const objc::AutoreleasePool pool;
+  Interpreter interpreter(session, commands, {});
+  for (const ScriptLine& line : parseScript(beginning.text)) interpreter.perform(line);
+}
+
 void handOverThrough(Session& session, Channel& supervisor) {
   session.handOver = [&supervisor](const RestartState& state) {
     stopWatching();

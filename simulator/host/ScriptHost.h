@@ -24,6 +24,9 @@ nlohmann::json asJson(const ScriptJob& job, const nlohmann::json& state);
 void playScriptInHost(Session& session, const CommandTable& commands, HostEnds& ends,
                       const nlohmann::json& job);
 
+// Plays what many scripts begin with, in a process that hosts are forked from and go on in.
+void playBeginning(Session& session, const CommandTable& commands, const ScriptJob& beginning);
+
 // Has the host end with {"restart": state} where a script ends it.
 void handOverThrough(Session& session, Channel& supervisor);
 

@@ -40,6 +40,14 @@ Zygote& ScriptPlayer::zygoteFor(const std::string& script) {
   return *zygote;
 }
 
+void ScriptPlayer::begin(const ScriptJob& beginning) {
+  beginning_ = beginning.text;
+  begun_.emplace(Zygote::Classes::registered, main_,
+                 [&beginning](Session& session, const CommandTable& commands) {
+                   playBeginning(session, commands, beginning);
+                 });
+}
+
 std::optional<Message> ScriptPlayer::lastMessage(HostProcess& host) const {
   std::optional<Message> last;
   std::array<pollfd, 2> watched{
@@ -55,10 +63,11 @@ std::optional<Message> ScriptPlayer::lastMessage(HostProcess& host) const {
 }
 
 ScriptOutcome ScriptPlayer::play(ScriptJob job) {
-  Zygote& zygote = zygoteFor(job.text);
+  const bool isBegun = begun_ && job.text.starts_with(beginning_);
   journal_.clear();
   const bool isLimited = job.processorSeconds > 0;
   for (json state;;) {
+    Zygote& zygote = isBegun && state.is_null() ? *begun_ : zygoteFor(job.text);
     HostProcess host(zygote, asJson(job, state), journal_);
     const auto last = lastMessage(host);
     const HostResult result = host.end();

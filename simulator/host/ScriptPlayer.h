@@ -22,6 +22,10 @@ class ScriptPlayer {
   // `endSignals`: a descriptor to read from, see EndSignals; below 0: none.
   explicit ScriptPlayer(int endSignals = -1) : endSignals_(endSignals) {}
 
+  // From now on a script that begins with this one is played on a phone where that has happened
+  // already. Its files are those that a phone has then: whoever calls this sees to it.
+  void begin(const ScriptJob& beginning);
+
   // Throws EndSignal, or std::system_error when there is no host to be had.
   ScriptOutcome play(ScriptJob job);
 
@@ -34,6 +38,8 @@ class ScriptPlayer {
   int endSignals_;
   HostMain main_ = playScriptInHost;
   std::optional<Zygote> withClasses_, withoutClasses_;
+  std::optional<Zygote> begun_;  // for the first host of those that begin with the text
+  std::string beginning_;
   JournalFile journal_;
 };
 

@@ -80,9 +80,11 @@ void beFirstToRunOutOfMemory() {
 
 class ZygoteProcess {
  public:
-  ZygoteProcess(Channel channel, Zygote::Classes classes, const HostMain& main)
+  ZygoteProcess(Channel channel, Zygote::Classes classes, const HostMain& main,
+                const HostBeginning& beginning)
       : channel_(std::move(channel)), main_(main), commands_(allCommands()) {
     if (classes == Zygote::Classes::registered) session_.host.registerClasses();
+    if (beginning) beginning(session_, commands_);
   }
 
   void serve() {
@@ -165,7 +167,8 @@ void endWithParent(pid_t parent) {
   sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-Zygote::Process Zygote::started(Classes classes, const HostMain& main) {
+Zygote::Process Zygote::started(Classes classes, const HostMain& main,
+                                const HostBeginning& beginning) {
   auto [ours, theirs] = Channel::makePair();
   std::cout.flush();
   std::fflush(nullptr);
@@ -175,7 +178,7 @@ Zygote::Process Zygote::started(Classes classes, const HostMain& main) {
   if (process > 0) return {process, std::move(ours)};
   endWithParent(supervisor);
   close(ours.descriptor());
-  ZygoteProcess(std::move(theirs), classes, main).serve();
+  ZygoteProcess(std::move(theirs), classes, main, beginning).serve();
   _exit(0);
 }
 

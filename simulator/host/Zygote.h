@@ -27,13 +27,17 @@ struct HostEnds {
 using HostMain = std::function<void(Session& session, const CommandTable& commands, HostEnds& ends,
                                     const nlohmann::json& job)>;
 
+// What is done in the zygote, once for all hosts.
+using HostBeginning = std::function<void(Session& session, const CommandTable& commands)>;
+
 class Zygote {
  public:
   // Whether the stand-ins' classes are there already: see suitsRegisteredClasses().
   enum class Classes { registered, none };
 
   // Before the process has other threads. Throws std::system_error.
-  Zygote(Classes classes, const HostMain& main) : Zygote(started(classes, main)) {}
+  Zygote(Classes classes, const HostMain& main, const HostBeginning& beginning = {})
+      : Zygote(started(classes, main, beginning)) {}
   // Ends it, and with it the hosts that are left.
   ~Zygote();
   Zygote(const Zygote&) = delete;
@@ -54,7 +58,7 @@ class Zygote {
  private:
   using Process = std::pair<pid_t, Channel>;
   explicit Zygote(Process process) : process_(process.first), channel_(std::move(process.second)) {}
-  static Process started(Classes classes, const HostMain& main);
+  static Process started(Classes classes, const HostMain& main, const HostBeginning& beginning);
   nlohmann::json ask(const nlohmann::json& question, const Descriptors* descriptors);
 
   pid_t process_;

@@ -30,7 +30,7 @@ void Interpreter::play() {
   // Before anything runs: a misspelt command late in a script is found at once.
   for (const ScriptLine& line : lines_) commandOf(line);
   watchKillPoints();
-  playFrom(0);
+  playFrom(session_.lineNumber + 1);
 }
 
 void Interpreter::resume(const RestartState& state) {

@@ -16,7 +16,8 @@ class Interpreter {
   Interpreter(Session& session, const CommandTable& table, std::vector<ScriptLine> lines)
       : session_(session), table_(table), lines_(std::move(lines)) {}
 
-  // Throws ScriptParseError for the first line that is wrong or whose expectation fails.
+  // Goes on behind the line that the session has reached, on most phones none. Throws
+  // ScriptParseError for the first line that is wrong or whose expectation fails.
   void play();
   // Goes on after a restart of the host.
   void resume(const RestartState& state);

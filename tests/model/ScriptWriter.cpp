@@ -30,7 +30,7 @@ std::string quotedOrNil(const std::optional<std::string>& text) {
 }  // namespace
 
 std::string ScriptWriter::write(const Night& night) {
-  script_ << "boot\nset volumeFadeOutTime 1\nplaylist \"A\" 30 \"B\" 45.5 \"B\" 20 \"C\" 7\n";
+  script_ << beginning;
   model_.perform(Set{"volumeFadeOutTime", 1, false}, {});
   const Nanoseconds second = 1'000'000'000;
   model_.perform(Playlist{{{"A", 30 * second},

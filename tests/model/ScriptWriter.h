@@ -9,6 +9,12 @@
 
 namespace model {
 
+// What each night begins with.
+constexpr const char* beginning =
+    "boot\n"
+    "set volumeFadeOutTime 1\n"
+    "playlist \"A\" 30 \"B\" 45.5 \"B\" 20 \"C\" 7\n";
+
 class ScriptWriter {
  public:
   explicit ScriptWriter(const Rules& rules) : model_(rules) {}

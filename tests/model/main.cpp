@@ -3,6 +3,7 @@
 #include <rapidcheck.h>
 
 #include <cstdlib>
+#include <exception>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -64,10 +65,10 @@ void configureRapidCheck(const Options& options) {
 
 }  // namespace
 
-int main(int count, char** words) {
+int main(int count, char** words) try {
   const Options options = parse(count, words);
   configureRapidCheck(options);
-  model::PhoneFork phone(options.extension, options.package);
+  model::PhoneFork phone(options.extension, options.package, model::beginning);
   std::string script;
   std::string problem;
   const bool held = rc::check("the extension does what its model says", [&] {
@@ -84,5 +85,8 @@ int main(int count, char** words) {
   std::cout << "\nWrong in this night, which `dozewell-simulator play` plays:\n"
             << problem << '\n'
             << script;
+  return 1;
+} catch (const std::exception& error) {
+  std::cerr << error.what() << '\n';
   return 1;
 }

@@ -91,7 +91,7 @@ TEST(Watching, TellsOfAFadeAndWhatFollowsItAlsoWhereNothingPlays) {
   EXPECT_EQ(timer().at("fades"), true);
   program.command("pause");
   EXPECT_EQ(timer().at("fades"), true);
-  EXPECT_EQ(timer().at("atEnd"), json{airplane});
+  EXPECT_EQ(timer().at("atEnd"), json::array({airplane}));
   program.command("advance 15s");
   EXPECT_EQ(program.value("RadiosPreferences.new.airplaneMode"), "YES");
   EXPECT_EQ(timer().at("fades"), false);
@@ -108,7 +108,7 @@ TEST(Watching, TellsThatADurationWaitsForTheEndOfItsSong) {
   const json before = timer();
   EXPECT_EQ(before.at("endsAt"), 60.0);
   EXPECT_EQ(before.at("endsWithSong"), true);
-  EXPECT_EQ(before.at("atEnd"), (json{{{"do", "pause"}}}));
+  EXPECT_EQ(before.at("atEnd"), json::array({{{"do", "pause"}}}));
   program.command("advance 61s");
   const json waits = timer();
   EXPECT_EQ(waits.at("mode"), "duration");

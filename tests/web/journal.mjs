@@ -130,8 +130,11 @@ phoneTest("a piece leads to the moment before it", {}, async (served, page) => {
   await served.run(...night);
   await page.locator("#entries .entry-line", { hasText: "The music pauses" }).click();
   const before = page.locator(".detail", { hasText: "pauseForEventSource" }).getByRole("button");
+  const whole = await served.journal();
   await before.click();
   await page.locator("#hint", { hasText: "The music fades: 0 %" }).waitFor();
+  const pause = whole.findIndex((text) => text.includes("pauseForEventSource"));
+  assert.deepEqual(await served.journal(), whole.slice(0, pause));
 });
 
 phoneTest("the timeline shows the end of a long night", {}, async (served, page) => {

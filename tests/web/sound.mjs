@@ -2,35 +2,7 @@
 // back.
 import assert from "node:assert/strict";
 import { journalHas, openPage, phoneTest, Served } from "./harness.mjs";
-
-const sampleRate = 8000;
-
-// A plain tone, as loud from its beginning to its end.
-function tone(seconds) {
-  const samples = seconds * sampleRate;
-  const file = Buffer.alloc(44 + samples * 2);
-  file.write("RIFF", 0);
-  file.writeUInt32LE(36 + samples * 2, 4);
-  file.write("WAVEfmt ", 8);
-  for (const [at, bytes, value] of [
-    [16, 4, 16],
-    [20, 2, 1],
-    [22, 2, 1],
-    [24, 4, sampleRate],
-    [28, 4, sampleRate * 2],
-    [32, 2, 2],
-    [34, 2, 16],
-  ])
-    file.writeUIntLE(value, at, bytes);
-  file.write("data", 36);
-  file.writeUInt32LE(samples * 2, 40);
-  for (let i = 0; i < samples; ++i)
-    file.writeInt16LE(
-      Math.round(12000 * Math.sin((2 * Math.PI * 330 * i) / sampleRate)),
-      44 + 2 * i,
-    );
-  return file;
-}
+import { tone } from "./tones.mjs";
 
 // What the page's audio element and the gain behind it do at this moment.
 const heard = (page) =>

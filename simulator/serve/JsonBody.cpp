@@ -1,6 +1,7 @@
 #include "simulator/serve/JsonBody.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "simulator/machine/Journal.h"
 #include "simulator/serve/RequestError.h"
@@ -56,6 +57,12 @@ std::optional<double> JsonBody::number(const char* name, double least, double mo
   if (!(value >= least && value <= most))
     expect(std::string(name) + " to be a number from " + notation(least) + " to " + notation(most));
   return value;
+}
+
+std::optional<long> JsonBody::wholeNumber(const char* name, long least, long most) const {
+  const auto value = number(name, double(least), double(most));
+  if (value && *value != std::floor(*value)) expect(std::string(name) + " to be a whole number");
+  return value ? std::optional(long(*value)) : std::nullopt;
 }
 
 std::optional<bool> JsonBody::flag(const char* name) const {

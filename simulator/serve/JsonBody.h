@@ -19,6 +19,7 @@ class JsonBody {
   bool has(const char* name) const { return json_.contains(name); }
   std::string text(const char* name, std::size_t longest) const;
   std::optional<double> number(const char* name, double least, double most) const;
+  std::optional<long> wholeNumber(const char* name, long least, long most) const;
   std::optional<bool> flag(const char* name) const;
   // Lines of a script, none with a line break.
   std::vector<std::string> lines(const char* name) const;

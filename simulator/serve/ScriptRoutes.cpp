@@ -10,22 +10,22 @@ using nlohmann::json;
 namespace {
 
 constexpr std::size_t longestName = 200;
-constexpr double mostSteps = 10'000;
-constexpr double mostEntries = 1e9;  // or lines
+constexpr long mostSteps = 10'000;
+constexpr long mostEntries = 1'000'000'000;  // or lines
 
 // Nothing: to the end.
 std::optional<long> stepsFrom(const std::string& text) {
   const JsonBody body(text, {"lines", "run"});
-  const auto lines = body.number("lines", 1, mostSteps);
+  const auto lines = body.wholeNumber("lines", 1, mostSteps);
   const bool runs = body.flag("run").value_or(false);
   if (lines.has_value() == runs) throw RequestError(400, "expected either lines or run");
-  return lines ? std::optional<long>(long(*lines)) : std::nullopt;
+  return lines;
 }
 
 OpenScript::Goal goalFrom(const std::string& text) {
   const JsonBody body(text, {"line", "uptime", "entry"});
   const auto whole = [&body](const char* name) -> std::optional<std::size_t> {
-    const auto value = body.number(name, 1, mostEntries);
+    const auto value = body.wholeNumber(name, 1, mostEntries);
     return value ? std::optional(std::size_t(*value)) : std::nullopt;
   };
   OpenScript::Goal goal{whole("line"), std::nullopt, whole("entry")};

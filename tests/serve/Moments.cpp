@@ -126,6 +126,8 @@ TEST(Moments, RefuseWhatIsNone) {
   const ServedProgram program;
   EXPECT_EQ(program.post("/api/moment", json::object()).error(),
             "expected one of line, uptime and entry");
+  EXPECT_EQ(program.post("/api/moment", {{"entry", 1.5}}).error(),
+            "expected entry to be a whole number");
   EXPECT_EQ(program.post("/api/moment", {{"line", 2}}).error(), "no script is open");
 }
 

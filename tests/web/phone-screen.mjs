@@ -27,16 +27,12 @@ phoneTest("a phone comes up on its lock screen, with what is left", {}, async (s
 phoneTest("switches show what is so, whoever has done it, and do it", {}, async (served, page) => {
   await andCommand(page, "control-center open", () => page.click("#device-controls"));
   const airplane = onScreen(page, "button", "Airplane Mode");
-  const isPressed = (button, is) =>
-    page.waitForFunction(
-      ([element, wanted]) => element.hasAttribute("aria-pressed") === wanted,
-      [button, is],
-    );
+  const isNow = (attributes) => airplane.and(page.locator(attributes)).waitFor();
   await press(page, airplane);
   await journalHas(page, "-[RadiosPreferences setAirplaneMode:YES]");
-  await isPressed(await airplane.elementHandle(), true);
+  await isNow("[aria-pressed]");
   await served.run("send RadiosPreferences.new setAirplaneMode: NO");
-  await isPressed(await airplane.elementHandle(), false);
+  await isNow(":not([aria-pressed])");
 });
 
 phoneTest("applications open from the home screen and close by Home", {}, async (served, page) => {

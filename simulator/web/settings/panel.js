@@ -7,6 +7,7 @@ import { icon } from "../ui/icons.js";
 import { say } from "../ui/language.js";
 import { toast } from "../ui/toast.js";
 import { makeField } from "./fields.js";
+import { settingInWords } from "./words.js";
 
 const written = (value) =>
   typeof value === "boolean"
@@ -44,7 +45,7 @@ export class SettingsPanel {
 
   async #load() {
     try {
-      this.#build(await read("api/settings"));
+      this.#build((await read("api/settings")).map(settingInWords));
       this.#show();
     } catch (error) {
       toast(error.message, "problem");

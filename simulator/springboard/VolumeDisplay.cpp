@@ -77,7 +77,7 @@ void makeSpeaker(Object view) {
 }  // namespace
 
 void followVolume() {
-  constexpr double windowLevel = 1098;  // above Control Center and status displaySize, below alerts
+  constexpr double windowLevel = 1098;  // above Control Center and the status bar, below alerts
   if (UIWindow::cls() == nullptr) return;
   auto window = UIWindow::make();
   UIWindow::of(window.get()).isOfTheSystem = true;

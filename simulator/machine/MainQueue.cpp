@@ -31,6 +31,7 @@ void MainQueue::clear() {
     forgotten.clear();
     const std::lock_guard lock(mutex_);
     forgotten.swap(entries_);
+    places_.clear();
   } while (!forgotten.empty());
 }
 

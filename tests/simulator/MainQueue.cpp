@@ -139,5 +139,19 @@ TEST_F(MainQueueTest, ClearForgetsAlsoWhatIsAddedMeanwhile) {
   EXPECT_EQ(ran, Names());
 }
 
+// As a timer does that ends with the phone, after the entry that it waits for has gone.
+TEST_F(MainQueueTest, ATicketOfBeforeClearCancelsNothing) {
+  const MainQueue::Ticket gone = phone.queue.add(10, note("gone"));
+  MainQueue::Ticket goneMeanwhile = 0;
+  std::shared_ptr<void> held(nullptr, [&](void*) { phone.queue.cancel(goneMeanwhile); });
+  phone.queue.add(10, [kept = std::move(held)] {});
+  goneMeanwhile = phone.queue.add(20, note("gone meanwhile"));
+  phone.queue.clear();
+  phone.queue.add(10, note("added since"));
+  phone.queue.cancel(gone);
+  phone.queue.runUntil(20);
+  EXPECT_EQ(ran, Names{"added since@10"});
+}
+
 }  // namespace
 }  // namespace sim

@@ -50,12 +50,12 @@ void ScriptPlayer::begin(const ScriptJob& beginning) {
 
 std::optional<Message> ScriptPlayer::lastMessage(HostProcess& host) const {
   std::optional<Message> last;
-  std::array<pollfd, 2> watched{
+  std::array<pollfd, 2> awaited{
       {{host.channel().descriptor(), POLLIN, 0}, {endSignals_, POLLIN, 0}}};
   for (;;) {
-    if (poll(watched.data(), watched.size(), -1) < 0 && errno != EINTR) return last;
-    if (watched[1].revents != 0) throw EndSignal(EndSignals::take(endSignals_));
-    if (watched[0].revents == 0) continue;
+    if (poll(awaited.data(), awaited.size(), -1) < 0 && errno != EINTR) return last;
+    if (awaited[1].revents != 0) throw EndSignal(EndSignals::take(endSignals_));
+    if (awaited[0].revents == 0) continue;
     const bool isOpen = host.channel().fill();
     while (auto message = host.channel().next()) last = std::move(message);
     if (!isOpen) return last;

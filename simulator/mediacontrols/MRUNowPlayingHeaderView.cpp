@@ -17,7 +17,7 @@ namespace {
 using objc::Object;
 
 // Points.
-constexpr double button = 36, artwork = 48, gap = 10;
+constexpr double buttonSide = 36, artwork = 48, gap = 10;
 
 Object makeRoutingButton(Object header) {
   constexpr long custom = 0;
@@ -92,18 +92,18 @@ void MRUNowPlayingHeaderView::place(Object part, CGRect frame) {
 
 // The text has a row of its own below the buttons.
 void MRUNowPlayingHeaderView::placeMinimized(CGSize size) {
-  place(routingButton, {{size.width - button, 0}, {button, button}});
+  place(routingButton, {{size.width - buttonSide, 0}, {buttonSide, buttonSide}});
   const double height = sizeThatFits(labelView, size).height;
-  place(labelView, {{0, button + 2}, {size.width, height}});
+  place(labelView, {{0, buttonSide + 2}, {size.width, height}});
 }
 
 // The text leaves room for a second button beside that of the routes.
 void MRUNowPlayingHeaderView::placeInARow(CGSize size) {
   const auto centred = [&size](double height) { return (size.height - height) / 2; };
   place(artworkView, {{0, centred(artwork)}, {artwork, artwork}});
-  place(routingButton, {{size.width - button, centred(button)}, {button, button}});
+  place(routingButton, {{size.width - buttonSide, centred(buttonSide)}, {buttonSide, buttonSide}});
   const double left = artwork + gap;
-  const double room = std::max(size.width - button - (button + gap) - left, 0.0);
+  const double room = std::max(size.width - buttonSide - (buttonSide + gap) - left, 0.0);
   const double height = sizeThatFits(labelView, {room, size.height}).height;
   place(labelView, {{left, centred(height)}, {room, height}});
 }

@@ -97,14 +97,14 @@ void MRUNowPlayingView::placeEmbedding(CGSize size) {
 
 // Below the controls, which then lie close together; it has all the height that is left.
 void MRUNowPlayingView::placeContainer(CGSize size) {
-  constexpr double gap = 7;
+  constexpr double rowGap = 7;
   if (layout != routingLayout) return setFrame(containerView, {{0, size.height}, {size.width, 0}});
   double y = embeddingTop;
   for (const Object control :
        {timeControl.get(), transportControlsView.get(), volumeSlider.get()}) {
     const CGSize its = frameOf(control).size;
     setFrame(control, {{margin, y}, its});
-    y += its.height + gap;
+    y += its.height + rowGap;
   }
   setFrame(containerView, {{0, y}, {size.width, std::max(size.height - y, 0.0)}});
 }

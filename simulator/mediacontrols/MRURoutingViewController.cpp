@@ -10,7 +10,7 @@ namespace {
 
 using objc::Object;
 
-constexpr double rowHeight = 44, margin = 16;  // points
+constexpr double rowHeight = 44, rowMargin = 16;  // points
 
 // Sound goes to the device that was connected last.
 std::vector<std::string> names() {
@@ -47,23 +47,22 @@ void MRURoutingViewController::viewWillAppear(bool animated) {
 
 void MRURoutingViewController::viewWillLayoutSubviews() {
   super<void, "viewWillLayoutSubviews">();
-  const double width = sizeOf(objc::send<Object, "view">(self())).width - 2 * margin;
+  const double width = sizeOf(objc::send<Object, "view">(self())).width - 2 * rowMargin;
   double y = 0;
   for (const auto& row : rows) {
-    setFrame(row, {{margin, y}, {width, rowHeight}});
+    setFrame(row, {{rowMargin, y}, {width, rowHeight}});
     y += rowHeight;
   }
 }
 
 void MRURoutingViewController::registerClass() {
-  using Controller = MRURoutingViewController;
-  StandIn<Controller>("MediaControls", "MRURoutingViewController", "UIViewController")
-      .partial<"routeNames", &Controller::routeNames>(
-          "the simulator's own, for reading what is listed")
-      .method<"preferredContentSize", &Controller::preferredContentSize>()
-      .partial<"viewWillAppear:", &Controller::viewWillAppear>(
+  using Routes = MRURoutingViewController;
+  StandIn<Routes>("MediaControls", "MRURoutingViewController", "UIViewController")
+      .partial<"routeNames", &Routes::routeNames>("the simulator's own, for reading what is listed")
+      .method<"preferredContentSize", &Routes::preferredContentSize>()
+      .partial<"viewWillAppear:", &Routes::viewWillAppear>(
           "lists the devices of that moment; none can be chosen")
-      .method<"viewWillLayoutSubviews", &Controller::viewWillLayoutSubviews>()
+      .method<"viewWillLayoutSubviews", &Routes::viewWillLayoutSubviews>()
       .finish();
 }
 

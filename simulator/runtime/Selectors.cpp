@@ -27,7 +27,7 @@ struct SelectorTable {
   std::unordered_map<std::string_view, SEL> byName;  // views into the selectors
 };
 
-SelectorTable& table() {
+SelectorTable& selectorTable() {
   static auto* instance = new SelectorTable;  // never destroyed: messages are sent until the end
   return *instance;
 }
@@ -36,7 +36,7 @@ SelectorTable& table() {
 
 SEL sel_registerName(const char* name) {
   if (name == nullptr) return nullptr;
-  SelectorTable& selectors = table();
+  SelectorTable& selectors = selectorTable();
   const std::lock_guard guard(selectors.lock);
   if (const auto found = selectors.byName.find(name); found != selectors.byName.end())
     return found->second;

@@ -35,7 +35,7 @@ struct TrampolineTable {
   std::unordered_map<char*, TrampolineKind> used;
 };
 
-TrampolineTable& table() {
+TrampolineTable& trampolineTable() {
   static auto* instance = new TrampolineTable;
   return *instance;
 }
@@ -69,7 +69,7 @@ char* mapTrampolines(TrampolineKind kind) {
 }
 
 char* takeUnused(TrampolineKind kind) {
-  std::vector<char*>& unused = table().unused[static_cast<int>(kind)];
+  std::vector<char*>& unused = trampolineTable().unused[static_cast<int>(kind)];
   if (unused.empty()) {
     char* code = mapTrampolines(kind);
     // The last is taken first, and so the first one mapped.
@@ -84,26 +84,26 @@ char* takeUnused(TrampolineKind kind) {
 }  // namespace
 
 IMP makeTrampoline(TrampolineKind kind, id block) {
-  const std::lock_guard guard(table().lock);
+  const std::lock_guard guard(trampolineTable().lock);
   char* trampoline = takeUnused(kind);
-  table().used.emplace(trampoline, kind);
+  trampolineTable().used.emplace(trampoline, kind);
   blockOf(trampoline) = block;
   return reinterpret_cast<IMP>(trampoline);
 }
 
 id blockOfTrampoline(IMP function) {
-  const std::lock_guard guard(table().lock);
+  const std::lock_guard guard(trampolineTable().lock);
   auto* trampoline = reinterpret_cast<char*>(function);
-  return table().used.contains(trampoline) ? blockOf(trampoline) : nullptr;
+  return trampolineTable().used.contains(trampoline) ? blockOf(trampoline) : nullptr;
 }
 
 id destroyTrampoline(IMP function) {
-  const std::lock_guard guard(table().lock);
+  const std::lock_guard guard(trampolineTable().lock);
   auto* trampoline = reinterpret_cast<char*>(function);
-  const auto found = table().used.find(trampoline);
-  if (found == table().used.end()) return nullptr;
-  table().unused[static_cast<int>(found->second)].push_back(trampoline);
-  table().used.erase(found);
+  const auto found = trampolineTable().used.find(trampoline);
+  if (found == trampolineTable().used.end()) return nullptr;
+  trampolineTable().unused[static_cast<int>(found->second)].push_back(trampoline);
+  trampolineTable().used.erase(found);
   return std::exchange(blockOf(trampoline), nullptr);
 }
 

@@ -7,7 +7,7 @@ using nlohmann::json;
 
 namespace {
 
-json orNull(const std::string& text) {
+json textOrNull(const std::string& text) {
   return text.empty() ? json() : json(text);
 }
 
@@ -17,8 +17,8 @@ json listed(const MusicLibrary& library) {
     const MusicFile& file = library.files()[index];
     all.push_back({{"id", MusicLibrary::idAt(index)},
                    {"title", *file.track.title},
-                   {"artist", orNull(file.track.artist)},
-                   {"album", orNull(file.track.album)},
+                   {"artist", textOrNull(file.track.artist)},
+                   {"album", textOrNull(file.track.album)},
                    {"length", seconds(file.track.length)},
                    {"cover", file.hasCover}});
   }

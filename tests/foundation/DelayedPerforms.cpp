@@ -9,22 +9,22 @@ namespace {
 using objc::Object;
 using objc::send;
 
-struct Listener : objc::Implementation<Listener> {
+struct PerformListener : objc::Implementation<PerformListener> {
   std::vector<std::string> heard;
 
   void hear(Object what) { heard.push_back(notation(what)); }
 
   static void registerClass() {
     if (cls() == nullptr)
-      StandIn<Listener>("Test", "PerformListener", "NSObject")
-          .method<"hear:", &Listener::hear>()
+      StandIn<PerformListener>("Test", "PerformListener", "NSObject")
+          .method<"hear:", &PerformListener::hear>()
           .finish();
   }
 };
 
 class DelayedPerformsTest : public FoundationTest {
  protected:
-  DelayedPerformsTest() { Listener::registerClass(); }
+  DelayedPerformsTest() { PerformListener::registerClass(); }
 
   static void perform(Object target, Object argument, double delay) {
     send<void, "performSelector:withObject:afterDelay:">(target, sel_registerName("hear:"),
@@ -34,22 +34,22 @@ class DelayedPerformsTest : public FoundationTest {
 };
 
 TEST_F(DelayedPerformsTest, runAfterTheirDelayInOrder) {
-  const auto listener = Listener::make();
+  const auto listener = PerformListener::make();
   perform(listener, string("late"), 2);
   perform(listener, string("early"), 0);
   perform(listener, nullptr, 0);
-  EXPECT_TRUE(Listener::of(listener.get()).heard.empty());
+  EXPECT_TRUE(PerformListener::of(listener.get()).heard.empty());
   advance(0);
-  EXPECT_EQ(Listener::of(listener.get()).heard, (Lines{"\"early\"", "nil"}));
+  EXPECT_EQ(PerformListener::of(listener.get()).heard, (Lines{"\"early\"", "nil"}));
   advance(1.999);
-  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 2u);
+  EXPECT_EQ(PerformListener::of(listener.get()).heard.size(), 2u);
   advance(0.001);
-  EXPECT_EQ(Listener::of(listener.get()).heard.back(), "\"late\"");
+  EXPECT_EQ(PerformListener::of(listener.get()).heard.back(), "\"late\"");
 }
 
 TEST_F(DelayedPerformsTest, runInTheDefaultModeOnly) {
-  const auto listener = Listener::make();
-  const auto& heard = Listener::of(listener.get()).heard;
+  const auto listener = PerformListener::make();
+  const auto& heard = PerformListener::of(listener.get()).heard;
   {
     const Tracking scrolling;
     perform(listener, string("second"), 2);
@@ -69,7 +69,7 @@ TEST_F(DelayedPerformsTest, runInTheDefaultModeOnly) {
 }
 
 TEST_F(DelayedPerformsTest, keepTheirTarget) {
-  auto listener = Listener::make();
+  auto listener = PerformListener::make();
   const auto watched = objc::weak(listener.get());
   {
     const objc::AutoreleasePool pool;
@@ -82,22 +82,22 @@ TEST_F(DelayedPerformsTest, keepTheirTarget) {
 }
 
 TEST_F(DelayedPerformsTest, areCancelledByTarget) {
-  const auto listener = Listener::make();
-  const auto other = Listener::make();
+  const auto listener = PerformListener::make();
+  const auto other = PerformListener::make();
   perform(listener, string("x"), 1);
   perform(other, string("y"), 1);
   send<void, "cancelPreviousPerformRequestsWithTarget:">(cls("NSObject"), listener.get());
   advance(1);
-  EXPECT_TRUE(Listener::of(listener.get()).heard.empty());
-  EXPECT_EQ(Listener::of(other.get()).heard.size(), 1u);
+  EXPECT_TRUE(PerformListener::of(listener.get()).heard.empty());
+  EXPECT_EQ(PerformListener::of(other.get()).heard.size(), 1u);
 }
 
 TEST_F(DelayedPerformsTest, areCancelledByEqualArgument) {
-  const auto listener = Listener::make();
+  const auto listener = PerformListener::make();
   perform(listener, string("x"), 1);
   perform(listener, string("y"), 1);
   perform(listener, nullptr, 1);
-  const auto other = Listener::make();
+  const auto other = PerformListener::make();
   perform(other, string("x"), 1);
   const auto cancel = [&](Object argument) {
     send<void, "cancelPreviousPerformRequestsWithTarget:selector:object:">(
@@ -106,22 +106,22 @@ TEST_F(DelayedPerformsTest, areCancelledByEqualArgument) {
   cancel(string("x"));
   cancel(nullptr);
   advance(1);
-  EXPECT_EQ(Listener::of(listener.get()).heard, Lines{"\"y\""});
-  EXPECT_EQ(Listener::of(other.get()).heard, Lines{"\"x\""});
+  EXPECT_EQ(PerformListener::of(listener.get()).heard, Lines{"\"y\""});
+  EXPECT_EQ(PerformListener::of(other.get()).heard, Lines{"\"x\""});
 }
 
 TEST_F(DelayedPerformsTest, onTheMainThreadRunAtOnceWhenWaitedFor) {
-  const auto listener = Listener::make();
+  const auto listener = PerformListener::make();
   const auto perform = [&](bool wait) {
     send<void, "performSelectorOnMainThread:withObject:waitUntilDone:">(
         listener.get(), sel_registerName("hear:"), Object(string("x")), wait);
   };
   perform(true);
-  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 1u);
+  EXPECT_EQ(PerformListener::of(listener.get()).heard.size(), 1u);
   perform(false);
-  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 1u);
+  EXPECT_EQ(PerformListener::of(listener.get()).heard.size(), 1u);
   advance(0);
-  EXPECT_EQ(Listener::of(listener.get()).heard.size(), 2u);
+  EXPECT_EQ(PerformListener::of(listener.get()).heard.size(), 2u);
 }
 
 }  // namespace

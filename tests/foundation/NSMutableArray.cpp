@@ -11,7 +11,7 @@ Object newArray() {
   return send<Object, "arrayWithArray:">(
       cls("NSMutableArray"), array({string("a"), string("b"), string("a"), string("c")}));
 }
-std::string joined(Object list) {
+std::string lettersIn(Object list) {
   return text(send<Object, "componentsJoinedByString:">(list, string("")));
 }
 
@@ -22,15 +22,15 @@ TEST_F(NSMutableArrayTest, addsAndInserts) {
   send<void, "addObjectsFromArray:">(list, list);
   send<void, "setObject:atIndexedSubscript:">(list, string("z"), 4ul);
   send<void, "setObject:atIndexedSubscript:">(list, string("y"), 0ul);
-  EXPECT_EQ(joined(list), "ybabz");
+  EXPECT_EQ(lettersIn(list), "ybabz");
 }
 
 TEST_F(NSMutableArrayTest, removes) {
   const Object list = newArray();
   send<void, "removeObject:">(list, string("a"));
-  EXPECT_EQ(joined(list), "bc");
+  EXPECT_EQ(lettersIn(list), "bc");
   send<void, "removeObjectAtIndex:">(list, 0ul);
-  EXPECT_EQ(joined(list), "c");
+  EXPECT_EQ(lettersIn(list), "c");
   send<void, "removeLastObject">(list);
   send<void, "removeLastObject">(list);
   EXPECT_EQ((send<unsigned long, "count">(list)), 0u);
@@ -51,11 +51,11 @@ TEST_F(NSMutableArrayTest, replacesAndExchanges) {
   const Object list = newArray();
   send<void, "replaceObjectAtIndex:withObject:">(list, 0ul, string("x"));
   send<void, "exchangeObjectAtIndex:withObjectAtIndex:">(list, 0ul, 3ul);
-  EXPECT_EQ(joined(list), "cbax");
+  EXPECT_EQ(lettersIn(list), "cbax");
   send<void, "sortUsingSelector:">(list, sel_registerName("compare:"));
-  EXPECT_EQ(joined(list), "abcx");
+  EXPECT_EQ(lettersIn(list), "abcx");
   send<void, "removeAllObjects">(list);
-  EXPECT_EQ(joined(list), "");
+  EXPECT_EQ(lettersIn(list), "");
 }
 
 TEST_F(NSMutableArrayTest, copyDoesNotFollow) {
@@ -64,8 +64,8 @@ TEST_F(NSMutableArrayTest, copyDoesNotFollow) {
   const auto changing = objc::adopt(send<Object, "mutableCopy">(copy.get()));
   send<void, "removeAllObjects">(list);
   send<void, "removeLastObject">(changing.get());
-  EXPECT_EQ(joined(copy), "abac");
-  EXPECT_EQ(joined(changing), "aba");
+  EXPECT_EQ(lettersIn(copy), "abac");
+  EXPECT_EQ(lettersIn(changing), "aba");
   EXPECT_FALSE(isKindOf(copy, "NSMutableArray"));
 }
 

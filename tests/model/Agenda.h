@@ -10,6 +10,7 @@
 namespace model {
 
 using Nanoseconds = std::int64_t;
+inline constexpr Nanoseconds second = 1'000'000'000;
 inline constexpr Nanoseconds never = std::numeric_limits<Nanoseconds>::max();
 
 enum class Event {

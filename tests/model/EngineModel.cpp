@@ -4,11 +4,6 @@
 #include <cmath>
 
 namespace model {
-namespace {
-
-constexpr Nanoseconds second = 1'000'000'000;
-
-}  // namespace
 
 void EngineModel::startTimerWithMode(long mode, long value) {
   if (mode == 0) {

@@ -5,7 +5,6 @@
 namespace model {
 namespace {
 
-constexpr Nanoseconds second = 1'000'000'000;
 constexpr Nanoseconds longestAdvance = 600 * second;
 
 void change(bool& setting, const std::optional<long>& value, bool otherwise) {

@@ -32,7 +32,6 @@ std::string quotedOrNil(const std::optional<std::string>& text) {
 std::string ScriptWriter::write(const Night& night) {
   script_ << beginning;
   model_.perform(Set{"volumeFadeOutTime", 1, false}, {});
-  const Nanoseconds second = 1'000'000'000;
   model_.perform(Playlist{{{"A", 30 * second},
                            {"B", 45 * second + second / 2},
                            {"B", 20 * second},

@@ -5,7 +5,7 @@
 namespace sim {
 namespace {
 
-constexpr std::chrono::minutes patience{1};
+constexpr std::chrono::minutes longestWait{1};
 
 std::string line(const std::string& text, const std::string& field) {
   const auto start = text.find(field + ": ");
@@ -62,7 +62,7 @@ Event EventReader::next(const std::string& name,
                         const std::function<bool(const nlohmann::json&)>& isWanted) {
   std::unique_lock lock(mutex_);
   for (;;) {
-    if (!changed_.wait_for(lock, patience, [this] { return !events_.empty() || over_; }))
+    if (!changed_.wait_for(lock, longestWait, [this] { return !events_.empty() || over_; }))
       throw std::runtime_error("no event " + name + " comes");
     if (events_.empty()) throw std::runtime_error("the stream is over before an event " + name);
     Event event = std::move(events_.front());
@@ -73,7 +73,7 @@ Event EventReader::next(const std::string& name,
 
 bool EventReader::isOver() {
   std::unique_lock lock(mutex_);
-  return changed_.wait_for(lock, patience, [this] { return over_; });
+  return changed_.wait_for(lock, longestWait, [this] { return over_; });
 }
 
 std::size_t EventReader::bytes() {

@@ -138,7 +138,7 @@ TEST(Secrets, MayBeChosen) {
   EXPECT_EQ(ask(program, {{"Authorization", "Bearer Let.me-in_~2"}}).status, 401);
 }
 
-std::string refusal(const std::vector<std::string>& words) {
+std::string firstLineOfRefusal(const std::vector<std::string>& words) {
   try {
     const ServedProgram program(words);
     return "it serves";
@@ -151,10 +151,10 @@ std::string refusal(const std::vector<std::string>& words) {
 TEST(Secrets, MustFitIntoAnAddress) {
   const std::string expected =
       "it ended with 2: dozewell-simulator: --token needs up to 200 letters, digits and -._~";
-  EXPECT_EQ(refusal({"--no-music", "--token", "a b"}), expected);
-  EXPECT_EQ(refusal({"--no-music", "--token", ""}), expected);
-  EXPECT_EQ(refusal({"--no-music", "--token", "a;b"}), expected);
-  EXPECT_EQ(refusal({"--no-music", "--token", std::string(201, 'a')}), expected);
+  EXPECT_EQ(firstLineOfRefusal({"--no-music", "--token", "a b"}), expected);
+  EXPECT_EQ(firstLineOfRefusal({"--no-music", "--token", ""}), expected);
+  EXPECT_EQ(firstLineOfRefusal({"--no-music", "--token", "a;b"}), expected);
+  EXPECT_EQ(firstLineOfRefusal({"--no-music", "--token", std::string(201, 'a')}), expected);
 }
 
 TEST(Secrets, MayComeFromTheEnvironment) {
@@ -166,7 +166,7 @@ TEST(Secrets, MayComeFromTheEnvironment) {
     EXPECT_EQ(other.token(), "rather-this");
   }
   setenv("DOZEWELL_TOKEN", "a b", 1);
-  EXPECT_EQ(refusal({"--no-music"}),
+  EXPECT_EQ(firstLineOfRefusal({"--no-music"}),
             "it ended with 2: dozewell-simulator: DOZEWELL_TOKEN in the environment needs up to "
             "200 letters, digits and -._~");
   unsetenv("DOZEWELL_TOKEN");

@@ -15,7 +15,7 @@
 namespace sim {
 namespace {
 
-const std::map<std::string, std::string, std::less<>> mimeTypes = {
+const std::map<std::string, std::string, std::less<>> musicTypes = {
     {".mp3", "audio/mpeg"}, {".flac", "audio/flac"}, {".ogg", "audio/ogg"}, {".oga", "audio/ogg"},
     {".opus", "audio/ogg"}, {".m4a", "audio/mp4"},   {".wav", "audio/wav"}};
 
@@ -58,13 +58,13 @@ Track describe(const TagLib::FileRef& file, const std::filesystem::path& path) {
 }  // namespace
 
 bool isNamedAsMusic(const std::filesystem::path& path) {
-  return mimeTypes.contains(extensionOf(path));
+  return musicTypes.contains(extensionOf(path));
 }
 
 std::string musicNameEndings() {
   std::string endings;
-  for (const auto& [ending, mimeType] : mimeTypes) {
-    if (ending == mimeTypes.rbegin()->first)
+  for (const auto& [ending, mimeType] : musicTypes) {
+    if (ending == musicTypes.rbegin()->first)
       endings += " or ";
     else if (!endings.empty())
       endings += ", ";
@@ -84,7 +84,7 @@ std::optional<MusicFile> readMusicFile(const std::filesystem::path& path, std::s
     problem = "it cannot be read as music";
     return std::nullopt;
   }
-  MusicFile music{path, mimeTypes.at(extensionOf(path)), describe(file, path), false};
+  MusicFile music{path, musicTypes.at(extensionOf(path)), describe(file, path), false};
   if (music.track.length <= 0) {
     problem = "it holds no sound";
     return std::nullopt;

@@ -10,9 +10,9 @@
 namespace xib {
 namespace {
 
-constexpr Choice types[] = {{"custom", 0},           {"system", 1},    {"roundedRect", 1},
-                            {"detailDisclosure", 2}, {"infoLight", 3}, {"infoDark", 4},
-                            {"contactAdd", 5},       {"close", 7}};
+constexpr Choice buttonTypes[] = {{"custom", 0},           {"system", 1},    {"roundedRect", 1},
+                                  {"detailDisclosure", 2}, {"infoLight", 3}, {"infoDark", 4},
+                                  {"contactAdd", 5},       {"close", 7}};
 constexpr Choice states[] = {{"normal", 0}, {"highlighted", 1}, {"disabled", 2}, {"selected", 4}};
 constexpr Choice horizontalAlignments[] = {{"center", 0}, {"left", 1},    {"right", 2},
                                            {"fill", 3},   {"leading", 4}, {"trailing", 5}};
@@ -72,7 +72,7 @@ void encodeBehaviour(Element& button, nib::Node& node) {
     node.setBool("UIAdjustsImageWhenHighlighted", true);
   if (button.flag("adjustsImageWhenDisabled", true))
     node.setBool("UIAdjustsImageWhenDisabled", true);
-  if (const int type = button.choice("buttonType", types).value_or(0))
+  if (const int type = button.choice("buttonType", buttonTypes).value_or(0))
     node.setInteger("UIButtonType", type);
 }
 

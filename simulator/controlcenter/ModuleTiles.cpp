@@ -9,6 +9,7 @@
 #include "simulator/foundation/Values.h"
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/springboard/SystemNames.h"
+#include "simulator/standin/Versions.h"
 #include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/controls/UIControl.h"
 #include "simulator/uikit/controls/UISlider.h"
@@ -148,7 +149,9 @@ void fillTile(Object tile, const ModulePlace& place, CGSize size, TileControls& 
 
 void refreshTiles(const TileControls& controls) {
   for (const Object button : controls.switches) CCUIRoundButton::of(button).refresh();
-  const char* focus = focusSwitch().isOn() ? "Do Not Disturb" : "Focus";
+  constexpr int firstWithModes = 15;  // before, the one there is gives the tile its name
+  const bool isOneOfMany = systemMajor() >= firstWithModes;
+  const char* focus = isOneOfMany && !focusSwitch().isOn() ? "Focus" : "Do Not Disturb";
   setText(controls.focusLabel, string(systemName(focus)));
 }
 

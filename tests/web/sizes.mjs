@@ -138,6 +138,9 @@ phoneTest("a picture of the phone is saved", {}, async (served, page) => {
 });
 
 phoneTest("a film of the last half minute is saved", {}, async (served, page) => {
+  await page.locator("#glass .face").first().waitFor({ state: "attached" });
+  // What is shown for less than 200 ms is no frame of its own.
+  await page.waitForTimeout(250);
   await served.run("control-center open");
   await pass(served, 1);
   await onScreen(page, "button", "Sleep timer").waitFor();

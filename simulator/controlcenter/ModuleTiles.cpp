@@ -149,9 +149,9 @@ void fillTile(Object tile, const ModulePlace& place, CGSize size, TileControls& 
 
 void refreshTiles(const TileControls& controls) {
   for (const Object button : controls.switches) CCUIRoundButton::of(button).refresh();
-  constexpr int firstWithModes = 15;  // before, the one there is gives the tile its name
-  const bool isOneOfMany = systemMajor() >= firstWithModes;
-  const char* focus = isOneOfMany && !focusSwitch().isOn() ? "Focus" : "Do Not Disturb";
+  constexpr int firstWithFocus = 15;  // before, Do Not Disturb was the only mode
+  const bool hasFocus = systemMajor() >= firstWithFocus;
+  const char* focus = hasFocus && !focusSwitch().isOn() ? "Focus" : "Do Not Disturb";
   setText(controls.focusLabel, string(systemName(focus)));
 }
 

@@ -29,7 +29,8 @@ constexpr const char* planeText =
     "M 9.5 -1 C 10.3 -1 10.6 0 10.6 1 L 10.6 4 L 17 8 L 17 9.6 L 10.6 7.6 L 10.6 11 L 12.4 12.6 "
     "L 12.4 13.8 L 9.5 13 L 6.6 13.8 L 6.6 12.6 L 8.4 11 L 8.4 7.6 L 2 9.6 L 2 8 L 8.4 4 L 8.4 1 "
     "C 8.4 0 8.7 -1 9.5 -1 Z";
-constexpr const char* focusText = "M 5 1 C 0 3 0 10 5 12 C 8 13 11 12 12.4 9.4 C 7 10 3.6 6 5 1 Z";
+constexpr const char* crescentText =
+    "M 5 1 C 0 3 0 10 5 12 C 8 13 11 12 12.4 9.4 C 7 10 3.6 6 5 1 Z";
 constexpr const char* batteryCase = "R 44.5 0.5 22 11 3.2";
 constexpr const char* batteryEnd = "M 68 4.2 C 69.4 4.7 69.4 7.3 68 7.8 Z";
 constexpr const char* charge = "R 46.3 2.3 18.4 7.4 1.8";
@@ -47,15 +48,15 @@ Object StatusBarView::initWithFrame(CGRect frame) {
   time = addLabel(made, {.points = 17, .isBold = true, .alignment = center});
   symbols = addView(made, "UIView");
   const Object layer = objc::send<Object, "layer">(symbols.get());
-  const Object opaque = coreColor({255, 255, 255});
+  const Object ink = coreColor({255, 255, 255});
   const Object faint = coreColor({255, 255, 255}, 0.4);
-  bars = addShapeLayer(layer, barsText, {opaque, nullptr});
-  waves = addShapeLayer(layer, wavesText, {opaque, nullptr});
-  battery.push_back(addShapeLayer(layer, charge, {opaque, nullptr}));
+  bars = addShapeLayer(layer, barsText, {ink, nullptr});
+  waves = addShapeLayer(layer, wavesText, {ink, nullptr});
+  battery.push_back(addShapeLayer(layer, charge, {ink, nullptr}));
   battery.push_back(addShapeLayer(layer, batteryCase, {nullptr, faint}));
   battery.push_back(addShapeLayer(layer, batteryEnd, {faint, nullptr}));
-  plane = addShapeLayer(layer, planeText, {opaque, nullptr});
-  moon = addShapeLayer(objc::send<Object, "layer">(made), focusText, {opaque, nullptr});
+  plane = addShapeLayer(layer, planeText, {ink, nullptr});
+  moon = addShapeLayer(objc::send<Object, "layer">(made), crescentText, {ink, nullptr});
   showState();
   return made;
 }

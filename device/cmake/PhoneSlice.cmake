@@ -14,8 +14,12 @@ execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-resource-dir
 
 set(PHONE_DIR ${CMAKE_CURRENT_LIST_DIR}/..)
 cmake_path(NORMAL_PATH PHONE_DIR)
+# The interpreter itself: what is found may be a script that looks for it at each start.
+execute_process(COMMAND ${Python3_EXECUTABLE} -c "import sys; print(sys.executable)"
+                OUTPUT_VARIABLE interpreter OUTPUT_STRIP_TRAILING_WHITESPACE
+                COMMAND_ERROR_IS_FATAL ANY)
 # -B: no byte code beside the sources.
-set(PHONE_PYTHON ${Python3_EXECUTABLE} -B)
+set(PHONE_PYTHON ${interpreter} -B)
 
 set(PHONE_COMPILE_FLAGS
     -nostdinc++  # SHELL: keeps CMake from dropping the repeated word
@@ -69,12 +73,18 @@ function(phone_objects name arch)
   target_compile_definitions(${name} PRIVATE ${DOZEWELL_REPOSITORY_DEFINITION})
 endfunction()
 
-# phone_assembly(NAME LIST SOURCES...): what the arm64e objects are assembled from, for the check
-# that reads it; LIST is the file that will name the results.
-function(phone_assembly name list)
-  phone_objects(${name} arm64e ${ARGN})
-  target_compile_options(${name} PRIVATE -S)
-  file(GENERATE OUTPUT ${list} CONTENT "$<JOIN:$<TARGET_OBJECTS:${name}>,\n>\n")
+# phone_objects_of(VARIABLE NAME): its objects, without the headers that it has precompiled.
+function(phone_objects_of variable name)
+  set(${variable} "$<FILTER:$<TARGET_OBJECTS:${name}>,EXCLUDE,[.]pch$>" PARENT_SCOPE)
+endfunction()
+
+# phone_assembly(OBJECTS LIST): the arm64e object library OBJECTS is made by way of assembly, which
+# stays beside the objects for the check that reads it; LIST is the file that will name the results.
+function(phone_assembly objects list)
+  set_target_properties(${objects} PROPERTIES CXX_COMPILER_LAUNCHER
+    "${PHONE_DIR}through_assembly.sh;${CMAKE_CXX_COMPILER};${CMAKE_CXX_COMPILER_LAUNCHER}")
+  phone_objects_of(objects_of ${objects})
+  file(GENERATE OUTPUT ${list} CONTENT "$<JOIN:${objects_of},.s\n>.s\n")
 endfunction()
 
 # phone_slice(DIRECTORY ARCH OBJECTS [STUBS stubs...] [FIXUP_FLAGS flags...]): links the object library OBJECTS
@@ -88,13 +98,14 @@ function(phone_slice directory arch objects)
   # The signature's identifier is the file's name, so it is the final one from the start.
   set(linked ${directory}/linked/Dozewell2.dylib)
   set(finished ${directory}/Dozewell2.dylib)
+  phone_objects_of(objects_of ${objects})
   file(MAKE_DIRECTORY ${directory}/linked)
   add_custom_command(
     OUTPUT ${finished} ${linked}
-    COMMAND ${PHONE_LINKER} ${PHONE_LINK_FLAGS} ${ARG_FIXUP_FLAGS} $<TARGET_OBJECTS:${objects}>
+    COMMAND ${PHONE_LINKER} ${PHONE_LINK_FLAGS} ${ARG_FIXUP_FLAGS} ${objects_of}
             ${PHONE_STUBS} ${ARG_STUBS} -map ${linked}.map -o ${linked}
     COMMAND ${PHONE_PYTHON} ${PHONE_DIR}finish_slice.py ${linked} ${arch} ${finished}
-    DEPENDS $<TARGET_OBJECTS:${objects}> ${PHONE_STUBS} ${ARG_STUBS} ${PHONE_TOOLS}
+    DEPENDS ${objects_of} ${PHONE_STUBS} ${ARG_STUBS} ${PHONE_TOOLS}
     COMMENT "Linking ${finished}"
     COMMAND_EXPAND_LISTS VERBATIM)
 endfunction()

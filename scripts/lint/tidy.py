@@ -49,10 +49,10 @@ def sources(build):
 
 
 def units(found):
-    """Lists of sources of one folder that are compiled alike."""
+    """Lists of sources that are compiled alike."""
     groups = {}
     for source, (flags, _) in sorted(found.items()):
-        groups.setdefault((source.relative_to(ROOT).parts[:2], flags), []).append(source)
+        groups.setdefault(flags, []).append(source)
     for group in groups.values():
         yield from apart.units(group)
 
@@ -93,22 +93,19 @@ class Tidy:
             subprocess.run(["g++", "-std=c++17", "-shared", "-fPIC", "-fno-rtti", "-isystem",
                             "/usr/lib/llvm-14/include", PLUGIN, "-o", self.plugin], check=True)
 
-    def precompile(self, all_flags):
-        """For each of these lists of flags the one that the tool takes: with what g++ has
-        precompiled compiled again, and without warnings that clang does not know."""
-        made = {}
-        for flags in set(all_flags):
-            known = [*flags, "-Wno-unknown-warning-option"]
-            if PRECOMPILED in flags:
-                at = known.index(PRECOMPILED)
-                header = known[at + 2]
-                known[at:at + 3] = []
-                file = self.folder / (short_hash(" ".join(known) + header) + ".pch")
-                subprocess.run([COMPILER, *known, "-Wno-pragma-system-header-outside-header", "-x",
-                                "c++-header", header, "-o", file], check=True)
-                known += ["-include-pch", str(file)]
-            made[flags] = known
-        return made
+    def precompile(self, flags):
+        """The flags as the tool takes them: with what g++ has precompiled compiled again, and
+        without warnings that clang does not know."""
+        known = [*flags, "-Wno-unknown-warning-option"]
+        if PRECOMPILED not in flags:
+            return known
+        at = known.index(PRECOMPILED)
+        header = known[at + 2]
+        known[at:at + 3] = []
+        file = self.folder / (short_hash(" ".join(known) + header) + ".pch")
+        subprocess.run([COMPILER, *known, "-Wno-pragma-system-header-outside-header", "-x",
+                        "c++-header", header, "-o", file], check=True)
+        return [*known, "-include-pch", str(file)]
 
     def run(self, unit, flags):
         """Reads these sources as one: their text, because some checks know less of what is
@@ -163,16 +160,18 @@ def main(build):
         print("every unit has passed before")
         return 0
     tidy = Tidy(folder)
-    flags = tidy.precompile([found[unit[0]][0] for unit, _ in left])
-
-    def check(item):
-        unit, stamp = item
-        good = tidy.passes(unit, flags[found[unit[0]][0]])
-        if good:
-            stamp.touch()
-        return good
 
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        given = {found[unit[0]][0] for unit, _ in left}
+        flags = dict(zip(given, pool.map(tidy.precompile, given)))
+
+        def check(item):
+            unit, stamp = item
+            good = tidy.passes(unit, flags[found[unit[0]][0]])
+            if good:
+                stamp.touch()
+            return good
+
         results = list(pool.map(check, left))
     print(f"{results.count(True)} units of {len(results)} passed")
     return 0 if all(results) else 1

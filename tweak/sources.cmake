@@ -42,3 +42,10 @@ set(DOZEWELL_TWEAK_SOURCES
     tweak/support/Log.cpp
     tweak/support/PluralForm.cpp
     tweak/support/SpokenText.cpp)
+
+# What most of them begin with: read once, except for arm64, where each source is compiled with nothing
+# but what it includes itself.
+set(DOZEWELL_TWEAK_HEADERS
+    ${PROJECT_SOURCE_DIR}/objc/Class.h
+    ${PROJECT_SOURCE_DIR}/platform/Foundation.h
+    ${PROJECT_SOURCE_DIR}/platform/UIKit.h)

@@ -64,6 +64,9 @@ class Project:
             output = words[words.index("-o") + 1]
             if output not in self.objects:
                 continue
+            if "-include" in words:  # what the build has precompiled
+                at = words.index("-include")
+                del words[at:at + 2]
             at = words.index("-o")
             kept = [word for word in words[1:at] if not LEFT_OUT.fullmatch(word)]
             if flags not in (None, kept):

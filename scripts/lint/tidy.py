@@ -24,6 +24,7 @@ COMPILER = "clang++-14"
 PLUGIN = ROOT / "scripts/lint/tidy/OwnDeclarations.cpp"
 CHECKS = ROOT / ".clang-tidy"
 PRECOMPILED = "-Winvalid-pch"  # then come -include and a header
+PARAMETER = "--param"
 
 
 def joined(file):
@@ -95,8 +96,11 @@ class Tidy:
 
     def precompile(self, flags):
         """The flags as the tool takes them: with what g++ has precompiled compiled again, and
-        without warnings that clang does not know."""
+        without warnings and parameters that clang does not know."""
         known = [*flags, "-Wno-unknown-warning-option"]
+        while PARAMETER in known:
+            at = known.index(PARAMETER)
+            known[at:at + 2] = []
         if PRECOMPILED not in flags:
             return known
         at = known.index(PRECOMPILED)

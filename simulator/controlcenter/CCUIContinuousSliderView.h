@@ -2,21 +2,15 @@
 #pragma once
 
 #include "objc/Class.h"
+#include "simulator/coregraphics/Geometry.h"
 
 namespace sim {
 
 struct CCUIContinuousSliderView : objc::Implementation<CCUIContinuousSliderView> {
+  objc::Object initWithFrame(CGRect frame);
   void layoutSubviews();
-  bool beginTracking(objc::Object touch, objc::Object event);
-  bool continueTracking(objc::Object touch, objc::Object event);
 
   static void registerClass();
-
- private:
-  double fingerAt(objc::Object touch) const;  // y
-
-  float heldFrom_ = 0;  // the value when a finger came down
-  double fingerFrom_ = 0;
 };
 
 }  // namespace sim

@@ -95,7 +95,7 @@ void slide(Arguments& words) {
     throw ScriptError(0, "the slider goes from " + notation(slider.minimumValue) + " to " +
                              notation(slider.maximumValue));
   const CGPoint knob = slider.knob();
-  const CGPoint to = {knob.x + slider.wayTo(float(value)), knob.y};
+  const CGPoint to = slider.knobAt(float(value));
   expectItself(view, Finger::current().reach(view, knob));
   record("slide " + notation(value));
   Finger::current().touch(view, view, knob, to);

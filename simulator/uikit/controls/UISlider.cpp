@@ -70,14 +70,29 @@ double UISlider::partAt(float at) const {
   return range > 0 ? (double(at) - double(minimumValue)) / range : 0;
 }
 
-CGPoint UISlider::knob() const {
-  const CGRect bounds = UIView::of(self()).geometry().bounds;
-  const double way = std::min(bounds.size.width * partAt(value), bounds.size.width - 1);
-  return {bounds.origin.x + way, bounds.origin.y + bounds.size.height / 2};
+double UISlider::length() const {
+  const CGSize size = UIView::of(self()).geometry().bounds.size;
+  return goesUp ? size.height : size.width;
 }
 
-double UISlider::wayTo(float to) const {
-  return UIView::of(self()).geometry().bounds.size.width * (partAt(to) - partAt(value));
+double UISlider::placeOf(Object touch) const {
+  const CGPoint place = UITouch::of(touch).locationInView(Object(self()));
+  return goesUp ? -place.y : place.x;
+}
+
+CGPoint UISlider::knob() const {
+  const CGRect bounds = UIView::of(self()).geometry().bounds;
+  const auto [x, y] = bounds.origin;
+  // Its far edge belongs to it no longer.
+  const double way = std::min(length() * partAt(value), length() - 1);
+  if (goesUp) return {x + bounds.size.width / 2, y + length() - 1 - way};
+  return {x + way, y + bounds.size.height / 2};
+}
+
+CGPoint UISlider::knobAt(float to) const {
+  const CGPoint from = knob();
+  const double way = length() * (partAt(to) - partAt(value));
+  return goesUp ? CGPoint{from.x, from.y - way} : CGPoint{from.x + way, from.y};
 }
 
 void UISlider::slideTo(float to) {
@@ -89,16 +104,15 @@ void UISlider::slideTo(float to) {
 bool UISlider::beginTracking(Object touch, Object) {
   tracking_.emplace();
   heldFrom_ = value;
-  fingerFrom_ = UITouch::of(touch).locationInView(Object(self())).x;
+  fingerFrom_ = placeOf(touch);
   return true;
 }
 
 bool UISlider::continueTracking(Object touch, Object) {
-  const double width = UIView::of(self()).geometry().bounds.size.width;
+  if (length() <= 0) return true;
   const double range = double(maximumValue) - double(minimumValue);
-  const double way = UITouch::of(touch).locationInView(Object(self())).x - fingerFrom_;
-  if (width <= 0) return true;
-  const auto to = float(double(heldFrom_) + way / width * range);
+  const double way = placeOf(touch) - fingerFrom_;
+  const auto to = float(double(heldFrom_) + way / length() * range);
   if (std::clamp(to, minimumValue, maximumValue) != value) slideTo(to);
   return true;
 }

@@ -14,6 +14,7 @@ struct UISlider : objc::Implementation<UISlider> {
   float value = 0;
   objc::Strong<objc::Object> track;
   objc::Strong<objc::Object> filled;
+  bool goesUp = false;  // its values grow to the top, else to the right
 
   objc::Object initWithFrame(CGRect frame);
   void setValue(float to);  // held to the limits; no action is sent
@@ -28,19 +29,21 @@ struct UISlider : objc::Implementation<UISlider> {
   void turnBy(long steps);
   // How much of its length the knob has behind it, for that value.
   double partAt(float at) const;
-  // Where a finger finds the knob, in the slider's own coordinates, and how far it then goes to the
-  // right for a value.
+  // Where a finger finds the knob, in the slider's own coordinates, and where it leaves it for a
+  // value.
   CGPoint knob() const;
-  double wayTo(float to) const;
+  CGPoint knobAt(float to) const;
 
   static void registerClass();
 
  private:
   void slideTo(float to);  // by hand: its actions are sent
+  double length() const;
+  double placeOf(objc::Object touch) const;  // along the slider
 
   std::optional<Tracking> tracking_;
   float heldFrom_ = 0;     // the value when a finger came down
-  double fingerFrom_ = 0;  // and where that was, x
+  double fingerFrom_ = 0;  // and where that was, along the slider
 };
 
 }  // namespace sim

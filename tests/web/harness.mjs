@@ -225,6 +225,13 @@ export async function andCommand(page, text, act) {
   await answered;
 }
 
+// What the server answers when it is told of time by what is done on the page.
+export const timeAnswer = (page, act) =>
+  Promise.all([
+    page.waitForResponse((response) => response.url().endsWith("/api/time")),
+    act(),
+  ]).then(([response]) => response.json());
+
 // Does something that has the host's process restarted, and waits until the page knows the new
 // one.
 export async function andRestart(page, act) {

@@ -1,7 +1,16 @@
 // Another language is chosen in the set-up: a fresh phone speaks it.
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
-import { andCommand, andRestart, onScreen, openPanel, pass, phoneTest, press } from "./harness.mjs";
+import {
+  andCommand,
+  andRestart,
+  onScreen,
+  openPanel,
+  pass,
+  phoneTest,
+  press,
+  timeAnswer,
+} from "./harness.mjs";
 
 phoneTest("the panel speaks Arabic after the change", {}, async (served, page) => {
   await page.click("#tab-setup");
@@ -101,7 +110,7 @@ phoneTest(
     await press(page, onScreen(page, "button", "Confirm"));
     await page.locator("#hint.timer").waitFor();
     await isGerman("with a timer");
-    await page.click("#time-end");
+    await timeAnswer(page, () => page.click("#time-end"));
     await pass(served, 12);
     await page.locator("#hint", { hasText: "wird leiser" }).waitFor();
     await isGerman("in the fade");

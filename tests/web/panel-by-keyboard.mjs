@@ -1,6 +1,15 @@
 // The road of one timer with the keyboard alone.
 import assert from "node:assert/strict";
-import { andCommand, journalHas, onScreen, openPanel, pass, phoneTest, press } from "./harness.mjs";
+import {
+  andCommand,
+  journalHas,
+  onScreen,
+  openPanel,
+  pass,
+  phoneTest,
+  press,
+  timeAnswer,
+} from "./harness.mjs";
 
 // Tab until the element has the focus: it must be reachable that way.
 async function tabTo(page, locator) {
@@ -86,7 +95,7 @@ phoneTest("a night by the keyboard alone", { page: { silent: false } }, async (s
 
   await tabTo(page, page.locator("#time-end"));
   assert.equal(await spoken(page), "button, 10 s before the end");
-  await page.keyboard.press("Enter");
+  await timeAnswer(page, () => page.keyboard.press("Enter"));
   await tabTo(page, page.locator("#time-minute"));
   await page.keyboard.press("Enter");
   await journalHas(page, "-[SBMediaController pauseForEventSource:0]");

@@ -1,12 +1,6 @@
 // Time: faster, standing still, from event to event, to the timer's last seconds.
 import assert from "node:assert/strict";
-import { journalHas, openPanel, onScreen, phoneTest, press } from "./harness.mjs";
-
-const timeAnswer = (page, act) =>
-  Promise.all([
-    page.waitForResponse((response) => response.url().endsWith("/api/time")),
-    act(),
-  ]).then(([response]) => response.json());
+import { journalHas, openPanel, onScreen, phoneTest, press, timeAnswer } from "./harness.mjs";
 
 phoneTest("time runs, stands and jumps as it is told", {}, async (served, page) => {
   await page.locator("#panel-time.stands").waitFor();

@@ -29,9 +29,9 @@ struct SubCenter : objc::Implementation<SubCenter> {
   }
 };
 
-Object receiver;
+Object reached;
 long plusOne(Original<long(Object)> original, Object self) {
-  receiver = self;
+  reached = self;
   return original(self) + 1;
 }
 
@@ -48,7 +48,7 @@ TEST_F(ClassMethodHooks, ReplaceTheClassMethod) {
   EXPECT_EQ(number(Center::cls()), 10);
   EXPECT_TRUE((objc::hook<"Center", "number", plusOne>()));
   EXPECT_EQ(number(Center::cls()), 11);
-  EXPECT_EQ(receiver.get(), reinterpret_cast<id>(Center::cls()));
+  EXPECT_EQ(reached.get(), reinterpret_cast<id>(Center::cls()));
   EXPECT_FALSE(objc::respondsTo<"number">(Center::make().get()));
 }
 
@@ -56,7 +56,7 @@ TEST_F(ClassMethodHooks, ReachSubclasses) {
   EXPECT_EQ(number(SubCenter::cls()), 10);
   EXPECT_TRUE((objc::hook<"Center", "number", plusOne>()));
   EXPECT_EQ(number(SubCenter::cls()), 11);
-  EXPECT_EQ(receiver.get(), reinterpret_cast<id>(SubCenter::cls()));
+  EXPECT_EQ(reached.get(), reinterpret_cast<id>(SubCenter::cls()));
 }
 
 TEST_F(ClassMethodHooks, OnAnInheritedOneLeaveTheBaseAlone) {

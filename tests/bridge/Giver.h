@@ -27,7 +27,14 @@ struct Giver : objc::Implementation<Giver<T>> {
   // More arguments than registers, so that some are passed on the stack.
   T last(long, double, long, double, long, double, T value) { return value; }
 
+  // Several suites want it; they may run in one process.
   static Class registerClass() {
+    static const Class registered = makeClass();
+    return registered;
+  }
+
+ private:
+  static Class makeClass() {
     return objc::ClassBuilder<Giver>(classNameFor<T>("Giver").c_str(), "NSObject")
         .template method<"value", &Giver::value>()
         .template method<"echo:", &Giver::echo>()

@@ -17,9 +17,9 @@ std::size_t countOf(id object) {
   return send<std::size_t>(object, "retainCount");
 }
 
-id copied = nullptr;
+id lastCopy = nullptr;
 id copyWithZone(id self, SEL, void*) {
-  return copied = make(object_getClass(self));
+  return lastCopy = make(object_getClass(self));
 }
 
 class Associations : public testing::TestWithParam<objc_AssociationPolicy> {
@@ -48,7 +48,7 @@ TEST_P(Associations, followTheirPolicy) {
       policy == OBJC_ASSOCIATION_RETAIN || policy == OBJC_ASSOCIATION_RETAIN_NONATOMIC;
   objc_setAssociatedObject(object_, &keys[0], value_, policy);
   EXPECT_EQ(countOf(value_), retains ? 2u : 1u);
-  EXPECT_EQ(objc_getAssociatedObject(object_, &keys[0]), copies ? copied : value_);
+  EXPECT_EQ(objc_getAssociatedObject(object_, &keys[0]), copies ? lastCopy : value_);
   EXPECT_EQ(objc_getAssociatedObject(object_, &keys[1]), nullptr);
 }
 

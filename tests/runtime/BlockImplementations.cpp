@@ -38,9 +38,9 @@ IMP implementation(Block block) {
   return imp_implementationWithBlock(reinterpret_cast<id>(&block));
 }
 
-id seen;
+id seenSelf;
 double sum(Block* block, id self, int a, int b, int c, int d, int e, double x, double y) {
-  seen = self;
+  seenSelf = self;
   return block->captured + a + 10 * b + 100 * c + 1000 * d + 10000 * e + x + y;
 }
 int captured(Block* block, id) {
@@ -50,7 +50,7 @@ struct Large {
   double numbers[6];
 };
 Large large(Block* block, id self, double first) {
-  seen = self;
+  seenSelf = self;
   return {{first, 2, 3, 4, 5, static_cast<double>(block->captured)}};
 }
 
@@ -69,7 +69,7 @@ TEST_F(BlockImplementations, getTheReceiverAndTheArgumentsWithoutTheSelector) {
   const IMP method = implementation(stackBlock(&sum, 100000));
   EXPECT_TRUE(class_addMethod(cls_, sel("sum"), method, "d@:iiiiidd"));
   EXPECT_EQ((send<double>(object_, "sum", 1, 2, 3, 4, 5, 0.25, 0.5)), 154321.75);
-  EXPECT_EQ(seen, object_);
+  EXPECT_EQ(seenSelf, object_);
   class_replaceMethod(cls_, sel("sum"), asImplementation(&captured), "d@:");
   EXPECT_TRUE(imp_removeBlock(method));
 }
@@ -80,7 +80,7 @@ TEST_F(BlockImplementations, mayReturnAStructureInMemory) {
       reinterpret_cast<Large (*)(id, SEL, double)>(method)(object_, sel("large"), 1.5);
   EXPECT_EQ(result.numbers[0], 1.5);
   EXPECT_EQ(result.numbers[5], 7);
-  EXPECT_EQ(seen, object_);
+  EXPECT_EQ(seenSelf, object_);
   EXPECT_TRUE(imp_removeBlock(method));
 }
 

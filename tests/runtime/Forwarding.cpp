@@ -18,9 +18,9 @@ id forwardToItself(id self, SEL, SEL) {
 }
 
 // Which receiver the method saw, and what came with the message.
-id receiver;
+id reached;
 double sum(id self, SEL, int a, int b, int c, int d, int e, int f, double x, double y) {
-  receiver = self;
+  reached = self;
   return a + 10 * b + 100 * c + 1000 * d + 10000 * e + 100000 * f + x + y;
 }
 int sumOf(id, SEL, int count, ...) {
@@ -36,7 +36,7 @@ struct Large {
   double numbers[6];
 };
 Large large(id self, SEL, double first) {
-  receiver = self;
+  reached = self;
   return {{first, 2, 3, 4, 5, 6}};
 }
 Large sendLarge(id object, const char* name, double first) {
@@ -56,7 +56,7 @@ class Forwarding : public testing::Test {
     addMethod(back_, "sumOf:", &sumOf);
     addMethod(back_, "large:", &large);
     target = make(back_);
-    receiver = nullptr;
+    reached = nullptr;
   }
   void TearDown() override {
     objc_release(object_);
@@ -70,7 +70,7 @@ class Forwarding : public testing::Test {
 
 TEST_F(Forwarding, passesAllArgumentsAndTheResult) {
   EXPECT_EQ((send<double>(object_, "sum", 1, 2, 3, 4, 5, 6, 0.25, 0.5)), 654321.75);
-  EXPECT_EQ(receiver, target);
+  EXPECT_EQ(reached, target);
 }
 
 TEST_F(Forwarding, passesVariadicArguments) {
@@ -82,7 +82,7 @@ TEST_F(Forwarding, passesAStructureInMemory) {
   const Large result = sendLarge(object_, "large:", 1.5);
   EXPECT_EQ(result.numbers[0], 1.5);
   EXPECT_EQ(result.numbers[5], 6);
-  EXPECT_EQ(receiver, target);
+  EXPECT_EQ(reached, target);
 }
 
 TEST_F(Forwarding, happensForMessagesToSuper) {
@@ -93,7 +93,7 @@ TEST_F(Forwarding, happensForMessagesToSuper) {
   EXPECT_EQ(reinterpret_cast<Sender>(&objc_msgSendSuper2)(&toSuper, sel("sum"), 1, 2, 3, 4, 5, 6,
                                                           0.25, 0.5),
             654321.75);
-  EXPECT_EQ(receiver, target);
+  EXPECT_EQ(reached, target);
   objc_release(object);
 }
 
@@ -106,7 +106,7 @@ TEST_F(Forwarding, goesOnFromObjectToObject) {
   id object = make(first);
   objc_setAssociatedObject(object, &next, object_, OBJC_ASSOCIATION_ASSIGN);
   EXPECT_EQ((send<double>(object, "sum", 1, 2, 3, 4, 5, 6, 0.25, 0.5)), 654321.75);
-  EXPECT_EQ(receiver, target);
+  EXPECT_EQ(reached, target);
   objc_release(object);
 }
 
@@ -133,7 +133,7 @@ TEST_F(Forwarding, endsWhenTheMethodIsAdded) {
   EXPECT_EQ((send<double>(object_, "sum", 1, 2, 3, 4, 5, 6, 0.25, 0.5)), 654321.75);
   addMethod(front_, "sum", &sum);
   EXPECT_EQ((send<double>(object_, "sum", 1, 2, 3, 4, 5, 6, 0.25, 0.5)), 654321.75);
-  EXPECT_EQ(receiver, object_);
+  EXPECT_EQ(reached, object_);
 }
 
 TEST_F(Forwarding, isDoneByTheImplementationOfAMissingMethod) {
@@ -149,7 +149,7 @@ TEST_F(Forwarding, isDoneByTheImplementationOfAMissingMethod) {
   const Large result =
       reinterpret_cast<Large (*)(id, SEL, double)>(missingLarge)(object_, sel("large:"), 1.5);
   EXPECT_EQ(result.numbers[0], 1.5);
-  EXPECT_EQ(receiver, target);
+  EXPECT_EQ(reached, target);
 }
 
 using ForwardingDeathTest = Forwarding;

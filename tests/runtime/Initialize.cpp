@@ -94,7 +94,7 @@ TEST_F(Initialize, aRootClassNeedsNone) {
 }
 
 std::atomic<int> started;
-std::atomic<bool> finished;
+std::atomic<bool> isInitialized;
 std::atomic<int> sawUnfinished;
 std::atomic<std::thread::id> initializer;
 
@@ -105,17 +105,17 @@ void slowInitialize(id self, SEL) {
   send(self, "check");
   // Long enough for the other threads to come: they must be found waiting, not running.
   std::this_thread::sleep_for(std::chrono::milliseconds(30));
-  finished = true;
+  isInitialized = true;
 }
 void check(id, SEL) {
-  if (!finished && initializer.load() != std::this_thread::get_id()) {
+  if (!isInitialized && initializer.load() != std::this_thread::get_id()) {
     ++sawUnfinished;
   }
 }
 
 TEST_F(Initialize, otherThreadsWaitForItsEnd) {
   started = 0;
-  finished = false;
+  isInitialized = false;
   sawUnfinished = 0;
   Class cls = makeClass("Shared");
   addClassMethod(cls, "initialize", &slowInitialize);
@@ -131,23 +131,23 @@ TEST_F(Initialize, otherThreadsWaitForItsEnd) {
   EXPECT_EQ(sawUnfinished, 0);
 }
 
-Class inner;
+Class innermost;
 
 // Reaches a subclass from inside: that is ready for this thread alone.
 void initializeThroughASubclass(id self, SEL) {
-  send(inner, "check");
+  send(innermost, "check");
   slowInitialize(self, nullptr);
-  send(inner, "check");
+  send(innermost, "check");
 }
 
 TEST_F(Initialize, otherThreadsWaitForItsEndThroughASubclassToo) {
   started = 0;
-  finished = false;
+  isInitialized = false;
   sawUnfinished = 0;
   Class cls = makeClass("Shared");
-  inner = makeClass("Inner", makeClass("Between", cls));
-  addClassMethod(class_getSuperclass(inner), "initialize", &recordInitialize);
-  addClassMethod(inner, "initialize", &recordInitialize);
+  innermost = makeClass("Inner", makeClass("Between", cls));
+  addClassMethod(class_getSuperclass(innermost), "initialize", &recordInitialize);
+  addClassMethod(innermost, "initialize", &recordInitialize);
   addClassMethod(cls, "initialize", &initializeThroughASubclass);
   addClassMethod(cls, "check", &check);
   initializer = std::this_thread::get_id();
@@ -158,14 +158,14 @@ TEST_F(Initialize, otherThreadsWaitForItsEndThroughASubclassToo) {
   while (started == 0) std::this_thread::yield();
   std::vector<std::thread> threads;
   for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([] { send(inner, "check"); });
+    threads.emplace_back([] { send(innermost, "check"); });
   }
   for (std::thread& thread : threads) thread.join();
   first.join();
   EXPECT_EQ(started, 1);
   EXPECT_EQ(sawUnfinished, 0);
-  EXPECT_EQ(initialized, (std::vector<std::string>{class_getName(class_getSuperclass(inner)),
-                                                   class_getName(inner)}));
+  EXPECT_EQ(initialized, (std::vector<std::string>{class_getName(class_getSuperclass(innermost)),
+                                                   class_getName(innermost)}));
 }
 
 }  // namespace

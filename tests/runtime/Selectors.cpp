@@ -27,9 +27,9 @@ TEST(Selectors, isEqual) {
 
 TEST(Selectors, threadsAgree) {
   constexpr int kNames = 500;
-  std::vector<std::vector<SEL>> seen(8, std::vector<SEL>(kNames));
+  std::vector<std::vector<SEL>> registered(8, std::vector<SEL>(kNames));
   std::vector<std::thread> threads;
-  for (auto& selectors : seen) {
+  for (auto& selectors : registered) {
     threads.emplace_back([&selectors] {
       for (int i = 0; i < kNames; ++i) {
         selectors[static_cast<std::size_t>(i)] = sel_registerName(std::to_string(i).c_str());
@@ -39,8 +39,8 @@ TEST(Selectors, threadsAgree) {
   for (std::thread& thread : threads) {
     thread.join();
   }
-  for (const auto& selectors : seen) {
-    EXPECT_EQ(selectors, seen.front());
+  for (const auto& selectors : registered) {
+    EXPECT_EQ(selectors, registered.front());
   }
 }
 

@@ -41,11 +41,11 @@ TEST(UnrecognizedSelectorsDeathTest, aboveTheRoot) {
 
 #if defined(__x86_64__)
 TEST(UnrecognizedSelectorsDeathTest, withAStructureResult) {
-  struct Large {
+  struct TooLarge {
     double numbers[6];
   };
   id object = make(makeClass("Deaf"));
-  const auto sender = reinterpret_cast<Large (*)(id, SEL)>(&objc_msgSend_stret);
+  const auto sender = reinterpret_cast<TooLarge (*)(id, SEL)>(&objc_msgSend_stret);
   EXPECT_DEATH((void)sender(object, sel("large")), "-\\[Deaf[0-9]* large\\]: unrecognized");
   objc_release(object);
 }

@@ -6,7 +6,6 @@
 
 find_program(PHONE_LINKER ld64.lld-19 REQUIRED)
 find_program(PHONE_LIPO llvm-lipo-19 REQUIRED)
-find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 find_path(PHONE_LIBCXX __config PATHS /usr/lib/llvm-19/include/c++/v1 REQUIRED NO_DEFAULT_PATH)
 execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-resource-dir
                 OUTPUT_VARIABLE PHONE_CLANG_RESOURCES OUTPUT_STRIP_TRAILING_WHITESPACE

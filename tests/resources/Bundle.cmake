@@ -1,5 +1,4 @@
 # The tests of the bundle's files; those of the phone's build, too. To be included.
-find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 foreach(subject strings translations icons info)
   add_test(NAME resources.${subject}
            COMMAND ${Python3_EXECUTABLE} -m unittest ${subject}_test

@@ -1,5 +1,4 @@
 # ${MAKE_SETTINGS} WHAT PATH... makes what shows the settings to people, from ${SETTINGS_SOURCES}.
-find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 
 set(settings_folder ${CMAKE_CURRENT_LIST_DIR})
 file(GLOB SETTINGS_SOURCES CONFIGURE_DEPENDS

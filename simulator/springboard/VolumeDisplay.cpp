@@ -7,6 +7,7 @@
 #include "simulator/machine/Phone.h"
 #include "simulator/mediaremote/AudioSystem.h"
 #include "simulator/springboard/Shapes.h"
+#include "simulator/uikit/application/PreRender.h"
 #include "simulator/uikit/application/UIScreen.h"
 #include "simulator/uikit/application/UIWindow.h"
 #include "simulator/uikit/views/ViewBuilding.h"
@@ -50,13 +51,17 @@ void fadeVolume() {
   after(fadingSeconds, hideVolume);
 }
 
-void showVolume() {
-  const AudioSystem& sound = AudioSystem::current();
-  if (sound.isIndicatorSuppressed()) return;
+void place() {
   const CGSize screen = UIScreen::size();
   const double y =
       screen.height > screen.width ? displayTop : (screen.height - displaySize.height) / 2;
   setFrame(display().window, {{displayLeft, y}, displaySize});
+}
+
+void showVolume() {
+  const AudioSystem& sound = AudioSystem::current();
+  if (sound.isIndicatorSuppressed()) return;
+  place();
   const double height = displaySize.height * double(sound.volume());
   setFrame(display().level, {{0, displaySize.height - height}, {displaySize.width, height}});
   setAlpha(display().view, 1);
@@ -93,6 +98,7 @@ void followVolume() {
   makeSpeaker(its.view);
   its.window = window.detach();
   AudioSystem::current().observe(showVolume);
+  addPreRenderHook(place);  // the phone may be turned while it shows
 }
 
 }  // namespace sim

@@ -53,13 +53,4 @@ void Supervisor::goTo(const OpenScript::Goal& goal, const Promise& promise) {
   });
 }
 
-// It has come too far, and says where it should have stopped.
-void Supervisor::repeatCandidate() {
-  auto next = newLife(candidate_->last.at("again"));
-  std::error_code ignored;  // all of it goes at the program's end
-  std::filesystem::remove_all(candidate_->root, ignored);
-  candidate_ = std::move(next);
-  launch(*candidate_);
-}
-
 }  // namespace sim

@@ -66,10 +66,6 @@ void nowPlayingInfoDidChange(Object self, Object) {
   Controller::of(self).update();
 }
 
-objc::Strong<Object> makeRoutes() {
-  return objc::adopt(objc::send<Object, "new">(objc_getClass("MRURoutingViewController")));
-}
-
 }  // namespace
 
 Object Controller::initWithNibName_bundle(Object name, Object bundle) {
@@ -152,62 +148,6 @@ void Controller::setLayout(long chosen) {
   if (chosen == routingLayout && !isModuleOf16()) showEmbedded();
   objc::send<void, "setLayout:">(view, chosen);
   objc::send<void, "layoutIfNeeded">(view);
-}
-
-void Controller::presentRoutesOnASheet() {
-  routeControlsPresentation = onASheet;
-  routingViewController = {};
-}
-
-void Controller::didSelectRoutingButton(Object sender) {
-  presentRoutingControls(sender);
-}
-
-void Controller::presentRoutingControls(Object source) {
-  if (routeControlsPresentation != inThePlayer) return presentExternalRoutingControls(source);
-  apply(layout == routingLayout ? expandedLayout : routingLayout);
-}
-
-void Controller::apply(long wanted) {
-  if (const Object asked = itsDelegate())
-    objc::send<void, "nowPlayingViewController:applyLayout:">(asked, Object(self()), wanted);
-  else
-    objc::send<void, "setLayout:">(self(), wanted);
-}
-
-void Controller::presentExternalRoutingControls(Object source) {
-  if (!mediaControls)
-    mediaControls = objc::adopt(objc::send<Object, "new">(objc_getClass("MPMediaControls")));
-  objc::send<void, "setSourceView:">(mediaControls.get(), source);
-  objc::send<void, "present">(mediaControls.get());
-}
-
-void Controller::updateLayout() {
-  const bool isAlone = !Radios::current().peers().empty();
-  if (layout == routingLayout && isAlone) apply(expandedLayout);
-}
-
-void Controller::didSelectRoutingButtonOf(Object, Object button) {
-  objc::send<void, "presentRoutingControlsFromSourceView:">(self(), button);
-}
-
-void Controller::makeRoutesLater() {
-  Phone::current().queue.addNow([player = objc::retain(Object(self()))] {
-    objc::send<void, "setRoutingViewController:">(player.get(), makeRoutes().get());
-  });
-}
-
-void Controller::setRoutingViewController(Object controller) {
-  if (routingViewController) {
-    objc::send<void, "willMoveToParentViewController:">(routingViewController.get(), nullptr);
-    objc::send<void, "removeFromParentViewController">(routingViewController.get());
-  }
-  routingViewController = objc::retain(controller);
-  if (!controller) return;
-  const Object me(self());
-  objc::send<void, "addChildViewController:">(me, controller);
-  objc::send<void, "setContentView:">(moduleView(), objc::send<Object, "view">(controller));
-  objc::send<void, "didMoveToParentViewController:">(controller, me);
 }
 
 // What was shown before, and what somebody has shown there already, stays as it is.

@@ -52,6 +52,7 @@ struct MRUNowPlayingViewController : objc::Implementation<MRUNowPlayingViewContr
   void connectControls();
   void apply(long wanted);
   void showEmbedded();
+  static objc::Strong<objc::Object> makeRoutes();  // MRURoutingViewController
   void makeRoutesLater();
   void showTime();
   void showVolume();
